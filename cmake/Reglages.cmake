@@ -1,0 +1,14 @@
+# How every target is compiled. The figures are defined to the last digit: no fused or reordered arithmetic.
+add_library(velmaris_reglages INTERFACE)
+target_compile_options(velmaris_reglages INTERFACE
+  -Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Wold-style-cast -Wcast-align -Woverloaded-virtual
+  -Wnull-dereference -Werror -ffp-contract=off)
+if(VELMARIS_SANITIZE)
+  target_compile_options(velmaris_reglages INTERFACE -fsanitize=address,undefined -fno-sanitize-recover=all
+                         -fno-omit-frame-pointer)
+  target_link_options(velmaris_reglages INTERFACE -fsanitize=address,undefined)
+endif()
+if(VELMARIS_FUZZ)
+  target_compile_options(velmaris_reglages INTERFACE -fsanitize=fuzzer-no-link,address,undefined)
+  target_link_options(velmaris_reglages INTERFACE -fsanitize=address,undefined)
+endif()

@@ -1,0 +1,210 @@
+#include "foundations/Fichiers.hpp"
+
+#include "foundations/Erreur.hpp"
+
+#include <algorithm>
+#include <array>
+#include <cerrno>
+#include <cstdint>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace velmaris {
+namespace {
+
+/// Characters 0x80 to 0x9F of Windows-1252; 0 where it has none.
+constexpr std::array<std::uint16_t, 32> kWindows1252 = {0x20AC, 0,      0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021,
+                                                        0x02C6, 0x2030, 0x0160, 0x2039, 0x0152, 0,      0x017D, 0,
+                                                        0,      0x2018, 0x2019, 0x201C, 0x201D, 0x2022, 0x2013, 0x2014,
+                                                        0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0,      0x017E, 0x0178};
+
+unsigned Octet(char c) { return static_cast<unsigned char>(c); }
+
+/// An open file, closed with its scope.
+class Descripteur {
+public:
+  explicit Descripteur(int numero) : numero_(numero) {}
+  ~Descripteur() {
+    if (numero_ >= 0) {
+      ::close(numero_);
+    }
+  }
+  Descripteur(const Descripteur &) = delete;
+  Descripteur &operator=(const Descripteur &) = delete;
+  Descripteur(Descripteur &&) = delete;
+  Descripteur &operator=(Descripteur &&) = delete;
+  int numero() const { return numero_; }
+
+private:
+  int numero_;
+};
+
+void EcritTout(int numero, std::string_view octets) {
+  while (!octets.empty()) {
+    const ssize_t n = ::write(numero, octets.data(), octets.size());
+    if (n < 0 && errno == EINTR) {
+      continue;
+    }
+    if (n < 0) {
+      throw Erreur(75);
+    }
+    octets.remove_prefix(static_cast<std::size_t>(n));
+  }
+}
+
+/// Code point that a well-formed UTF-8 sequence of `longueur` bytes stands for.
+std::uint32_t CodeUtf8(std::string_view sequence) {
+  std::uint32_t code = Octet(sequence[0]);
+  if (sequence.size() > 1) {
+    code &= 0x7FU >> sequence.size();
+  }
+  for (std::size_t i = 1; i < sequence.size(); ++i) {
+    code = (code << 6U) | (Octet(sequence[i]) & 0x3FU);
+  }
+  return code;
+}
+
+/// Bytes of the UTF-8 sequence at the start of a text, 0 when it is malformed.
+std::size_t LongueurUtf8(std::string_view texte) {
+  const unsigned tete = Octet(texte[0]);
+  const std::size_t n = tete < 0x80U ? 1 : tete >= 0xF0U ? 4 : tete >= 0xE0U ? 3 : 2;
+  if ((tete >= 0x80U && tete < 0xC2U) || tete > 0xF4U || texte.size() < n) {
+    return 0;
+  }
+  for (std::size_t i = 1; i < n; ++i) {
+    if ((Octet(texte[i]) & 0xC0U) != 0x80U) {
+      return 0;
+    }
+  }
+  const std::uint32_t code = CodeUtf8(texte.substr(0, n));
+  const bool tropLong = (n == 3 && code < 0x800U) || (n == 4 && (code < 0x10000U || code > 0x10FFFFU));
+  return tropLong || (code >= 0xD800U && code < 0xE000U) ? 0 : n;
+}
+
+bool EstUtf8(std::string_view texte) {
+  while (!texte.empty()) {
+    const std::size_t n = LongueurUtf8(texte);
+    if (n == 0) {
+      return false;
+    }
+    texte.remove_prefix(n);
+  }
+  return true;
+}
+
+void AjouteUtf8(std::string &texte, std::uint32_t code) {
+  const auto suite = [](std::uint32_t bits) { return static_cast<char>(0x80U | (bits & 0x3FU)); };
+  if (code < 0x80U) {
+    texte += static_cast<char>(code);
+  } else if (code < 0x800U) {
+    texte += static_cast<char>(0xC0U | (code >> 6U));
+    texte += suite(code);
+  } else {
+    texte += static_cast<char>(0xE0U | (code >> 12U));
+    texte += suite(code >> 6U);
+    texte += suite(code);
+  }
+}
+
+} // namespace
+
+std::string LitFichier(const std::filesystem::path &chemin) {
+  const Descripteur fichier(::open(chemin.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK));
+  if (fichier.numero() < 0) {
+    throw Erreur(errno == ENOENT ? 53 : 75);
+  }
+  struct stat etat {};
+  if (::fstat(fichier.numero(), &etat) != 0 || !S_ISREG(etat.st_mode)) {
+    throw Erreur(75);
+  }
+  std::string octets(static_cast<std::size_t>(etat.st_size), '\0');
+  std::size_t lus = 0;
+  while (lus < octets.size()) {
+    const ssize_t n = ::read(fichier.numero(), octets.data() + lus, octets.size() - lus);
+    if (n < 0 && errno == EINTR) {
+      continue;
+    }
+    if (n < 0) {
+      throw Erreur(75);
+    }
+    if (n == 0) {
+      break;
+    }
+    lus += static_cast<std::size_t>(n);
+  }
+  octets.resize(lus);
+  return octets;
+}
+
+void EcritFichier(const std::filesystem::path &chemin, std::string_view octets) {
+  std::filesystem::path provisoire = chemin;
+  provisoire += ".nouveau";
+  try {
+    const Descripteur fichier(::open(provisoire.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0644));
+    if (fichier.numero() < 0) {
+      throw Erreur(75);
+    }
+    EcritTout(fichier.numero(), octets);
+    if (::fsync(fichier.numero()) != 0 || ::rename(provisoire.c_str(), chemin.c_str()) != 0) {
+      throw Erreur(75);
+    }
+  } catch (const Erreur &) {
+    ::unlink(provisoire.c_str());
+    throw;
+  }
+  const std::filesystem::path dossier = chemin.parent_path().empty() ? "." : chemin.parent_path();
+  const Descripteur parent(::open(dossier.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+  if (parent.numero() >= 0) {
+    ::fsync(parent.numero());
+  }
+}
+
+std::string EnUtf8(std::string_view octets) {
+  if (EstUtf8(octets)) {
+    return std::string(octets.substr(octets.starts_with("\xEF\xBB\xBF") ? 3 : 0));
+  }
+  std::string texte;
+  texte.reserve(octets.size() * 2);
+  for (const char c : octets) {
+    const unsigned o = Octet(c);
+    const std::uint32_t code = o >= 0x80U && o < 0xA0U ? kWindows1252[o - 0x80U] : o;
+    AjouteUtf8(texte, code == 0 && o != 0 ? o : code);
+  }
+  return texte;
+}
+
+std::string EnWindows1252(std::string_view texte) {
+  std::string octets;
+  octets.reserve(texte.size());
+  while (!texte.empty()) {
+    const std::size_t n = LongueurUtf8(texte);
+    const std::uint32_t code = n == 0 ? 0xFFFFU : CodeUtf8(texte.substr(0, n));
+    const auto *rang = std::find(kWindows1252.begin(), kWindows1252.end(), code);
+    if (code < 0x80U || (code >= 0x80U && code < 0x100U && (code >= 0xA0U || kWindows1252[code - 0x80U] == 0))) {
+      octets += static_cast<char>(code);
+    } else if (rang != kWindows1252.end()) {
+      octets += static_cast<char>(0x80 + (rang - kWindows1252.begin()));
+    } else {
+      octets += '?';
+    }
+    texte.remove_prefix(std::max<std::size_t>(n, 1));
+  }
+  return octets;
+}
+
+std::vector<std::string_view> Lignes(std::string_view texte) {
+  std::vector<std::string_view> lignes;
+  while (!texte.empty()) {
+    const std::size_t fin = texte.find_first_of("\r\n");
+    lignes.push_back(texte.substr(0, fin));
+    if (fin == std::string_view::npos) {
+      break;
+    }
+    const bool paire = texte[fin] == '\r' && fin + 1 < texte.size() && texte[fin + 1] == '\n';
+    texte.remove_prefix(fin + (paire ? 2 : 1));
+  }
+  return lignes;
+}
+
+} // namespace velmaris

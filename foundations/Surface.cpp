@@ -1,0 +1,41 @@
+#include "foundations/Surface.hpp"
+
+#include <utility>
+
+namespace velmaris {
+
+void Efface(Surface &surface) {
+  surface.traces.clear();
+  surface.position = {};
+  ++surface.effacements;
+}
+
+void Ligne(Surface &surface, Point debut, Point fin, Couleur couleur) {
+  const Plume plume{couleur, surface.epaisseur, surface.style};
+  surface.position = fin;
+  if (!surface.traces.empty()) {
+    auto *derniere = std::get_if<Polyligne>(&surface.traces.back());
+    if (derniere != nullptr && derniere->plume == plume && derniere->points.back() == debut) {
+      derniere->points.push_back(fin);
+      return;
+    }
+  }
+  surface.traces.emplace_back(Polyligne{plume, {debut, fin}});
+}
+
+void Cercle(Surface &surface, Point centre, double rayon, Couleur couleur) {
+  surface.traces.emplace_back(CercleTrace{{couleur, surface.epaisseur, surface.style}, centre, rayon});
+  surface.position = centre;
+}
+
+void Ecrit(Surface &surface, std::string texte) {
+  surface.traces.emplace_back(TexteTrace{surface.encre, surface.police, surface.position, std::move(texte)});
+  surface.position = {0.0, surface.position.y + surface.interligne};
+}
+
+void EcritEn(Surface &surface, Point position, std::string texte) {
+  surface.position = position;
+  Ecrit(surface, std::move(texte));
+}
+
+} // namespace velmaris

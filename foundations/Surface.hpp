@@ -1,0 +1,100 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <variant>
+#include <vector>
+
+namespace velmaris {
+
+/// A colour of 24 bits, the blue byte first: 0xFF0000 is blue, 0x0000FF is red.
+using Couleur = std::uint32_t;
+
+/// The colour of three components from 0 to 255.
+constexpr Couleur Rvb(unsigned rouge, unsigned vert, unsigned bleu) { return rouge | (vert << 8U) | (bleu << 16U); }
+
+inline constexpr Couleur kNoir = 0x000000;
+inline constexpr Couleur kBlanc = 0xFFFFFF;
+inline constexpr Couleur kRouge = 0x0000FF;
+inline constexpr Couleur kBleu = 0xFF0000;
+inline constexpr Couleur kMagenta = 0xFF00FF;
+inline constexpr Couleur kGris = Rvb(128, 128, 128);
+
+/// A point of a surface, in 1/1440 inch, y growing downward.
+struct Point {
+  double x = 0.0;
+  double y = 0.0;
+  bool operator==(const Point &) const = default;
+};
+
+enum class Style : std::uint8_t { Plein = 0, Tirets = 1, Points = 2, TiretPoint = 3 };
+
+/// How a line is drawn: its width is in points of the screen.
+struct Plume {
+  Couleur couleur = kNoir;
+  int largeur = 1;
+  Style style = Style::Plein;
+  bool operator==(const Plume &) const = default;
+};
+
+struct Police {
+  std::string famille = "sans-serif";
+  double taille = 9.0; ///< points
+  bool gras = true;
+  bool operator==(const Police &) const = default;
+};
+
+/// Joined segments in one pen.
+struct Polyligne {
+  Plume plume;
+  std::vector<Point> points;
+};
+
+struct CercleTrace {
+  Plume plume;
+  Point centre;
+  double rayon = 0.0;
+};
+
+struct TexteTrace {
+  Couleur couleur = kNoir;
+  Police police;
+  Point position; ///< upper left corner
+  std::string texte;
+};
+
+using Trace = std::variant<Polyligne, CercleTrace, TexteTrace>;
+
+/// A drawing surface as the list of what has been drawn on it.
+struct Surface {
+  double largeur = 0.0; ///< drawable width, 1/1440 inch
+  double hauteur = 0.0; ///< drawable height, 1/1440 inch
+  Couleur fond = kBlanc;
+  Couleur encre = kNoir; ///< colour of texts, and of lines that name none
+  int epaisseur = 1;     ///< draw width
+  Style style = Style::Plein;
+  Police police;
+  double interligne = 240.0; ///< height of a line of text in the font, 1/1440 inch
+  Point position;            ///< where the next text starts
+  std::vector<Trace> traces;
+  std::uint64_t effacements = 0; ///< how often the surface was cleared
+};
+
+/// Empties the surface; the drawing position returns to the upper left corner.
+void Efface(Surface &surface);
+
+/// A segment in the surface's width and style; it joins the last one when it starts at its end in the same pen.
+/// Leaves the drawing position at its end.
+void Ligne(Surface &surface, Point debut, Point fin, Couleur couleur);
+
+/// A circle in the surface's width and style. Leaves the drawing position at its centre.
+/// @param rayon  1/1440 inch
+void Cercle(Surface &surface, Point centre, double rayon, Couleur couleur);
+
+/// A text at the drawing position, in the surface's font and colour. Leaves the position at the start of the next line.
+void Ecrit(Surface &surface, std::string texte);
+
+/// A text at a given place.
+void EcritEn(Surface &surface, Point position, std::string texte);
+
+} // namespace velmaris

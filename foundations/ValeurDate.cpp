@@ -1,0 +1,61 @@
+#include "foundations/ValeurDate.hpp"
+
+#include "foundations/Erreur.hpp"
+#include "foundations/TexteNombre.hpp"
+
+#include <charconv>
+#include <chrono>
+
+namespace velmaris {
+namespace {
+
+constexpr int kPivotSiecle = 30; ///< two-digit years from here on belong to the 1900s
+constexpr int kAnneeMax = 9999;
+
+/// A field of a date: digits only, blanks around them allowed.
+int LitChamp(std::string_view texte) {
+  texte = SansBlancs(texte);
+  int valeur = 0;
+  const auto [fin, code] = std::from_chars(texte.data(), texte.data() + texte.size(), valeur);
+  if (texte.empty() || code != std::errc() || fin != texte.data() + texte.size() || valeur < 0) {
+    throw Erreur(13);
+  }
+  return valeur;
+}
+
+std::chrono::year_month_day JourCivil(const ValeurDate &date) {
+  return {std::chrono::year(date.annee), std::chrono::month(static_cast<unsigned>(date.mois)),
+          std::chrono::day(static_cast<unsigned>(date.jour))};
+}
+
+} // namespace
+
+ValeurDate LitDate(std::string_view texte) {
+  const std::size_t p1 = texte.find('/');
+  const std::size_t p2 = p1 == std::string_view::npos ? p1 : texte.find('/', p1 + 1);
+  if (p2 == std::string_view::npos) {
+    throw Erreur(13);
+  }
+  ValeurDate date;
+  date.jour = LitChamp(texte.substr(0, p1));
+  date.mois = LitChamp(texte.substr(p1 + 1, p2 - p1 - 1));
+  date.annee = LitChamp(texte.substr(p2 + 1));
+  if (date.annee < 100) {
+    date.annee += date.annee < kPivotSiecle ? 2000 : 1900;
+  }
+  if (date.annee > kAnneeMax || date.mois > 12 || date.jour > 31 || !JourCivil(date).ok()) {
+    throw Erreur(13);
+  }
+  return date;
+}
+
+int JourSemaine(const ValeurDate &date) {
+  return static_cast<int>(std::chrono::weekday(std::chrono::sys_days(JourCivil(date))).c_encoding());
+}
+
+std::string TexteDateHeure(const ValeurDate &date) {
+  return Format(date.jour, "00") + "/" + Format(date.mois, "00") + "/" + Format(date.annee, "0000") + " " +
+         Format(date.heure, "00") + ":" + Format(date.minute, "00") + ":" + Format(date.seconde, "00");
+}
+
+} // namespace velmaris

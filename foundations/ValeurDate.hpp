@@ -1,0 +1,30 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace velmaris {
+
+/// A civil date and time, as the calendar of the platform counts them (Gregorian throughout).
+struct ValeurDate {
+  int annee = 2000;
+  int mois = 1;
+  int jour = 1;
+  int heure = 0;
+  int minute = 0;
+  int seconde = 0;
+};
+
+/// Date from a text day "/" month "/" year, never swapped; years under 100 stand for 1930 to 2029.
+/// @return the date at 0 h
+/// @throws Erreur 13 for an impossible date, a fraction, an empty field or a year past 9999
+ValeurDate LitDate(std::string_view texte);
+
+/// Day of the week of a date.
+/// @return 0 for Sunday to 6 for Saturday
+int JourSemaine(const ValeurDate &date);
+
+/// A date and time as day/month/year hour:minute:second, two digits each and four for the year.
+std::string TexteDateHeure(const ValeurDate &date);
+
+} // namespace velmaris

@@ -1,0 +1,44 @@
+#pragma once
+
+#include "sights/Observation.hpp"
+
+#include <array>
+#include <filesystem>
+#include <string>
+#include <string_view>
+
+namespace velmaris {
+
+/// Entries of the table that a file of a sight is read into, one a line.
+inline constexpr std::size_t kLignesLoP = 31;
+
+/// The file's lines by number. A shorter file leaves the entries beyond its last line as they were.
+using TableLoP = std::array<std::string, kLignesLoP>;
+
+/// Reads the lines of a file of a sight. CR LF, LF and CR all end a line; the last line needs no end.
+/// @param octets  the whole file, UTF-8 if it is valid UTF-8, else Windows-1252
+/// @param table   its first entries are replaced
+/// @throws Erreur 9 at a 32nd line, the table being full by then
+void LitLignesLoP(std::string_view octets, TableLoP &table);
+
+/// Pours a table of lines into a sight, line by line; a line that says nothing valid changes nothing.
+/// @return the number of the body as line 17 gives it
+int AppliqueLoP(const TableLoP &table, Observation &observation);
+
+/// The lines of a sight's file: 21 for the Sun and the Moon, 22 for a planet or a star.
+/// @return text in UTF-8, every line ended by CR LF
+std::string EcritLoP(const Observation &observation);
+
+/// The name proposed for a sight's file: day, three letters of the month, two last characters of the year, a blank,
+/// the time, ".LoP". A month outside 1 to 12 adds nothing.
+std::string NomProposeLoP(const Observation &observation);
+
+/// Reads a whole sight file from the disk into a sight.
+/// @throws Erreur 53 when the file is missing, 75 when it can't be read, 9 when it has over 31 lines
+void ChargeLoP(const std::filesystem::path &chemin, Observation &observation);
+
+/// Writes a sight to a file in Windows-1252: to a new file beside it, flushed, then renamed over the old one.
+/// @throws Erreur 75 when it can't be written; an old file is then whole
+void SauveLoP(const std::filesystem::path &chemin, const Observation &observation);
+
+} // namespace velmaris
