@@ -1,0 +1,59 @@
+# Everyday commands. The programs land in build/bin.
+.NOTPARALLEL:
+.DEFAULT_GOAL := build
+.PHONY: deps build run test lint test-sanitize bench fuzz clean
+
+SHELL := /bin/bash
+SUDO := $(shell [ "$$(id -u)" = 0 ] || echo sudo)
+APT := $(SUDO) env DEBIAN_FRONTEND=noninteractive apt-get -o DPkg::Lock::Timeout=300
+TACHES := 2
+# Seconds that each fuzz target runs.
+DUREE := 60
+CIBLES_FUZZ := fuzz-lop fuzz-langue fuzz-nombre
+SOURCES := (foundations|ephemerides|sights|lines|chart|sky|shell|calcul)/.*\.cpp$$
+
+# Installs what is missing; touches no network when nothing is.
+deps:
+	@voulus=$$(sed 's/#.*//' packaging/dependances.txt | xargs); \
+	presents=$$(dpkg-query -W -f='$${db:Status-Status} $${Package}\n' $$voulus 2>/dev/null | sed -n 's/^installed //p'); \
+	manque=$$(comm -23 <(tr ' ' '\n' <<<"$$voulus" | sort -u) <(sort -u <<<"$$presents") | xargs); \
+	[ -z "$$manque" ] && exit 0; \
+	echo "Installing: $$manque"; \
+	$(APT) install -y --no-install-recommends $$manque || \
+	  { $(APT) update && $(APT) install -y --no-install-recommends $$manque; }
+
+build:
+	cmake --preset release
+	cmake --build --preset release
+
+run: deps build
+	tools/demarre
+
+test: deps build
+	ctest --test-dir build --output-on-failure -j$(TACHES)
+
+# The form of every tracked source, then the checks of .clang-tidy on the core and the programs.
+lint: deps build
+	git ls-files -z '*.cpp' '*.hpp' | xargs -0 -r clang-format --dry-run -Werror
+	run-clang-tidy -quiet -p build -j$(TACHES) -extra-arg=-Wno-unknown-warning-option '^$(CURDIR)/$(SOURCES)'
+
+test-sanitize: deps
+	cmake --preset sanitize
+	cmake --build --preset sanitize
+	UBSAN_OPTIONS=print_stacktrace=1 ctest --preset sanitize -j$(TACHES)
+
+bench: deps build
+	build/bin/velmaris-bench
+	tests/bench/debit.sh build/bin/velmaris-calcul
+
+fuzz: deps
+	cmake --preset fuzz
+	cmake --build --preset fuzz --target $(CIBLES_FUZZ)
+	for cible in $(CIBLES_FUZZ); do \
+	  mkdir -p build/fuzz/corpus/$$cible && \
+	  build/fuzz/bin/$$cible -max_total_time=$(DUREE) -print_final_stats=1 -artifact_prefix=build/fuzz/$$cible- \
+	    build/fuzz/corpus/$$cible tests/fuzz/corpus/$$cible || exit 1; \
+	done
+
+clean:
+	rm -rf build

@@ -1,0 +1,189 @@
+#include "calcul/Horizon.hpp"
+#include "calcul/Reduit.hpp"
+#include "foundations/Erreur.hpp"
+#include "shell/Messages.hpp"
+
+#include <CLI/CLI.hpp>
+
+#include <cstdio>
+#include <filesystem>
+#include <iostream>
+
+namespace {
+
+using namespace velmaris;
+
+constexpr int kReussi = 0;
+constexpr int kEchec = 1;
+constexpr int kUsage = 2;
+constexpr std::size_t kTampon = 1U << 20U; ///< bytes gathered before they are written
+
+/// What the command line asks for.
+struct Demande {
+  std::string langue = "fr";
+  std::vector<std::string> fichiers;
+  DemandeHorizon horizon;
+};
+
+/// Writes what has been gathered and empties it.
+/// @return false when standard output doesn't take it
+bool Vide(std::string &sortie) {
+  const bool ecrit = std::fwrite(sortie.data(), 1, sortie.size(), stdout) == sortie.size() && std::fflush(stdout) == 0;
+  sortie.clear();
+  return ecrit;
+}
+
+/// The program's own folder, links followed.
+std::filesystem::path DossierProgramme(const std::string &argv0) {
+  std::error_code code;
+  std::filesystem::path programme = std::filesystem::read_symlink("/proc/self/exe", code);
+  if (code) {
+    programme = std::filesystem::weakly_canonical(argv0, code);
+  }
+  return programme.parent_path();
+}
+
+/// The numbered texts of a language: beside the program, else in the share folder; empty when neither has them.
+TexteMsg MessagesDeLangue(const std::string &langue, const std::filesystem::path &dossier) {
+  TexteMsg messages;
+  if (langue == "aucune") {
+    return messages;
+  }
+  const std::string nom = langue == "en" ? "EN.txt" : "FR.txt";
+  if (!Passe([&] { ChargeMessages(dossier / nom, messages); })) {
+    Passe([&] { ChargeMessages(std::filesystem::path(VELMARIS_PARTAGE) / nom, messages); });
+  }
+  return messages;
+}
+
+int Reduit(const Demande &demande, const std::filesystem::path &dossier) {
+  const TexteMsg messages = MessagesDeLangue(demande.langue, dossier);
+  bool reussi = true;
+  bool ecrit = true;
+  std::string sortie;
+  sortie.reserve(kTampon * 2);
+  for (const std::string &fichier : demande.fichiers) {
+    reussi = ReduitFichier(fichier, messages, sortie) && reussi;
+    if (sortie.size() >= kTampon) {
+      ecrit = Vide(sortie) && ecrit;
+    }
+  }
+  ecrit = Vide(sortie) && ecrit;
+  if (!ecrit) {
+    std::cerr << "velmaris-calcul: la sortie ne peut pas être écrite\n";
+  }
+  return reussi && ecrit ? kReussi : kEchec;
+}
+
+int Horizon(const Demande &demande) {
+  std::string sortie;
+  const bool reussi = EcritHorizon(demande.horizon, sortie);
+  return Vide(sortie) && reussi ? kReussi : kEchec;
+}
+
+/// A positional argument that must be a number.
+void AjouteAngle(CLI::App &verbe, const std::string &nom, double &valeur, const std::string &aide) {
+  verbe
+      .add_option_function<std::string>(
+          nom,
+          [&valeur, nom](const std::string &texte) {
+            if (!LitNombre(texte, valeur)) {
+              throw CLI::ValidationError(nom, texte + " n'est pas un nombre");
+            }
+          },
+          aide)
+      ->required()
+      ->type_name("");
+}
+
+CLI::App *DeclareReduit(CLI::App &programme, Demande &demande) {
+  CLI::App *verbe = programme.add_subcommand("reduit", "Réduit des visées enregistrées, dans l'ordre");
+  verbe->group("Verbes");
+  verbe->add_option("--langue", demande.langue, "Langue des textes : fr, en ou aucune")
+      ->check(CLI::IsMember({"fr", "en", "aucune"}))
+      ->type_name("LANGUE")
+      ->capture_default_str();
+  verbe->add_option("FICHIER.LoP", demande.fichiers, "Fichiers de visée")->required()->type_name("");
+  return verbe;
+}
+
+CLI::App *DeclareHorizon(CLI::App &programme, Demande &demande) {
+  CLI::App *verbe = programme.add_subcommand("horizon", "Azimut et hauteur d'un lieu équatorial, \"azXalt\"");
+  verbe->group("Verbes");
+  verbe->add_option("JJ/MM/AAAA", demande.horizon.date, "Date UTC")->required()->type_name("");
+  verbe->add_option("HH:MM:SS", demande.horizon.heure, "Heure UTC")->required()->type_name("");
+  AjouteAngle(*verbe, "AD", demande.horizon.AD, "Ascension droite, degrés");
+  AjouteAngle(*verbe, "DEC", demande.horizon.Dec, "Déclinaison, degrés, nord positif");
+  AjouteAngle(*verbe, "LAT", demande.horizon.latitude, "Latitude, degrés, nord positif");
+  AjouteAngle(*verbe, "LON_EST", demande.horizon.lonEst, "Longitude, degrés, est positif");
+  return verbe;
+}
+
+/// The arguments, last first as the parser takes them; "-.5" becomes "-0.5" so that it isn't taken for an option.
+std::vector<std::string> Arguments(int argc, char **argv) {
+  std::vector<std::string> arguments;
+  for (int i = argc - 1; i > 0; --i) {
+    std::string argument = argv[i];
+    if (argument.starts_with("-.")) {
+      argument.insert(1, "0");
+    }
+    arguments.push_back(std::move(argument));
+  }
+  return arguments;
+}
+
+/// What a usage error means, in front of the parser's own words.
+std::string SensUsage(const CLI::ParseError &erreur) {
+  switch (static_cast<CLI::ExitCodes>(erreur.get_exit_code())) {
+  case CLI::ExitCodes::RequiredError:
+    return "argument manquant";
+  case CLI::ExitCodes::ExtrasError:
+    return "argument en trop";
+  case CLI::ExitCodes::ValidationError:
+  case CLI::ExitCodes::ConversionError:
+    return "valeur incorrecte";
+  default:
+    return "ligne de commande incorrecte";
+  }
+}
+
+/// The words of the help page.
+void NommeAide(const CLI::App &programme) {
+  const auto formateur = programme.get_formatter();
+  formateur->label("SUBCOMMAND", "VERBE");
+  formateur->label("Positionals", "Arguments");
+  formateur->label("REQUIRED", "(obligatoire)");
+}
+
+int Execute(int argc, char **argv) {
+  Demande demande;
+  CLI::App programme("Réduit des visées au sextant et donne des places dans le ciel, un objet JSON par ligne",
+                     "velmaris-calcul");
+  programme.set_version_flag("--version", "velmaris-calcul " VELMARIS_VERSION, "Montre la version");
+  programme.set_help_flag("-h,--help", "Montre cette aide");
+  programme.require_subcommand(1);
+  NommeAide(programme);
+  const CLI::App *reduit = DeclareReduit(programme, demande);
+  DeclareHorizon(programme, demande);
+  try {
+    programme.parse(Arguments(argc, argv));
+  } catch (const CLI::Success &demandee) {
+    return programme.exit(demandee);
+  } catch (const CLI::ParseError &erreur) {
+    std::cerr << "velmaris-calcul: " << SensUsage(erreur) << " (" << erreur.what()
+              << ")\nUsage : velmaris-calcul --help\n";
+    return kUsage;
+  }
+  return reduit->parsed() ? Reduit(demande, DossierProgramme(argv[0])) : Horizon(demande);
+}
+
+} // namespace
+
+int main(int argc, char **argv) {
+  try {
+    return Execute(argc, argv);
+  } catch (const std::exception &erreur) {
+    std::fprintf(stderr, "velmaris-calcul: %s\n", erreur.what());
+    return kEchec;
+  }
+}

@@ -1,0 +1,41 @@
+#include "shell/Bureau.hpp"
+
+#include "shell/Valeurs.hpp"
+
+namespace velmaris {
+
+Bureau::Bureau() { InitialiseDonnees(donnees); }
+
+Bureau::~Bureau() = default;
+
+Surface *SurfaceDe(Bureau &bureau, const Controle &controle) {
+  if (&controle == &bureau.donnees.Image1) {
+    return &bureau.image1;
+  }
+  if (&controle == &bureau.donnees.PicAZ) {
+    return &bureau.picAZ;
+  }
+  return &controle == &bureau.donnees.PicHE ? &bureau.picHE : nullptr;
+}
+
+std::string LitReglage(const Bureau &bureau, std::string_view cle, std::string_view defaut) {
+  return bureau.valeurs->GetSetting(kApplication, kSection, cle, defaut);
+}
+
+void EcritReglage(Bureau &bureau, std::string_view cle, std::string_view valeur) {
+  bureau.valeurs->SaveSetting(kApplication, kSection, cle, valeur);
+  SignaleMagasin(bureau);
+}
+
+void SignaleMagasin(Bureau &bureau) {
+  const EtatMagasin etat = bureau.valeurs->etat();
+  if (etat == EtatMagasin::Sain || bureau.magasinSignale) {
+    return;
+  }
+  bureau.magasinSignale = true;
+  const Donnees &d = bureau.donnees;
+  const std::string &texte = etat == EtatMagasin::Abime ? d.TexteMagasinAbime.legende : d.TexteMagasinMuet.legende;
+  bureau.ports.boite({.texte = texte + "\n" + bureau.valeurs->fichierEnCause().string(), .icone = Icone::Attention});
+}
+
+} // namespace velmaris

@@ -1,0 +1,81 @@
+#pragma once
+
+#include "foundations/Horloge.hpp"
+#include "foundations/Messages.hpp"
+#include "foundations/Surface.hpp"
+#include "lines/Feuille.hpp"
+#include "shell/Donnees.hpp"
+#include "shell/Ports.hpp"
+#include "sights/Affichage.hpp"
+#include "sights/Observation.hpp"
+#include "sights/PositionDirecte.hpp"
+
+#include <cstdint>
+#include <memory>
+#include <string>
+
+namespace velmaris {
+
+class Valeurs;
+
+/// The screen that the program starts on.
+struct Ecran {
+  double largeur = 28800.0; ///< 1/1440 inch
+  double hauteur = 16200.0; ///< 1/1440 inch
+  int pixelsHaut = 1080;
+};
+
+/// The whole program: its windows and what they share. Event functions take it; nothing below the shell knows it.
+struct Bureau {
+  Bureau();
+  ~Bureau();
+  Bureau(const Bureau &) = delete;
+  Bureau &operator=(const Bureau &) = delete;
+  Bureau(Bureau &&) = delete;
+  Bureau &operator=(Bureau &&) = delete;
+
+  Donnees donnees;
+  double largeurFenetre = 0.0;         ///< of the main window, 1/1440 inch
+  double hauteurFenetre = 0.0;         ///< of the main window, 1/1440 inch
+  std::string titre = "Velmaris 2009"; ///< of the main window
+  const Controle *focus = nullptr;     ///< control that asks for the focus
+  bool termine = false;                ///< the exit sequence has run
+
+  Surface image1; ///< the drawing surface of the main window
+  Surface picAZ;  ///< the azimuth dial
+  Surface picHE;  ///< the height dial
+
+  TexteMsg messages;
+  std::string FichierLangue = "\\FR.txt"; ///< current language file, with its leading backslash
+  std::string TitreHorloge;               ///< local date and time, rebuilt at each tick
+  std::string TitreFichier;               ///< last part of the window's title
+  std::int16_t ModuleDeplace = 0;         ///< number of the module held by the mouse, 0 for none
+  std::int16_t QuitterRefuse = 0;         ///< -1 once the exit question was answered No
+
+  ValeursVisee visee;
+  AffichageDroite affichage;
+  Feuille feuille;
+  PointSolaire soleil;
+  Horloge horloge;
+  std::string NomAstre; ///< name of the body of the last reduced line
+
+  Ports ports;
+  Dossiers dossiers;
+  std::unique_ptr<Valeurs> valeurs; ///< the settings store
+  bool magasinSignale = false;      ///< its trouble has been told
+};
+
+/// The surface that a control of that kind shows.
+/// @return null for another control
+Surface *SurfaceDe(Bureau &bureau, const Controle &controle);
+
+/// A setting of the program.
+std::string LitReglage(const Bureau &bureau, std::string_view cle, std::string_view defaut = {});
+
+/// Keeps a setting; tells the user once when the store can't.
+void EcritReglage(Bureau &bureau, std::string_view cle, std::string_view valeur);
+
+/// Tells the user once that the store was damaged or can't be written.
+void SignaleMagasin(Bureau &bureau);
+
+} // namespace velmaris

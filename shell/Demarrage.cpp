@@ -1,0 +1,227 @@
+#include "shell/Demarrage.hpp"
+
+#include "foundations/TexteNombre.hpp"
+#include "lines/FichierLoP.hpp"
+#include "shell/Disposition.hpp"
+#include "shell/Droites.hpp"
+#include "shell/Evenements.hpp"
+#include "shell/Langage.hpp"
+#include "shell/Modules.hpp"
+#include "shell/Saisie.hpp"
+#include "shell/Valeurs.hpp"
+#include "sky/Cadrans.hpp"
+
+#include <algorithm>
+#include <system_error>
+
+namespace velmaris {
+namespace {
+
+constexpr int kZoomInitial = 2000; ///< of the slider
+constexpr int kPasTouches = 2000;  ///< of F9 and F10, on the slider
+
+bool EstVrai(const std::string &texte) { return texte == "True" || Val(texte) != 0; }
+
+int Nombre(const std::string &texte) { return static_cast<int>(std::clamp(Val(texte), -32768.0, 32767.0)); }
+
+void LitOptionsCarte(Bureau &bureau) {
+  Donnees &d = bureau.donnees;
+  PoseValeur(bureau, d.Check2, Nombre(LitReglage(bureau, "C2", "1")));
+  if (EstVrai(LitReglage(bureau, "opCarte0", "False"))) {
+    PoseOption(bureau, d.OpCarte[0]);
+  }
+  if (EstVrai(LitReglage(bureau, "opCarte1", "True"))) {
+    PoseOption(bureau, d.OpCarte[1]);
+  }
+  for (std::size_t i = 0; i < d.Check1.size(); ++i) {
+    PoseValeur(bureau, d.Check1[i], Nombre(LitReglage(bureau, "c1 " + std::to_string(i), "1")));
+  }
+}
+
+void RemplitListesHeures(Donnees &d) {
+  for (int i = 0; i < 60; ++i) {
+    const std::string texte = Format(i, "00");
+    if (i < 24) {
+      d.Combo1.liste.push_back(texte);
+      d.Combo3.liste.push_back(texte);
+    }
+    d.Combo2.liste.push_back(texte);
+    d.Combo4.liste.push_back(texte);
+  }
+  d.Combo5.liste = {"1", "2", "3", "4"};
+}
+
+void LitPosition(Bureau &bureau) {
+  Donnees &d = bureau.donnees;
+  PoseTexte(bureau, d.Text6, Format(LitReglage(bureau, "T6"), "00"));
+  PoseTexte(bureau, d.Text7, Format(LitReglage(bureau, "T7"), "00"));
+  PoseTexte(bureau, d.Text8, Format(LitReglage(bureau, "T8"), "00"));
+  PoseTexte(bureau, d.Text9, Format(LitReglage(bureau, "T9"), "00"));
+  PoseTexte(bureau, d.Text10, LitReglage(bureau, "T10"));
+  PoseTexte(bureau, d.Text11, LitReglage(bureau, "T11"));
+  PoseOption(bureau, d.OptN[LitReglage(bureau, "Hem") == "Nord" ? 0 : 1]);
+  PoseOption(bureau, d.OptE[LitReglage(bureau, "Lon") == "Est" ? 0 : 1]);
+}
+
+void GardeReglages(Bureau &bureau) {
+  const Donnees &d = bureau.donnees;
+  const auto garde = [&](const std::string &cle, std::string_view valeur) {
+    bureau.valeurs->SaveSetting(kApplication, kSection, cle, valeur);
+  };
+  const auto booleen = [](bool vrai) { return vrai ? "True" : "False"; };
+  garde("T6", d.Text6.texte);
+  garde("T7", d.Text7.texte);
+  garde("T8", d.Text8.texte);
+  garde("T9", d.Text9.texte);
+  garde("Hem", d.OptN[0].choisi ? "Nord" : "Sud");
+  garde("Lon", d.OptE[0].choisi ? "Est" : "Ouest");
+  garde("T10", d.Text10.texte);
+  garde("T11", d.Text11.texte);
+  garde("C2", std::to_string(d.Check2.valeur));
+  garde("opCarte0", booleen(d.OpCarte[0].choisi));
+  garde("opCarte1", booleen(d.OpCarte[1].choisi));
+  for (std::size_t i = 0; i < d.Check1.size(); ++i) {
+    garde("C1 " + std::to_string(i), std::to_string(d.Check1[i].valeur));
+  }
+}
+
+} // namespace
+
+void Donnees_Charge(Bureau &bureau, const Ecran &ecran) {
+  Donnees &d = bureau.donnees;
+  if (!bureau.valeurs) {
+    bureau.valeurs = std::make_unique<Valeurs>(bureau.dossiers.utilisateur / "valeurs.sqlite");
+  }
+  DisposeFenetre(bureau, ecran);
+  d.ImAstre[0].image = d.Soleil.image;
+  bureau.TitreFichier = bureau.messages[9];
+  MajListeDroites(bureau);
+  bureau.feuille.OrigineFeuille = kSansFeuille;
+  bureau.feuille.CouleurGrille = static_cast<float>(Rvb(220, 220, 220));
+  bureau.image1.fond = kBlanc;
+  PoseValeur(bureau, d.HScroll1, kZoomInitial);
+  LitOptionsCarte(bureau);
+  PoseOption(bureau, d.Option4[Val(LitReglage(bureau, "Prec", "0")) == 1 ? 1 : 0]);
+  Image10_Click(bureau, Val(LitReglage(bureau, "Langue", "0")) == 1 ? 1 : 0);
+  RemplitListesHeures(d);
+  LitHorloge(bureau.horloge);
+  PoseHeureGMT(bureau);
+  LitPosition(bureau);
+  PoseTexte(bureau, d.Combo1, d.Text3.texte);
+  PoseTexte(bureau, d.Combo3, d.Text3.texte);
+  PoseTexte(bureau, d.Combo2, d.Text4.texte);
+  PoseTexte(bureau, d.Combo4, d.Text4.texte);
+  PosSoleil(bureau, false);
+  if (ecran.pixelsHaut < kPixelsCompacts) {
+    DispositionCompacte(d);
+  }
+}
+
+void Timer1_Tick(Bureau &bureau) {
+  const Donnees &d = bureau.donnees;
+  LitHorloge(bureau.horloge);
+  if (d.Frame8.visible && d.Option7[0].choisi) {
+    PosSoleil(bureau, false);
+  }
+  const ValeurDate date = bureau.horloge.locale();
+  const TempsSysteme &t = bureau.horloge.temps;
+  bureau.TitreHorloge = "  " + bureau.ports.nomJour(date) + "   " + std::to_string(date.jour) + "   " +
+                        bureau.ports.nomMois(date) + "   " + Format(date.annee, "0000") + "  " + bureau.messages[7] +
+                        " " + Format(date.heure, "00") + ":" + Format(date.minute, "00") + ":" +
+                        Format(date.seconde, "00") + " ";
+  bureau.titre = bureau.TitreHorloge + "   ~~~   " +
+                 TexteDateHeure({t.annee, t.mois, t.jour, t.heure, t.minute, t.seconde}) + "   GMT " + "   ~~~   " +
+                 bureau.messages[8] + bureau.TitreFichier;
+}
+
+bool Donnees_KeyDown(Bureau &bureau, int code) {
+  constexpr int kF2 = 113;
+  constexpr int kF3 = 114;
+  constexpr int kF9 = 120;
+  constexpr int kF10 = 121;
+  Controle &zoom = bureau.donnees.HScroll1;
+  const auto deplace = [&](int pas) {
+    const int valeur = zoom.valeur + pas;
+    if (valeur >= zoom.minimum && valeur <= zoom.maximum) {
+      PoseValeur(bureau, zoom, valeur);
+    }
+  };
+  switch (code) {
+  case kF2:
+    Sortie_Click(bureau, -1);
+    return true;
+  case kF3:
+    Command1_Click(bureau, -1);
+    return true;
+  case kF9:
+    deplace(kPasTouches);
+    return true;
+  case kF10:
+    deplace(-kPasTouches);
+    return true;
+  default:
+    return false;
+  }
+}
+
+void Sortie_Click(Bureau &bureau, int /*indice*/) {
+  if (!bureau.ports.boite({.texte = bureau.messages[6], .icone = Icone::Question, .question = true})) {
+    bureau.QuitterRefuse = -1;
+    return;
+  }
+  bureau.valeurs->Ensemble([&] { GardeReglages(bureau); });
+  SignaleMagasin(bureau);
+  bureau.termine = true;
+}
+
+void Image10_Click(Bureau &bureau, int indice) {
+  bureau.FichierLangue = indice == 1 ? "\\EN.txt" : "\\FR.txt";
+  const bool sansFichier = bureau.TitreFichier == bureau.messages[9];
+  ChargeLangue(bureau);
+  if (sansFichier) {
+    bureau.TitreFichier = bureau.messages[9];
+  }
+  MajListeDroites(bureau); // the buttons' tool tips are the stored bodies, not the file's
+  Donnees &d = bureau.donnees;
+  d.Image10[0].visible = indice != 0;
+  d.Image10[1].visible = indice == 0;
+  EcritReglage(bureau, "Langue", std::to_string(indice));
+}
+
+void PosSoleil(Bureau &bureau, bool sansDessin) {
+  const SoleilDirect soleil = CalculeSoleilDirect(LitPanneau(bureau.donnees), bureau.horloge);
+  if (sansDessin) {
+    return;
+  }
+  bureau.soleil = soleil.point;
+  bureau.donnees.Label64.legende = TextePointSolaire(bureau.soleil);
+  PlaceMarqueSoleil(bureau);
+  TraceCadrans(bureau, soleil.azimut, soleil.hauteur);
+}
+
+void TraceCadrans(Bureau &bureau, double azimut, double hauteur) {
+  DessineCadranAzimut(bureau.picAZ, static_cast<float>(azimut));
+  DessineCadranHauteur(bureau.picHE, static_cast<float>(hauteur));
+  bureau.donnees.Label35.legende = Format(azimut, "###.00") + " °";
+  bureau.donnees.Label36.legende = Format(hauteur, "###.00") + " °";
+}
+
+void Secours(Bureau &bureau, const std::exception &erreur) {
+  const Donnees &d = bureau.donnees;
+  const auto *numerotee = dynamic_cast<const Erreur *>(&erreur);
+  std::string texte = d.TexteErreur.legende;
+  if (numerotee != nullptr) {
+    texte += " " + std::to_string(numerotee->numero);
+  }
+  texte += "\n" + std::string(erreur.what()) + "\n\n";
+  const auto fichier = bureau.dossiers.utilisateur / "secours.LoP";
+  const bool conservee = Passe([&] {
+    std::error_code refus;
+    std::filesystem::create_directories(fichier.parent_path(), refus);
+    SauveLoP(fichier, LitPanneau(d));
+  });
+  texte += conservee ? d.TexteSecours.legende + "\n" + fichier.string() : d.TexteSansSecours.legende;
+  bureau.ports.boite({.texte = texte, .icone = Icone::Erreur});
+}
+
+} // namespace velmaris

@@ -1,0 +1,46 @@
+#pragma once
+
+#include "foundations/Erreur.hpp"
+#include "shell/Bureau.hpp"
+
+#include <exception>
+#include <string>
+
+namespace velmaris {
+
+/// The start sequence: geometry, stored lines, settings, language, clock and fields, once the Sun's place. Opens the
+/// settings store of the user's data folder when none is set.
+/// @param ecran  the screen; under 700 pixels of height the compact layout is taken
+void Donnees_Charge(Bureau &bureau, const Ecran &ecran);
+
+/// The clock's tick, every 1400 milliseconds: the live panel while it shows, and the window's title.
+void Timer1_Tick(Bureau &bureau);
+
+/// Milliseconds between two ticks.
+inline constexpr int kPeriodeTimer1 = 1400;
+
+/// A key of the window, whatever control has the focus.
+/// @param code  112 for F1 to 121 for F10
+/// @return whether the key does something here
+bool Donnees_KeyDown(Bureau &bureau, int code);
+
+/// The exit sequence: one question, then position and chart options are kept and the program ends.
+void Sortie_Click(Bureau &bureau, int indice);
+
+/// The choice of the language: 0 French, 1 English. The flag that stays is the one that can be chosen.
+void Image10_Click(Bureau &bureau, int indice);
+
+/// The Sun's present place on the live panel.
+/// @param sansDessin  true leaves labels, dials and sub-solar point alone
+void PosSoleil(Bureau &bureau, bool sansDessin);
+
+/// Draws the two dials of module 8 and fills their labels.
+/// @param azimut, hauteur  degrees
+void TraceCadrans(Bureau &bureau, double azimut, double hauteur);
+
+/// What is left to do when a failure reaches the program's edge: the sight of the panel goes to "secours.LoP" in the
+/// user's data folder, and one box tells the failure and the place. The caller ends the program.
+/// @param erreur  the failure
+void Secours(Bureau &bureau, const std::exception &erreur);
+
+} // namespace velmaris

@@ -1,0 +1,166 @@
+#include "shell/Evenements.hpp"
+
+#include "shell/Demarrage.hpp"
+#include "shell/Droites.hpp"
+#include "shell/Modules.hpp"
+#include "shell/Saisie.hpp"
+
+#include <algorithm>
+#include <string_view>
+
+namespace velmaris {
+namespace {
+
+using Fonction = void (*)(Bureau &, int);
+
+/// One function an event; the index is that of the control in its group.
+struct Abonnement {
+  std::string_view nom;
+  Evenement evenement;
+  Fonction fonction;
+};
+
+constexpr Abonnement kAbonnements[] = {
+    {"TDate", Evenement::Quitte, TDate_Quitte},
+    {"TDate", Evenement::Change, TDate_Change},
+    {"Text3", Evenement::Quitte, Text3_Quitte},
+    {"Text4", Evenement::Quitte, QuitteMinutes<&Donnees::Text4>},
+    {"Text5", Evenement::Quitte, QuitteMinutes<&Donnees::Text5>},
+    {"Text6", Evenement::Quitte, QuitteDegres<&Donnees::Text6>},
+    {"Text7", Evenement::Quitte, QuitteMinutes<&Donnees::Text7>},
+    {"Text8", Evenement::Quitte, QuitteDegres<&Donnees::Text8>},
+    {"Text9", Evenement::Quitte, QuitteMinutes<&Donnees::Text9>},
+    {"Text10", Evenement::Quitte, Text10_Quitte},
+    {"Text11", Evenement::Quitte, Text11_Quitte},
+    {"Text12", Evenement::Quitte, QuitteMinutes<&Donnees::Text12>},
+    {"Text13", Evenement::Quitte, Text13_Quitte},
+    {"Text25", Evenement::Change, Text25_Change},
+    {"Option4", Evenement::Clic, Option4_Click},
+    {"Option5", Evenement::Relache, Option5_Relache},
+    {"Option7", Evenement::Relache, SelAstre},
+    {"Check3", Evenement::Clic, Check3_Click},
+    {"Command1", Evenement::Clic, Command1_Click},
+    {"Command2", Evenement::Clic, Command2_Click},
+    {"Command26", Evenement::Clic, Command26_Click},
+    {"Command6", Evenement::Clic, Command6_Click},
+    {"Command12", Evenement::Clic, Grille_Click},
+    {"Command14", Evenement::Clic, Grille_Click},
+    {"HScroll1", Evenement::Change, HScroll1_Change},
+    {"Command23", Evenement::Clic, Command23_Click},
+    {"Command20", Evenement::Clic, Command20_Click},
+    {"Command7", Evenement::Clic, Command7_Click},
+    {"Command21", Evenement::Clic, Command21_Click},
+    {"Command22", Evenement::Clic, Command22_Click},
+    {"Command9", Evenement::Clic, Command9_Click},
+    {"Sortie", Evenement::Clic, Sortie_Click},
+    {"Image10", Evenement::Clic, Image10_Click},
+    {"OpCarte", Evenement::Clic, OpCarte_Click},
+    {"Image2", Evenement::Clic, FermeModule<10>},
+    {"Image3", Evenement::Clic, FermeModule<2>},
+    {"Image4", Evenement::Clic, FermeModule<1>},
+    {"Image5", Evenement::Clic, FermeModule<4>},
+    {"Image6", Evenement::Clic, FermeModule<7>},
+    {"Image7", Evenement::Clic, FermeModule<9>},
+    {"Image8", Evenement::Clic, FermeModule<8>},
+    {"Image9", Evenement::Clic, FermeModule<3>},
+    {"Frame1", Evenement::Clic, SaisitModule<1>},
+    {"Frame2", Evenement::Clic, SaisitModule<2>},
+    {"Frame9", Evenement::Clic, SaisitModule<3>},
+    {"Label70", Evenement::Clic, SaisitModule<3>},
+    {"Frame4", Evenement::Clic, SaisitModule<4>},
+    {"Frame7", Evenement::Clic, SaisitModule<7>},
+    {"Frame8", Evenement::Clic, SaisitModule<8>},
+    {"PicAZ", Evenement::Clic, SaisitModule<8>},
+    {"PicHE", Evenement::Clic, SaisitModule<8>},
+    {"FOptionCarte", Evenement::Clic, SaisitModule<9>},
+    {"Frame10", Evenement::Clic, SaisitModule<10>},
+};
+
+const Abonnement *Trouve(const Controle &controle, Evenement evenement) {
+  const auto *const trouve = std::find_if(std::begin(kAbonnements), std::end(kAbonnements), [&](const Abonnement &a) {
+    return a.evenement == evenement && a.nom == controle.nom;
+  });
+  return trouve == std::end(kAbonnements) ? nullptr : trouve;
+}
+
+bool Utilisable(const Controle &controle) { return controle.actif && controle.visible; }
+
+} // namespace
+
+bool Ecoute(const Controle &controle, Evenement evenement) { return Trouve(controle, evenement) != nullptr; }
+
+void Declenche(Bureau &bureau, Controle &controle, Evenement evenement) {
+  if (const Abonnement *a = Trouve(controle, evenement)) {
+    a->fonction(bureau, controle.indice);
+  }
+}
+
+void PoseTexte(Bureau &bureau, Controle &controle, std::string texte) {
+  controle.texte = std::move(texte);
+  Declenche(bureau, controle, Evenement::Change);
+}
+
+void PoseOption(Bureau &bureau, Controle &controle) {
+  PourChaque(bureau.donnees, [&](const LigneDonnees &, Controle &autre) {
+    if (autre.genre == Genre::Option && autre.groupe == controle.groupe) {
+      autre.choisi = false;
+    }
+  });
+  controle.choisi = true;
+  Declenche(bureau, controle, Evenement::Clic);
+}
+
+void PoseValeur(Bureau &bureau, Controle &controle, int valeur) {
+  if (controle.valeur != valeur) {
+    controle.valeur = valeur;
+    Declenche(bureau, controle, controle.genre == Genre::Case ? Evenement::Clic : Evenement::Change);
+  }
+}
+
+void ClicControle(Bureau &bureau, Controle &controle) {
+  if (Utilisable(controle)) {
+    Declenche(bureau, controle, Evenement::Clic);
+  }
+}
+
+void ClicOption(Bureau &bureau, Controle &controle) {
+  if (Utilisable(controle)) {
+    PoseOption(bureau, controle);
+    Declenche(bureau, controle, Evenement::Relache);
+  }
+}
+
+void ClicCase(Bureau &bureau, Controle &controle) {
+  if (Utilisable(controle)) {
+    PoseValeur(bureau, controle, controle.valeur == 0 ? 1 : 0);
+  }
+}
+
+void BougeCurseur(Bureau &bureau, Controle &controle, int valeur) {
+  if (Utilisable(controle)) {
+    PoseValeur(bureau, controle, std::clamp(valeur, controle.minimum, controle.maximum));
+  }
+}
+
+void EntreChamp(Bureau &bureau, Controle &controle) {
+  controle.toutSelectionne = true;
+  Declenche(bureau, controle, Evenement::Entre);
+}
+
+void QuitteChamp(Bureau &bureau, Controle &controle) { Declenche(bureau, controle, Evenement::Quitte); }
+
+void SaisitTexte(Bureau &bureau, Controle &controle, std::string texte) {
+  if (Utilisable(controle)) {
+    PoseTexte(bureau, controle, std::move(texte));
+  }
+}
+
+void ChoisitLigne(Bureau &bureau, Controle &controle, int rang) {
+  if (Utilisable(controle) && rang >= -1 && rang < static_cast<int>(controle.liste.size())) {
+    controle.rang = rang;
+    controle.texte = rang < 0 ? std::string() : controle.liste[static_cast<std::size_t>(rang)];
+    Declenche(bureau, controle, Evenement::Clic);
+  }
+}
+
+} // namespace velmaris

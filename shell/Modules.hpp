@@ -1,0 +1,48 @@
+#pragma once
+
+#include "shell/Bureau.hpp"
+
+namespace velmaris {
+
+/// The panel of a module by its number: 1 to 4 and 7 to 10.
+/// @return null for another number
+Controle *Module(Donnees &donnees, int numero);
+
+/// Takes a module with the mouse, or lets go of the one that is held.
+void SaisitModule(Bureau &bureau, int numero);
+template <int Numero> void SaisitModule(Bureau &bureau, int /*indice*/) { SaisitModule(bureau, Numero); }
+
+/// The close picture of a module: hides it and what goes with it.
+void FermeModule(Bureau &bureau, int numero);
+template <int Numero> void FermeModule(Bureau &bureau, int /*indice*/) { FermeModule(bureau, Numero); }
+
+/// Mouse move over the drawing surface: a held module follows it while the left button is down.
+/// @param x, y  1/1440 inch, on the surface
+void Image1_MouseMove(Bureau &bureau, bool boutonGauche, double x, double y);
+
+/// Mouse button up over the drawing surface: the help label hides.
+void Image1_MouseUp(Bureau &bureau);
+
+/// Module buttons of the toolbar.
+/// @{
+void Command23_Click(Bureau &bureau, int indice); ///< " multiples": module 10, with "Mémoire"
+void Command20_Click(Bureau &bureau, int indice); ///< "simples": module 7, and module 3 hides with it
+void Command7_Click(Bureau &bureau, int indice);  ///< " Soleil": module 8
+void Command21_Click(Bureau &bureau, int indice); ///< " Carte": module 9, under module 8
+void Command22_Click(Bureau &bureau, int indice); ///< "Estime": module 4, with module 10 over it
+void Command9_Click(Bureau &bureau, int indice);  ///< "Cap": module 2, with module 10 beside it
+/// @}
+
+/// "Détails": module 3, aligned with the foot of module 7; nothing before a first reduction.
+void Command26_Click(Bureau &bureau, int indice);
+
+/// Puts all modules away.
+void PU_Clear(Bureau &bureau);
+
+/// "Carte globale" greys islands and lakes, "Contours précis" ticks them.
+void OpCarte_Click(Bureau &bureau, int indice);
+
+/// Puts the Sun's mark at the sub-solar point of the sheet, or out of view when it lies off the sheet.
+void PlaceMarqueSoleil(Bureau &bureau);
+
+} // namespace velmaris

@@ -1,0 +1,48 @@
+#pragma once
+
+#include "foundations/ValeurDate.hpp"
+
+#include <cstdint>
+#include <filesystem>
+#include <functional>
+#include <string>
+
+namespace velmaris {
+
+enum class Icone : std::uint8_t { Aucune, Information, Question, Attention, Erreur };
+
+/// A message box: one button to acknowledge, or a question with Yes and No.
+struct Boite {
+  std::string texte;
+  std::string titre = "Velmaris";
+  Icone icone = Icone::Aucune;
+  bool question = false;
+  bool nonParDefaut = false;
+};
+
+/// What the core asks of the outside.
+struct Ports {
+  /// Shows a box and waits. @return true for Yes
+  std::function<bool(const Boite &)> boite = [](const Boite &) { return false; };
+  /// Name of a date's weekday in the system's language, in lower case.
+  std::function<std::string(const ValeurDate &)> nomJour = [](const ValeurDate &) { return std::string(); };
+  /// Name of a date's month in the system's language.
+  std::function<std::string(const ValeurDate &)> nomMois = [](const ValeurDate &) { return std::string(); };
+};
+
+/// Where the program's text files are looked up, in this order; what it writes goes to the first.
+struct Dossiers {
+  std::filesystem::path utilisateur;
+  std::filesystem::path programme;
+  std::filesystem::path partage;
+};
+
+/// The folders of this run: the user's data folder, the program's own, the installed share folder.
+/// @param programme  folder of the executable
+Dossiers TrouveDossiers(const std::filesystem::path &programme);
+
+/// The first folder's file of that name.
+/// @return its path; in the last folder when no folder has it
+std::filesystem::path TrouveFichier(const Dossiers &dossiers, const std::string &nom);
+
+} // namespace velmaris

@@ -1,0 +1,227 @@
+#include "shell/Saisie.hpp"
+
+#include "foundations/Erreur.hpp"
+#include "foundations/TexteNombre.hpp"
+#include "shell/Evenements.hpp"
+
+#include <algorithm>
+
+namespace velmaris {
+namespace {
+
+constexpr double kAnneeMax = 5000;
+
+/// Empties a field whose value lies outside its limits.
+/// @return whether the value is accepted
+bool Accepte(Controle &controle, double minimum, double maximum) {
+  const double valeur = Val(controle.texte);
+  if (valeur < minimum || valeur > maximum) {
+    controle.texte.clear();
+    return false;
+  }
+  return true;
+}
+
+void QuitteVirgule(Controle &controle, double minimum, double maximum) {
+  std::replace(controle.texte.begin(), controle.texte.end(), '.', ',');
+  if (Accepte(controle, minimum, maximum)) {
+    controle.texte = Format(controle.texte, "#0.0", ',');
+  }
+}
+
+int Choisie(const auto &options) {
+  const auto trouve = std::find_if(options.begin(), options.end(), [](const Controle &o) { return o.choisi; });
+  return static_cast<int>(trouve - options.begin());
+}
+
+/// A first letter in capitals, the accented ones of Latin-1 included.
+std::string PremiereMajuscule(std::string texte) {
+  if (texte.empty()) {
+    return texte;
+  }
+  const auto premier = static_cast<unsigned char>(texte[0]);
+  if (premier >= 'a' && premier <= 'z') {
+    texte[0] = static_cast<char>(premier - 0x20);
+  } else if (premier == 0xC3 && texte.size() > 1 && static_cast<unsigned char>(texte[1]) >= 0xA0) {
+    texte[1] = static_cast<char>(static_cast<unsigned char>(texte[1]) - 0x20);
+  }
+  return texte;
+}
+
+void PermetBords(Donnees &d, bool permis) {
+  d.Option6[0].actif = permis;
+  d.Option6[1].actif = permis;
+}
+
+} // namespace
+
+Observation LitPanneau(const Donnees &d) {
+  Observation o;
+  o.jour = d.TDate[0].texte;
+  o.mois = d.TDate[1].texte;
+  o.annee = d.TDate[2].texte;
+  o.heure = d.Text3.texte;
+  o.minute = d.Text4.texte;
+  o.seconde = d.Text5.texte;
+  o.longitudeDegres = d.Text6.texte;
+  o.longitudeMinutes = d.Text7.texte;
+  o.latitudeDegres = d.Text8.texte;
+  o.latitudeMinutes = d.Text9.texte;
+  o.hauteurOeil = d.Text10.texte;
+  o.collimation = d.Text11.texte;
+  o.lectureMinutes = d.Text12.texte;
+  o.lectureDegres = d.Text13.texte;
+  o.lectureFraction = d.Text25.texte;
+  o.couleurFraction = d.Text25.couleur;
+  o.sud = d.OptN[1].choisi;
+  o.est = d.OptE[0].choisi;
+  o.fraction = d.Option4[0].choisi ? Fraction::Secondes : Fraction::Centiemes;
+  o.bord = static_cast<Bord>(std::min(Choisie(d.Option6), 2));
+  o.horizon = d.Option5[0].choisi ? Horizon::Naturel : Horizon::Artificiel;
+  o.corps = static_cast<Corps>(std::min(Choisie(d.Option7), 3));
+  o.planete = d.Combo7.rang;
+  o.etoile = d.Combo6.rang;
+  return o;
+}
+
+void PoseReduction(Bureau &bureau, const Observation &observation) {
+  Donnees &d = bureau.donnees;
+  d.Text10.texte = observation.hauteurOeil;
+  d.Text11.texte = observation.collimation;
+  d.Text12.texte = observation.lectureMinutes;
+  d.Text13.texte = observation.lectureDegres;
+  PoseTexte(bureau, d.Text25, observation.lectureFraction);
+  d.Text25.couleur = observation.couleurFraction;
+}
+
+void TDate_Quitte(Bureau &bureau, int indice) {
+  Controle &champ = bureau.donnees.TDate.at(static_cast<std::size_t>(indice));
+  const double maximum = indice == 0 ? 31 : indice == 1 ? 12 : kAnneeMax;
+  std::string texte;
+  const double valeur = Val(champ.texte);
+  if (valeur >= 0 && valeur <= maximum) {
+    const bool annee = indice == 2;
+    texte = Format(annee && valeur < 100 ? valeur + 2000.0 : valeur, annee ? "0000" : "00");
+  }
+  PoseTexte(bureau, champ, texte);
+}
+
+void Text3_Quitte(Bureau &bureau, int /*indice*/) { QuitteMinutes(bureau.donnees.Text3); }
+
+void QuitteMinutes(Controle &controle) {
+  if (Accepte(controle, 0, 60)) {
+    controle.texte = Format(controle.texte, "00");
+  }
+}
+
+void QuitteDegres(Controle &controle) {
+  if (Accepte(controle, 0, 180)) {
+    controle.texte = Format(controle.texte, "#00");
+  }
+}
+
+void Text10_Quitte(Bureau &bureau, int /*indice*/) {
+  QuitteVirgule(bureau.donnees.Text10, 0, std::numeric_limits<double>::infinity());
+}
+
+void Text11_Quitte(Bureau &bureau, int /*indice*/) { QuitteVirgule(bureau.donnees.Text11, -60, 60); }
+
+void Text13_Quitte(Bureau &bureau, int /*indice*/) {
+  Controle &champ = bureau.donnees.Text13;
+  if (Accepte(champ, 0, bureau.donnees.Option5[0].choisi ? 90 : 180)) {
+    champ.texte = Format(champ.texte, "00");
+  }
+}
+
+void TDate_Change(Bureau &bureau, int /*indice*/) {
+  Donnees &d = bureau.donnees;
+  d.Label1.legende = d.Label1.infobulle;
+  Passe([&] {
+    const ValeurDate date = LitDate(d.TDate[0].texte + "/" + d.TDate[1].texte + "/" + d.TDate[2].texte);
+    d.Label1.legende = PremiereMajuscule(bureau.ports.nomJour(date)) + " :";
+  });
+}
+
+void Text25_Change(Bureau &bureau, int /*indice*/) {
+  std::string &texte = bureau.donnees.Text25.texte;
+  texte = Gauche(texte, 2);
+}
+
+void Option4_Click(Bureau &bureau, int indice) {
+  Donnees &d = bureau.donnees;
+  const bool secondes = indice == 0;
+  d.Label9.visible = secondes;
+  d.Label68.legende = secondes ? "''" : "'";
+  d.Label69.visible = !d.Label9.visible;
+  EcritReglage(bureau, "Prec", std::to_string(indice));
+}
+
+void Option5_Relache(Bureau &bureau, int /*indice*/) {
+  Donnees &d = bureau.donnees;
+  const bool artificiel = d.Option5[1].choisi;
+  PoseOption(bureau, d.Option6[artificiel ? 2 : 1]);
+  PermetBords(d, !artificiel);
+  for (Controle *champ : {&d.Text12, &d.Text13, &d.Text25}) {
+    champ->couleur = artificiel ? kRouge : kNoir;
+  }
+}
+
+void SelAstre(Bureau &bureau, int indice) {
+  Donnees &d = bureau.donnees;
+  for (Controle &bord : d.Option6) {
+    bord.accent = false;
+  }
+  PermetBords(d, true);
+  for (Controle *c : {&d.Check3, &d.Combo6, &d.Combo7, &d.Combo8}) {
+    c->visible = false;
+  }
+  d.Bayer1.legende.clear();
+  d.Bayer2.legende.clear();
+  for (std::size_t i = 0; i < d.ImAstre.size(); ++i) {
+    d.ImAstre[i].visible = static_cast<int>(i) == indice;
+  }
+  switch (static_cast<Corps>(indice)) {
+  case Corps::Soleil:
+    PoseOption(bureau, d.Option6[1]);
+    break;
+  case Corps::Planetes:
+    d.Combo7.visible = true;
+    PoseOption(bureau, d.Option6[2]);
+    PermetBords(d, false);
+    break;
+  case Corps::Etoiles:
+    PoseOption(bureau, d.Option6[2]);
+    PermetBords(d, false);
+    d.Check3.visible = true;
+    PoseValeur(bureau, d.Check3, 1);
+    d.Combo8.visible = true;
+    break;
+  default:
+    break;
+  }
+}
+
+void Check3_Click(Bureau &bureau, int /*indice*/) {
+  Donnees &d = bureau.donnees;
+  d.Combo8.visible = d.Check3.valeur == 1;
+  d.Combo6.visible = !d.Combo8.visible;
+}
+
+void PoseHeureGMT(Bureau &bureau) {
+  const Horloge &h = bureau.horloge;
+  Donnees &d = bureau.donnees;
+  PoseTexte(bureau, d.Text3, Format(h.HeureGMT.substr(0, 2), "00"));
+  PoseTexte(bureau, d.Text4, Format(h.HeureGMT.substr(3, 2), "00"));
+  PoseTexte(bureau, d.Text5, Format(h.HeureGMT.substr(6, 2), "00"));
+  PoseTexte(bureau, d.TDate[0], h.JourGMT);
+  PoseTexte(bureau, d.TDate[1], h.MoisGMT);
+  PoseTexte(bureau, d.TDate[2], h.AnGMT);
+}
+
+void Command1_Click(Bureau &bureau, int /*indice*/) {
+  LitHorloge(bureau.horloge);
+  PoseHeureGMT(bureau);
+  bureau.focus = &bureau.donnees.Text13;
+}
+
+} // namespace velmaris

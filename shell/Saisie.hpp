@@ -1,0 +1,57 @@
+#pragma once
+
+#include "shell/Bureau.hpp"
+
+namespace velmaris {
+
+/// Reads the sight from the fields and choices of the panel.
+Observation LitPanneau(const Donnees &donnees);
+
+/// Writes back what a reduction may change: eye height, collimation, the reading's texts and the fraction's colour.
+void PoseReduction(Bureau &bureau, const Observation &observation);
+
+/// Leaving a field. A value outside its limits empties the field, silently; else its text takes the field's form.
+/// @{
+void TDate_Quitte(Bureau &bureau, int indice);
+void Text3_Quitte(Bureau &bureau, int indice);
+void Text10_Quitte(Bureau &bureau, int indice);
+void Text11_Quitte(Bureau &bureau, int indice);
+void Text13_Quitte(Bureau &bureau, int indice);
+/// Minutes and seconds: 0 to 60, as "00".
+void QuitteMinutes(Controle &controle);
+/// Degrees of the position: 0 to 180 for the latitude too, as "#00".
+void QuitteDegres(Controle &controle);
+template <Controle Donnees::*Membre> void QuitteMinutes(Bureau &bureau, int /*indice*/) {
+  QuitteMinutes(bureau.donnees.*Membre);
+}
+template <Controle Donnees::*Membre> void QuitteDegres(Bureau &bureau, int /*indice*/) {
+  QuitteDegres(bureau.donnees.*Membre);
+}
+/// @}
+
+/// Shows the weekday of the date over the day's field, or the plain caption when the date is impossible.
+void TDate_Change(Bureau &bureau, int indice);
+
+/// Cuts the fraction to two characters.
+void Text25_Change(Bureau &bureau, int indice);
+
+/// Chooses seconds (0) or hundredths of a minute (1), and keeps the choice under "Prec".
+void Option4_Click(Bureau &bureau, int indice);
+
+/// Chooses the horizon: off an artificial one the centre is shot and the reading turns red, being a double angle.
+void Option5_Relache(Bureau &bureau, int indice);
+
+/// Reacts to the choice of a kind of body: limb, lists and picture.
+/// @param indice  0 to 3; another number only hides what belongs to a body
+void SelAstre(Bureau &bureau, int indice);
+
+/// Shows the short list of visible stars, or the whole list.
+void Check3_Click(Bureau &bureau, int indice);
+
+/// "Top": the sight's date and time take the present GMT, and the reading takes the focus.
+void Command1_Click(Bureau &bureau, int indice);
+
+/// Puts the present GMT of the clock's texts into the sight's date and time.
+void PoseHeureGMT(Bureau &bureau);
+
+} // namespace velmaris

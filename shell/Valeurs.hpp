@@ -1,0 +1,77 @@
+#pragma once
+
+#include <cstdint>
+#include <filesystem>
+#include <memory>
+#include <string>
+#include <string_view>
+
+struct sqlite3;
+
+namespace velmaris {
+
+inline constexpr std::string_view kApplication = "Velmaris";
+inline constexpr std::string_view kSection = "Valeurs";
+
+/// What opening or writing the store met.
+enum class EtatMagasin : std::uint8_t {
+  Sain,     ///< values are kept
+  Abime,    ///< the file was damaged and set aside; values are kept in a new one
+  SansTrace ///< nothing can be written: values live in memory until the program ends
+};
+
+/// The per-user store of named text values, addressed by application, section and key; keys compare without case.
+class Valeurs {
+public:
+  /// Opens the store, making its folder and file when they are missing. A damaged file is set aside under a new name.
+  /// @param fichier  the store's file; an empty path gives a store in memory
+  explicit Valeurs(const std::filesystem::path &fichier);
+  ~Valeurs();
+  Valeurs(const Valeurs &) = delete;
+  Valeurs &operator=(const Valeurs &) = delete;
+  Valeurs(Valeurs &&) = delete;
+  Valeurs &operator=(Valeurs &&) = delete;
+
+  /// The stored text, or the default.
+  std::string GetSetting(std::string_view application, std::string_view section, std::string_view cle,
+                         std::string_view defaut = {}) const;
+
+  /// Creates or replaces a value; it is on the disk when this returns, unless it stands in a Transaction.
+  /// When the disk refuses, the store goes on in memory with all its values and `etat` says so.
+  void SaveSetting(std::string_view application, std::string_view section, std::string_view cle,
+                   std::string_view valeur);
+
+  /// Runs a group of SaveSetting as one: after a crash either all of them stand or none.
+  template <class Ecritures> void Ensemble(Ecritures &&ecritures) {
+    Execute("BEGIN IMMEDIATE");
+    try {
+      ecritures();
+    } catch (...) {
+      Execute("ROLLBACK");
+      throw;
+    }
+    if (!Execute("COMMIT") && etat_ != EtatMagasin::SansTrace) {
+      PasseEnMemoire();
+    }
+  }
+
+  EtatMagasin etat() const { return etat_; }
+  /// The damaged file's new name, or the file that can't be written.
+  const std::filesystem::path &fichierEnCause() const { return fichierEnCause_; }
+
+private:
+  struct Fermeture {
+    void operator()(sqlite3 *base) const;
+  };
+  bool Ouvre();
+  void MetDeCote();
+  void PasseEnMemoire();
+  bool Execute(const char *instruction);
+
+  std::filesystem::path fichier_;
+  std::filesystem::path fichierEnCause_;
+  std::unique_ptr<sqlite3, Fermeture> base_;
+  EtatMagasin etat_ = EtatMagasin::Sain;
+};
+
+} // namespace velmaris

@@ -1,0 +1,70 @@
+#include "shell/qt/PortsQt.hpp"
+
+#include <QDate>
+#include <QLocale>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QWidget>
+
+namespace velmaris::qt {
+namespace {
+
+QLocale Langue(const Bureau &bureau) {
+  const QLocale systeme = QLocale::system();
+  if (systeme.language() != QLocale::C && systeme.name() != QLatin1String("en_US_POSIX")) {
+    return systeme;
+  }
+  return {bureau.FichierLangue == "\\EN.txt" ? QLocale::English : QLocale::French};
+}
+
+QMessageBox::Icon IconeQt(Icone icone) {
+  switch (icone) {
+  case Icone::Information:
+    return QMessageBox::Information;
+  case Icone::Question:
+    return QMessageBox::Question;
+  case Icone::Attention:
+    return QMessageBox::Warning;
+  case Icone::Erreur:
+    return QMessageBox::Critical;
+  case Icone::Aucune:
+  default:
+    return QMessageBox::NoIcon;
+  }
+}
+
+bool MontreBoite(const Bureau &bureau, const Boite &boite, QWidget *parent) {
+  const Donnees &d = bureau.donnees;
+  QMessageBox qt(parent);
+  qt.setWindowTitle(QString::fromStdString(boite.titre));
+  qt.setTextFormat(Qt::PlainText);
+  qt.setText(QString::fromStdString(boite.texte));
+  qt.setIcon(IconeQt(boite.icone));
+  if (!boite.question) {
+    qt.addButton(QString::fromStdString(d.TexteOk.legende), QMessageBox::AcceptRole);
+    qt.exec();
+    return true;
+  }
+  const auto *oui = qt.addButton(QString::fromStdString(d.TexteOui.legende), QMessageBox::YesRole);
+  auto *non = qt.addButton(QString::fromStdString(d.TexteNon.legende), QMessageBox::NoRole);
+  qt.setEscapeButton(non);
+  if (boite.nonParDefaut) {
+    qt.setDefaultButton(non);
+  }
+  qt.exec();
+  return qt.clickedButton() == oui;
+}
+
+} // namespace
+
+void BranchePorts(Bureau &bureau, QWidget *const &parent) {
+  bureau.ports.boite = [&bureau, &parent](const Boite &boite) { return MontreBoite(bureau, boite, parent); };
+  bureau.ports.nomJour = [&bureau](const ValeurDate &date) {
+    return Langue(bureau).dayName(JourSemaine(date) == 0 ? 7 : JourSemaine(date)).toStdString();
+  };
+  bureau.ports.nomMois = [&bureau](const ValeurDate &date) {
+    return Langue(bureau).monthName(date.mois).toStdString();
+  };
+}
+
+} // namespace velmaris::qt

@@ -1,0 +1,174 @@
+#include "shell/qt/Toile.hpp"
+
+#include <QMouseEvent>
+#include <QPainter>
+#include <QPainterPath>
+
+#include <algorithm>
+#include <cmath>
+
+namespace velmaris::qt {
+namespace {
+
+constexpr double kTwipsParPouce = 1440.0;
+
+QPen PlumeQt(const Plume &plume) {
+  QPen pen(CouleurQt(plume.couleur), plume.largeur);
+  pen.setCapStyle(Qt::FlatCap);
+  switch (plume.style) {
+  case Style::Tirets:
+    pen.setStyle(Qt::DashLine);
+    break;
+  case Style::Points:
+    pen.setStyle(Qt::DotLine);
+    break;
+  case Style::TiretPoint:
+    pen.setStyle(Qt::DashDotLine);
+    break;
+  case Style::Plein:
+  default:
+    break;
+  }
+  return pen;
+}
+
+constexpr double kContrasteFaible = 0.25; ///< of lightness, under which a bright colour needs a border to be seen
+const QColor kLisere(96, 84, 0, 150);
+
+/// Whether a bright colour would be lost on the background: the yellow line on the white sheet.
+bool FautLisere(const QColor &couleur, const QColor &fond) {
+  const auto clarte = [](const QColor &c) { return qGray(c.rgb()) / 255.0; };
+  return couleur.hsvSaturationF() > 0.5F && std::abs(clarte(couleur) - clarte(fond)) < kContrasteFaible;
+}
+
+/// Paints one recorded trace.
+struct Peintre {
+  QPainter &painter;
+  double facteur;
+  QColor fond;
+
+  QPointF Place(Point p) const { return {p.x * facteur, p.y * facteur}; }
+
+  void operator()(const Polyligne &ligne) const {
+    painter.setPen(PlumeQt(ligne.plume));
+    // A single line along an axis is sharp only without smoothing.
+    const bool droite =
+        ligne.points.size() == 2 && (ligne.points[0].x == ligne.points[1].x || ligne.points[0].y == ligne.points[1].y);
+    painter.setRenderHint(QPainter::Antialiasing, !droite);
+    QPolygonF points;
+    points.reserve(static_cast<qsizetype>(ligne.points.size()));
+    for (const Point &p : ligne.points) {
+      points << Place(p);
+    }
+    if (const QPen pen = painter.pen(); FautLisere(pen.color(), fond)) {
+      painter.setPen(QPen(kLisere, pen.widthF() + 2));
+      painter.drawPolyline(points);
+      painter.setPen(QPen(pen.color(), pen.widthF() + 0.5));
+    }
+    painter.drawPolyline(points);
+  }
+  void operator()(const CercleTrace &cercle) const {
+    painter.setPen(PlumeQt(cercle.plume));
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.drawEllipse(Place(cercle.centre), cercle.rayon * facteur, cercle.rayon * facteur);
+  }
+  void operator()(const TexteTrace &texte) const {
+    painter.setPen(CouleurQt(texte.couleur));
+    painter.setFont(PoliceQt(texte.police));
+    painter.drawText(Place(texte.position) + QPointF(0, QFontMetricsF(painter.font()).ascent()),
+                     QString::fromStdString(texte.texte));
+  }
+};
+
+std::size_t NombrePoints(const Surface &surface) {
+  const auto *ligne = surface.traces.empty() ? nullptr : std::get_if<Polyligne>(&surface.traces.back());
+  return ligne == nullptr ? 0 : ligne->points.size();
+}
+
+} // namespace
+
+double PixelsParTwip(const QWidget &widget) { return widget.logicalDpiX() / kTwipsParPouce; }
+
+QFont PoliceQt(const Police &police) {
+  QFont font;
+  font.setPointSizeF(police.taille);
+  font.setBold(police.gras);
+  return font;
+}
+
+QColor CouleurQt(Couleur couleur) {
+  return {static_cast<int>(couleur & 0xFFU), static_cast<int>((couleur >> 8U) & 0xFFU),
+          static_cast<int>((couleur >> 16U) & 0xFFU)};
+}
+
+void PeintTraces(QPainter &painter, const Surface &surface, double facteur, std::size_t premier) {
+  const Peintre peintre{painter, facteur, CouleurQt(surface.fond)};
+  for (std::size_t i = premier; i < surface.traces.size(); ++i) {
+    std::visit(peintre, surface.traces[i]);
+  }
+}
+
+Toile::Toile(const Surface &surface, QWidget *parent) : QWidget(parent), surface_(surface) {
+  setAttribute(Qt::WA_OpaquePaintEvent);
+  setMouseTracking(true);
+}
+
+void Toile::Accorde() {
+  const QSize taille = size() * devicePixelRatioF();
+  const bool neuve = image_.size() != taille || effacements_ != surface_.effacements;
+  if (!neuve && traces_ == surface_.traces.size() && points_ == NombrePoints(surface_)) {
+    return;
+  }
+  if (image_.size() != taille) {
+    image_ = QImage(taille, QImage::Format_RGB32);
+    image_.setDevicePixelRatio(devicePixelRatioF());
+  }
+  if (neuve) {
+    image_.fill(CouleurQt(surface_.fond));
+    traces_ = 0;
+  }
+  QPainter painter(&image_);
+  // The last polyline may have grown since it was painted: it is painted again.
+  const bool reprise = traces_ > 0 && traces_ <= surface_.traces.size() && points_ != 0;
+  PeintTraces(painter, surface_, PixelsParTwip(*this), reprise ? traces_ - 1 : traces_);
+  effacements_ = surface_.effacements;
+  traces_ = surface_.traces.size();
+  points_ = NombrePoints(surface_);
+  update();
+}
+
+void Toile::paintEvent(QPaintEvent *event) {
+  QPainter painter(this);
+  if (image_.isNull()) {
+    painter.fillRect(event->rect(), CouleurQt(surface_.fond));
+    return;
+  }
+  const double ratio = devicePixelRatioF();
+  const QRectF zone = event->rect();
+  painter.drawImage(zone, image_, QRectF(zone.topLeft() * ratio, zone.size() * ratio));
+}
+
+void Toile::mousePressEvent(QMouseEvent *event) {
+  if (event->button() == Qt::LeftButton && auClic) {
+    auClic();
+  }
+  if (auMouvement) {
+    mouseMoveEvent(event);
+  }
+}
+
+void Toile::mouseMoveEvent(QMouseEvent *event) {
+  if (auMouvement) {
+    const double facteur = PixelsParTwip(*this);
+    const QPointF p = event->position();
+    auMouvement(event->buttons().testFlag(Qt::LeftButton), p.x() / facteur, p.y() / facteur);
+  }
+}
+
+void Toile::mouseReleaseEvent(QMouseEvent * /*event*/) {
+  if (auRelache) {
+    auRelache();
+  }
+}
+
+} // namespace velmaris::qt

@@ -1,0 +1,256 @@
+#include "shell/qt/Widgets.hpp"
+
+#include "shell/Evenements.hpp"
+#include "shell/qt/Icones.hpp"
+#include "shell/qt/Toile.hpp"
+
+#include <QAbstractButton>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QSlider>
+#include <QStyle>
+#include <QToolButton>
+
+#include <cmath>
+
+namespace velmaris::qt {
+namespace {
+
+constexpr int kHautTitre = 20;      ///< pixels of a module's title band
+constexpr double kInterligne = 1.3; ///< lines of a caption that share a place
+
+const QColor kCarte(247, 248, 250);
+const QColor kBordCarte(168, 178, 189);
+const QColor kBandeTitre(219, 227, 236);
+
+QString Texte(const std::string &texte) { return QString::fromStdString(texte); }
+
+/// A caption as the toolkit takes it: its ampersands are no keyboard marks.
+QString Legende(const std::string &texte) { return Texte(texte).replace('&', QLatin1String("&&")); }
+
+Qt::Alignment Alignement(Cote cote) {
+  switch (cote) {
+  case Cote::Centre:
+    return Qt::AlignCenter;
+  case Cote::Droite:
+    return Qt::AlignRight | Qt::AlignVCenter;
+  case Cote::Gauche:
+  default:
+    return Qt::AlignLeft | Qt::AlignVCenter;
+  }
+}
+
+QWidget *CreeEtiquette(const Controle &c, QWidget *parent) {
+  auto *label = new QLabel(parent);
+  label->setTextFormat(Qt::PlainText);
+  label->setAlignment(Alignement(c.cote));
+  if (c.cadre) {
+    label->setFrameStyle(static_cast<int>(QFrame::StyledPanel) | static_cast<int>(QFrame::Sunken));
+    label->setAutoFillBackground(true);
+    label->setBackgroundRole(QPalette::Base);
+  }
+  return label;
+}
+
+QWidget *CreeImage(const Controle &c, QWidget *parent) {
+  if (Ecoute(c, Evenement::Clic)) {
+    auto *bouton = new QToolButton(parent);
+    bouton->setAutoRaise(true);
+    bouton->setFocusPolicy(Qt::TabFocus);
+    return bouton;
+  }
+  return new QLabel(parent);
+}
+
+QWidget *CreeCurseur(const Controle &c, QWidget *parent) {
+  auto *curseur = new QSlider(Qt::Horizontal, parent);
+  curseur->setRange(c.minimum, c.maximum);
+  curseur->setSingleStep(c.petitPas);
+  curseur->setPageStep(c.grandPas);
+  return curseur;
+}
+
+void PoseImage(QWidget &widget, const Controle &c) {
+  const QSize taille = widget.size();
+  if (auto *bouton = qobject_cast<QAbstractButton *>(&widget)) {
+    const int cote = std::min(taille.height() - 8, 26);
+    bouton->setIcon(Icone(c.image));
+    bouton->setIconSize(c.genre == Genre::Image ? taille - QSize(4, 4) : QSize(cote, cote));
+  } else if (auto *label = qobject_cast<QLabel *>(&widget)) {
+    label->setPixmap(Icone(c.image).pixmap(taille, widget.devicePixelRatioF()));
+  }
+}
+
+void PoseLegende(QWidget &widget, const Controle &c) {
+  if (auto *label = qobject_cast<QLabel *>(&widget); label != nullptr && c.genre == Genre::Etiquette) {
+    label->setText(CoupeLegende(Texte(c.legende), widget, widget.width(), widget.height()));
+  } else if (auto *bouton = qobject_cast<QAbstractButton *>(&widget); bouton != nullptr) {
+    const int marque = qobject_cast<QPushButton *>(&widget) == nullptr ? LargeurMarque(widget) : 8;
+    bouton->setText(CoupeLegende(Legende(c.legende), widget, widget.width() - marque, widget.height()));
+  }
+}
+
+void PoseCouleur(QWidget &widget, const Controle &c) {
+  QPalette palette = widget.palette();
+  const QColor couleur = CouleurQt(c.couleur);
+  palette.setColor(QPalette::Active, widget.foregroundRole(), couleur);
+  palette.setColor(QPalette::Inactive, widget.foregroundRole(), couleur);
+  widget.setPalette(palette);
+}
+
+void PosePolice(QWidget &widget, const Controle &c) {
+  QFont font = widget.font();
+  font.setPointSizeF(c.taille);
+  font.setBold(c.gras || c.accent);
+  font.setUnderline(c.accent);
+  widget.setFont(font);
+}
+
+/// Text, value or choice of a control that the user fills.
+void PoseContenu(QWidget &widget, const Controle &c) {
+  const QSignalBlocker silence(&widget);
+  if (auto *champ = qobject_cast<QLineEdit *>(&widget)) {
+    if (champ->text() != Texte(c.texte)) {
+      champ->setText(Texte(c.texte));
+    }
+  } else if (auto *liste = qobject_cast<QComboBox *>(&widget)) {
+    if (liste->count() != static_cast<int>(c.liste.size())) {
+      liste->clear();
+      for (const std::string &ligne : c.liste) {
+        liste->addItem(Texte(ligne));
+      }
+    }
+    liste->setCurrentIndex(c.rang >= 0 ? c.rang : liste->findText(Texte(c.texte)));
+  } else if (auto *option = qobject_cast<QRadioButton *>(&widget)) {
+    option->setChecked(c.choisi);
+  } else if (auto *coche = qobject_cast<QCheckBox *>(&widget)) {
+    coche->setCheckState(c.valeur == 2 ? Qt::PartiallyChecked : c.valeur == 0 ? Qt::Unchecked : Qt::Checked);
+  } else if (auto *curseur = qobject_cast<QSlider *>(&widget)) {
+    curseur->setValue(c.valeur);
+  }
+}
+
+} // namespace
+
+Carte::Carte(bool titre, QWidget *parent) : QFrame(parent), titre_(titre) {}
+
+void Carte::paintEvent(QPaintEvent * /*event*/) {
+  QPainter p(this);
+  p.fillRect(rect(), kCarte);
+  if (titre_) {
+    p.fillRect(QRect(0, 0, width(), kHautTitre), kBandeTitre);
+  }
+  p.setPen(kBordCarte);
+  p.drawRect(rect().adjusted(0, 0, -1, -1));
+}
+
+void Carte::mousePressEvent(QMouseEvent *event) {
+  if (event->button() == Qt::LeftButton && auClic) {
+    auClic();
+  }
+}
+
+QWidget *CreeWidget(Bureau &bureau, const Controle &c, QWidget *parent) {
+  switch (c.genre) {
+  case Genre::Surface:
+    return new Toile(*SurfaceDe(bureau, c), parent);
+  case Genre::Cadre:
+    return new Carte(c.titre, parent);
+  case Genre::Groupe:
+    return new QWidget(parent);
+  case Genre::Etiquette:
+    return CreeEtiquette(c, parent);
+  case Genre::Champ: {
+    auto *champ = new QLineEdit(parent);
+    champ->setAlignment(Qt::AlignRight);
+    return champ;
+  }
+  case Genre::Bouton:
+    return new QPushButton(parent);
+  case Genre::Option:
+    return new QRadioButton(parent);
+  case Genre::Case:
+    return new QCheckBox(parent);
+  case Genre::Liste:
+    return new QComboBox(parent);
+  case Genre::ListeBoite:
+    return new QListWidget(parent);
+  case Genre::Curseur:
+    return CreeCurseur(c, parent);
+  case Genre::Image:
+    return CreeImage(c, parent);
+  case Genre::Texte:
+  default:
+    return nullptr;
+  }
+}
+
+void AccordeWidget(QWidget &widget, const Controle &c, const Controle &vu, bool tout, const QString &aVenir) {
+  if (tout || c.place != vu.place) {
+    widget.setGeometry(PlaceQt(c.place, widget));
+  }
+  if (tout || c.taille != vu.taille || c.gras != vu.gras || c.accent != vu.accent) {
+    PosePolice(widget, c);
+  }
+  if (tout || c.image != vu.image) {
+    if (!c.image.empty() || !vu.image.empty()) {
+      PoseImage(widget, c);
+    }
+  }
+  if (tout || c.legende != vu.legende || c.place != vu.place || c.accent != vu.accent) {
+    PoseLegende(widget, c);
+  }
+  if (c.couleur != vu.couleur || (tout && c.couleur != kNoir)) {
+    PoseCouleur(widget, c);
+  }
+  PoseContenu(widget, c);
+  const bool attend = c.aVenir && !c.actif;
+  const QString infobulle = attend ? aVenir : Texte(c.infobulle);
+  if (widget.toolTip() != infobulle) {
+    widget.setToolTip(infobulle);
+  }
+  if (tout || c.actif != vu.actif) {
+    widget.setEnabled(c.actif);
+  }
+  if (tout || c.visible != vu.visible) {
+    widget.setVisible(c.visible);
+    if (c.visible && (c.genre == Genre::Cadre || c.couleur != kNoir)) {
+      widget.raise();
+    }
+  }
+}
+
+QString CoupeLegende(const QString &texte, const QWidget &widget, double largeur, double hauteur) {
+  const QFontMetricsF metrique(widget.font());
+  if (texte.contains('\n') || metrique.horizontalAdvance(texte) <= largeur || hauteur < 2 * metrique.height()) {
+    return texte;
+  }
+  for (qsizetype i = texte.lastIndexOf(' '); i > 0; i = texte.lastIndexOf(' ', i - 1)) {
+    if (metrique.horizontalAdvance(texte.left(i)) <= largeur) {
+      return texte.left(i) + '\n' + texte.mid(i + 1);
+    }
+  }
+  return texte;
+}
+
+QRect PlaceQt(const Place &place, const QWidget &widget) {
+  const double f = PixelsParTwip(widget);
+  const int x = static_cast<int>(std::lround(place.gauche * f));
+  const int y = static_cast<int>(std::lround(place.haut * f));
+  return {x, y, static_cast<int>(std::lround(place.largeur * f)), static_cast<int>(std::lround(place.hauteur * f))};
+}
+
+int LargeurMarque(const QWidget &widget) {
+  const QStyle &style = *widget.style();
+  return style.pixelMetric(QStyle::PM_ExclusiveIndicatorWidth, nullptr, &widget) +
+         style.pixelMetric(QStyle::PM_RadioButtonLabelSpacing, nullptr, &widget) + 2;
+}
+
+} // namespace velmaris::qt

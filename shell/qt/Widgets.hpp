@@ -1,0 +1,44 @@
+#pragma once
+
+#include "shell/Bureau.hpp"
+
+#include <QFrame>
+#include <QWidget>
+
+#include <functional>
+
+namespace velmaris::qt {
+
+/// A module: a light card with a title band, that can be taken with the mouse.
+class Carte : public QFrame {
+public:
+  Carte(bool titre, QWidget *parent);
+  std::function<void()> auClic;
+
+protected:
+  void paintEvent(QPaintEvent *event) override;
+  void mousePressEvent(QMouseEvent *event) override;
+
+private:
+  bool titre_;
+};
+
+/// Makes the widget that shows a control; it bears the control's name and index as its object name.
+/// @return null for words that no control shows
+QWidget *CreeWidget(Bureau &bureau, const Controle &controle, QWidget *parent);
+
+/// Brings a widget in line with its control.
+/// @param vu      the control as the widget showed it last
+/// @param aVenir  tool tip of a control that has nothing to do yet
+void AccordeWidget(QWidget &widget, const Controle &controle, const Controle &vu, bool tout, const QString &aVenir);
+
+/// A caption broken into lines so that it fits a width; a single line when it does, or when there is no room for two.
+QString CoupeLegende(const QString &texte, const QWidget &widget, double largeur, double hauteur);
+
+/// The place of a control in the toolkit's pixels.
+QRect PlaceQt(const Place &place, const QWidget &widget);
+
+/// Room that an option or a box keeps for its mark, in the toolkit's pixels.
+int LargeurMarque(const QWidget &widget);
+
+} // namespace velmaris::qt

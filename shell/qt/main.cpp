@@ -1,0 +1,42 @@
+#include "shell/Demarrage.hpp"
+#include "shell/qt/Apparence.hpp"
+#include "shell/qt/Fenetre.hpp"
+#include "shell/qt/PortsQt.hpp"
+
+#include <QApplication>
+#include <QScreen>
+
+#include <exception>
+#include <memory>
+
+namespace {
+
+constexpr double kTwipsParPouce = 1440.0;
+
+velmaris::Ecran EcranPrincipal() {
+  const QScreen &ecran = *QGuiApplication::primaryScreen();
+  const double twips = kTwipsParPouce / ecran.logicalDotsPerInch();
+  return {ecran.geometry().width() * twips, ecran.geometry().height() * twips, ecran.geometry().height()};
+}
+
+} // namespace
+
+int main(int argc, char **argv) {
+  QApplication application(argc, argv);
+  velmaris::qt::PoseApparence(application);
+
+  velmaris::Bureau bureau;
+  QWidget *parent = nullptr;
+  velmaris::qt::BranchePorts(bureau, parent);
+  bureau.dossiers = velmaris::TrouveDossiers(QApplication::applicationDirPath().toStdString());
+  try {
+    velmaris::Donnees_Charge(bureau, EcranPrincipal());
+  } catch (const std::exception &erreur) {
+    velmaris::Secours(bureau, erreur);
+    return 1;
+  }
+  velmaris::qt::Fenetre fenetre(bureau);
+  parent = &fenetre;
+  fenetre.show();
+  return QApplication::exec();
+}

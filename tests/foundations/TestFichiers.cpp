@@ -1,0 +1,221 @@
+#include "foundations/Fichiers.hpp"
+
+#include "tests/OutilsTests.hpp"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <random>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace velmaris {
+namespace {
+
+using essais::Contenu;
+using essais::DossierTemporaire;
+using essais::NumeroErreur;
+using essais::Pose;
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+TEST(FileReading, ReturnsEveryByte) {
+  const DossierTemporaire dossier;
+  std::string octets;
+  for (int i = 0; i < 1024; ++i) {
+    octets += static_cast<char>(i);
+  }
+  Pose(dossier / "f", octets);
+  EXPECT_EQ(LitFichier(dossier / "f"), octets);
+}
+
+TEST(FileReading, AnEmptyFileIsAnEmptyText) {
+  const DossierTemporaire dossier;
+  Pose(dossier / "f", "");
+  EXPECT_EQ(LitFichier(dossier / "f"), "");
+}
+
+TEST(FileReading, TenMegabytesAreReadWhole) {
+  const DossierTemporaire dossier;
+  const std::string octets(10'000'000, 'x');
+  Pose(dossier / "f", octets);
+  EXPECT_EQ(LitFichier(dossier / "f"), octets);
+}
+
+TEST(FileReading, AMissingFileIsError53) {
+  const DossierTemporaire dossier;
+  EXPECT_EQ(NumeroErreur([&] { LitFichier(dossier / "none"); }), 53);
+  EXPECT_EQ(NumeroErreur([&] { LitFichier(dossier / "none/none"); }), 53);
+  EXPECT_EQ(NumeroErreur([&] { LitFichier(""); }), 53);
+}
+
+TEST(FileReading, ADirectoryInItsPlaceIsError75) {
+  const DossierTemporaire dossier;
+  EXPECT_EQ(NumeroErreur([&] { LitFichier(dossier.chemin()); }), 75);
+}
+
+TEST(FileReading, APipeInItsPlaceDoesNotHang) {
+  const DossierTemporaire dossier;
+  ASSERT_EQ(::mkfifo((dossier / "pipe").c_str(), 0600), 0);
+  EXPECT_EQ(NumeroErreur([&] { LitFichier(dossier / "pipe"); }), 75);
+}
+
+/// Another user than the superuser, who may read everything, for the life of the scope.
+struct SimpleUtilisateur {
+  SimpleUtilisateur() : reussi(::geteuid() != 0 || ::seteuid(65534) == 0) {}
+  ~SimpleUtilisateur() {
+    if (::geteuid() != ::getuid() && ::seteuid(::getuid()) != 0) {
+      std::abort();
+    }
+  }
+  SimpleUtilisateur(const SimpleUtilisateur &) = delete;
+  SimpleUtilisateur &operator=(const SimpleUtilisateur &) = delete;
+  SimpleUtilisateur(SimpleUtilisateur &&) = delete;
+  SimpleUtilisateur &operator=(SimpleUtilisateur &&) = delete;
+  bool reussi;
+};
+
+TEST(FileReading, AFileWithoutPermissionIsError75) {
+  const DossierTemporaire dossier;
+  ::chmod(dossier.chemin().c_str(), 0755);
+  Pose(dossier / "f", "x");
+  ::chmod((dossier / "f").c_str(), 0);
+  const SimpleUtilisateur utilisateur;
+  if (!utilisateur.reussi) {
+    GTEST_SKIP() << "the superuser can't become another user here";
+  }
+  EXPECT_EQ(NumeroErreur([&] { LitFichier(dossier / "f"); }), 75);
+}
+
+TEST(FileWriting, AFolderWithoutPermissionIsError75AndTheOldFileIsWhole) {
+  const DossierTemporaire dossier;
+  Pose(dossier / "f", "old");
+  ::chmod(dossier.chemin().c_str(), 0555);
+  {
+    const SimpleUtilisateur utilisateur;
+    if (!utilisateur.reussi) {
+      GTEST_SKIP() << "the superuser can't become another user here";
+    }
+    EXPECT_EQ(NumeroErreur([&] { EcritFichier(dossier / "f", "new"); }), 75);
+  }
+  ::chmod(dossier.chemin().c_str(), 0755);
+  EXPECT_EQ(Contenu(dossier / "f"), "old");
+}
+
+TEST(FileWriting, ReplacesAFileAndLeavesNothingBeside) {
+  const DossierTemporaire dossier;
+  Pose(dossier / "f", "old and longer");
+  EcritFichier(dossier / "f", "new");
+  EXPECT_EQ(Contenu(dossier / "f"), "new");
+  EXPECT_EQ(std::distance(std::filesystem::directory_iterator(dossier.chemin()), {}), 1);
+}
+
+TEST(FileWriting, WritesEveryByte) {
+  const DossierTemporaire dossier;
+  const std::string octets("a\0b\r\n\xFF", 6);
+  EcritFichier(dossier / "f", octets);
+  EXPECT_EQ(Contenu(dossier / "f"), octets);
+  EcritFichier(dossier / "f", "");
+  EXPECT_EQ(Contenu(dossier / "f"), "");
+}
+
+TEST(FileWriting, AFailureIsError75AndTheOldFileIsWhole) {
+  const DossierTemporaire dossier;
+  EXPECT_EQ(NumeroErreur([&] { EcritFichier(dossier / "none/f", "x"); }), 75);
+  std::filesystem::create_directory(dossier / "d");
+  EXPECT_EQ(NumeroErreur([&] { EcritFichier(dossier / "d", "x"); }), 75);
+  EXPECT_TRUE(std::filesystem::is_directory(dossier / "d"));
+  Pose(dossier / "f", "old");
+  std::filesystem::create_directories(dossier / "f.nouveau/x");
+  EXPECT_EQ(NumeroErreur([&] { EcritFichier(dossier / "f", "new"); }), 75);
+  EXPECT_EQ(Contenu(dossier / "f"), "old");
+}
+
+TEST(FileWriting, AFullDiskLeavesTheOldFile) {
+  if (!std::filesystem::exists("/dev/full")) {
+    GTEST_SKIP() << "no device that is always full";
+  }
+  const DossierTemporaire dossier;
+  Pose(dossier / "f", "old");
+  std::filesystem::create_symlink("/dev/full", dossier / "f.nouveau");
+  EXPECT_EQ(NumeroErreur([&] { EcritFichier(dossier / "f", "new"); }), 75);
+  EXPECT_EQ(Contenu(dossier / "f"), "old");
+}
+
+TEST(TextEncoding, ValidUtf8IsTakenAsItIs) {
+  for (const char *texte : {"", "abc", "été", "12°", "€", "😀", "\xC2\x80", "\xED\x9F\xBF", "\xF4\x8F\xBF\xBF"}) {
+    EXPECT_EQ(EnUtf8(texte), texte);
+  }
+}
+
+TEST(TextEncoding, AByteOrderMarkGoes) {
+  EXPECT_EQ(EnUtf8("\xEF\xBB\xBF"
+                   "12"),
+            "12");
+}
+
+TEST(TextEncoding, AnythingElseIsReadAsWindows1252) {
+  EXPECT_EQ(EnUtf8("\xE9t\xE9"), "été");
+  EXPECT_EQ(EnUtf8("\x80"), "€");
+  EXPECT_EQ(EnUtf8("\x8C\x9C"), "Œœ");
+  EXPECT_EQ(EnUtf8("\xB0"), "°");
+  EXPECT_EQ(EnUtf8("\x81"), "\xC2\x81");
+}
+
+TEST(TextEncoding, MalformedSequencesAreNoUtf8) {
+  // A lone continuation, an overlong form, a surrogate, past the last code point, a sequence cut short.
+  EXPECT_EQ(EnUtf8("\xBF"), "¿");
+  EXPECT_EQ(EnUtf8("\xC0\xAF"), "À¯");
+  EXPECT_EQ(EnUtf8("\xE0\x80\x80"), "à€€");
+  EXPECT_EQ(EnUtf8("\xED\xA0\x80"), "í\u00A0€");
+  EXPECT_EQ(EnUtf8("\xF4\x90\x80\x80"), "ô\u0090€€");
+  EXPECT_EQ(EnUtf8("\xC3"), "Ã");
+  EXPECT_EQ(EnUtf8("\xFF"), "ÿ");
+}
+
+TEST(TextEncoding, EveryByteSurvivesTheRoundTrip) {
+  std::string octets;
+  for (int i = 0; i < 256; ++i) {
+    octets += static_cast<char>(i);
+  }
+  EXPECT_EQ(EnWindows1252(EnUtf8(octets)), octets);
+}
+
+TEST(TextEncoding, AnyNoiseBecomesValidUtf8) {
+  std::mt19937 alea(11);
+  for (int i = 0; i < 300; ++i) {
+    std::string octets;
+    for (int j = 0; j < i; ++j) {
+      octets += static_cast<char>(alea());
+    }
+    const std::string texte = EnUtf8(octets);
+    EXPECT_EQ(EnUtf8(texte), texte);
+  }
+}
+
+TEST(TextEncoding, ACharacterThatWindows1252LacksBecomesAQuestionMark) {
+  EXPECT_EQ(EnWindows1252("a😀b"), "a?b");
+  EXPECT_EQ(EnWindows1252("Ω"), "?");
+  EXPECT_EQ(EnWindows1252("\xFFz"), "?z");
+  EXPECT_EQ(EnWindows1252("€é°"), "\x80\xE9\xB0");
+}
+
+TEST(TextLines, EndAtCrLfLfAndCr) {
+  EXPECT_THAT(Lignes("a\r\nb\nc\rd"), ElementsAre("a", "b", "c", "d"));
+  EXPECT_THAT(Lignes("a\n\rb"), ElementsAre("a", "", "b"));
+}
+
+TEST(TextLines, TheLastLineNeedsNoEnd) {
+  EXPECT_THAT(Lignes("a\r\nb"), ElementsAre("a", "b"));
+  EXPECT_THAT(Lignes("a\r\nb\r\n"), ElementsAre("a", "b"));
+  EXPECT_THAT(Lignes("a\r\nb\r\n\r\n"), ElementsAre("a", "b", ""));
+}
+
+TEST(TextLines, AnEmptyTextHasNone) {
+  EXPECT_THAT(Lignes(""), IsEmpty());
+  EXPECT_THAT(Lignes("\n"), ElementsAre(""));
+}
+
+} // namespace
+} // namespace velmaris

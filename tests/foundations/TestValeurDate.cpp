@@ -1,0 +1,86 @@
+#include "foundations/ValeurDate.hpp"
+
+#include "tests/OutilsTests.hpp"
+
+#include <erfa.h>
+#include <gtest/gtest.h>
+
+#include <cmath>
+
+namespace velmaris {
+namespace {
+
+using essais::NumeroErreur;
+
+TEST(DateText, IsReadDayFirstAtZeroHours) {
+  const ValeurDate d = LitDate("3/4/2009");
+  EXPECT_EQ(d.jour, 3);
+  EXPECT_EQ(d.mois, 4);
+  EXPECT_EQ(d.annee, 2009);
+  EXPECT_EQ(d.heure + d.minute + d.seconde, 0);
+}
+
+TEST(DateText, DayAndMonthAreNeverSwapped) {
+  EXPECT_EQ(NumeroErreur([] { LitDate("3/13/2009"); }), 13);
+  EXPECT_EQ(NumeroErreur([] { LitDate("2009/3/13"); }), 13);
+}
+
+TEST(DateText, YearsUnderAHundredStandFor1930To2029) {
+  const int cas[][2] = {{0, 2000}, {9, 2009}, {29, 2029}, {30, 1930}, {99, 1999}, {100, 100}, {9999, 9999}};
+  for (const auto &c : cas) {
+    EXPECT_EQ(LitDate("1/1/" + std::to_string(c[0])).annee, c[1]);
+  }
+  EXPECT_EQ(LitDate("01/01/09").annee, 2009);
+}
+
+TEST(DateText, BlanksAroundAFieldAreAllowed) { EXPECT_EQ(LitDate(" 3 / 4 / 2009 ").mois, 4); }
+
+TEST(DateText, AnImpossibleDateIsATypeMismatch) {
+  for (const char *texte : {"31/02/2020", "29/2/2023",  "31/4/2020",
+                            "32/1/2020",  "0/1/2020",   "1/0/2020",
+                            "1/13/2020",  "1/1/10000",  "99999999999999999999/1/2000",
+                            "-1/1/2000",  "1.5/1/2000", "1,5/1/2000",
+                            "1/1",        "1",          "",
+                            "//",         "/1/2000",    "1//2000",
+                            "1/1/",       "a/b/c",      "1/1/2000 12:00",
+                            "1/1/2000/1", "1-1-2000",   "+1/1/2000",
+                            "1/é/2000"}) {
+    EXPECT_EQ(NumeroErreur([&] { LitDate(texte); }), 13) << texte;
+  }
+}
+
+TEST(DateText, TheTwentyNinthOfFebruaryFollowsTheGregorianRule) {
+  for (const auto &[annee, permis] :
+       {std::pair{2024, true}, {2023, false}, {2000, true}, {1900, false}, {1500, false}}) {
+    const std::string texte = "29/2/" + std::to_string(annee);
+    EXPECT_EQ(NumeroErreur([&] { LitDate(texte); }), permis ? 0 : 13) << texte;
+  }
+}
+
+TEST(WeekDay, FollowsTheJulianDayNumber) {
+  for (int i = 0; i < 1000; ++i) {
+    int annee = 0;
+    int mois = 0;
+    int jour = 0;
+    double fraction = 0;
+    const double jd = 2300000.5 + 617.0 * i;
+    ASSERT_EQ(eraJd2cal(jd, 0, &annee, &mois, &jour, &fraction), 0);
+    // The Julian day number at noon, plus one, modulo seven counts from Sunday.
+    const int attendu = static_cast<int>(std::fmod(jd + 0.5 + 1, 7.0));
+    EXPECT_EQ(JourSemaine({annee, mois, jour, 0, 0, 0}), attendu) << jour << '/' << mois << '/' << annee;
+  }
+}
+
+TEST(WeekDay, CountsFromSunday) {
+  EXPECT_EQ(JourSemaine({2000, 1, 1, 0, 0, 0}), 6);
+  EXPECT_EQ(JourSemaine({2024, 2, 29, 23, 0, 0}), 4);
+  EXPECT_EQ(JourSemaine({1970, 1, 4, 0, 0, 0}), 0);
+}
+
+TEST(DateText, ADateAndTimeIsWrittenTwoDigitsAFieldAndFourTheYear) {
+  EXPECT_EQ(TexteDateHeure({2009, 3, 5, 7, 8, 9}), "05/03/2009 07:08:09");
+  EXPECT_EQ(TexteDateHeure({987, 12, 31, 23, 59, 59}), "31/12/0987 23:59:59");
+}
+
+} // namespace
+} // namespace velmaris
