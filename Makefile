@@ -51,7 +51,7 @@ fuzz: deps
 	cmake --build --preset fuzz --target $(CIBLES_FUZZ)
 	for cible in $(CIBLES_FUZZ); do \
 	  mkdir -p build/fuzz/corpus/$$cible && \
-	  build/fuzz/bin/$$cible -max_total_time=$(DUREE) -print_final_stats=1 -artifact_prefix=build/fuzz/$$cible- \
+	  UBSAN_OPTIONS=halt_on_error=1:print_stacktrace=1 build/fuzz/bin/$$cible -max_total_time=$(DUREE) -print_final_stats=1 -artifact_prefix=build/fuzz/$$cible- \
 	    build/fuzz/corpus/$$cible tests/fuzz/corpus/$$cible || exit 1; \
 	done
 

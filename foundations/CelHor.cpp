@@ -39,14 +39,14 @@ double TempsSideralLocal(const ValeurDate &date, double longitude) {
   const double t = n / 36525;
   double s = ((280.46061837 + 360.98564736629 * n) + (0.000387933 * t) * t) - ((t * t) * t) / 38710000;
   s = s + longitude;
-  if (s > 0) {
-    while (s > 360) {
-      s = s - 360;
-    }
-  } else {
-    while (s < 0) {
-      s = s + 360;
-    }
+  // Whole turns go in one exact step, so that a longitude of any size ends; 360 itself stays.
+  if (s > 360) {
+    s = std::fmod(s, 360.0);
+    return s == 0 ? 360 : s;
+  }
+  if (s < 0) {
+    s = std::fmod(s, 360.0);
+    return s == 0 ? 0 : s + 360;
   }
   return s;
 }

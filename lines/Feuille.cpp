@@ -81,7 +81,8 @@ float LongueurTete(int zoom, float derniere) {
 void TraceFleche(Feuille &feuille, Surface &surface, const ValeursVisee &valeurs, Point depart) {
   const auto couleur = static_cast<Couleur>(feuille.CouleurAstre);
   const double L = surface.largeur / feuille.PasFleche;
-  const Point corps{L * std::cos(feuille.AngleDroite), L * std::sin(feuille.AngleDroite)};
+  const double direction = feuille.AngleDroite; // widened: sine and cosine are those of 64 bits
+  const Point corps{L * std::cos(direction), L * std::sin(direction)};
   const Point pointe{depart.x + corps.x, depart.y + corps.y};
   feuille.LongueurTete = LongueurTete(feuille.Zoom, feuille.LongueurTete);
   const auto tete = [&](double ecart) {

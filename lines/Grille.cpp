@@ -153,7 +153,7 @@ void TraceDegresLatitude(const Cadre &c) {
 }
 
 void TraceDegresLongitude(const Cadre &c) {
-  const double demiLargeur = c.surface.largeur / 2.0 / (60.0 * c.feuille.EchelleX);
+  const double demiLargeur = c.surface.largeur / 2.0 / (60.0 * std::fabs(c.feuille.EchelleX));
   const int nombre = static_cast<int>(std::min(std::ceil(demiLargeur), double{kMeridiensParCote}));
   for (int n = -nombre; n <= nombre; ++n) {
     const double degre = c.longitude.degres + n;

@@ -2,12 +2,14 @@
 
 #include "foundations/TexteNombre.hpp"
 
+#include <algorithm>
 #include <cmath>
 
 namespace velmaris {
 namespace {
 
 constexpr int kZoomSansTraits = 250; ///< miles from which on ticks would run together
+constexpr double kMillesMax = 32767; ///< no sight on the Earth is so far out; a file can hold any reading
 
 /// A segment across the direction t, centred at a point.
 void TraceTravers(Surface &surface, Point centre, double demiLongueur, double t, Couleur couleur) {
@@ -21,7 +23,7 @@ void TraceTravers(Surface &surface, Point centre, double demiLongueur, double t,
 int TraceMilles(Surface &surface, const ValeursVisee &valeurs, Point origine, float demiTrait, float echelle,
                 double t) {
   const int pas = valeurs.Intercept > 0 ? 1 : -1;
-  const double dernier = valeurs.Intercept > 0 ? Int(valeurs.Intercept) : Fix(valeurs.Intercept);
+  const double dernier = std::clamp(Fix(valeurs.Intercept), -kMillesMax, kMillesMax);
   int i = 0;
   for (int n = pas; pas > 0 ? n <= dernier : n >= dernier; n += pas) {
     const double distance = n * double{echelle};

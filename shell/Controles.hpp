@@ -84,6 +84,7 @@ struct Traits {
   Couleur couleur = kNoir;
   std::string_view image = {};
   std::string_view par = {}; ///< control whose caption names this one to a screen reader
+  int parIndice = -1;        ///< its place in its group
 };
 
 } // namespace velmaris

@@ -3,6 +3,8 @@
 namespace velmaris {
 namespace {
 
+constexpr double kLigneFigures = 225; ///< height of the scale bar's figures
+
 void Dimensionne(Surface &surface, const Place &place) {
   surface.largeur = place.largeur;
   surface.hauteur = place.hauteur;
@@ -32,7 +34,11 @@ void DisposeFenetre(Bureau &bureau, const Ecran &ecran) {
   Dimensionne(bureau.picHE, d.PicHE.place);
   const Place &surface = d.Image1.place;
   d.LabLat.place.haut = (surface.hauteur - d.LabLat.place.hauteur) / 2;
-  Deplace(d.LabLon, surface.largeur / 2 - d.LabLon.place.largeur / 2, surface.hauteur - d.LabLon.place.hauteur);
+  // Under the figures of the scale bar, or beside them where a low surface has no room under them.
+  const double pied = surface.hauteur - d.LabLon.place.hauteur;
+  const bool place = surface.hauteur / 1.08 + surface.largeur / 60 + kLigneFigures <= pied;
+  const double marge = surface.largeur - d.LabLon.place.largeur;
+  Deplace(d.LabLon, place ? marge / 2 : marge, pied);
   bureau.feuille.CentreX = static_cast<float>(surface.largeur / 2);
   bureau.feuille.CentreY = static_cast<float>(surface.hauteur / 2);
 }

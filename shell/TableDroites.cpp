@@ -28,7 +28,7 @@ constexpr LigneDonnees kDroites[] = {
     {RANG(Option1, 5), Genre::Option, "Frame10", {60, 2925, 3300, 270}, "Afficher au centre", "", {.aVenir = true, .groupe = 1}},
     {RANG(Option1, 6), Genre::Option, "Frame10", {60, 3210, 3300, 270}, "Retirer du graphe", "", {.aVenir = true, .groupe = 1}},
     {RANG(Option1, 1), Genre::Option, "Frame10", {60, 3495, 2580, 450}, "Transporter au point de la droite N°:", "", {.aVenir = true, .groupe = 1}},
-    {SEUL(Combo5), Genre::Liste, "Frame10", {2670, 3555, 690, 315}, "", "", {.aVenir = true, .par = "Option1"}},
+    {SEUL(Combo5), Genre::Liste, "Frame10", {2670, 3555, 690, 315}, "", "", {.aVenir = true, .par = "Option1", .parIndice = 1}},
     {RANG(Option1, 4), Genre::Option, "Frame10", {60, 3960, 3300, 270}, "Transporter au point d'Estime", "", {.aVenir = true, .groupe = 1}},
     // Module 4, "Estime": dead reckoning.
     {SEUL(Frame4), Genre::Cadre, "", {3030, 5370, 3420, 2685}, "", "", {.visible = false, .titre = true}},

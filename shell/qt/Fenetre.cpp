@@ -21,6 +21,7 @@
 #include <QToolButton>
 
 #include <cmath>
+#include <utility>
 
 namespace velmaris::qt {
 namespace {
@@ -30,7 +31,8 @@ const QColor kFondFenetre(238, 240, 243);
 
 /// The words that name a control to a screen reader: its own caption, that of its label, or its tool tip.
 QString NomLisible(Donnees &donnees, const LigneDonnees &ligne, const Controle &c) {
-  const Controle *label = ligne.traits.par.empty() ? nullptr : Cherche(donnees, ligne.traits.par);
+  const Controle *label =
+      ligne.traits.par.empty() ? nullptr : Cherche(donnees, ligne.traits.par, ligne.traits.parIndice);
   const std::string &texte = label != nullptr ? label->legende : !c.legende.empty() ? c.legende : c.infobulle;
   return QString::fromStdString(texte).simplified();
 }
@@ -156,37 +158,53 @@ void Fenetre::AccordeWidget(Lien &lien, bool tout) {
   if (lien.widget->focusPolicy() != Qt::NoFocus && lien.widget->accessibleName() != nom) {
     lien.widget->setAccessibleName(nom);
   }
-  if (auto *champ = qobject_cast<QLineEdit *>(lien.widget); champ != nullptr && c.toutSelectionne) {
-    // The press that brought the focus still sets the cursor; the selection comes after it.
-    QMetaObject::invokeMethod(champ, &QLineEdit::selectAll, Qt::QueuedConnection);
+  if (auto *champ = qobject_cast<QLineEdit *>(lien.widget);
+      champ != nullptr && c.toutSelectionne && champ->hasFocus()) {
+    champ->selectAll();
   }
   c.toutSelectionne = false;
   lien.vu = c;
 }
 
-void Fenetre::Accorde() {
-  if (accorde_) {
-    return;
-  }
-  accorde_ = true;
+void Fenetre::AccordeTout() {
   for (Lien &lien : liens_) {
     AccordeWidget(lien, premier_);
     if (auto *toile = dynamic_cast<Toile *>(lien.widget)) {
       toile->Accorde();
     }
-    if (bureau_.focus == lien.controle && lien.widget != nullptr) {
-      lien.widget->setFocus(Qt::OtherFocusReason);
-    }
   }
-  // The keyboard enters a group of options at its chosen one, or at each while none is chosen.
+  premier_ = false;
+}
+
+/// The keyboard enters a group of options at its chosen one, or at each while none is chosen.
+void Fenetre::AccordeGroupes() {
   for (const QButtonGroup *groupe : groupes_) {
     for (QAbstractButton *option : groupe->buttons()) {
       const bool entree = option->isChecked() || groupe->checkedButton() == nullptr;
       option->setFocusPolicy(entree ? Qt::StrongFocus : Qt::ClickFocus);
     }
   }
-  bureau_.focus = nullptr;
-  premier_ = false;
+}
+
+void Fenetre::Accorde() {
+  encore_ = true;
+  if (accorde_) {
+    return;
+  }
+  accorde_ = true;
+  // Moving the focus, or hiding what has it, is an event in its turn.
+  while (encore_) {
+    encore_ = false;
+    AccordeTout();
+    AccordeGroupes();
+    if (const Controle *voulu = std::exchange(bureau_.focus, nullptr)) {
+      for (const Lien &lien : liens_) {
+        if (lien.controle == voulu && lien.widget != nullptr) {
+          lien.widget->setFocus(Qt::OtherFocusReason);
+        }
+      }
+    }
+  }
   accorde_ = false;
   setWindowTitle(QString::fromStdString(bureau_.titre));
   if (bureau_.termine) {
@@ -213,6 +231,7 @@ bool Fenetre::Champ(QObject *objet, QEvent *event) {
   }
   Controle &c = **trouve;
   if (event->type() == QEvent::FocusIn) {
+    champPresse_ = raison == Qt::MouseFocusReason ? objet : nullptr;
     Joue([&] { EntreChamp(bureau_, c); });
   } else {
     Joue([&] { QuitteChamp(bureau_, c); });
@@ -225,6 +244,15 @@ bool Fenetre::eventFilter(QObject *objet, QEvent *event) {
   case QEvent::FocusIn:
   case QEvent::FocusOut:
     return Champ(objet, event);
+  case QEvent::MouseButtonRelease:
+    // The press that brought the focus has set the cursor: the whole text is selected once the button is up.
+    if (auto *champ = qobject_cast<QLineEdit *>(objet); champ != nullptr && objet == champPresse_) {
+      champPresse_ = nullptr;
+      if (!champ->hasSelectedText()) {
+        champ->selectAll();
+      }
+    }
+    return false;
   case QEvent::KeyPress: {
     const int touche = static_cast<QKeyEvent *>(event)->key();
     const auto *widget = qobject_cast<QWidget *>(objet);

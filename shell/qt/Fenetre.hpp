@@ -49,6 +49,8 @@ private:
   void BrancheOption(QWidget &widget, Controle &controle);
   bool Champ(QObject *objet, QEvent *event);
   void AccordeWidget(Lien &lien, bool tout);
+  void AccordeTout();
+  void AccordeGroupes();
   QWidget *Parent(std::string_view nom);
 
   Bureau &bureau_;
@@ -56,7 +58,9 @@ private:
   QHash<QObject *, Controle *> champs_;
   QHash<int, QButtonGroup *> groupes_;
   QTimer horloge_;
+  QObject *champPresse_ = nullptr; ///< field that the mouse brings the focus to, until its button is up
   bool accorde_ = false;
+  bool encore_ = false; ///< something changed while widgets were brought in line
   bool premier_ = true;
 };
 

@@ -6,6 +6,8 @@
 #include <QPushButton>
 #include <QWidget>
 
+#include <utility>
+
 namespace velmaris::qt {
 namespace {
 
@@ -57,14 +59,29 @@ bool MontreBoite(const Bureau &bureau, const Boite &boite, QWidget *parent) {
 
 } // namespace
 
-void BranchePorts(Bureau &bureau, QWidget *const &parent) {
-  bureau.ports.boite = [&bureau, &parent](const Boite &boite) { return MontreBoite(bureau, boite, parent); };
+Boites::Boites(Bureau &bureau) : bureau_(bureau) {
+  bureau.ports.boite = [this](const Boite &boite) { return Montre(boite); };
   bureau.ports.nomJour = [&bureau](const ValeurDate &date) {
     return Langue(bureau).dayName(JourSemaine(date) == 0 ? 7 : JourSemaine(date)).toStdString();
   };
   bureau.ports.nomMois = [&bureau](const ValeurDate &date) {
     return Langue(bureau).monthName(date.mois).toStdString();
   };
+}
+
+bool Boites::Montre(const Boite &boite) {
+  if (fenetre_ == nullptr && !boite.question && boite.icone != Icone::Erreur) {
+    attente_.push_back(boite);
+    return true;
+  }
+  return MontreBoite(bureau_, boite, fenetre_);
+}
+
+void Boites::Ouvre(QWidget &fenetre) {
+  fenetre_ = &fenetre;
+  for (const Boite &boite : std::exchange(attente_, {})) {
+    MontreBoite(bureau_, boite, fenetre_);
+  }
 }
 
 } // namespace velmaris::qt

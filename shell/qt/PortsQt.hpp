@@ -2,6 +2,8 @@
 
 #include "shell/Bureau.hpp"
 
+#include <vector>
+
 class QWidget;
 
 namespace velmaris::qt {
@@ -9,7 +11,20 @@ namespace velmaris::qt {
 /// Answers what the core asks of the outside with the toolkit's boxes and the system's names of days and months.
 /// With a system that names no language the program's own is taken.
 /// @param bureau  its ports are set
-/// @param parent  the window that boxes lie over; may be null before it is there
-void BranchePorts(Bureau &bureau, QWidget *const &parent);
+/// Boxes that only tell something wait until the window is there, so that the program starts at once.
+class Boites {
+public:
+  /// @param bureau  its ports are set; it must outlive this
+  explicit Boites(Bureau &bureau);
+  /// The window is there: boxes lie over it, and those that have waited are shown.
+  void Ouvre(QWidget &fenetre);
+
+private:
+  bool Montre(const Boite &boite);
+
+  Bureau &bureau_;
+  QWidget *fenetre_ = nullptr;
+  std::vector<Boite> attente_;
+};
 
 } // namespace velmaris::qt

@@ -5,6 +5,7 @@
 
 #include <QApplication>
 #include <QScreen>
+#include <QTimer>
 
 #include <exception>
 #include <memory>
@@ -26,8 +27,7 @@ int main(int argc, char **argv) {
   velmaris::qt::PoseApparence(application);
 
   velmaris::Bureau bureau;
-  QWidget *parent = nullptr;
-  velmaris::qt::BranchePorts(bureau, parent);
+  velmaris::qt::Boites boites(bureau);
   bureau.dossiers = velmaris::TrouveDossiers(QApplication::applicationDirPath().toStdString());
   try {
     velmaris::Donnees_Charge(bureau, EcranPrincipal());
@@ -36,7 +36,7 @@ int main(int argc, char **argv) {
     return 1;
   }
   velmaris::qt::Fenetre fenetre(bureau);
-  parent = &fenetre;
   fenetre.show();
+  QTimer::singleShot(0, &fenetre, [&] { boites.Ouvre(fenetre); });
   return QApplication::exec();
 }

@@ -128,6 +128,31 @@ TEST(SiderealTime, Exactly360Stays360AndExactlyZeroStaysZero) {
   EXPECT_EQ(TempsSideralLocal({2000, 1, 1, 12, 0, 0}, versTour), 360.0);
 }
 
+TEST(SiderealTime, ManyTurnsAreTakenOffAsIfOneByOne) {
+  const double s0 = TempsSideralLocal({2000, 1, 1, 12, 0, 0}, 0);
+  std::mt19937 alea(12);
+  std::uniform_real_distribution<double> longitudes(-1E5, 1E5);
+  for (int i = 0; i < 500; ++i) {
+    const double longitude = i < 20 ? (i - 10) * 360.0 - s0 : longitudes(alea);
+    double attendu = s0 + longitude;
+    while (attendu > 360) {
+      attendu -= 360;
+    }
+    while (attendu < 0) {
+      attendu += 360;
+    }
+    EXPECT_EQ(TempsSideralLocal({2000, 1, 1, 12, 0, 0}, longitude), attendu) << longitude;
+  }
+}
+
+TEST(SiderealTime, ALongitudeOfAnySizeEnds) {
+  for (const double longitude : {1E17, 1E30, 3.4E38, -1E17, -1E30, -3.4E38}) {
+    const double s = TempsSideralLocal({2024, 6, 1, 12, 0, 0}, longitude);
+    EXPECT_GE(s, 0.0);
+    EXPECT_LE(s, 360.0);
+  }
+}
+
 TEST(SiderealTime, TheFirstOfMarchDoesNotShiftTheYear) {
   constexpr double kParJour = 360.98564736629;
   EXPECT_NEAR(std::remainder(TempsSideralLocal({2023, 3, 1, 0, 0, 0}, 0) -

@@ -54,7 +54,7 @@ inline Planche PlancheQuadrillee(const Observation &observation, int zoom) {
   return p;
 }
 
-inline void Trace(Planche &p) { TraceDroites(p.feuille, p.surface, p.observation, p.valeurs); }
+inline void NouvelleFeuille(Planche &p) { TraceDroites(p.feuille, p.surface, p.observation, p.valeurs); }
 
 /// Whether two points are one to a thousandth of a surface unit, the noise of 32-bit scales being below.
 inline bool Pres(Point a, Point b, double tolerance = 1E-3) {

@@ -25,7 +25,8 @@ struct Barre {
 };
 
 Barre Tracee(int zoom) {
-  Barre b{PlancheCourante(zoom)};
+  Barre b;
+  b.planche = PlancheCourante(zoom);
   b.planche.feuille.EchelleY = static_cast<float>(kHauteur / zoom);
   b.mille = b.planche.feuille.EchelleY;
   TraceEchelle(b.planche.feuille, b.planche.surface);

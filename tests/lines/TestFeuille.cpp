@@ -18,7 +18,7 @@ TEST(NewSheet, AnInterceptOfZeroLeavesEverythingAsItIs) {
   Planche p = PlancheCourante();
   Ecrit(p.surface, "before");
   p.valeurs.Intercept = 0;
-  Trace(p);
+  NouvelleFeuille(p);
   EXPECT_EQ(p.surface.traces.size(), 1U);
   EXPECT_EQ(p.surface.effacements, 0U);
   EXPECT_EQ(p.feuille.OrigineFeuille, kSansFeuille);
@@ -30,7 +30,7 @@ TEST(NewSheet, AnInterceptOfZeroLeavesEverythingAsItIs) {
 TEST(NewSheet, ClearsTheSurfaceOnce) {
   Planche p = PlancheCourante();
   Ecrit(p.surface, "before");
-  Trace(p);
+  NouvelleFeuille(p);
   EXPECT_EQ(p.surface.effacements, 1U);
   for (const TexteTrace &t : Textes(p.surface)) {
     EXPECT_NE(t.texte, "before");
@@ -40,7 +40,7 @@ TEST(NewSheet, ClearsTheSurfaceOnce) {
 TEST(NewSheet, ItsCentreIsTheEstimatedPositionReadFromTheFields) {
   Planche p = PlancheCourante();
   p.valeurs.LonEstimee = 99;
-  Trace(p);
+  NouvelleFeuille(p);
   EXPECT_EQ(p.feuille.OrigineFeuille, (Origine{45.5F, 5.25F}));
   EXPECT_EQ(p.valeurs.LonEstimee, 5.25F);
   EXPECT_EQ(p.feuille.CentreX, kCentreX);
@@ -52,7 +52,7 @@ TEST(NewSheet, AMileIsTheHeightOverTheZoomThroughTheIntercept) {
   for (const float intercept : {12.5F, -0.37F, 0.01F, -80.25F}) {
     Planche p = PlancheCourante(70);
     p.valeurs.Intercept = intercept;
-    Trace(p);
+    NouvelleFeuille(p);
     const auto longueur = static_cast<float>(kHauteur / 70 * double{intercept});
     EXPECT_EQ(p.feuille.LongueurIntercept, longueur);
     EXPECT_EQ(p.feuille.EchelleY, static_cast<float>(double{longueur} / double{intercept}));
@@ -66,7 +66,7 @@ TEST(NewSheet, AMinuteOfLongitudeShrinksWithTheCosineOfTheLatitude) {
       Planche p = PlancheCourante();
       p.observation = Position(latitude, 0, sud, 5, 15, false);
       LitEstime(p.observation, p.valeurs);
-      Trace(p);
+      NouvelleFeuille(p);
       const double rapport = std::cos(latitude * std::atan(1.0) / 45);
       EXPECT_NEAR(p.feuille.EchelleX / p.feuille.EchelleY, rapport, 1E-7) << latitude;
       EXPECT_EQ(p.feuille.EchelleX, static_cast<float>(p.feuille.EchelleY * std::cos(latitude * 0.017453292)));
@@ -76,14 +76,14 @@ TEST(NewSheet, AMinuteOfLongitudeShrinksWithTheCosineOfTheLatitude) {
 
 TEST(NewSheet, AtThePoleTheMeridiansCloseUp) {
   Planche p = PlancheQuadrillee(Position(90, 0, false, 5, 15, false), 60);
-  Trace(p);
+  NouvelleFeuille(p);
   EXPECT_NEAR(p.feuille.EchelleX, 0.0, 1E-4);
   EXPECT_GT(Segments(p.surface).size(), 161U + 121U);
 }
 
 TEST(NewSheet, EastIsRightAndNorthIsUp) {
   Planche p = PlancheCourante();
-  Trace(p);
+  NouvelleFeuille(p);
   const double mille = p.feuille.EchelleY;
   const double minute = p.feuille.EchelleX;
   EXPECT_TRUE(Pres(PlaceSurFeuille(p.feuille, 45.5 + 10 / 60.0, 5.25), {kCentreX, kCentreY - 10 * mille}));
@@ -92,12 +92,12 @@ TEST(NewSheet, EastIsRightAndNorthIsUp) {
 
 TEST(NewSheet, ItsCaptionsNameTheSides) {
   Planche p = PlancheCourante();
-  Trace(p);
+  NouvelleFeuille(p);
   EXPECT_EQ(p.feuille.LabLon, "L O N G I T U D E   O U E S T");
   EXPECT_EQ(p.feuille.LabLat, "L\nA\nT\nI\nT\nU\nD\nE\n \nN\nO\nR\nD");
   p.observation.est = true;
   p.observation.sud = true;
-  Trace(p);
+  NouvelleFeuille(p);
   EXPECT_EQ(p.feuille.LabLon, "L O N G I T U D E   E S T");
   EXPECT_EQ(p.feuille.LabLat, "L\nA\nT\nI\nT\nU\nD\nE\n \nS\nU\nD");
 }
@@ -119,7 +119,7 @@ void VerifieCroix(const std::vector<Segment> &segments, std::size_t debut, doubl
 TEST(NewSheet, TheCentreHasACircleAndFourDashedStrokes) {
   Planche p = PlancheCourante(150);
   p.feuille.Grille = 1;
-  Trace(p);
+  NouvelleFeuille(p);
   ASSERT_FALSE(p.surface.traces.empty());
   const auto *cercle = std::get_if<CercleTrace>(&p.surface.traces.front());
   ASSERT_NE(cercle, nullptr);
@@ -131,7 +131,7 @@ TEST(NewSheet, TheCentreHasACircleAndFourDashedStrokes) {
 
 TEST(PositionRose, BearsThePositionItsCircleAndThirteenPoints) {
   Planche p = PlancheCourante();
-  Trace(p);
+  NouvelleFeuille(p);
   const auto textes = Textes(p.surface);
   ASSERT_GE(textes.size(), 2U);
   EXPECT_EQ(textes[0].texte, "05° 15' W");
@@ -158,7 +158,7 @@ TEST(PositionRose, WritesTheFieldsAsTheyStandAndTheirSides) {
   p.observation.latitudeMinutes = "";
   p.observation.est = true;
   p.observation.sud = true;
-  Trace(p);
+  NouvelleFeuille(p);
   EXPECT_EQ(Textes(p.surface)[0].texte, "005° 15' E");
   EXPECT_EQ(Textes(p.surface)[1].texte, "45° ' S");
 }
@@ -173,7 +173,7 @@ TEST(PositionRose, IsDrawnWithoutTheGridOrUnderAHundredMiles) {
                                            {0, 20, true}}) {
     Planche p = PlancheCourante(zoom);
     p.feuille.Grille = static_cast<std::int16_t>(grille);
-    Trace(p);
+    NouvelleFeuille(p);
     EXPECT_EQ(Cercles(p.surface).size(), rose ? 15U : 1U) << grille << ' ' << zoom;
   }
 }
@@ -182,14 +182,14 @@ TEST(NewSheet, TheGridIsDrawnOnlyWhenItsSwitchIsZero) {
   for (const int grille : {0, 1}) {
     Planche p = PlancheCourante();
     p.feuille.Grille = static_cast<std::int16_t>(grille);
-    Trace(p);
+    NouvelleFeuille(p);
     EXPECT_EQ(EnCouleur(p.surface, Rvb(150, 150, 150)).empty(), grille == 1);
   }
 }
 
 TEST(NewSheet, ItsLineIsYellowThroughTheFootOfTheIntercept) {
   Planche p = PlancheCourante();
-  Trace(p);
+  NouvelleFeuille(p);
   const auto jaunes = EnCouleur(p.surface, 0x00FFFF);
   ASSERT_EQ(jaunes.size(), 1U);
   // Towards 135 degrees: right and down; the line runs across, a third of the height to each side.
@@ -203,7 +203,7 @@ TEST(NewSheet, ItsLineIsYellowThroughTheFootOfTheIntercept) {
 
 TEST(NewSheet, TheScaleBarStandsBetweenTheLineAndTheArrow) {
   Planche p = PlancheCourante();
-  Trace(p);
+  NouvelleFeuille(p);
   const auto textes = Textes(p.surface);
   std::size_t intercept = 0;
   std::size_t barre = 0;
@@ -221,7 +221,7 @@ TEST(NewSheet, TheScaleBarStandsBetweenTheLineAndTheArrow) {
 
 TEST(NewSheet, LeavesTheArrowsDirectionAndAThinPen) {
   Planche p = PlancheCourante();
-  Trace(p);
+  NouvelleFeuille(p);
   EXPECT_EQ(p.feuille.AngleDroite, static_cast<float>(45.0 * kPi / 180.0));
   EXPECT_EQ(p.surface.epaisseur, 1);
   EXPECT_EQ(p.surface.style, Style::Plein);
@@ -229,7 +229,7 @@ TEST(NewSheet, LeavesTheArrowsDirectionAndAThinPen) {
 
 TEST(NewSheet, AZoomOfZeroIsPassedOver) {
   Planche p = PlancheCourante(0);
-  Trace(p);
+  NouvelleFeuille(p);
   EXPECT_EQ(p.feuille.OrigineFeuille, (Origine{45.5F, 5.25F}));
   EXPECT_EQ(p.feuille.EchelleY, 0.0F);
 }
@@ -243,7 +243,7 @@ TEST(BodyColour, SunBlueMoonGreyPlanetsMagentaStarsGreen) {
 
 TEST(AddedLine, StandsAtItsOwnPositionOnTheScalesOfTheFirst) {
   Planche p = PlancheCourante();
-  Trace(p);
+  NouvelleFeuille(p);
   const float echelleX = p.feuille.EchelleX;
   const float echelleY = p.feuille.EchelleY;
   p.surface.traces.clear();
@@ -268,7 +268,7 @@ TEST(AddedLine, StandsAtItsOwnPositionOnTheScalesOfTheFirst) {
 
 TEST(AddedLine, IsRedWithItsTicksAndFigureLast) {
   Planche p = PlancheCourante();
-  Trace(p);
+  NouvelleFeuille(p);
   p.surface.traces.clear();
   p.valeurs.Azimut = 200;
   p.valeurs.Intercept = -3.5F;
@@ -288,7 +288,7 @@ TEST(AddedLine, IsRedWithItsTicksAndFigureLast) {
 
 TEST(AddedLine, AnInterceptOfZeroStillDrawsItsArrow) {
   Planche p = PlancheCourante();
-  Trace(p);
+  NouvelleFeuille(p);
   p.surface.traces.clear();
   p.valeurs.Intercept = 0;
   AjouDroites(p.feuille, p.surface, p.observation, p.valeurs);
@@ -300,7 +300,7 @@ TEST(AddedLine, AnInterceptOfZeroStillDrawsItsArrow) {
 TEST(AddedLine, DoesNotClearAndDrawsNoGridCrossOrBar) {
   Planche p = PlancheCourante();
   p.feuille.Grille = 0;
-  Trace(p);
+  NouvelleFeuille(p);
   p.surface.traces.clear();
   AjouDroites(p.feuille, p.surface, p.observation, p.valeurs);
   EXPECT_EQ(p.surface.effacements, 1U);
@@ -311,7 +311,7 @@ TEST(AddedLine, DoesNotClearAndDrawsNoGridCrossOrBar) {
 TEST(AddedLine, FromTwoHundredAndFiftyMilesOnHasNoTicks) {
   for (const auto &[zoom, traits] : {std::pair{249, 12U}, {250, 0U}, {1000, 0U}}) {
     Planche p = PlancheCourante(zoom);
-    Trace(p);
+    NouvelleFeuille(p);
     p.surface.traces.clear();
     AjouDroites(p.feuille, p.surface, p.observation, p.valeurs);
     EXPECT_EQ(EnCouleur(p.surface, kMagenta).size(), traits) << zoom;

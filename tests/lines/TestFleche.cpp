@@ -28,7 +28,7 @@ TEST(AzimuthArrow, PointsWhereTheBodyBears) {
   for (const auto &c : cas) {
     Planche p = PlancheCourante();
     p.valeurs.Azimut = c.azimut;
-    Trace(p);
+    NouvelleFeuille(p);
     const auto fleche = Fleche(p);
     const double longueur = kLargeur / (60 / 100.0 + 5.0);
     const Point centre{kLargeur / 2, kHauteur / 2};
@@ -40,7 +40,7 @@ TEST(AzimuthArrow, PointsWhereTheBodyBears) {
 TEST(AzimuthArrow, HasATailAsLongAsItsBody) {
   Planche p = PlancheCourante();
   p.valeurs.Azimut = 31;
-  Trace(p);
+  NouvelleFeuille(p);
   const auto fleche = Fleche(p);
   EXPECT_EQ(fleche[3].debut, fleche[0].debut);
   EXPECT_TRUE(
@@ -50,7 +50,7 @@ TEST(AzimuthArrow, HasATailAsLongAsItsBody) {
 TEST(AzimuthArrow, ItsLengthFollowsTheZoom) {
   for (const int zoom : {10, 60, 100, 500, 3000}) {
     Planche p = PlancheCourante(zoom);
-    Trace(p);
+    NouvelleFeuille(p);
     const auto pas = static_cast<float>(zoom / 100.0 + 5.0);
     EXPECT_EQ(p.feuille.PasFleche, pas);
     const auto corps = Fleche(p)[0];
@@ -66,7 +66,7 @@ TEST(AzimuthArrow, TheHeadsLengthFallsInBandsWithBothEndsInTheFirst) {
              {700, -800}, {701, -500}, {2000, -500}, {2001, -300}, {32000, -300}};
   for (const auto &c : cas) {
     Planche p = PlancheCourante(c.zoom);
-    Trace(p);
+    NouvelleFeuille(p);
     EXPECT_EQ(p.feuille.LongueurTete, c.tete) << c.zoom;
     const auto fleche = Fleche(p);
     for (const Segment &s : {fleche[1], fleche[2]}) {
@@ -78,7 +78,7 @@ TEST(AzimuthArrow, TheHeadsLengthFallsInBandsWithBothEndsInTheFirst) {
 TEST(AzimuthArrow, ANegativeZoomKeepsTheLastHead) {
   Planche p = PlancheCourante(-5);
   p.feuille.LongueurTete = -123;
-  Trace(p);
+  NouvelleFeuille(p);
   EXPECT_EQ(p.feuille.LongueurTete, -123.0F);
 }
 
@@ -86,7 +86,7 @@ TEST(AzimuthArrow, TheHeadOpensFiveDegreesToEachSideBackFromTheTip) {
   for (const float azimut : {0.0F, 33.25F, 135.0F, 271.0F, 359.5F}) {
     Planche p = PlancheCourante();
     p.valeurs.Azimut = azimut;
-    Trace(p);
+    NouvelleFeuille(p);
     const auto fleche = Fleche(p);
     const Point pointe = fleche[0].fin;
     const auto branche = [&](double ecart) {
@@ -108,7 +108,7 @@ TEST(AzimuthArrow, ItsFigureStandsAtTheTip) {
   for (const auto &c : cas) {
     Planche p = PlancheCourante();
     p.valeurs.Azimut = c.azimut;
-    Trace(p);
+    NouvelleFeuille(p);
     EXPECT_EQ(Textes(p.surface).back().texte, c.texte);
     EXPECT_EQ(Textes(p.surface).back().position, Fleche(p)[0].fin);
   }
@@ -118,7 +118,7 @@ TEST(AzimuthArrow, IsTwoWideInTheBodysColour) {
   for (const Corps corps : {Corps::Soleil, Corps::Lune, Corps::Etoiles}) {
     Planche p = PlancheCourante();
     p.observation.corps = corps;
-    Trace(p);
+    NouvelleFeuille(p);
     EXPECT_EQ(p.feuille.CouleurAstre, static_cast<float>(CouleurDroite(corps)));
     for (const Segment &s : Fleche(p)) {
       EXPECT_EQ(s.plume, (Plume{CouleurDroite(corps), 2, Style::Plein}));
@@ -127,7 +127,7 @@ TEST(AzimuthArrow, IsTwoWideInTheBodysColour) {
   // A planet shares its magenta with the ticks, which are one wide.
   Planche p = PlancheCourante();
   p.observation.corps = Corps::Planetes;
-  Trace(p);
+  NouvelleFeuille(p);
   const auto magentas = EnCouleur(p.surface, kMagenta);
   EXPECT_EQ(magentas.size(), 12U + 4U);
   EXPECT_EQ(std::count_if(magentas.begin(), magentas.end(), [](const Segment &s) { return s.plume.largeur == 2; }), 4);

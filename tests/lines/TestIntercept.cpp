@@ -16,7 +16,7 @@ constexpr double kY = 4000;
 constexpr Couleur kVert = 32768;
 
 /// A line drawn from (kX, kY), its direction, scale and length set as a sheet sets them.
-struct Droite {
+struct LigneTracee {
   Planche planche;
   std::int16_t drapeau = 7;
   double t = 0, G = 0;
@@ -29,8 +29,9 @@ struct Droite {
   TexteTrace Figure() const { return Textes(planche.surface).back(); }
 };
 
-Droite Tracee(float azimut, float intercept, int zoom = 60, bool transport = false) {
-  Droite d{PlancheCourante(zoom)};
+LigneTracee Tracee(float azimut, float intercept, int zoom = 60, bool transport = false) {
+  LigneTracee d;
+  d.planche = PlancheCourante(zoom);
   Feuille &f = d.planche.feuille;
   d.planche.valeurs.Azimut = azimut;
   d.planche.valeurs.Intercept = intercept;
@@ -59,7 +60,7 @@ class FourCases : public testing::TestWithParam<CasDroite> {};
 
 TEST_P(FourCases, TheLineStandsAcrossTheFootOfTheIntercept) {
   const CasDroite &c = GetParam();
-  const Droite d = Tracee(c.azimut, c.intercept);
+  const LigneTracee d = Tracee(c.azimut, c.intercept);
   ASSERT_EQ(d.Lignes().size(), 1U);
   const Point pied = d.Sur(d.G);
   EXPECT_TRUE(Pres(d.Lignes()[0].debut, d.Cote(pied, kHauteur / 3)));
@@ -68,7 +69,7 @@ TEST_P(FourCases, TheLineStandsAcrossTheFootOfTheIntercept) {
 
 TEST_P(FourCases, EveryWholeMileHasATick) {
   const CasDroite &c = GetParam();
-  const Droite d = Tracee(c.azimut, c.intercept);
+  const LigneTracee d = Tracee(c.azimut, c.intercept);
   const auto traits = d.Traits();
   ASSERT_EQ(traits.size(), static_cast<std::size_t>(c.traits));
   for (std::size_t n = 0; n < traits.size(); ++n) {
@@ -80,7 +81,7 @@ TEST_P(FourCases, EveryWholeMileHasATick) {
 
 TEST_P(FourCases, TheFigureStandsByTheLineOrOneTickPastTheLast) {
   const CasDroite &c = GetParam();
-  const Droite d = Tracee(c.azimut, c.intercept);
+  const LigneTracee d = Tracee(c.azimut, c.intercept);
   const Point pied = d.Sur(c.compteur == kAuPied ? d.G : c.compteur * kHauteur / 60);
   EXPECT_TRUE(Pres(d.Figure().position, d.Cote(pied, kHauteur / 10)));
   EXPECT_EQ(d.Figure().texte, c.figure);
@@ -90,7 +91,7 @@ TEST_P(FourCases, TheFigureStandsByTheLineOrOneTickPastTheLast) {
 TEST_P(FourCases, WithoutTicksTheFigureStandsByTheLineOrByThePoint) {
   const CasDroite &c = GetParam();
   for (const auto &[zoom, transport] : {std::pair{250, false}, {60, true}}) {
-    const Droite d = Tracee(c.azimut, c.intercept, zoom, transport);
+    const LigneTracee d = Tracee(c.azimut, c.intercept, zoom, transport);
     EXPECT_TRUE(d.Traits().empty());
     EXPECT_EQ(d.Lignes().size(), 1U);
     const Point pied = d.Sur(c.compteur == kAuPied ? d.G : 0);
@@ -123,14 +124,14 @@ TEST(LineOfPosition, TheFlagSaysWhetherTheZoomAllowsTicks) {
 }
 
 TEST(LineOfPosition, AnAzimuthOfExactly180PrintsItsFigureWhereThePositionStands) {
-  const Droite d = Tracee(180, 3.27F);
+  const LigneTracee d = Tracee(180, 3.27F);
   EXPECT_TRUE(Segments(d.planche.surface).empty());
   EXPECT_EQ(d.Figure().texte, "3.27 '");
   EXPECT_EQ(d.Figure().position, (Point{123, 456}));
 }
 
 TEST(LineOfPosition, AnInterceptOfZeroPrintsItsFigureWhereThePositionStands) {
-  const Droite d = Tracee(60, 0);
+  const LigneTracee d = Tracee(60, 0);
   EXPECT_TRUE(Segments(d.planche.surface).empty());
   EXPECT_EQ(d.Figure().texte, ".0 '");
   EXPECT_EQ(d.Figure().position, (Point{123, 456}));
@@ -138,16 +139,16 @@ TEST(LineOfPosition, AnInterceptOfZeroPrintsItsFigureWhereThePositionStands) {
 
 TEST(LineOfPosition, TowardsTheBodyLiesTheFootOfAPositiveIntercept) {
   // Due east, two miles: 300 units to the right; away from it: as much to the left.
-  const Droite vers = Tracee(90, 2);
+  const LigneTracee vers = Tracee(90, 2);
   EXPECT_TRUE(Pres(vers.Lignes()[0].debut, {kX + 300, kY + kHauteur / 3}));
-  const Droite loin = Tracee(90, -2);
+  const LigneTracee loin = Tracee(90, -2);
   EXPECT_TRUE(Pres(loin.Lignes()[0].debut, {kX - 300, kY + kHauteur / 3}));
 }
 
 TEST(LineOfPosition, AnInterceptOutOfAllMeasureEndsAllTheSame) {
   // A reading of any size can stand in a file; a sight on the Earth is never over 16200 miles out.
   for (const float intercept : {6E10F, -6E10F, 1E38F, -1E38F}) {
-    const Droite d = Tracee(60, intercept);
+    const LigneTracee d = Tracee(60, intercept);
     EXPECT_EQ(d.Lignes().size(), 1U);
     EXPECT_LE(d.Traits().size(), 32767U);
   }

@@ -1,0 +1,44 @@
+#!/usr/bin/env bash
+# The function keys, the modules and the mouse in the real window, and what bad files do to a start.
+# Usage: touches.sh PROGRAMME IMAGES
+PROGRAMME=$1 IMAGES=$2
+. "$(dirname "$0")/outils.sh"
+openbox 2>/dev/null &
+sleep 0.5
+
+demarre
+visee_bretagne
+touche space
+touche F10           # below the slider's least value: nothing
+touche F9; image touches-zoom-400
+touche F3            # the present time, and the reading takes the focus
+tape 66; touche Tab
+image touches-lecture-66
+clic 1000 1200; sleep 0.1 # take the module by its title
+xdotool mousemove --window "$FENETRE" 500 300 mousedown 1; sleep 0.1
+xdotool mousemove --window "$FENETRE" 520 320; sleep 0.1
+xdotool mousemove --window "$FENETRE" 540 140; sleep 0.2
+xdotool mouseup 1
+image touches-module-deplace
+quitte touches-quitter
+
+# A damaged store: told in a box, set aside, and the program works on.
+echo "ceci n'est pas une base" >"$MAGASIN"
+"$PROGRAMME" & PID=$!
+sleep 1.5; image touches-magasin-abime; touche Return; sleep 0.8
+FENETRE=$(xdotool search --onlyvisible --pid "$PID" | head -n 1)
+xdotool windowfocus --sync "$FENETRE"; sleep 0.3
+quitte touches-apres-abime
+ls "$XDG_DATA_HOME"/velmaris/valeurs.sqlite.abime-* >/dev/null || echoue "le magasin abîmé n'est pas mis de côté"
+attendu "un magasin neuf est en place" "$(reglage Lon)" Ouest
+
+# Without data files beside it: one box, and the built-in French.
+SEUL=$(mktemp -d); cp "$PROGRAMME" "$SEUL/velmaris"
+PROGRAMME="$SEUL/velmaris"; "$PROGRAMME" & PID=$!
+sleep 1.5; image touches-sans-langue; touche Return; sleep 0.8
+FENETRE=$(xdotool search --onlyvisible --pid "$PID" | head -n 1)
+xdotool windowfocus --sync "$FENETRE"; sleep 0.3
+image touches-francais-interne
+quitte touches-fin
+rm -rf "$SEUL"
+echo "touches, modules et mauvais fichiers : bien"
