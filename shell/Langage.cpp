@@ -4,9 +4,10 @@
 #include "foundations/Fichiers.hpp"
 #include "foundations/TexteNombre.hpp"
 #include "shell/Bureau.hpp"
+#include "shell/Messages.hpp"
 
 #include <optional>
-#include <vector>
+#include <span>
 
 namespace velmaris {
 namespace {
@@ -14,18 +15,6 @@ namespace {
 constexpr std::string_view kFenetre = "Données";
 
 enum Champ : std::size_t { kNom = 0, kLegende = 1, kTexte = 2, kInfobulle = 3, kIndice = 4 };
-
-std::vector<std::string_view> Decoupe(std::string_view ligne) {
-  std::vector<std::string_view> champs;
-  while (true) {
-    const std::size_t fin = ligne.find('\\');
-    champs.push_back(ligne.substr(0, fin));
-    if (fin == std::string_view::npos) {
-      return champs;
-    }
-    ligne.remove_prefix(fin + 1);
-  }
-}
 
 bool AUneLegende(Genre genre) {
   switch (genre) {
@@ -45,16 +34,7 @@ bool AUnTexte(Genre genre) { return genre == Genre::Champ || genre == Genre::Lis
 
 bool AUneInfobulle(Genre genre) { return genre != Genre::Texte; }
 
-void AppliqueMessage(const std::vector<std::string_view> &champs, TexteMsg &messages) {
-  Passe([&] {
-    const int numero = champs.size() > 2 ? Entier16(Val(champs[2])) : -1;
-    if (numero >= 0 && numero < static_cast<int>(messages.size())) {
-      messages[static_cast<std::size_t>(numero)] = champs[1];
-    }
-  });
-}
-
-void AppliqueControle(const std::vector<std::string_view> &champs, Donnees &donnees) {
+void AppliqueControle(std::span<const std::string_view> champs, Donnees &donnees) {
   const std::string_view indice = champs.size() > kIndice ? SansBlancs(champs[kIndice]) : std::string_view();
   PourChaque(donnees, [&](const LigneDonnees &ligne, Controle &c) {
     if (ligne.nom != champs[kNom] || (!indice.empty() && ligne.indice != Val(indice))) {
@@ -75,23 +55,11 @@ void AppliqueControle(const std::vector<std::string_view> &champs, Donnees &donn
 } // namespace
 
 void AppliqueLangue(std::string_view texte, std::string_view fenetre, Donnees &donnees, TexteMsg &messages) {
-  constexpr std::string_view kEntete = "Form=";
-  const std::string utf8 = EnUtf8(texte);
-  std::string_view section;
-  for (const std::string_view ligne : Lignes(utf8)) {
-    if (ligne.starts_with(kEntete)) {
-      section = ligne.substr(kEntete.size());
-    }
-    if (section != fenetre) {
-      continue;
-    }
-    const auto champs = Decoupe(ligne);
-    if (ligne.starts_with("MSG")) {
-      AppliqueMessage(champs, messages);
-    } else {
+  PourChaqueLigneDe(texte, fenetre, [&](auto champs) {
+    if (!LitMessage(champs, messages)) {
       AppliqueControle(champs, donnees);
     }
-  }
+  });
 }
 
 void ChargeLangue(Bureau &bureau) {

@@ -4,43 +4,57 @@
 #include "foundations/Fichiers.hpp"
 #include "foundations/TexteNombre.hpp"
 
+#include <vector>
+
 namespace velmaris {
 namespace {
 
-constexpr std::string_view kSection = "Form=";
+constexpr std::string_view kEntete = "Form=";
 constexpr std::string_view kFenetrePrincipale = "Données";
 constexpr std::string_view kMotMessage = "MSG";
 
-/// One line of the section: its text goes to the entry of its number.
-void LitMessage(std::string_view ligne, TexteMsg &messages) {
-  const std::size_t texte = ligne.find('\\');
-  const std::size_t numero = texte == std::string_view::npos ? texte : ligne.find('\\', texte + 1);
-  if (numero == std::string_view::npos) {
-    return;
+void Decoupe(std::string_view ligne, std::vector<std::string_view> &champs) {
+  champs.clear();
+  for (std::size_t fin = ligne.find('\\'); fin != std::string_view::npos; fin = ligne.find('\\')) {
+    champs.push_back(ligne.substr(0, fin));
+    ligne.remove_prefix(fin + 1);
   }
-  std::string_view champ = ligne.substr(numero + 1);
-  champ = champ.substr(0, champ.find('\\'));
-  Passe([&] {
-    const int rang = Entier16(Val(champ));
-    if (rang >= 0 && static_cast<std::size_t>(rang) < messages.size()) {
-      messages[static_cast<std::size_t>(rang)] = ligne.substr(texte + 1, numero - texte - 1);
-    }
-  });
+  champs.push_back(ligne);
 }
 
 } // namespace
 
-void LitMessages(std::string_view octets, TexteMsg &messages) {
+void PourChaqueLigneDe(std::string_view octets, std::string_view fenetre,
+                       const std::function<void(std::span<const std::string_view>)> &ligne) {
   const std::string contenu = EnUtf8(octets);
   std::string_view section;
-  for (const std::string_view ligne : Lignes(contenu)) {
-    if (ligne.starts_with(kSection)) {
-      section = ligne.substr(kSection.size());
+  std::vector<std::string_view> champs;
+  for (const std::string_view texte : Lignes(contenu)) {
+    if (texte.starts_with(kEntete)) {
+      section = texte.substr(kEntete.size());
     }
-    if (section == kFenetrePrincipale && ligne.starts_with(kMotMessage)) {
-      LitMessage(ligne, messages);
+    if (section == fenetre) {
+      Decoupe(texte, champs);
+      ligne(champs);
     }
   }
+}
+
+bool LitMessage(std::span<const std::string_view> champs, TexteMsg &messages) {
+  if (!champs[0].starts_with(kMotMessage)) {
+    return false;
+  }
+  Passe([&] {
+    const int rang = champs.size() > 2 ? Entier16(Val(champs[2])) : -1;
+    if (rang >= 0 && static_cast<std::size_t>(rang) < messages.size()) {
+      messages[static_cast<std::size_t>(rang)] = champs[1];
+    }
+  });
+  return true;
+}
+
+void LitMessages(std::string_view octets, TexteMsg &messages) {
+  PourChaqueLigneDe(octets, kFenetrePrincipale, [&](auto champs) { LitMessage(champs, messages); });
 }
 
 void ChargeMessages(const std::filesystem::path &fichier, TexteMsg &messages) {

@@ -3,7 +3,8 @@
 namespace velmaris {
 namespace {
 
-// clang-format off: one control a line
+// One control a line.
+// clang-format off
 // NOLINTNEXTLINE(cppcoreguidelines-avoid-c-arrays,modernize-avoid-c-arrays)
 constexpr LigneDonnees kBarre[] = {
     // The toolbar and what lies on the drawing surface.

@@ -6,6 +6,7 @@
 #include <array>
 #include <sqlite3.h>
 #include <system_error>
+#include <utility>
 #include <vector>
 
 namespace velmaris {
@@ -63,7 +64,7 @@ bool EstAbime(sqlite3 *base) {
 
 void Valeurs::Fermeture::operator()(sqlite3 *base) const { sqlite3_close_v2(base); }
 
-Valeurs::Valeurs(const std::filesystem::path &fichier) : fichier_(fichier) {
+Valeurs::Valeurs(std::filesystem::path fichier) : fichier_(std::move(fichier)) {
   std::error_code refus;
   if (!fichier_.empty()) {
     std::filesystem::create_directories(fichier_.parent_path(), refus);

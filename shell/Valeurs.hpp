@@ -25,7 +25,7 @@ class Valeurs {
 public:
   /// Opens the store, making its folder and file when they are missing. A damaged file is set aside under a new name.
   /// @param fichier  the store's file; an empty path gives a store in memory
-  explicit Valeurs(const std::filesystem::path &fichier);
+  explicit Valeurs(std::filesystem::path fichier);
   ~Valeurs();
   Valeurs(const Valeurs &) = delete;
   Valeurs &operator=(const Valeurs &) = delete;

@@ -28,15 +28,14 @@ QPalette PaletteClaire() {
 
 } // namespace
 
-void PoseApparence(QApplication &application) {
+void PoseApparence() {
   QApplication::setStyle(QStyleFactory::create("Fusion"));
   QApplication::setPalette(PaletteClaire());
   QFont police = QApplication::font();
   police.setFamilies({"Liberation Sans", "Arial", "Helvetica", "DejaVu Sans"});
   police.setPointSizeF(kTaillePolice);
   QApplication::setFont(police);
-  application.setApplicationName("velmaris");
-  application.setApplicationDisplayName({});
+  QApplication::setApplicationName("velmaris");
 }
 
 } // namespace velmaris::qt

@@ -95,8 +95,8 @@ void Fenetre::Branche(Lien &lien) {
     champs_.insert(champ, &c);
     connect(champ, &QLineEdit::textEdited, this,
             [this, &c](const QString &t) { Joue([&] { SaisitTexte(bureau_, c, t.toStdString()); }); });
-  } else if (qobject_cast<QRadioButton *>(widget) != nullptr) {
-    BrancheOption(*widget, c);
+  } else if (auto *option = qobject_cast<QRadioButton *>(widget)) {
+    BrancheOption(*option, c);
   } else if (auto *coche = qobject_cast<QCheckBox *>(widget)) {
     connect(coche, &QCheckBox::clicked, this, [this, &c] { Joue([this, &c] { ClicCase(bureau_, c); }); });
   } else if (auto *bouton = qobject_cast<QAbstractButton *>(widget)) {
@@ -123,14 +123,13 @@ void Fenetre::BrancheToile(Toile &toile, Controle &c) {
   }
 }
 
-void Fenetre::BrancheOption(QWidget &widget, Controle &c) {
-  auto *option = qobject_cast<QRadioButton *>(&widget);
+void Fenetre::BrancheOption(QRadioButton &option, Controle &c) {
   QButtonGroup *&groupe = groupes_[c.groupe];
   if (groupe == nullptr) {
     groupe = new QButtonGroup(this);
   }
-  groupe->addButton(option);
-  connect(option, &QRadioButton::clicked, this, [this, &c] { Joue([this, &c] { ClicOption(bureau_, c); }); });
+  groupe->addButton(&option);
+  connect(&option, &QRadioButton::clicked, this, [this, &c] { Joue([this, &c] { ClicOption(bureau_, c); }); });
 }
 
 void Fenetre::Joue(const std::function<void()> &evenement) {

@@ -12,6 +12,7 @@
 #include <vector>
 
 class QButtonGroup;
+class QRadioButton;
 
 namespace velmaris::qt {
 
@@ -46,7 +47,7 @@ private:
   void CreeWidgets();
   void Branche(Lien &lien);
   void BrancheToile(Toile &toile, Controle &controle);
-  void BrancheOption(QWidget &widget, Controle &controle);
+  void BrancheOption(QRadioButton &option, Controle &controle);
   bool Champ(QObject *objet, QEvent *event);
   void AccordeWidget(Lien &lien, bool tout);
   void AccordeTout();

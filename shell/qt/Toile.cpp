@@ -44,7 +44,7 @@ bool FautLisere(const QColor &couleur, const QColor &fond) {
 /// Paints one recorded trace.
 struct Peintre {
   QPainter &painter;
-  double facteur;
+  double facteur = 1.0;
   QColor fond;
 
   QPointF Place(Point p) const { return {p.x * facteur, p.y * facteur}; }

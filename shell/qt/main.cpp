@@ -23,8 +23,8 @@ velmaris::Ecran EcranPrincipal() {
 } // namespace
 
 int main(int argc, char **argv) {
-  QApplication application(argc, argv);
-  velmaris::qt::PoseApparence(application);
+  const QApplication application(argc, argv);
+  velmaris::qt::PoseApparence();
 
   velmaris::Bureau bureau;
   velmaris::qt::Boites boites(bureau);

@@ -133,6 +133,7 @@ TEST(Sexagesimal, ANegativeHourHasItsMinutesAdded) {
 TEST(Sexagesimal, TheSignOfTheWholeIsThatOfTheDegreesAlone) {
   EXPECT_EQ(SexaEnDegres(-12, 30, 0), -12.5);
   EXPECT_EQ(SexaEnDegres(12, 30, 0), 12.5);
+  EXPECT_DOUBLE_EQ(SexaEnDegres(12, 30, 36), 12.51);
   EXPECT_DOUBLE_EQ(SexaEnDegres(-12, 30, 36), -12.51);
   EXPECT_EQ(SexaEnDegres(-0.0, 30, 0), 0.5);
   EXPECT_EQ(SexaEnDegres(0, 30, 0), 0.5);

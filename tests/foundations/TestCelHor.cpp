@@ -108,6 +108,21 @@ TEST(SiderealTime, AgreesWithTheStandardModelOverTwoCenturies) {
   }
 }
 
+TEST(SiderealTime, IsThePolynomialOfTheDayCountToTheLastDigit) {
+  std::mt19937 alea(13);
+  for (int i = 0; i < 500; ++i) {
+    const ValeurDate d = DateAuHasard(alea, -4000, 3000);
+    double jd0 = 0;
+    double jd = 0;
+    ASSERT_EQ(eraCal2jd(d.annee, d.mois, d.jour, &jd0, &jd), 0);
+    const double n = (jd0 + jd - 2451545.0) + ((d.heure + d.minute / 60.0) + d.seconde / 3600.0) / 24.0;
+    const double t = n / 36525;
+    const double s = ((280.46061837 + 360.98564736629 * n) + (0.000387933 * t) * t) - ((t * t) * t) / 38710000;
+    const double reste = std::fmod(s, 360.0); // exact, as taking off turn by turn is
+    EXPECT_EQ(TempsSideralLocal(d, 0), reste < 0 ? reste + 360 : reste) << TexteDateHeure(d);
+  }
+}
+
 TEST(SiderealTime, AnEastLongitudeAddsToIt) {
   std::mt19937 alea(8);
   for (int i = 0; i < 100; ++i) {
@@ -285,6 +300,15 @@ TEST(Horizon, ABodyInTheZenithIsADivisionByZero) {
   dec = 90;
   lat = 90;
   EXPECT_EQ(NumeroErreur([&] { CelesteVersHorizon(date, 0, dec, lat, 0); }), 11);
+}
+
+TEST(Horizon, AtNinetyDegreesTheShortPiKeepsTheCosineOfTheLatitudeFromZero) {
+  for (const double pole : {90.0, -90.0}) {
+    double dec = 30;
+    double lat = pole;
+    const Horizontal place = Coupe(CelesteVersHorizon({2024, 1, 1, 0, 0, 0}, 10, dec, lat, 0));
+    EXPECT_NEAR(place.hauteur, pole / 3, 1E-9);
+  }
 }
 
 TEST(Horizon, TheHourAngleTravelsAsTextOfFifteenDigits) {

@@ -144,7 +144,8 @@ TEST(FileWriting, AFullDiskLeavesTheOldFile) {
 }
 
 TEST(TextEncoding, ValidUtf8IsTakenAsItIs) {
-  for (const char *texte : {"", "abc", "été", "12°", "€", "😀", "\xC2\x80", "\xED\x9F\xBF", "\xF4\x8F\xBF\xBF"}) {
+  for (const char *texte : {"", "abc", "été", "12°", "€", "😀", "\xC2\x80", "\xE0\xA0\x80", "\xF0\x90\x80\x80",
+                            "\xED\x9F\xBF", "\xF4\x8F\xBF\xBF"}) {
     EXPECT_EQ(EnUtf8(texte), texte);
   }
 }

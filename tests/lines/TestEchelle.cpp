@@ -32,6 +32,7 @@ Barre Tracee(int zoom) {
   TraceEchelle(b.planche.feuille, b.planche.surface);
   for (const Segment &s : Segments(b.planche.surface)) {
     if (s.plume.largeur == 1) {
+      EXPECT_EQ(s.plume.couleur, kNoir);
       EXPECT_EQ(s.debut.x, s.fin.x);
       EXPECT_DOUBLE_EQ(s.debut.y, kPied);
       const double mille = (s.debut.x - kDebut) / b.mille;
@@ -43,6 +44,8 @@ Barre Tracee(int zoom) {
     if (t.texte != "Milles Nautiques ") {
       EXPECT_DOUBLE_EQ(t.position.y, kPied + kLargeur / 60);
       const double mille = (t.position.x + kLargeur / 100 + 50 - kDebut) / b.mille;
+      EXPECT_NEAR(mille, std::round(mille), 1E-6);
+      EXPECT_EQ(t.couleur, kNoir);
       b.figures[static_cast<int>(std::round(mille))] = t.texte;
     }
   }

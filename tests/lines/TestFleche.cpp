@@ -58,6 +58,20 @@ TEST(AzimuthArrow, ItsLengthFollowsTheZoom) {
   }
 }
 
+TEST(AzimuthArrow, OfAnAddedLineFollowsTheZoomToo) {
+  for (const int zoom : {10, 500, 3000}) {
+    Planche p = PlancheCourante(zoom);
+    NouvelleFeuille(p);
+    p.surface.traces.clear();
+    p.feuille.PasFleche = 1;
+    AjouDroites(p.feuille, p.surface, p.observation, p.valeurs);
+    const auto pas = static_cast<float>(zoom / 100.0 + 5.0);
+    EXPECT_EQ(p.feuille.PasFleche, pas);
+    const auto corps = Fleche(p)[0];
+    EXPECT_NEAR(std::hypot(corps.fin.x - corps.debut.x, corps.fin.y - corps.debut.y), kLargeur / pas, 1E-6);
+  }
+}
+
 TEST(AzimuthArrow, TheHeadsLengthFallsInBandsWithBothEndsInTheFirst) {
   const struct {
     int zoom;

@@ -5,7 +5,10 @@
 
 int main(int argc, char **argv) {
   ::testing::InitGoogleTest(&argc, argv);
-  QApplication application(argc, argv);
-  velmaris::qt::PoseApparence(application);
+  if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) {
+    qputenv("QT_QPA_PLATFORM", "offscreen"); // needs no screen, also when the tests are only listed
+  }
+  const QApplication application(argc, argv);
+  velmaris::qt::PoseApparence();
   return RUN_ALL_TESTS();
 }

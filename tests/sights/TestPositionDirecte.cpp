@@ -52,6 +52,55 @@ TEST(LiveSun, IsWhereTheOutsideJudgePutsItWithinTheShortTheory) {
   }
 }
 
+TEST(LiveSun, EachStepIn64BitsIsThatOfTheHandWork) {
+  const double RAD = 0.017453292;
+  for (int i = 0; i < 200; ++i) {
+    const int annee = 1900 + i;
+    const int mois = 1 + i % 12;
+    const int jour = 1 + i % 28;
+    const int heure = i * 5 % 24;
+    const int minute = i * 7 % 60;
+    const int seconde = i * 11 % 60;
+    const auto u = [](int n) { return static_cast<std::uint16_t>(n); };
+    Horloge horloge =
+        HorlogeFixe({u(annee), u(mois), 0, u(jour), u(heure), u(minute), u(seconde), 0}, {annee, mois, jour, 0, 0, 0});
+    const SoleilDirect soleil = CalculeSoleilDirect(Ici("40", i % 3 == 0, "20", i % 2 == 0), horloge);
+
+    const int m = mois < 3 ? mois + 12 : mois;
+    const int y = mois < 3 ? annee - 1 : annee;
+    const double jj = std::trunc(365.25 * y) + std::trunc(30.6001 * (m + 1)) + jour + 1720996.5 - y / 100 + y / 400;
+    const double t0 = (jj - 2415020) / 36525;
+    const double f = (heure * 3600 + minute * 60 + seconde) / 86400.0;
+    const double t = t0 + f / 36525;
+    double st = 6.6460656 + 2400.051262 * t0 + f * 24 * 1.0027389;
+    st -= 24 * std::floor(st / 24);
+    const double ma = 358.47583 + 35999.04975 * t;
+    const double lg = (279.69668 + 36000.76892 * t + (1.919 - 0.004789 * t) * std::sin(ma * RAD) +
+                       0.020094 * std::sin(2 * ma * RAD) - 0.00569) *
+                      RAD;
+    const double eps = (23.452294 - 0.01301 * t) * RAD;
+    const double ad = std::atan(std::tan(lg) * std::cos(eps)) / RAD + (std::cos(lg) < 0 ? 180 : 0);
+    const double dec = std::asin(std::sin(lg) * std::sin(eps)) / RAD;
+    const double ahg = 15 * st - ad - std::floor((15 * st - ad) / 360) * 360;
+    const double lat = (i % 3 == 0 ? -40.5 : 40.5) * RAD;
+    // A turn is 360 degrees, but its short radians fall short of two pi by 1E-7: it must be taken off in degrees.
+    const double local = ahg - (i % 2 == 0 ? -20.25 : 20.25);
+    const double ahl = (local < 0 ? local + 360 : local > 360 ? local - 360 : local) * RAD;
+    const double x = std::sin(lat) * std::sin(dec * RAD) + std::cos(dec * RAD) * std::cos(lat) * std::cos(ahl);
+    const double z =
+        std::atan2(-std::cos(dec * RAD) * std::sin(ahl),
+                   std::sin(dec * RAD) * std::cos(lat) - std::cos(dec * RAD) * std::sin(lat) * std::cos(ahl)) /
+        RAD;
+    EXPECT_NEAR(soleil.AD, ad, 1E-8);
+    EXPECT_NEAR(soleil.Dec, dec, 1E-8);
+    EXPECT_NEAR(soleil.hauteur, std::asin(x) / RAD, 1E-8);
+    // The short radian makes a turn 359.9999926 degrees here and 360 in the program's turn to the west.
+    EXPECT_NEAR(std::remainder(soleil.azimut - z, 360.0), 0.0, 2E-5);
+    EXPECT_EQ(soleil.point.LatSoleil, static_cast<float>(soleil.Dec));
+    EXPECT_NEAR(std::remainder(soleil.point.LonSoleil - ahg, 360.0), 0.0, 1E-5);
+  }
+}
+
 TEST(LiveSun, StandsHalfADegreeOffTheZenithHalfADegreeFromItsPoint) {
   Horloge horloge = HorlogeFixe({2024, 9, 0, 10, 12, 0, 0, 0}, {2024, 9, 10, 0, 0, 0});
   const PointSolaire point = CalculeSoleilDirect({}, horloge).point;
