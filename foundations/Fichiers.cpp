@@ -6,8 +6,10 @@
 #include <array>
 #include <cerrno>
 #include <cstdint>
+#include <cstdlib>
 #include <fcntl.h>
 #include <sys/stat.h>
+#include <system_error>
 #include <unistd.h>
 
 namespace velmaris {
@@ -138,22 +140,28 @@ std::string LitFichier(const std::filesystem::path &chemin) {
 }
 
 void EcritFichier(const std::filesystem::path &chemin, std::string_view octets) {
-  std::filesystem::path provisoire = chemin;
-  provisoire += ".nouveau";
+  // Behind a link it is the file that is replaced; a file keeps its permissions.
+  std::error_code absent;
+  const std::filesystem::path vrai = std::filesystem::canonical(chemin, absent);
+  const std::filesystem::path cible = absent ? chemin : vrai;
+  struct stat ancien {};
+  const mode_t mode = ::stat(cible.c_str(), &ancien) == 0 ? ancien.st_mode & 07777U : 0644U;
+  std::string provisoire = cible.string() + ".XXXXXX";
+  const Descripteur fichier(::mkostemp(provisoire.data(), O_CLOEXEC));
+  if (fichier.numero() < 0) {
+    throw Erreur(75);
+  }
   try {
-    const Descripteur fichier(::open(provisoire.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0644));
-    if (fichier.numero() < 0) {
-      throw Erreur(75);
-    }
     EcritTout(fichier.numero(), octets);
-    if (::fsync(fichier.numero()) != 0 || ::rename(provisoire.c_str(), chemin.c_str()) != 0) {
+    if (::fchmod(fichier.numero(), mode) != 0 || ::fsync(fichier.numero()) != 0 ||
+        ::rename(provisoire.c_str(), cible.c_str()) != 0) {
       throw Erreur(75);
     }
   } catch (const Erreur &) {
     ::unlink(provisoire.c_str());
     throw;
   }
-  const std::filesystem::path dossier = chemin.parent_path().empty() ? "." : chemin.parent_path();
+  const std::filesystem::path dossier = cible.parent_path().empty() ? "." : cible.parent_path();
   const Descripteur parent(::open(dossier.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
   if (parent.numero() >= 0) {
     ::fsync(parent.numero());

@@ -6,10 +6,9 @@
 #include "shell/Droites.hpp"
 #include "shell/Evenements.hpp"
 #include "shell/Langage.hpp"
-#include "shell/Modules.hpp"
+#include "shell/PanneauDirect.hpp"
 #include "shell/Saisie.hpp"
 #include "shell/Valeurs.hpp"
-#include "sky/Cadrans.hpp"
 
 #include <algorithm>
 #include <system_error>
@@ -186,24 +185,6 @@ void Image10_Click(Bureau &bureau, int indice) {
   d.Image10[0].visible = indice != 0;
   d.Image10[1].visible = indice == 0;
   EcritReglage(bureau, "Langue", std::to_string(indice));
-}
-
-void PosSoleil(Bureau &bureau, bool sansDessin) {
-  const SoleilDirect soleil = CalculeSoleilDirect(LitPanneau(bureau.donnees), bureau.horloge);
-  if (sansDessin) {
-    return;
-  }
-  bureau.soleil = soleil.point;
-  bureau.donnees.Label64.legende = TextePointSolaire(bureau.soleil);
-  PlaceMarqueSoleil(bureau);
-  TraceCadrans(bureau, soleil.azimut, soleil.hauteur);
-}
-
-void TraceCadrans(Bureau &bureau, double azimut, double hauteur) {
-  DessineCadranAzimut(bureau.picAZ, static_cast<float>(azimut));
-  DessineCadranHauteur(bureau.picHE, static_cast<float>(hauteur));
-  bureau.donnees.Label35.legende = Format(azimut, "###.00") + " °";
-  bureau.donnees.Label36.legende = Format(hauteur, "###.00") + " °";
 }
 
 void Secours(Bureau &bureau, const std::exception &erreur) {

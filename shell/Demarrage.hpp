@@ -30,14 +30,6 @@ void Sortie_Click(Bureau &bureau, int indice);
 /// The choice of the language: 0 French, 1 English. The flag that stays is the one that can be chosen.
 void Image10_Click(Bureau &bureau, int indice);
 
-/// The Sun's present place on the live panel.
-/// @param sansDessin  true leaves labels, dials and sub-solar point alone
-void PosSoleil(Bureau &bureau, bool sansDessin);
-
-/// Draws the two dials of module 8 and fills their labels.
-/// @param azimut, hauteur  degrees
-void TraceCadrans(Bureau &bureau, double azimut, double hauteur);
-
 /// What is left to do when a failure reaches the program's edge: the sight of the panel goes to "secours.LoP" in the
 /// user's data folder, and one box tells the failure and the place. The caller ends the program.
 /// @param erreur  the failure

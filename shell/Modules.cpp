@@ -1,6 +1,7 @@
 #include "shell/Modules.hpp"
 
 #include "shell/Evenements.hpp"
+#include "shell/PanneauDirect.hpp"
 
 #include <array>
 
@@ -124,6 +125,9 @@ void Command7_Click(Bureau &bureau, int /*indice*/) {
     d.Soleil.place.gauche = kHorsDeVue;
     d.FOptionCarte.place.haut = kHautModules;
   }
+  if (d.Frame8.visible && d.Option7[0].choisi) {
+    PosSoleil(bureau, false);
+  }
   d.Frame8.place.haut = kHautModules;
   d.FOptionCarte.place.haut =
       d.FOptionCarte.visible && d.Frame8.visible ? d.Frame8.place.hauteur + kHautModules : kHautModules;
@@ -180,19 +184,6 @@ void OpCarte_Click(Bureau &bureau, int indice) {
   const int etat = indice == 0 ? 2 : 1;
   PoseValeur(bureau, bureau.donnees.Check1[3], etat);
   PoseValeur(bureau, bureau.donnees.Check1[2], etat);
-}
-
-void PlaceMarqueSoleil(Bureau &bureau) {
-  Controle &marque = bureau.donnees.Soleil;
-  marque.place.gauche = kHorsDeVue;
-  if (bureau.feuille.OrigineFeuille == kSansFeuille) {
-    return;
-  }
-  const Point p = PlaceSurFeuille(bureau.feuille, bureau.soleil.LatSoleil, bureau.soleil.LonSoleil);
-  if (p.x >= 0 && p.x <= bureau.image1.largeur && p.y >= 0 && p.y <= bureau.image1.hauteur) {
-    marque.place.gauche = p.x - marque.place.largeur / 2;
-    marque.place.haut = p.y - marque.place.hauteur / 2;
-  }
 }
 
 } // namespace velmaris

@@ -42,7 +42,4 @@ void PU_Clear(Bureau &bureau);
 /// "Carte globale" greys islands and lakes, "Contours précis" ticks them.
 void OpCarte_Click(Bureau &bureau, int indice);
 
-/// Puts the Sun's mark at the sub-solar point of the sheet, or out of view when it lies off the sheet.
-void PlaceMarqueSoleil(Bureau &bureau);
-
 } // namespace velmaris

@@ -136,8 +136,8 @@ void Fenetre::Joue(const std::function<void()> &evenement) {
   try {
     evenement();
   } catch (const std::exception &erreur) {
-    Secours(bureau_, erreur);
     horloge_.stop();
+    Secours(bureau_, erreur);
     QApplication::exit(1);
     return;
   }

@@ -5,6 +5,9 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <csignal>
+#include <sys/resource.h>
+
 #include <cstdlib>
 #include <random>
 #include <sys/stat.h>
@@ -126,21 +129,24 @@ TEST(FileWriting, AFailureIsError75AndTheOldFileIsWhole) {
   std::filesystem::create_directory(dossier / "d");
   EXPECT_EQ(NumeroErreur([&] { EcritFichier(dossier / "d", "x"); }), 75);
   EXPECT_TRUE(std::filesystem::is_directory(dossier / "d"));
-  Pose(dossier / "f", "old");
-  std::filesystem::create_directories(dossier / "f.nouveau/x");
-  EXPECT_EQ(NumeroErreur([&] { EcritFichier(dossier / "f", "new"); }), 75);
-  EXPECT_EQ(Contenu(dossier / "f"), "old");
+  EXPECT_EQ(std::distance(std::filesystem::directory_iterator(dossier.chemin()), {}), 1) << "nothing is left beside it";
 }
 
 TEST(FileWriting, AFullDiskLeavesTheOldFile) {
-  if (!std::filesystem::exists("/dev/full")) {
-    GTEST_SKIP() << "no device that is always full";
-  }
   const DossierTemporaire dossier;
   Pose(dossier / "f", "old");
-  std::filesystem::create_symlink("/dev/full", dossier / "f.nouveau");
-  EXPECT_EQ(NumeroErreur([&] { EcritFichier(dossier / "f", "new"); }), 75);
+  // A file that may not grow past its first 100 bytes fails like a disk that is full.
+  rlimit avant{};
+  getrlimit(RLIMIT_FSIZE, &avant);
+  const rlimit plein{100, avant.rlim_max};
+  std::signal(SIGXFSZ, SIG_IGN);
+  setrlimit(RLIMIT_FSIZE, &plein);
+  const int numero = NumeroErreur([&] { EcritFichier(dossier / "f", std::string(1000, 'n')); });
+  setrlimit(RLIMIT_FSIZE, &avant);
+  std::signal(SIGXFSZ, SIG_DFL);
+  EXPECT_EQ(numero, 75);
   EXPECT_EQ(Contenu(dossier / "f"), "old");
+  EXPECT_EQ(std::distance(std::filesystem::directory_iterator(dossier.chemin()), {}), 1) << "nothing is left beside it";
 }
 
 TEST(TextEncoding, ValidUtf8IsTakenAsItIs) {
@@ -216,6 +222,26 @@ TEST(TextLines, TheLastLineNeedsNoEnd) {
 TEST(TextLines, AnEmptyTextHasNone) {
   EXPECT_THAT(Lignes(""), IsEmpty());
   EXPECT_THAT(Lignes("\n"), ElementsAre(""));
+}
+
+TEST(FileWriting, AReplacedFileKeepsItsPermissionsAndLeavesNothingBesideIt) {
+  const DossierTemporaire dossier;
+  Pose(dossier / "a", "avant");
+  std::filesystem::permissions(dossier / "a", std::filesystem::perms::owner_read | std::filesystem::perms::owner_write);
+  EcritFichier(dossier / "a", "après");
+  EXPECT_EQ(LitFichier(dossier / "a"), "après");
+  EXPECT_EQ(std::filesystem::status(dossier / "a").permissions(),
+            std::filesystem::perms::owner_read | std::filesystem::perms::owner_write);
+  EXPECT_EQ(std::distance(std::filesystem::directory_iterator(dossier.chemin()), {}), 1);
+}
+
+TEST(FileWriting, BehindALinkTheFileItselfIsReplaced) {
+  const DossierTemporaire dossier;
+  Pose(dossier / "vrai", "avant");
+  std::filesystem::create_symlink(dossier / "vrai", dossier / "lien");
+  EcritFichier(dossier / "lien", "après");
+  EXPECT_TRUE(std::filesystem::is_symlink(dossier / "lien"));
+  EXPECT_EQ(LitFichier(dossier / "vrai"), "après");
 }
 
 } // namespace

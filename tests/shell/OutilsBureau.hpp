@@ -4,6 +4,7 @@
 #include "shell/Droites.hpp"
 #include "shell/Evenements.hpp"
 #include "shell/Modules.hpp"
+#include "shell/PanneauDirect.hpp"
 #include "shell/Saisie.hpp"
 #include "shell/Valeurs.hpp"
 

@@ -140,8 +140,11 @@ TEST_F(Programme, AHiddenSunModuleIsNotKeptUpWithTheClock) {
   Timer1_Tick(bureau);
   EXPECT_EQ(d.Label35.legende, avant);
   ClicControle(bureau, d.Command7);
+  const std::string ouvert = d.Label35.legende;
+  EXPECT_NE(ouvert, avant) << "it opens on the present place";
+  temps.heure = 19;
   Timer1_Tick(bureau);
-  EXPECT_NE(d.Label35.legende, avant);
+  EXPECT_NE(d.Label35.legende, ouvert);
   EXPECT_TRUE(d.Label64.legende.starts_with("N 23.26"));
 }
 
