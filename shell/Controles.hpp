@@ -54,6 +54,7 @@ struct Controle {
   bool choisi = false; ///< of an option
   bool accent = false; ///< the caption stands out
   bool cadre = false;  ///< drawn as a light well, for results
+  bool opaque = false; ///< of a caption on the drawing surface: it takes the surface's background
   bool titre = false;  ///< of a module: it bears a title line; of a caption: it is one
   int groupe = 0;      ///< options of one number exclude each other; 0 for none
   int valeur = 0;      ///< of a box or the slider

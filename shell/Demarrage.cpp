@@ -16,8 +16,9 @@
 namespace velmaris {
 namespace {
 
-constexpr int kZoomInitial = 2000; ///< of the slider
-constexpr int kPasTouches = 2000;  ///< of F9 and F10, on the slider
+constexpr int kZoomInitial = 2000;          ///< of the slider
+constexpr std::size_t kLegendeQuitter = 14; ///< caption under "Quitter"
+constexpr int kPasTouches = 2000;           ///< of F9 and F10, on the slider
 
 bool EstVrai(const std::string &texte) { return texte == "True" || Val(texte) != 0; }
 
@@ -98,6 +99,8 @@ void Donnees_Charge(Bureau &bureau, const Ecran &ecran) {
   bureau.feuille.OrigineFeuille = kSansFeuille;
   bureau.feuille.CouleurGrille = static_cast<float>(Rvb(220, 220, 220));
   bureau.image1.fond = kBlanc;
+  d.LabLon.opaque = true;
+  d.LabLat.opaque = true;
   PoseValeur(bureau, d.HScroll1, kZoomInitial);
   LitOptionsCarte(bureau);
   PoseOption(bureau, d.Option4[Val(LitReglage(bureau, "Prec", "0")) == 1 ? 1 : 0]);
@@ -164,7 +167,9 @@ bool Donnees_KeyDown(Bureau &bureau, int code) {
 }
 
 void Sortie_Click(Bureau &bureau, int /*indice*/) {
-  if (!bureau.ports.boite({.texte = bureau.messages[6], .icone = Icone::Question, .question = true})) {
+  // The title tells what is asked, also while no language file has filled the messages.
+  const std::string titre = "Velmaris - " + bureau.donnees.Label50[kLegendeQuitter].legende;
+  if (!bureau.ports.boite({.texte = bureau.messages[6], .titre = titre, .icone = Icone::Question, .question = true})) {
     bureau.QuitterRefuse = -1;
     return;
   }

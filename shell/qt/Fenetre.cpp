@@ -255,6 +255,11 @@ bool Fenetre::eventFilter(QObject *objet, QEvent *event) {
   case QEvent::KeyPress: {
     const int touche = static_cast<QKeyEvent *>(event)->key();
     const auto *widget = qobject_cast<QWidget *>(objet);
+    if (auto *bouton = qobject_cast<QPushButton *>(objet);
+        bouton != nullptr && bouton->window() == this && (touche == Qt::Key_Return || touche == Qt::Key_Enter)) {
+      bouton->click();
+      return true;
+    }
     if (touche < Qt::Key_F1 || touche > Qt::Key_F12 || widget == nullptr || widget->window() != this ||
         QApplication::activeModalWidget() != nullptr) {
       return false;

@@ -33,6 +33,7 @@ QPen PlumeQt(const Plume &plume) {
 }
 
 constexpr double kContrasteFaible = 0.25; ///< of lightness, under which a bright colour needs a border to be seen
+constexpr double kEcartFigures = 3.0;     ///< pixels between two figures
 const QColor kLisere(96, 84, 0, 150);
 
 /// Whether a bright colour would be lost on the background: the yellow line on the white sheet.
@@ -46,6 +47,7 @@ struct Peintre {
   QPainter &painter;
   double facteur = 1.0;
   QColor fond;
+  std::vector<QRectF> &figures;
 
   QPointF Place(Point p) const { return {p.x * facteur, p.y * facteur}; }
 
@@ -75,8 +77,19 @@ struct Peintre {
   void operator()(const TexteTrace &texte) const {
     painter.setPen(CouleurQt(texte.couleur));
     painter.setFont(PoliceQt(texte.police));
-    painter.drawText(Place(texte.position) + QPointF(0, QFontMetricsF(painter.font()).ascent()),
-                     QString::fromStdString(texte.texte));
+    const QFontMetricsF metrique(painter.font());
+    const QString contenu = QString::fromStdString(texte.texte);
+    const QPointF place = Place(texte.position);
+    if (texte.couleur != kNoir) {
+      const QRectF zone(place, QSizeF(metrique.horizontalAdvance(contenu) + kEcartFigures, metrique.ascent()));
+      const bool couvre =
+          std::any_of(figures.begin(), figures.end(), [&](const QRectF &f) { return f.intersects(zone); });
+      if (couvre) {
+        return;
+      }
+      figures.push_back(zone);
+    }
+    painter.drawText(place + QPointF(0, metrique.ascent()), contenu);
   }
 };
 
@@ -101,8 +114,9 @@ QColor CouleurQt(Couleur couleur) {
           static_cast<int>((couleur >> 16U) & 0xFFU)};
 }
 
-void PeintTraces(QPainter &painter, const Surface &surface, double facteur, std::size_t premier) {
-  const Peintre peintre{painter, facteur, CouleurQt(surface.fond)};
+void PeintTraces(QPainter &painter, const Surface &surface, double facteur, std::size_t premier,
+                 std::vector<QRectF> &figures) {
+  const Peintre peintre{painter, facteur, CouleurQt(surface.fond), figures};
   for (std::size_t i = premier; i < surface.traces.size(); ++i) {
     std::visit(peintre, surface.traces[i]);
   }
@@ -126,11 +140,12 @@ void Toile::Accorde() {
   if (neuve) {
     image_.fill(CouleurQt(surface_.fond));
     traces_ = 0;
+    figures_.clear();
   }
   QPainter painter(&image_);
   // The last polyline may have grown since it was painted: it is painted again.
   const bool reprise = traces_ > 0 && traces_ <= surface_.traces.size() && points_ != 0;
-  PeintTraces(painter, surface_, PixelsParTwip(*this), reprise ? traces_ - 1 : traces_);
+  PeintTraces(painter, surface_, PixelsParTwip(*this), reprise ? traces_ - 1 : traces_, figures_);
   effacements_ = surface_.effacements;
   traces_ = surface_.traces.size();
   points_ = NombrePoints(surface_);

@@ -6,6 +6,7 @@
 #include <QWidget>
 
 #include <functional>
+#include <vector>
 
 class QPainter;
 
@@ -20,11 +21,14 @@ QFont PoliceQt(const Police &police);
 /// A colour as the toolkit's.
 QColor CouleurQt(Couleur couleur);
 
-/// Paints part of what is recorded on a surface.
+/// Paints part of what is recorded on a surface. A coloured figure that would overprint the figure before it is left
+/// out: so the figures of a fine grid stay readable.
 /// @param painter    scaled to the toolkit's pixels
 /// @param facteur    pixels per 1/1440 inch
 /// @param premier    first recorded trace to paint
-void PeintTraces(QPainter &painter, const Surface &surface, double facteur, std::size_t premier);
+/// @param figures    places of the coloured figures on the image, of this call and those before
+void PeintTraces(QPainter &painter, const Surface &surface, double facteur, std::size_t premier,
+                 std::vector<QRectF> &figures);
 
 /// Shows a recorded surface: it is painted once into an image at the screen's resolution, then only what is appended.
 class Toile : public QWidget {
@@ -50,6 +54,7 @@ private:
   QImage image_;
   std::uint64_t effacements_ = 0;
   std::size_t traces_ = 0;
+  std::vector<QRectF> figures_;
   std::size_t points_ = 0; ///< of the last trace painted, which may have grown since
 };
 

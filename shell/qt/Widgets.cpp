@@ -51,6 +51,10 @@ QWidget *CreeEtiquette(const Controle &c, QWidget *parent) {
   auto *label = new QLabel(parent);
   label->setTextFormat(Qt::PlainText);
   label->setAlignment(Alignement(c.cote));
+  if (c.opaque) {
+    label->setAutoFillBackground(true);
+    label->setBackgroundRole(QPalette::Base);
+  }
   if (c.cadre) {
     label->setFrameStyle(static_cast<int>(QFrame::StyledPanel) | static_cast<int>(QFrame::Sunken));
     label->setAutoFillBackground(true);

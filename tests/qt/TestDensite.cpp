@@ -30,7 +30,8 @@ TEST_F(FenetreOuverte, ASurfaceIsPaintedAtAnyDensityWithTheSameDrawing) {
     image.setDevicePixelRatio(densite);
     image.fill(Qt::white);
     QPainter painter(&image);
-    qt::PeintTraces(painter, bureau.image1, 96 / 1440.0, 0);
+    std::vector<QRectF> figures;
+    qt::PeintTraces(painter, bureau.image1, 96 / 1440.0, 0, figures);
     painter.end();
     return image;
   };
@@ -50,6 +51,26 @@ TEST_F(FenetreOuverte, WhatIsAppendedIsPaintedWithoutClearingTheRest) {
   const QImage image = toile->grab().toImage().convertToFormat(QImage::Format_RGB32);
   EXPECT_NE(image.pixelColor(6000 / 15, 4000 / 15), QColor(Qt::white));
   EXPECT_NE(image.pixelColor(9000 / 15, 6000 / 15), QColor(Qt::white));
+}
+
+TEST_F(FenetreOuverte, FiguresOfAFineGridDoNotOverprintEachOther) {
+  Ouvre(kGrandEcran);
+  Joue([this] {
+    TapeVisee();
+    Calcule();
+    ClicControle(bureau, d.Command14);
+    BougeCurseur(bureau, d.HScroll1, 30000);
+  });
+  QImage image(1900, 900, QImage::Format_RGB32);
+  QPainter painter(&image);
+  std::vector<QRectF> figures;
+  qt::PeintTraces(painter, bureau.image1, 96 / 1440.0, 0, figures);
+  EXPECT_GT(figures.size(), 50U);
+  for (std::size_t i = 0; i < figures.size(); ++i) {
+    for (std::size_t j = i + 1; j < figures.size(); ++j) {
+      EXPECT_FALSE(figures[i].intersects(figures[j]));
+    }
+  }
 }
 
 TEST_F(FenetreOuverte, EveryPictureNamedByAControlIsDrawn) {

@@ -147,6 +147,13 @@ TEST_F(FenetreOuverte, TheKeyboardEntersAGroupAtItsChosenOption) {
   EXPECT_TRUE(Trouve<QRadioButton>("OptN0")->isChecked());
 }
 
+TEST_F(FenetreOuverte, ReturnPressesTheButtonThatHasTheFocus) {
+  Ouvre(kPetitEcran);
+  Joue([this] { TapeVisee(); });
+  Touche(Trouve<QWidget>("Command2"), Qt::Key_Return);
+  EXPECT_NE(d.Affichage_Intercept.legende, "");
+}
+
 TEST_F(FenetreOuverte, ACloseRequestAsksAndStaysRefusedOnNo) {
   Ouvre(kPetitEcran);
   EXPECT_FALSE(fenetre->close());

@@ -64,6 +64,7 @@ TEST_F(Programme, PositionAndOptionsComeBackAfterAConfirmedExit) {
   EXPECT_TRUE(bureau.termine);
   EXPECT_EQ(boites.back().texte, "Do you want to leave Velmaris?");
   EXPECT_TRUE(boites.back().question);
+  EXPECT_EQ(boites.back().titre, "Velmaris - Quit");
 
   Bureau suite;
   Branche(suite);
