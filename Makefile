@@ -40,7 +40,7 @@ lint: deps build
 test-sanitize: deps
 	cmake --preset sanitize
 	cmake --build --preset sanitize
-	UBSAN_OPTIONS=print_stacktrace=1 ctest --preset sanitize -j$(TACHES)
+	UBSAN_OPTIONS=print_stacktrace=1 LSAN_OPTIONS=suppressions=$(CURDIR)/tests/lsan.supp ctest --preset sanitize -j$(TACHES)
 
 bench: deps build
 	build/bin/velmaris-bench

@@ -11,6 +11,7 @@ namespace velmaris::qt {
 namespace {
 
 constexpr double kTwipsParPouce = 1440.0;
+constexpr double kPortee = 1e8; ///< 1/1440 inch from the surface's corner
 
 QPen PlumeQt(const Plume &plume) {
   QPen pen(CouleurQt(plume.couleur), plume.largeur);
@@ -93,6 +94,17 @@ struct Peintre {
   }
 };
 
+/// Whether a place can be painted: finite, and within what the toolkit's lines can reach.
+bool Peignable(Point p) { return std::fabs(p.x) < kPortee && std::fabs(p.y) < kPortee; }
+
+struct Visible {
+  bool operator()(const Polyligne &ligne) const {
+    return std::all_of(ligne.points.begin(), ligne.points.end(), Peignable);
+  }
+  bool operator()(const CercleTrace &cercle) const { return Peignable(cercle.centre) && cercle.rayon < kPortee; }
+  bool operator()(const TexteTrace &texte) const { return Peignable(texte.position); }
+};
+
 std::size_t NombrePoints(const Surface &surface) {
   const auto *ligne = surface.traces.empty() ? nullptr : std::get_if<Polyligne>(&surface.traces.back());
   return ligne == nullptr ? 0 : ligne->points.size();
@@ -118,7 +130,9 @@ void PeintTraces(QPainter &painter, const Surface &surface, double facteur, std:
                  std::vector<QRectF> &figures) {
   const Peintre peintre{painter, facteur, CouleurQt(surface.fond), figures};
   for (std::size_t i = premier; i < surface.traces.size(); ++i) {
-    std::visit(peintre, surface.traces[i]);
+    if (std::visit(Visible{}, surface.traces[i])) {
+      std::visit(peintre, surface.traces[i]);
+    }
   }
 }
 

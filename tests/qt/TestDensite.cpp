@@ -5,6 +5,9 @@
 #include <QImage>
 #include <QPainter>
 
+#include <cmath>
+#include <limits>
+
 namespace velmaris::essais {
 namespace {
 
@@ -51,6 +54,23 @@ TEST_F(FenetreOuverte, WhatIsAppendedIsPaintedWithoutClearingTheRest) {
   const QImage image = toile->grab().toImage().convertToFormat(QImage::Format_RGB32);
   EXPECT_NE(image.pixelColor(6000 / 15, 4000 / 15), QColor(Qt::white));
   EXPECT_NE(image.pixelColor(9000 / 15, 6000 / 15), QColor(Qt::white));
+}
+
+TEST_F(FenetreOuverte, PlacesOutOfAllMeasureAreLeftOut) {
+  Ouvre(kPetitEcran);
+  const double infini = std::numeric_limits<double>::infinity();
+  Joue([&] {
+    bureau.image1.style = Style::TiretPoint;
+    for (const double loin : {1e300, -1e12, infini, std::nan("")}) {
+      Ligne(bureau.image1, {100, 100}, {loin, 200}, kNoir);
+      Cercle(bureau.image1, {0, loin}, 10, kNoir);
+      EcritEn(bureau.image1, {loin, loin}, "loin");
+    }
+    bureau.image1.style = Style::Plein;
+    Ligne(bureau.image1, {4000, 4000}, {9000, 4000}, kNoir);
+  });
+  const QImage image = Trouve<QWidget>("Image1")->grab().toImage().convertToFormat(QImage::Format_RGB32);
+  EXPECT_NE(image.pixelColor(6000 / 15, 4000 / 15), QColor(Qt::white));
 }
 
 TEST_F(FenetreOuverte, FiguresOfAFineGridDoNotOverprintEachOther) {
