@@ -29,10 +29,10 @@ void EcritReglage(Bureau &bureau, std::string_view cle, std::string_view valeur)
 
 void SignaleMagasin(Bureau &bureau) {
   const EtatMagasin etat = bureau.valeurs->etat();
-  if (etat == EtatMagasin::Sain || bureau.magasinSignale) {
+  if (etat == EtatMagasin::Sain || etat == bureau.magasinSignale) {
     return;
   }
-  bureau.magasinSignale = true;
+  bureau.magasinSignale = etat;
   const Donnees &d = bureau.donnees;
   const std::string &texte = etat == EtatMagasin::Abime ? d.TexteMagasinAbime.legende : d.TexteMagasinMuet.legende;
   bureau.ports.boite({.texte = texte + "\n" + bureau.valeurs->fichierEnCause().string(), .icone = Icone::Attention});

@@ -17,6 +17,7 @@
 namespace velmaris {
 
 class Valeurs;
+enum class EtatMagasin : std::uint8_t;
 
 /// The screen that the program starts on.
 struct Ecran {
@@ -62,7 +63,7 @@ struct Bureau {
   Ports ports;
   Dossiers dossiers;
   std::unique_ptr<Valeurs> valeurs; ///< the settings store
-  bool magasinSignale = false;      ///< its trouble has been told
+  EtatMagasin magasinSignale{};     ///< the trouble that has been told, none at first
 };
 
 /// The surface that a control of that kind shows.
@@ -75,7 +76,7 @@ std::string LitReglage(const Bureau &bureau, std::string_view cle, std::string_v
 /// Keeps a setting; tells the user once when the store can't.
 void EcritReglage(Bureau &bureau, std::string_view cle, std::string_view valeur);
 
-/// Tells the user once that the store was damaged or can't be written.
+/// Tells the user that the store was damaged or can't be written, once each.
 void SignaleMagasin(Bureau &bureau);
 
 } // namespace velmaris
