@@ -129,9 +129,13 @@ QColor CouleurQt(Couleur couleur) {
 void PeintTraces(QPainter &painter, const Surface &surface, double facteur, std::size_t premier,
                  std::vector<QRectF> &figures) {
   const Peintre peintre{painter, facteur, CouleurQt(surface.fond), figures};
-  for (std::size_t i = premier; i < surface.traces.size(); ++i) {
-    if (std::visit(Visible{}, surface.traces[i])) {
-      std::visit(peintre, surface.traces[i]);
+  // Texts come over lines, so that no line strikes a figure through.
+  for (const bool textes : {false, true}) {
+    for (std::size_t i = premier; i < surface.traces.size(); ++i) {
+      const Trace &trace = surface.traces[i];
+      if (std::holds_alternative<TexteTrace>(trace) == textes && std::visit(Visible{}, trace)) {
+        std::visit(peintre, trace);
+      }
     }
   }
 }
