@@ -8,7 +8,6 @@
 namespace velmaris {
 namespace {
 
-constexpr double kHorsDeVue = -2000.0;
 constexpr double kHautModules = 1080.0; ///< top of the right-hand modules under the toolbar
 constexpr double kHautCarteSousSoleil = 3370.0;
 constexpr double kHautRange = 1215.0; ///< top of module 10 once all are put away

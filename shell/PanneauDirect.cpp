@@ -5,11 +5,6 @@
 #include "sky/Cadrans.hpp"
 
 namespace velmaris {
-namespace {
-
-constexpr double kHorsDeVue = -2000.0;
-
-} // namespace
 
 void PosSoleil(Bureau &bureau, bool sansDessin) {
   const SoleilDirect soleil = CalculeSoleilDirect(LitPanneau(bureau.donnees), bureau.horloge);

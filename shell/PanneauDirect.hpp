@@ -4,6 +4,9 @@
 
 namespace velmaris {
 
+/// Left edge of a mark that is put away, 1/1440 inch.
+inline constexpr double kHorsDeVue = -2000.0;
+
 /// The Sun's present place on the live panel.
 /// @param sansDessin  true leaves labels, dials and sub-solar point alone
 void PosSoleil(Bureau &bureau, bool sansDessin);

@@ -5,28 +5,25 @@
 #include "shell/Evenements.hpp"
 
 #include <algorithm>
+#include <limits>
 
 namespace velmaris {
 namespace {
 
 constexpr double kAnneeMax = 5000;
 
-/// Empties a field whose value lies outside its limits.
-/// @return whether the value is accepted
-bool Accepte(Controle &controle, double minimum, double maximum) {
-  const double valeur = Val(controle.texte);
-  if (valeur < minimum || valeur > maximum) {
-    controle.texte.clear();
-    return false;
-  }
-  return true;
+/// Leaves a field: a value outside its limits empties it, else the text takes its form.
+void Quitte(Bureau &bureau, Controle &champ, double minimum, double maximum, std::string_view masque,
+            char signeDecimal = '.') {
+  const double valeur = Val(champ.texte);
+  const bool accepte = valeur >= minimum && valeur <= maximum;
+  PoseTexte(bureau, champ, accepte ? Format(champ.texte, masque, signeDecimal) : std::string());
 }
 
-void QuitteVirgule(Controle &controle, double minimum, double maximum) {
-  std::replace(controle.texte.begin(), controle.texte.end(), '.', ',');
-  if (Accepte(controle, minimum, maximum)) {
-    controle.texte = Format(controle.texte, "#0.0", ',');
-  }
+/// Leaves a field that holds a decimal comma.
+void QuitteVirgule(Bureau &bureau, Controle &champ, double minimum, double maximum) {
+  std::replace(champ.texte.begin(), champ.texte.end(), '.', ',');
+  Quitte(bureau, champ, minimum, maximum, "#0.0", ',');
 }
 
 int Choisie(const auto &options) {
@@ -86,10 +83,10 @@ Observation LitPanneau(const Donnees &d) {
 
 void PoseReduction(Bureau &bureau, const Observation &observation) {
   Donnees &d = bureau.donnees;
-  d.Text10.texte = observation.hauteurOeil;
-  d.Text11.texte = observation.collimation;
-  d.Text12.texte = observation.lectureMinutes;
-  d.Text13.texte = observation.lectureDegres;
+  PoseTexte(bureau, d.Text10, observation.hauteurOeil);
+  PoseTexte(bureau, d.Text11, observation.collimation);
+  PoseTexte(bureau, d.Text12, observation.lectureMinutes);
+  PoseTexte(bureau, d.Text13, observation.lectureDegres);
   PoseTexte(bureau, d.Text25, observation.lectureFraction);
   d.Text25.couleur = observation.couleurFraction;
 }
@@ -106,31 +103,20 @@ void TDate_Quitte(Bureau &bureau, int indice) {
   PoseTexte(bureau, champ, texte);
 }
 
-void Text3_Quitte(Bureau &bureau, int /*indice*/) { QuitteMinutes(bureau.donnees.Text3); }
+void Text3_Quitte(Bureau &bureau, int /*indice*/) { QuitteMinutes(bureau, bureau.donnees.Text3); }
 
-void QuitteMinutes(Controle &controle) {
-  if (Accepte(controle, 0, 60)) {
-    controle.texte = Format(controle.texte, "00");
-  }
-}
+void QuitteMinutes(Bureau &bureau, Controle &champ) { Quitte(bureau, champ, 0, 60, "00"); }
 
-void QuitteDegres(Controle &controle) {
-  if (Accepte(controle, 0, 180)) {
-    controle.texte = Format(controle.texte, "#00");
-  }
-}
+void QuitteDegres(Bureau &bureau, Controle &champ) { Quitte(bureau, champ, 0, 180, "#00"); }
 
 void Text10_Quitte(Bureau &bureau, int /*indice*/) {
-  QuitteVirgule(bureau.donnees.Text10, 0, std::numeric_limits<double>::infinity());
+  QuitteVirgule(bureau, bureau.donnees.Text10, 0, std::numeric_limits<double>::infinity());
 }
 
-void Text11_Quitte(Bureau &bureau, int /*indice*/) { QuitteVirgule(bureau.donnees.Text11, -60, 60); }
+void Text11_Quitte(Bureau &bureau, int /*indice*/) { QuitteVirgule(bureau, bureau.donnees.Text11, -60, 60); }
 
 void Text13_Quitte(Bureau &bureau, int /*indice*/) {
-  Controle &champ = bureau.donnees.Text13;
-  if (Accepte(champ, 0, bureau.donnees.Option5[0].choisi ? 90 : 180)) {
-    champ.texte = Format(champ.texte, "00");
-  }
+  Quitte(bureau, bureau.donnees.Text13, 0, bureau.donnees.Option5[0].choisi ? 90 : 180, "00");
 }
 
 void TDate_Change(Bureau &bureau, int /*indice*/) {

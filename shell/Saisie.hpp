@@ -18,14 +18,14 @@ void Text10_Quitte(Bureau &bureau, int indice);
 void Text11_Quitte(Bureau &bureau, int indice);
 void Text13_Quitte(Bureau &bureau, int indice);
 /// Minutes and seconds: 0 to 60, as "00".
-void QuitteMinutes(Controle &controle);
+void QuitteMinutes(Bureau &bureau, Controle &champ);
 /// Degrees of the position: 0 to 180 for the latitude too, as "#00".
-void QuitteDegres(Controle &controle);
+void QuitteDegres(Bureau &bureau, Controle &champ);
 template <Controle Donnees::*Membre> void QuitteMinutes(Bureau &bureau, int /*indice*/) {
-  QuitteMinutes(bureau.donnees.*Membre);
+  QuitteMinutes(bureau, bureau.donnees.*Membre);
 }
 template <Controle Donnees::*Membre> void QuitteDegres(Bureau &bureau, int /*indice*/) {
-  QuitteDegres(bureau.donnees.*Membre);
+  QuitteDegres(bureau, bureau.donnees.*Membre);
 }
 /// @}
 

@@ -41,9 +41,12 @@ public:
   void SaveSetting(std::string_view application, std::string_view section, std::string_view cle,
                    std::string_view valeur);
 
-  /// Runs a group of SaveSetting as one: after a crash either all of them stand or none.
+  /// Runs a group of SaveSetting as one: after a crash either all of them stand or none. When the disk refuses the
+  /// group, none stands on it and the store goes on in memory.
   template <class Ecritures> void Ensemble(Ecritures &&ecritures) {
-    Execute("BEGIN IMMEDIATE");
+    if (!Execute("BEGIN IMMEDIATE")) {
+      PasseEnMemoire();
+    }
     try {
       ecritures();
     } catch (...) {

@@ -10,18 +10,58 @@ mkdir -p "$IMAGES" "$XDG_DATA_HOME"
 
 echoue() { echo "ÉCHEC : $*" >&2; exit 1; }
 
+# Waits up to ten seconds for a command to succeed.
+attends() {
+  for _ in $(seq 100); do
+    "$@" && return 0
+    sleep 0.1
+  done
+  echoue "attendu en vain : $*"
+}
+boite_ouverte() { xdotool search --onlyvisible --name "$1" >/dev/null 2>&1; }
+boite_fermee() { ! boite_ouverte "$1"; }
+finie() { ! kill -0 "$PID" 2>/dev/null; }
+EXIT_BOX='^Velmaris - '
+TOLD_BOX='^Velmaris$'
+
+# Presses a key in the box of that title once it is there, and waits until it is gone.
+repond() {
+  attends boite_ouverte "$1"
+  sleep 0.3
+  touche "$2"
+}
+
+# Gives the window the keyboard again after a box.
+reprend() {
+  attends boite_fermee "$1"
+  xdotool windowfocus --sync "$FENETRE"
+  sleep 0.2
+}
+
+# Finds the program's main window, whose title ends with the file's name once the clock has ticked.
+fenetre_principale() {
+  FENETRE=$(xdotool search --onlyvisible --pid "$PID" --name 'GMT|Velmaris 2009' 2>/dev/null | head -n 1)
+  [ -n "$FENETRE" ]
+}
+
 # Starts the program and waits for its window: sets PID and FENETRE.
 demarre() {
   "$PROGRAMME" 2>"$XDG_DATA_HOME/erreurs.txt" &
   PID=$!
-  for _ in $(seq 100); do
-    FENETRE=$(xdotool search --onlyvisible --pid "$PID" 2>/dev/null | head -n 1 || true)
-    [ -n "$FENETRE" ] && break
-    sleep 0.1
-  done
-  [ -n "${FENETRE:-}" ] || echoue "la fenêtre ne s'ouvre pas"
+  attends fenetre_principale
   xdotool windowfocus --sync "$FENETRE"
   sleep 0.4
+}
+
+# Starts the program where it has something to tell first: a picture of the box, then Return.
+demarre_apres_boite() {
+  "$PROGRAMME" 2>"$XDG_DATA_HOME/erreurs.txt" &
+  PID=$!
+  attends boite_ouverte "$TOLD_BOX"
+  image "$1"
+  repond "$TOLD_BOX" Return
+  attends fenetre_principale
+  reprend "$TOLD_BOX"
 }
 
 # Clicks at a place of the window in 1/1440 inch, as the table of controls counts.
@@ -51,9 +91,10 @@ visee_bretagne() {
 
 # Leaves by F2 and Yes, and waits for the end.
 quitte() {
-  touche F2; sleep 0.4
+  touche F2
+  attends boite_ouverte "$EXIT_BOX"
   image "${1:-quitter}"
   touche Return
-  for _ in $(seq 50); do kill -0 "$PID" 2>/dev/null || break; sleep 0.1; done
+  attends finie
   wait "$PID" || echoue "le programme finit par une erreur"
 }

@@ -24,20 +24,15 @@ quitte touches-quitter
 
 # A damaged store: told in a box, set aside, and the program works on.
 echo "ceci n'est pas une base" >"$MAGASIN"
-"$PROGRAMME" & PID=$!
-sleep 1.5; image touches-magasin-abime; touche Return; sleep 0.8
-FENETRE=$(xdotool search --onlyvisible --pid "$PID" | head -n 1)
-xdotool windowfocus --sync "$FENETRE"; sleep 0.3
+demarre_apres_boite touches-magasin-abime
 quitte touches-apres-abime
 ls "$XDG_DATA_HOME"/velmaris/valeurs.sqlite.abime-* >/dev/null || echoue "le magasin abîmé n'est pas mis de côté"
 attendu "un magasin neuf est en place" "$(reglage Lon)" Ouest
 
 # Without data files beside it: one box, and the built-in French.
 SEUL=$(mktemp -d); cp "$PROGRAMME" "$SEUL/velmaris"
-PROGRAMME="$SEUL/velmaris"; "$PROGRAMME" & PID=$!
-sleep 1.5; image touches-sans-langue; touche Return; sleep 0.8
-FENETRE=$(xdotool search --onlyvisible --pid "$PID" | head -n 1)
-xdotool windowfocus --sync "$FENETRE"; sleep 0.3
+PROGRAMME="$SEUL/velmaris"
+demarre_apres_boite touches-sans-langue
 image touches-francais-interne
 quitte touches-fin
 rm -rf "$SEUL"

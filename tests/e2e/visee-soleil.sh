@@ -16,18 +16,18 @@ image "visee-$LANGUE-$TAILLE-vide"
 attendu "aucune droite avant le calcul" "$(jaunes "visee-$LANGUE-$TAILLE-vide")" 0
 visee_bretagne
 touche space
-image "visee-$LANGUE-$TAILLE-reduite"
-[ "$(jaunes "visee-$LANGUE-$TAILLE-reduite")" -gt 100 ] || echoue "la droite n'est pas tracée"
+droite_tracee() { image "visee-$LANGUE-$TAILLE-reduite"; [ "$(jaunes "visee-$LANGUE-$TAILLE-reduite")" -gt 100 ]; }
+attends droite_tracee
 clic 5400 520   # the grid
 clic 9400 520   # the Sun's module
 clic 2400 8100  # the details
 image "visee-$LANGUE-$TAILLE-complete"
 
 # No keeps the window and stores nothing; so does a close request.
-touche F2; sleep 0.4; touche Escape; sleep 0.3
+touche F2; repond "$EXIT_BOX" Escape; reprend "$EXIT_BOX"
 kill -0 "$PID" || echoue "Non ferme le programme"
 attendu "rien n'est conservé après Non" "$(reglage T8)" ""
-touche alt+F4; sleep 0.4; touche Escape; sleep 0.3
+touche alt+F4; repond "$EXIT_BOX" Escape; reprend "$EXIT_BOX"
 kill -0 "$PID" || echoue "Non à la fermeture ferme le programme"
 
 quitte "visee-$LANGUE-$TAILLE-quitter"

@@ -92,6 +92,24 @@ TEST_F(Magasin, AGroupOfValuesIsWrittenWholeOrNotAtAll) {
   EXPECT_EQ(v.GetSetting(kA, kS, "b"), "");
 }
 
+TEST_F(Magasin, AGroupThatCannotBeginLeavesTheDiskAloneAndGoesOnInMemory) {
+  Valeurs v(fichier);
+  v.SaveSetting(kA, kS, "a", "avant");
+  Valeurs verrou(fichier);
+  verrou.Ensemble([&] {
+    verrou.SaveSetting(kA, kS, "c", "verrou");
+    v.Ensemble([&] {
+      v.SaveSetting(kA, kS, "a", "après");
+      v.SaveSetting(kA, kS, "b", "après");
+    });
+  });
+  EXPECT_EQ(v.etat(), EtatMagasin::SansTrace);
+  EXPECT_EQ(v.GetSetting(kA, kS, "a") + v.GetSetting(kA, kS, "b"), "aprèsaprès");
+  const Valeurs autre(fichier);
+  EXPECT_EQ(autre.GetSetting(kA, kS, "a"), "avant");
+  EXPECT_EQ(autre.GetSetting(kA, kS, "b"), "");
+}
+
 TEST_F(Magasin, TwoProgramsOnOneStoreLoseNoKey) {
   const auto ecrit = [&](const std::string &prefixe) {
     Valeurs v(fichier);
