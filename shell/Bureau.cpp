@@ -8,6 +8,10 @@ Bureau::Bureau() { InitialiseDonnees(donnees); }
 
 Bureau::~Bureau() = default;
 
+ListeControles ControlesDe(Bureau &bureau, std::string_view fenetre) {
+  return fenetre == kFenetreDonnees ? Liste(bureau.donnees) : ListeControles();
+}
+
 Surface *SurfaceDe(Bureau &bureau, const Controle &controle) {
   if (&controle == &bureau.donnees.Image1) {
     return &bureau.image1;

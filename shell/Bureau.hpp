@@ -66,6 +66,11 @@ struct Bureau {
   EtatMagasin magasinSignale{};     ///< the trouble that has been told, none at first
 };
 
+/// The controls of one of the program's windows.
+/// @param fenetre  the window's name
+/// @return an empty list for an unknown window
+ListeControles ControlesDe(Bureau &bureau, std::string_view fenetre);
+
 /// The surface that a control of that kind shows.
 /// @return null for another control
 Surface *SurfaceDe(Bureau &bureau, const Controle &controle);

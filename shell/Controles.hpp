@@ -40,6 +40,10 @@ struct Place {
 
 /// One control, as far as it can be seen.
 struct Controle {
+  std::string_view fenetre; ///< name of its window
+  std::string_view parent;  ///< name of the control it lies in, empty for the window itself
+  std::string_view par;     ///< control whose caption names this one to a screen reader, empty for none
+  int parIndice = -1;       ///< its place in its group
   std::string nom;
   int indice = -1; ///< place in a group of that name, -1 for a control alone
   Genre genre = Genre::Etiquette;
@@ -50,18 +54,21 @@ struct Controle {
   Place place;
   bool visible = true;
   bool actif = true;
-  bool aVenir = false; ///< disabled because what it does is not there yet, which its tool tip says
-  bool choisi = false; ///< of an option
-  bool accent = false; ///< the caption stands out
-  bool cadre = false;  ///< drawn as a light well, for results
-  bool opaque = false; ///< of a caption on the drawing surface: it takes the surface's background
-  bool titre = false;  ///< of a module: it bears a title line; of a caption: it is one
-  int groupe = 0;      ///< options of one number exclude each other; 0 for none
-  int valeur = 0;      ///< of a box or the slider
-  int minimum = 0;     ///< of the slider
-  int maximum = 0;     ///< of the slider
-  int petitPas = 1;    ///< of the slider
-  int grandPas = 10;   ///< of the slider
+  bool aVenir = false;       ///< disabled because what it does is not there yet, which its tool tip says
+  bool choisi = false;       ///< of an option
+  bool accent = false;       ///< the caption stands out
+  bool cadre = false;        ///< drawn as a light well, for results
+  bool opaque = false;       ///< of a caption on the drawing surface: it takes the surface's background
+  bool renvoi = false;       ///< of a caption: a click on it does something
+  bool raccourci = false;    ///< an ampersand in the caption marks its key
+  bool lectureSeule = false; ///< of a field: it shows a result
+  bool titre = false;        ///< of a module: it bears a title line; of a caption: it is one
+  int groupe = 0;            ///< options of one number exclude each other; 0 for none
+  int valeur = 0;            ///< of a box or the slider
+  int minimum = 0;           ///< of the slider
+  int maximum = 0;           ///< of the slider
+  int petitPas = 1;          ///< of the slider
+  int grandPas = 10;         ///< of the slider
   std::vector<std::string> liste;
   int rang = -1; ///< chosen line of a list, -1 for none
   Couleur couleur = kNoir;
@@ -79,6 +86,9 @@ struct Traits {
   bool aVenir = false;
   bool titre = false;
   bool cadre = false;
+  bool renvoi = false;
+  bool raccourci = false;
+  bool lectureSeule = false;
   int groupe = 0;
   int taille = 9;
   Cote cote = Cote::Gauche;
@@ -87,5 +97,53 @@ struct Traits {
   std::string_view par = {}; ///< control whose caption names this one to a screen reader
   int parIndice = -1;        ///< its place in its group
 };
+
+/// Gives a control what its table says of it beyond name, kind and place.
+void PoseTraits(Controle &controle, const Traits &traits);
+
+/// One control in the table of a window's record: its name, how to find it, and how it starts.
+template <class Fenetre> struct LigneDe {
+  std::string_view nom;
+  int indice; ///< -1 for a control alone
+  Controle &(*acces)(Fenetre &);
+  Genre genre;
+  std::string_view parent; ///< empty for the window itself
+  Place place;
+  std::string_view legende = {};
+  std::string_view infobulle = {};
+  Traits traits = {};
+};
+
+/// A control as its line of the table has it.
+/// @param fenetre  name of its window
+template <class Fenetre> Controle ControleNeuf(const LigneDe<Fenetre> &ligne, std::string_view fenetre) {
+  Controle c;
+  c.fenetre = fenetre;
+  c.parent = ligne.parent;
+  c.par = ligne.traits.par;
+  c.parIndice = ligne.traits.parIndice;
+  c.nom = ligne.nom;
+  c.indice = ligne.indice;
+  c.genre = ligne.genre;
+  c.place = ligne.place;
+  c.legende = ligne.legende;
+  c.infobulle = ligne.infobulle;
+  PoseTraits(c, ligne.traits);
+  return c;
+}
+
+/// The controls of one window, in the order of its table, which is that of the keyboard.
+using ListeControles = std::vector<Controle *>;
+
+/// All controls of a window's record, in the order of its table.
+template <class Fenetre> ListeControles Liste(Fenetre &fenetre) {
+  ListeControles liste;
+  PourChaque(fenetre, [&](const LigneDe<Fenetre> &, Controle &c) { liste.push_back(&c); });
+  return liste;
+}
+
+/// A control of a list by its name and index.
+/// @return null when there is none of that name
+Controle *Cherche(const ListeControles &controles, std::string_view nom, int indice = -1);
 
 } // namespace velmaris

@@ -181,7 +181,7 @@ void Sortie_Click(Bureau &bureau, int /*indice*/) {
 void Image10_Click(Bureau &bureau, int indice) {
   bureau.FichierLangue = indice == 1 ? "\\EN.txt" : "\\FR.txt";
   const bool sansFichier = bureau.TitreFichier == bureau.messages[9];
-  ChargeLangue(bureau);
+  ChargeLangue(bureau, kFenetreDonnees);
   if (sansFichier) {
     bureau.TitreFichier = bureau.messages[9];
   }

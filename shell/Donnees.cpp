@@ -9,27 +9,7 @@ std::span<const std::span<const LigneDonnees>> TableDonnees() {
 }
 
 void InitialiseDonnees(Donnees &donnees) {
-  PourChaque(donnees, [](const LigneDonnees &ligne, Controle &c) {
-    c = Controle{};
-    c.nom = ligne.nom;
-    c.indice = ligne.indice;
-    c.genre = ligne.genre;
-    c.place = ligne.place;
-    c.legende = ligne.legende;
-    c.infobulle = ligne.infobulle;
-    c.image = ligne.traits.image;
-    c.visible = ligne.traits.visible;
-    c.choisi = ligne.traits.choisi;
-    c.aVenir = ligne.traits.aVenir;
-    c.actif = !ligne.traits.aVenir;
-    c.titre = ligne.traits.titre;
-    c.gras = ligne.traits.titre;
-    c.cadre = ligne.traits.cadre;
-    c.groupe = ligne.traits.groupe;
-    c.taille = ligne.traits.taille;
-    c.cote = ligne.traits.cote;
-    c.couleur = ligne.traits.couleur;
-  });
+  PourChaque(donnees, [](const LigneDonnees &ligne, Controle &c) { c = ControleNeuf(ligne, kFenetreDonnees); });
   donnees.HScroll1.minimum = 80;
   donnees.HScroll1.maximum = 30000;
   donnees.HScroll1.petitPas = 10;
@@ -39,14 +19,6 @@ void InitialiseDonnees(Donnees &donnees) {
   donnees.Combo7.liste = {"Venus", "Mars", "Jupiter", "Saturne"};
 }
 
-Controle *Cherche(Donnees &donnees, std::string_view nom, int indice) {
-  Controle *trouve = nullptr;
-  PourChaque(donnees, [&](const LigneDonnees &ligne, Controle &c) {
-    if (ligne.nom == nom && ligne.indice == indice) {
-      trouve = &c;
-    }
-  });
-  return trouve;
-}
+Controle *Cherche(Donnees &donnees, std::string_view nom, int indice) { return Cherche(Liste(donnees), nom, indice); }
 
 } // namespace velmaris

@@ -76,18 +76,11 @@ struct Donnees {
   Controle TexteMagasinMuet, TexteSansSecours;
 };
 
-/// One control of the main window: its name, how to find it in the record, and how it starts.
-struct LigneDonnees {
-  std::string_view nom;
-  int indice; ///< -1 for a control alone
-  Controle &(*acces)(Donnees &);
-  Genre genre;
-  std::string_view parent; ///< empty for the window itself
-  Place place;
-  std::string_view legende = {};
-  std::string_view infobulle = {};
-  Traits traits = {};
-};
+/// Name of the main window, in language files and among the windows.
+inline constexpr std::string_view kFenetreDonnees = "Données";
+
+/// One control of the main window in its table.
+using LigneDonnees = LigneDe<Donnees>;
 
 /// The table of the main window's controls, each named once, in the order of the keyboard. It comes in pieces, by what
 /// the user is doing. Widgets, language files and tests are made from it.

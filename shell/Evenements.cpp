@@ -96,16 +96,32 @@ void Declenche(Bureau &bureau, Controle &controle, Evenement evenement) {
 }
 
 void PoseTexte(Bureau &bureau, Controle &controle, std::string texte) {
-  controle.texte = std::move(texte);
-  Declenche(bureau, controle, Evenement::Change);
+  if (controle.genre == Genre::Liste) {
+    const auto ligne = std::find(controle.liste.begin(), controle.liste.end(), texte);
+    controle.rang = ligne == controle.liste.end() ? -1 : static_cast<int>(ligne - controle.liste.begin());
+  }
+  if (controle.texte != texte) {
+    controle.texte = std::move(texte);
+    Declenche(bureau, controle, Evenement::Change);
+  }
+}
+
+void PoseRang(Bureau &bureau, Controle &controle, int rang, int nombre) {
+  if (rang < -1 || rang >= nombre) {
+    return;
+  }
+  const auto ligne = static_cast<std::size_t>(rang);
+  controle.rang = rang;
+  controle.texte = rang >= 0 && ligne < controle.liste.size() ? controle.liste[ligne] : std::string();
+  Declenche(bureau, controle, Evenement::Clic);
 }
 
 void PoseOption(Bureau &bureau, Controle &controle) {
-  PourChaque(bureau.donnees, [&](const LigneDonnees &, Controle &autre) {
-    if (autre.genre == Genre::Option && autre.groupe == controle.groupe) {
-      autre.choisi = false;
+  for (Controle *autre : ControlesDe(bureau, controle.fenetre)) {
+    if (autre->genre == Genre::Option && autre->groupe == controle.groupe) {
+      autre->choisi = false;
     }
-  });
+  }
   controle.choisi = true;
   Declenche(bureau, controle, Evenement::Clic);
 }
@@ -120,6 +136,12 @@ void PoseValeur(Bureau &bureau, Controle &controle, int valeur) {
 void ClicControle(Bureau &bureau, Controle &controle) {
   if (Utilisable(controle)) {
     Declenche(bureau, controle, Evenement::Clic);
+  }
+}
+
+void DoubleClicControle(Bureau &bureau, Controle &controle) {
+  if (Utilisable(controle)) {
+    Declenche(bureau, controle, Evenement::DoubleClic);
   }
 }
 
@@ -150,16 +172,14 @@ void EntreChamp(Bureau &bureau, Controle &controle) {
 void QuitteChamp(Bureau &bureau, Controle &controle) { Declenche(bureau, controle, Evenement::Quitte); }
 
 void SaisitTexte(Bureau &bureau, Controle &controle, std::string texte) {
-  if (Utilisable(controle)) {
+  if (Utilisable(controle) && !controle.lectureSeule) {
     PoseTexte(bureau, controle, std::move(texte));
   }
 }
 
 void ChoisitLigne(Bureau &bureau, Controle &controle, int rang) {
-  if (Utilisable(controle) && rang >= -1 && rang < static_cast<int>(controle.liste.size())) {
-    controle.rang = rang;
-    controle.texte = rang < 0 ? std::string() : controle.liste[static_cast<std::size_t>(rang)];
-    Declenche(bureau, controle, Evenement::Clic);
+  if (Utilisable(controle)) {
+    PoseRang(bureau, controle, rang, static_cast<int>(controle.liste.size()));
   }
 }
 

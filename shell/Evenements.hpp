@@ -9,11 +9,12 @@ namespace velmaris {
 
 /// What can happen to a control.
 enum class Evenement : std::uint8_t {
-  Clic,    ///< pressed, chosen, ticked: by the user or by code
-  Relache, ///< a choice made by the user, once mouse or key is released
-  Change,  ///< its text or value has changed, by the user or by code
-  Entre,   ///< a field takes the focus
-  Quitte   ///< a field loses it
+  Clic,       ///< pressed, chosen, ticked: by the user or by code
+  DoubleClic, ///< pressed twice
+  Relache,    ///< a choice made by the user, once mouse or key is released
+  Change,     ///< its text or value has changed, by the user or by code
+  Entre,      ///< a field takes the focus
+  Quitte      ///< a field loses it
 };
 
 /// Whether anything happens at that event of that control.
@@ -25,10 +26,14 @@ void Declenche(Bureau &bureau, Controle &controle, Evenement evenement);
 /// @name Set from code: the control changes and its function runs, in the same statement.
 /// @{
 
-/// Sets the text of a field or a list.
+/// Sets the text of a field, or of a list with the line that bears it; the function runs only when the text is
+/// another one.
 void PoseTexte(Bureau &bureau, Controle &controle, std::string texte);
 /// Selects an option; the others of its group are left.
 void PoseOption(Bureau &bureau, Controle &controle);
+/// Chooses a line of a list, -1 for none; one past its entries changes nothing.
+/// @param nombre  entries that the list can have
+void PoseRang(Bureau &bureau, Controle &controle, int rang, int nombre);
 /// Sets a box or the slider; the function runs only when the value is another one.
 void PoseValeur(Bureau &bureau, Controle &controle, int valeur);
 /// @}
@@ -38,13 +43,15 @@ void PoseValeur(Bureau &bureau, Controle &controle, int valeur);
 
 /// Presses a command, a picture or a module.
 void ClicControle(Bureau &bureau, Controle &controle);
+/// Presses a list or a picture twice.
+void DoubleClicControle(Bureau &bureau, Controle &controle);
 /// Chooses an option.
 void ClicOption(Bureau &bureau, Controle &controle);
 /// Ticks a box, or clears it from its ticked or greyed state.
 void ClicCase(Bureau &bureau, Controle &controle);
 /// Moves the slider, within its limits.
 void BougeCurseur(Bureau &bureau, Controle &controle, int valeur);
-/// Enters a field: its whole text is selected, so that typing replaces it.
+/// Enters a field or a list: the whole text is selected, so that typing replaces it.
 void EntreChamp(Bureau &bureau, Controle &controle);
 /// Leaves a field.
 void QuitteChamp(Bureau &bureau, Controle &controle);

@@ -12,8 +12,6 @@
 namespace velmaris {
 namespace {
 
-constexpr std::string_view kFenetre = "Données";
-
 enum Champ : std::size_t { kNom = 0, kLegende = 1, kTexte = 2, kInfobulle = 3, kIndice = 4 };
 
 bool AUneLegende(Genre genre) {
@@ -34,57 +32,59 @@ bool AUnTexte(Genre genre) { return genre == Genre::Champ || genre == Genre::Lis
 
 bool AUneInfobulle(Genre genre) { return genre != Genre::Texte; }
 
-void AppliqueControle(std::span<const std::string_view> champs, Donnees &donnees) {
+void AppliqueControle(std::span<const std::string_view> champs, const ListeControles &controles) {
   const std::string_view indice = champs.size() > kIndice ? SansBlancs(champs[kIndice]) : std::string_view();
-  PourChaque(donnees, [&](const LigneDonnees &ligne, Controle &c) {
-    if (ligne.nom != champs[kNom] || (!indice.empty() && ligne.indice != Val(indice))) {
-      return;
+  for (Controle *c : controles) {
+    if (c->nom != champs[kNom] || (!indice.empty() && c->indice != Val(indice))) {
+      continue;
     }
-    if (champs.size() > kLegende && AUneLegende(c.genre)) {
-      c.legende = champs[kLegende];
+    if (champs.size() > kLegende && AUneLegende(c->genre)) {
+      c->legende = champs[kLegende];
     }
-    if (champs.size() > kTexte && AUnTexte(c.genre)) {
-      c.texte = champs[kTexte];
+    if (champs.size() > kTexte && AUnTexte(c->genre)) {
+      c->texte = champs[kTexte];
     }
-    if (champs.size() > kInfobulle && AUneInfobulle(c.genre)) {
-      c.infobulle = champs[kInfobulle];
+    if (champs.size() > kInfobulle && AUneInfobulle(c->genre)) {
+      c->infobulle = champs[kInfobulle];
     }
-  });
+  }
 }
 
 } // namespace
 
-void AppliqueLangue(std::string_view texte, std::string_view fenetre, Donnees &donnees, TexteMsg &messages) {
+void AppliqueLangue(std::string_view texte, std::string_view fenetre, const ListeControles &controles,
+                    TexteMsg &messages) {
   PourChaqueLigneDe(texte, fenetre, [&](auto champs) {
     if (!LitMessage(champs, messages)) {
-      AppliqueControle(champs, donnees);
+      AppliqueControle(champs, controles);
     }
   });
 }
 
-void ChargeLangue(Bureau &bureau) {
+void ChargeLangue(Bureau &bureau, std::string_view fenetre) {
   std::optional<std::string> texte;
   Passe([&] { texte = LitFichier(TrouveFichier(bureau.dossiers, bureau.FichierLangue.substr(1))); });
   if (texte) {
-    AppliqueLangue(*texte, kFenetre, bureau.donnees, bureau.messages);
-  } else {
+    AppliqueLangue(*texte, fenetre, ControlesDe(bureau, fenetre), bureau.messages);
+  } else if (fenetre == kFenetreDonnees) {
     bureau.ports.boite({.texte = "Fichier absent.", .icone = Icone::Attention});
   }
   bureau.donnees.Label1.infobulle = bureau.donnees.Label1.legende;
 }
 
-std::string ModeleLangue(Donnees &donnees) {
+std::string ModeleLangue(const ListeControles &controles) {
   std::string texte;
-  PourChaque(donnees, [&](const LigneDonnees &ligne, const Controle &c) {
-    texte += std::string(ligne.nom) + '\\' + (AUneLegende(c.genre) ? c.legende : "") + '\\' +
-             (AUnTexte(c.genre) ? c.texte : "") + '\\' + (AUneInfobulle(c.genre) ? c.infobulle : "") + '\\' +
-             (ligne.indice < 0 ? "" : std::to_string(ligne.indice)) + "\r\n";
-  });
+  for (const Controle *c : controles) {
+    texte += c->nom + '\\' + (AUneLegende(c->genre) ? c->legende : "") + '\\' + (AUnTexte(c->genre) ? c->texte : "") +
+             '\\' + (AUneInfobulle(c->genre) ? c->infobulle : "") + '\\' +
+             (c->indice < 0 ? "" : std::to_string(c->indice)) + "\r\n";
+  }
   return texte;
 }
 
-void EcritLangue(Bureau &bureau) {
-  EcritFichier(bureau.dossiers.utilisateur / ("lang" + std::string(kFenetre) + ".txt"), ModeleLangue(bureau.donnees));
+void EcritLangue(Bureau &bureau, std::string_view fenetre) {
+  EcritFichier(bureau.dossiers.utilisateur / ("lang" + std::string(fenetre) + ".txt"),
+               ModeleLangue(ControlesDe(bureau, fenetre)));
 }
 
 } // namespace velmaris

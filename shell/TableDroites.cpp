@@ -1,7 +1,10 @@
-#include "shell/AccesDonnees.hpp"
+#include "shell/Acces.hpp"
+#include "shell/Donnees.hpp"
 
 namespace velmaris {
 namespace {
+
+using Fenetre = Donnees;
 
 // One control a line.
 // clang-format off

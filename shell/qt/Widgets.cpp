@@ -7,7 +7,7 @@
 #include <QAbstractButton>
 #include <QCheckBox>
 #include <QComboBox>
-#include <QLabel>
+#include <QKeyEvent>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMouseEvent>
@@ -16,6 +16,7 @@
 #include <QRadioButton>
 #include <QSlider>
 #include <QStyle>
+#include <QStyleOptionFocusRect>
 #include <QToolButton>
 
 #include <cmath>
@@ -32,8 +33,10 @@ const QColor kBandeTitre(219, 227, 236);
 
 QString Texte(const std::string &texte) { return QString::fromStdString(texte); }
 
-/// A caption as the toolkit takes it: its ampersands are no keyboard marks.
-QString Legende(const std::string &texte) { return Texte(texte).replace('&', QLatin1String("&&")); }
+/// A caption as the toolkit takes it: an ampersand marks a key only where the control has one.
+QString Legende(const Controle &c) {
+  return c.raccourci ? Texte(c.legende) : Texte(c.legende).replace('&', QLatin1String("&&"));
+}
 
 Qt::Alignment Alignement(Cote cote) {
   switch (cote) {
@@ -48,7 +51,7 @@ Qt::Alignment Alignement(Cote cote) {
 }
 
 QWidget *CreeEtiquette(const Controle &c, QWidget *parent) {
-  auto *label = new QLabel(parent);
+  auto *label = c.renvoi ? new Renvoi(parent) : new QLabel(parent);
   label->setTextFormat(Qt::PlainText);
   label->setAlignment(Alignement(c.cote));
   if (c.opaque) {
@@ -71,6 +74,13 @@ QWidget *CreeImage(const Controle &c, QWidget *parent) {
     return bouton;
   }
   return new QLabel(parent);
+}
+
+QWidget *CreeListeBoite(QWidget *parent) {
+  auto *liste = new QListWidget(parent);
+  liste->setUniformItemSizes(true);
+  liste->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+  return liste;
 }
 
 QWidget *CreeCurseur(const Controle &c, QWidget *parent) {
@@ -97,7 +107,7 @@ void PoseLegende(QWidget &widget, const Controle &c) {
     label->setText(CoupeLegende(Texte(c.legende), widget, widget.width(), widget.height()));
   } else if (auto *bouton = qobject_cast<QAbstractButton *>(&widget); bouton != nullptr) {
     const int marque = qobject_cast<QPushButton *>(&widget) == nullptr ? LargeurMarque(widget) : 8;
-    bouton->setText(CoupeLegende(Legende(c.legende), widget, widget.width() - marque, widget.height()));
+    bouton->setText(CoupeLegende(Legende(c), widget, widget.width() - marque, widget.height()));
   }
 }
 
@@ -117,21 +127,44 @@ void PosePolice(QWidget &widget, const Controle &c) {
   widget.setFont(font);
 }
 
+void RemplitDeroulante(QComboBox &deroulante, const Controle &c, const Controle &vu, bool tout) {
+  if (tout || c.liste != vu.liste) {
+    deroulante.clear();
+    for (const std::string &ligne : c.liste) {
+      deroulante.addItem(Texte(ligne));
+    }
+  }
+  // A text that is no line of the list is shown all the same.
+  deroulante.setPlaceholderText(Texte(c.texte));
+  deroulante.setCurrentIndex(c.rang);
+}
+
+void RemplitListe(QListWidget &liste, const Controle &c, const Controle &vu, bool tout) {
+  if (tout || c.liste != vu.liste) {
+    QStringList lignes;
+    lignes.reserve(static_cast<qsizetype>(c.liste.size()));
+    for (const std::string &ligne : c.liste) {
+      lignes << Texte(ligne);
+    }
+    liste.clear();
+    liste.addItems(lignes);
+  }
+  if (liste.currentRow() != c.rang) {
+    liste.setCurrentRow(c.rang);
+  }
+}
+
 /// Text, value or choice of a control that the user fills.
-void PoseContenu(QWidget &widget, const Controle &c) {
+void PoseContenu(QWidget &widget, const Controle &c, const Controle &vu, bool tout) {
   const QSignalBlocker silence(&widget);
   if (auto *champ = qobject_cast<QLineEdit *>(&widget)) {
     if (champ->text() != Texte(c.texte)) {
       champ->setText(Texte(c.texte));
     }
-  } else if (auto *liste = qobject_cast<QComboBox *>(&widget)) {
-    if (liste->count() != static_cast<int>(c.liste.size())) {
-      liste->clear();
-      for (const std::string &ligne : c.liste) {
-        liste->addItem(Texte(ligne));
-      }
-    }
-    liste->setCurrentIndex(c.rang >= 0 ? c.rang : liste->findText(Texte(c.texte)));
+  } else if (auto *deroulante = qobject_cast<QComboBox *>(&widget)) {
+    RemplitDeroulante(*deroulante, c, vu, tout);
+  } else if (auto *liste = qobject_cast<QListWidget *>(&widget)) {
+    RemplitListe(*liste, c, vu, tout);
   } else if (auto *option = qobject_cast<QRadioButton *>(&widget)) {
     option->setChecked(c.choisi);
   } else if (auto *coche = qobject_cast<QCheckBox *>(&widget)) {
@@ -161,6 +194,37 @@ void Carte::mousePressEvent(QMouseEvent *event) {
   }
 }
 
+Renvoi::Renvoi(QWidget *parent) : QLabel(parent) {
+  setFocusPolicy(Qt::TabFocus);
+  setCursor(Qt::PointingHandCursor);
+}
+
+void Renvoi::mousePressEvent(QMouseEvent *event) {
+  if (event->button() == Qt::LeftButton && auClic) {
+    auClic();
+  }
+}
+
+void Renvoi::keyPressEvent(QKeyEvent *event) {
+  const int touche = event->key();
+  if ((touche == Qt::Key_Return || touche == Qt::Key_Enter || touche == Qt::Key_Space) && auClic) {
+    auClic();
+  } else {
+    QLabel::keyPressEvent(event);
+  }
+}
+
+void Renvoi::paintEvent(QPaintEvent *event) {
+  QLabel::paintEvent(event);
+  if (hasFocus()) {
+    QPainter p(this);
+    QStyleOptionFocusRect option;
+    option.initFrom(this);
+    option.rect = rect().adjusted(1, 1, -1, -1);
+    style()->drawPrimitive(QStyle::PE_FrameFocusRect, &option, &p, this);
+  }
+}
+
 QWidget *CreeWidget(Bureau &bureau, const Controle &c, QWidget *parent) {
   switch (c.genre) {
   case Genre::Surface:
@@ -173,7 +237,8 @@ QWidget *CreeWidget(Bureau &bureau, const Controle &c, QWidget *parent) {
     return CreeEtiquette(c, parent);
   case Genre::Champ: {
     auto *champ = new QLineEdit(parent);
-    champ->setAlignment(Qt::AlignRight);
+    champ->setAlignment(Alignement(c.cote));
+    champ->setReadOnly(c.lectureSeule);
     return champ;
   }
   case Genre::Bouton:
@@ -185,7 +250,7 @@ QWidget *CreeWidget(Bureau &bureau, const Controle &c, QWidget *parent) {
   case Genre::Liste:
     return new QComboBox(parent);
   case Genre::ListeBoite:
-    return new QListWidget(parent);
+    return CreeListeBoite(parent);
   case Genre::Curseur:
     return CreeCurseur(c, parent);
   case Genre::Image:
@@ -214,7 +279,7 @@ void AccordeWidget(QWidget &widget, const Controle &c, const Controle &vu, bool 
   if (c.couleur != vu.couleur || (tout && c.couleur != kNoir)) {
     PoseCouleur(widget, c);
   }
-  PoseContenu(widget, c);
+  PoseContenu(widget, c, vu, tout);
   const bool attend = c.aVenir && !c.actif;
   const QString infobulle = attend ? aVenir : Texte(c.infobulle);
   if (widget.toolTip() != infobulle) {

@@ -2,12 +2,17 @@
 
 #include "shell/Bureau.hpp"
 
+#include <QColor>
 #include <QFrame>
+#include <QLabel>
 #include <QWidget>
 
 #include <functional>
 
 namespace velmaris::qt {
+
+/// Background of the windows.
+inline const QColor kFondFenetre(238, 240, 243);
 
 /// A module: a light card with a title band, that can be taken with the mouse.
 class Carte : public QFrame {
@@ -21,6 +26,18 @@ protected:
 
 private:
   bool titre_;
+};
+
+/// A caption that does something: a click, Return or the space bar.
+class Renvoi : public QLabel {
+public:
+  explicit Renvoi(QWidget *parent);
+  std::function<void()> auClic;
+
+protected:
+  void mousePressEvent(QMouseEvent *event) override;
+  void keyPressEvent(QKeyEvent *event) override;
+  void paintEvent(QPaintEvent *event) override;
 };
 
 /// Makes the widget that shows a control; it bears the control's name and index as its object name.

@@ -35,7 +35,8 @@ int main(int argc, char **argv) {
     velmaris::Secours(bureau, erreur);
     return 1;
   }
-  velmaris::qt::Fenetre fenetre(bureau);
+  velmaris::qt::Scene scene(bureau);
+  velmaris::qt::Fenetre fenetre(scene);
   fenetre.show();
   QTimer::singleShot(0, &fenetre, [&] { boites.Ouvre(fenetre); });
   return QApplication::exec();

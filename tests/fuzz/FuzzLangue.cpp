@@ -14,7 +14,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *octets, std::size_t ta
   }
   Donnees donnees;
   TexteMsg messages;
-  AppliqueLangue(texte, "Données", donnees, messages);
+  AppliqueLangue(texte, "Données", Liste(donnees), messages);
   Attend(messages == seuls, "both readers find the same texts");
   return 0;
 }

@@ -27,14 +27,14 @@ protected:
     if (anglais) {
       ClicControle(bureau, d.Image10[1]);
     }
-    fenetre = std::make_unique<qt::Fenetre>(bureau);
+    fenetre = std::make_unique<qt::Fenetre>(scene);
     fenetre->show();
     QApplication::processEvents();
   }
 
   /// Does something to the core and shows it.
   template <class Geste> void Joue(Geste &&geste) {
-    fenetre->Joue(geste);
+    scene.Joue(geste);
     QApplication::processEvents();
   }
 
@@ -53,6 +53,7 @@ protected:
     fenetre->grab().save(QString(VELMARIS_IMAGES) + "/" + nom + ".png");
   }
 
+  qt::Scene scene{bureau};
   std::unique_ptr<qt::Fenetre> fenetre;
 };
 

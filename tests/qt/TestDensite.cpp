@@ -1,6 +1,7 @@
 #include "OutilsFenetre.hpp"
 
 #include "shell/qt/Icones.hpp"
+#include "shell/qt/Toile.hpp"
 
 #include <QImage>
 #include <QPainter>
@@ -95,9 +96,9 @@ TEST_F(FenetreOuverte, FiguresOfAFineGridDoNotOverprintEachOther) {
 
 TEST_F(FenetreOuverte, EveryPictureNamedByAControlIsDrawn) {
   Ouvre(kPetitEcran);
-  for (const qt::Lien &lien : fenetre->liens()) {
-    if (!lien.ligne->traits.image.empty()) {
-      const QIcon icone = qt::Icone(lien.ligne->traits.image);
+  for (const qt::Lien &lien : fenetre->rendu().liens()) {
+    if (!lien.controle->image.empty()) {
+      const QIcon icone = qt::Icone(lien.controle->image);
       ASSERT_FALSE(icone.isNull()) << lien.controle->nom;
       QImage image(64, 64, QImage::Format_RGB32);
       image.fill(Qt::white);

@@ -51,7 +51,7 @@ protected:
 TEST_P(ToutesLesVues, NoCaptionIsCut) {
   Ouvre(GetParam().ecran, GetParam().anglais);
   MontreTout();
-  for (const qt::Lien &lien : fenetre->liens()) {
+  for (const qt::Lien &lien : fenetre->rendu().liens()) {
     QString texte;
     if (const auto *label = qobject_cast<QLabel *>(lien.widget)) {
       texte = label->text();
@@ -92,7 +92,7 @@ INSTANTIATE_TEST_SUITE_P(Tailles, ToutesLesVues,
 
 TEST_F(FenetreOuverte, EveryWidgetThatTakesTheFocusHasAnAccessibleName) {
   Ouvre(kPetitEcran);
-  for (const qt::Lien &lien : fenetre->liens()) {
+  for (const qt::Lien &lien : fenetre->rendu().liens()) {
     if (lien.widget != nullptr && lien.widget->focusPolicy() != Qt::NoFocus) {
       EXPECT_FALSE(lien.widget->accessibleName().isEmpty()) << lien.controle->nom;
     }
@@ -188,7 +188,7 @@ TEST_F(FenetreOuverte, AHeldModuleFollowsTheMouseOverTheSurface) {
 
 TEST_F(FenetreOuverte, AFailureThatNothingCatchesIsReportedAndKeepsTheSight) {
   Ouvre(kPetitEcran);
-  fenetre->Joue([] { throw Erreur(13); });
+  scene.Joue([] { throw Erreur(13); });
   ASSERT_EQ(boites.size(), 1U);
   EXPECT_TRUE(std::filesystem::exists(dossier.chemin() / "utilisateur" / "secours.LoP"));
 }

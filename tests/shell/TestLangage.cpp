@@ -11,7 +11,7 @@ namespace {
 
 class Langue : public Programme {
 protected:
-  void Lit(const std::string &texte) { AppliqueLangue(texte, "Données", d, bureau.messages); }
+  void Lit(const std::string &texte) { AppliqueLangue(texte, "Données", Liste(d), bureau.messages); }
 };
 
 TEST_F(Langue, OnlyTheLinesOfTheWindowsOwnSectionAreUsed) {
@@ -134,7 +134,7 @@ TEST_F(Langue, TheFirstLabelExplainsItselfAfterEveryReading) {
 
 TEST_F(Langue, AWrittenTemplateReadBackChangesNothing) {
   Demarre();
-  const std::string modele = ModeleLangue(d);
+  const std::string modele = ModeleLangue(Liste(d));
   std::vector<Controle> avant;
   PourChaque(d, [&](const LigneDonnees &, const Controle &c) { avant.push_back(c); });
   Lit("Form=Données\r\n" + modele);
@@ -144,15 +144,15 @@ TEST_F(Langue, AWrittenTemplateReadBackChangesNothing) {
 
 TEST_F(Langue, TheTemplateIsWrittenToTheUsersFolder) {
   Demarre();
-  EcritLangue(bureau);
-  EXPECT_EQ(LitFichier(dossier.chemin() / "utilisateur" / "langDonnées.txt"), ModeleLangue(d));
+  EcritLangue(bureau, kFenetreDonnees);
+  EXPECT_EQ(LitFichier(dossier.chemin() / "utilisateur" / "langDonnées.txt"), ModeleLangue(Liste(d)));
 }
 
 /// The shipped files, in both languages.
 class FichiersLivres : public Programme, public ::testing::WithParamInterface<const char *> {};
 
 TEST_P(FichiersLivres, EveryNumberedTextThatCodeUsesIsThere) {
-  AppliqueLangue(LitFichier(std::filesystem::path(VELMARIS_DONNEES) / GetParam()), "Données", d, bureau.messages);
+  AppliqueLangue(LitFichier(std::filesystem::path(VELMARIS_DONNEES) / GetParam()), "Données", Liste(d), bureau.messages);
   for (std::size_t n = 1; n <= 34; ++n) {
     EXPECT_EQ(bureau.messages[n].empty(), n == 27) << n << ": 27 names no text";
   }
@@ -168,7 +168,7 @@ TEST_P(FichiersLivres, EveryCaptionAndToolTipOfTheWindowHasItsLine) {
     }
   };
   PourChaque(d, [&](const LigneDonnees &, Controle &c) { efface(c); });
-  AppliqueLangue(LitFichier(std::filesystem::path(VELMARIS_DONNEES) / GetParam()), "Données", d, bureau.messages);
+  AppliqueLangue(LitFichier(std::filesystem::path(VELMARIS_DONNEES) / GetParam()), "Données", Liste(d), bureau.messages);
   const std::set<std::string> composes = {"Label32"};
   PourChaque(d, [&](const LigneDonnees &, const Controle &c) {
     if (composes.count(c.nom) == 0) {
@@ -183,7 +183,7 @@ INSTANTIATE_TEST_SUITE_P(DeuxLangues, FichiersLivres, ::testing::Values("FR.txt"
 TEST_F(Programme, TheFrenchFileHoldsTheBuiltInCaptions) {
   std::vector<std::string> avant;
   PourChaque(d, [&](const LigneDonnees &, const Controle &c) { avant.push_back(c.legende); });
-  AppliqueLangue(LitFichier(std::filesystem::path(VELMARIS_DONNEES) / "FR.txt"), "Données", d, bureau.messages);
+  AppliqueLangue(LitFichier(std::filesystem::path(VELMARIS_DONNEES) / "FR.txt"), "Données", Liste(d), bureau.messages);
   std::size_t i = 0;
   PourChaque(d, [&](const LigneDonnees &, const Controle &c) { EXPECT_EQ(c.legende, avant[i++]) << c.nom; });
 }

@@ -1,0 +1,52 @@
+#include "shell/qt/Scene.hpp"
+
+#include "shell/Demarrage.hpp"
+#include "shell/qt/Rendu.hpp"
+
+#include <QApplication>
+
+#include <utility>
+
+namespace velmaris::qt {
+
+void Scene::Joue(const std::function<void()> &evenement) {
+  try {
+    evenement();
+  } catch (const std::exception &erreur) {
+    bureau_.termine = true;
+    Secours(bureau_, erreur);
+    QApplication::exit(1);
+    return;
+  }
+  Accorde();
+}
+
+void Scene::Accorde() {
+  encore_ = true;
+  if (accorde_) {
+    return;
+  }
+  accorde_ = true;
+  // Moving the focus, or hiding what has it, is an event in its turn.
+  while (encore_) {
+    encore_ = false;
+    const std::vector<Rendu *> rendus = rendus_;
+    for (Rendu *rendu : rendus) {
+      rendu->Accorde();
+    }
+    if (const Controle *voulu = std::exchange(bureau_.focus, nullptr)) {
+      for (Rendu *rendu : rendus) {
+        rendu->DonneFocus(*voulu);
+      }
+    }
+  }
+  accorde_ = false;
+  for (const std::vector<Rendu *> rendus = rendus_; Rendu * rendu : rendus) {
+    rendu->AccordeFenetre();
+  }
+  if (bureau_.termine) {
+    QApplication::quit();
+  }
+}
+
+} // namespace velmaris::qt
