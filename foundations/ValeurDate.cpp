@@ -5,6 +5,7 @@
 
 #include <charconv>
 #include <chrono>
+#include <cmath>
 
 namespace velmaris {
 namespace {
@@ -51,6 +52,27 @@ ValeurDate LitDate(std::string_view texte) {
 
 int JourSemaine(const ValeurDate &date) {
   return static_cast<int>(std::chrono::weekday(std::chrono::sys_days(JourCivil(date))).c_encoding());
+}
+
+double LitHeure(std::string_view texte) {
+  const std::size_t separateur = texte.find(':');
+  if (separateur == std::string_view::npos) {
+    throw Erreur(13);
+  }
+  const std::string_view heures = texte.substr(0, separateur);
+  const std::string_view minutes = texte.substr(separateur + 1);
+  const int heure = LitChamp(heures);
+  const int minute = LitChamp(minutes);
+  if (heures.size() > 2 || minutes.size() > 2 || heure > 23 || minute > 59) {
+    throw Erreur(13);
+  }
+  return (heure * 60 + minute) / 1440.0;
+}
+
+std::string TexteHeure(double jours) {
+  const auto secondes = std::lround(jours * 86400);
+  return Format(static_cast<double>(secondes / 3600), "00") + ":" +
+         Format(static_cast<double>(secondes / 60 % 60), "00") + ":" + Format(static_cast<double>(secondes % 60), "00");
 }
 
 std::string TexteDateHeure(const ValeurDate &date) {

@@ -27,4 +27,13 @@ int JourSemaine(const ValeurDate &date);
 /// A date and time as day/month/year hour:minute:second, two digits each and four for the year.
 std::string TexteDateHeure(const ValeurDate &date);
 
+/// Time of day from a text hour ":" minute.
+/// @return fraction of a day, 0 to under 1
+/// @throws Erreur 13 for an hour over 23, a minute over 59, or a text that isn't two numbers of one or two digits
+double LitHeure(std::string_view texte);
+
+/// A time of day or an interval under a day in the system's general form, "hh:mm:ss".
+/// @param jours  fraction of a day; the whole seconds are the nearest
+std::string TexteHeure(double jours);
+
 } // namespace velmaris

@@ -38,33 +38,25 @@ constexpr std::size_t kLigneListe = 21;
 constexpr std::array<const char *, 12> kMois = {"JAN", "FEV", "MAR", "AVR", "MAI", "JUN",
                                                 "JUI", "AOU", "SEP", "OCT", "NOV", "DEC"};
 
-/// Takes a line's number for an option of `nombre` choices; one that doesn't exist is passed over.
+/// A line's number, absent when it leaves 16 bits.
 /// @param absent  what an empty line counts as
-template <class Choix> void Choisit(const std::string &ligne, int absent, int nombre, Choix &choix) {
-  Passe([&] {
-    const int numero = ligne.empty() ? absent : Entier16(Val(ligne));
-    if (numero >= 0 && numero < nombre) {
-      choix = static_cast<Choix>(numero);
-    }
-  });
+std::optional<int> Nombre(const std::string &ligne, int absent) {
+  std::optional<int> nombre;
+  Passe([&] { nombre = ligne.empty() ? absent : Entier16(Val(ligne)); });
+  return nombre;
 }
 
-/// Takes line 21 for a list of `nombre` entries, -1 being no choice; an entry that doesn't exist is passed over.
-void ChoisitRang(const std::string &ligne, int nombre, int &rang) {
-  Passe([&] {
-    const int numero = Entier16(Val(ligne));
-    if (numero >= -1 && numero < nombre) {
-      rang = numero;
-    }
-  });
+/// Takes a choice among `nombre`; one that doesn't exist is passed over.
+template <class Choix> void Choisit(std::optional<int> numero, int nombre, Choix &choix) {
+  if (numero && *numero >= 0 && *numero < nombre) {
+    choix = static_cast<Choix>(*numero);
+  }
 }
 
-void AppliqueHorizon(const std::string &ligne, Observation &observation) {
-  if (ligne.empty()) {
-    observation.horizon = Horizon::Naturel;
-  } else if (ligne == "NATU" || ligne == "ARTI") {
-    observation.horizon = ligne == "ARTI" ? Horizon::Artificiel : Horizon::Naturel;
-    BordDeLHorizon(observation);
+/// Takes a line of a list of `nombre` entries, -1 being none; an entry that doesn't exist is passed over.
+void ChoisitRang(std::optional<int> numero, int nombre, int &rang) {
+  if (numero && *numero >= -1 && *numero < nombre) {
+    rang = *numero;
   }
 }
 
@@ -84,7 +76,21 @@ void LitLignesLoP(std::string_view octets, TableLoP &table) {
   }
 }
 
-int AppliqueLoP(const TableLoP &table, Observation &observation) {
+ChoixLoP LitChoixLoP(const TableLoP &table) {
+  ChoixLoP choix;
+  const std::string &horizon = table[kLigneHorizon];
+  choix.corps = Nombre(table[kLigneCorps], 0);
+  choix.horizonEcrit = horizon == "NATU" || horizon == "ARTI";
+  if (choix.horizonEcrit || horizon.empty()) {
+    choix.horizon = horizon == "ARTI" ? Horizon::Artificiel : Horizon::Naturel;
+  }
+  choix.bord = Nombre(table[kLigneBord], 1);
+  choix.fraction = Nombre(table[kLigneGenre], 1);
+  choix.rang = Nombre(table[kLigneListe], 0);
+  return choix;
+}
+
+void AppliqueTextesLoP(const TableLoP &table, Observation &observation) {
   for (std::size_t i = 0; i < kChampsLoP.size(); ++i) {
     if (kChampsLoP[i] != nullptr) {
       observation.*kChampsLoP[i] = table[i];
@@ -93,18 +99,24 @@ int AppliqueLoP(const TableLoP &table, Observation &observation) {
   observation.lectureFraction = Gauche(table[kLigneFraction], 2);
   observation.sud = table[kLigneHemisphere] != "Nord";
   observation.est = table[kLigneCote] == "Est";
+}
 
-  int corps = 0;
-  Passe([&] { corps = Entier16(Val(table[kLigneCorps])); });
-  Choisit(table[kLigneCorps], 0, 4, observation.corps);
+int AppliqueLoP(const TableLoP &table, Observation &observation) {
+  AppliqueTextesLoP(table, observation);
+  const ChoixLoP choix = LitChoixLoP(table);
+  const int corps = choix.corps.value_or(0);
+  Choisit(choix.corps, 4, observation.corps);
   BordDuCorps(observation, corps);
-  AppliqueHorizon(table[kLigneHorizon], observation);
-  Choisit(table[kLigneBord], 1, 3, observation.bord);
-  Choisit(table[kLigneGenre], 1, 2, observation.fraction);
+  observation.horizon = choix.horizon.value_or(observation.horizon);
+  if (choix.horizonEcrit) {
+    BordDeLHorizon(observation);
+  }
+  Choisit(choix.bord, 3, observation.bord);
+  Choisit(choix.fraction, 2, observation.fraction);
   if (corps == static_cast<int>(Corps::Etoiles)) {
-    ChoisitRang(table[kLigneListe], kNombreEtoiles, observation.etoile);
+    ChoisitRang(choix.rang, kNombreEtoiles, observation.etoile);
   } else if (corps == static_cast<int>(Corps::Planetes)) {
-    ChoisitRang(table[kLigneListe], kNombrePlanetes, observation.planete);
+    ChoisitRang(choix.rang, kNombrePlanetes, observation.planete);
   }
   return corps;
 }

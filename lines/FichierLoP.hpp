@@ -4,6 +4,7 @@
 
 #include <array>
 #include <filesystem>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -20,6 +21,23 @@ using TableLoP = std::array<std::string, kLignesLoP>;
 /// @param table   its first entries are replaced
 /// @throws Erreur 9 at a 32nd line, the table being full by then
 void LitLignesLoP(std::string_view octets, TableLoP &table);
+
+/// What the numbered lines of a file choose. A choice that the file doesn't hold, or whose number can't be read, is
+/// absent and changes nothing; one that doesn't exist is there all the same.
+struct ChoixLoP {
+  std::optional<int> corps;       ///< line 17
+  std::optional<Horizon> horizon; ///< line 18
+  bool horizonEcrit = false;      ///< line 18 names the horizon: its consequences for the limb follow
+  std::optional<int> bord;        ///< line 19, 1 when it is empty
+  std::optional<int> fraction;    ///< line 20, 1 when it is empty
+  std::optional<int> rang;        ///< line 21, of the list of stars or planets; 0 when it is empty
+};
+
+/// Reads the choices of a table of lines.
+ChoixLoP LitChoixLoP(const TableLoP &table);
+
+/// Pours the texts and the two sides of a table of lines into a sight.
+void AppliqueTextesLoP(const TableLoP &table, Observation &observation);
 
 /// Pours a table of lines into a sight, line by line; a line that says nothing valid changes nothing.
 /// @return the number of the body as line 17 gives it

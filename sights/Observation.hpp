@@ -7,9 +7,10 @@
 
 namespace velmaris {
 
-enum class Corps : std::uint8_t { Soleil = 0, Lune = 1, Planetes = 2, Etoiles = 3 };
-enum class Bord : std::uint8_t { Superieur = 0, Inferieur = 1, Centre = 2 };
-enum class Horizon : std::uint8_t { Naturel = 0, Artificiel = 1 };
+// `Aucun` is what a search ends on when no choice of the panel is made.
+enum class Corps : std::uint8_t { Soleil = 0, Lune = 1, Planetes = 2, Etoiles = 3, Aucun = 4 };
+enum class Bord : std::uint8_t { Superieur = 0, Inferieur = 1, Centre = 2, Aucun = 3 };
+enum class Horizon : std::uint8_t { Naturel = 0, Artificiel = 1, Aucun = 2 };
 enum class Fraction : std::uint8_t { Secondes = 0, Centiemes = 1 };
 
 /// Entries of the list of stars and of the list of planets.
