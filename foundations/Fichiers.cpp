@@ -8,6 +8,7 @@
 #include <cstdint>
 #include <cstdlib>
 #include <fcntl.h>
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <system_error>
 #include <unistd.h>
@@ -165,6 +166,26 @@ void EcritFichier(const std::filesystem::path &chemin, std::string_view octets) 
   const Descripteur parent(::open(dossier.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
   if (parent.numero() >= 0) {
     ::fsync(parent.numero());
+  }
+}
+
+void AjouteLigne(const std::filesystem::path &chemin, std::string_view titre, std::string_view ligne) {
+  const Descripteur fichier(::open(chemin.c_str(), O_RDWR | O_APPEND | O_CREAT | O_CLOEXEC | O_NONBLOCK, 0644));
+  struct stat etat {};
+  // The lock, which goes with the descriptor, keeps two programs from both writing the title.
+  if (fichier.numero() < 0 || ::flock(fichier.numero(), LOCK_EX) != 0 || ::fstat(fichier.numero(), &etat) != 0 ||
+      !S_ISREG(etat.st_mode)) {
+    throw Erreur(75);
+  }
+  std::string octets;
+  if (etat.st_size == 0) {
+    octets = std::string(titre) + "\n";
+  } else if (char dernier = 0; ::pread(fichier.numero(), &dernier, 1, etat.st_size - 1) == 1 && dernier != '\n') {
+    octets = "\n";
+  }
+  EcritTout(fichier.numero(), octets.append(ligne) + "\n");
+  if (::fdatasync(fichier.numero()) != 0) {
+    throw Erreur(75);
   }
 }
 

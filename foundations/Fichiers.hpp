@@ -15,6 +15,12 @@ std::string LitFichier(const std::filesystem::path &chemin);
 /// @throws Erreur 75 when it can't be written; an old file of that name is then whole
 void EcritFichier(const std::filesystem::path &chemin, std::string_view octets);
 
+/// Appends a line to a file, flushed to the disk when this returns; what is there is never rewritten. A new file gets
+/// its title line first, and a last line without its end is closed first.
+/// @param titre, ligne  without line ends
+/// @throws Erreur 75 when it can't be written
+void AjouteLigne(const std::filesystem::path &chemin, std::string_view titre, std::string_view ligne);
+
 /// Text of a file as UTF-8: taken as it is when it is valid UTF-8, else read as Windows-1252. A byte order mark goes.
 std::string EnUtf8(std::string_view octets);
 

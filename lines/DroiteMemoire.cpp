@@ -67,6 +67,14 @@ std::vector<CleValeur> ClesEnregistrees(int ligne, const Observation &o, const s
   return cles;
 }
 
+void LitTextesEnregistres(int ligne, const std::function<std::string(const std::string &)> &lit, Observation &o) {
+  for (const ChampGarde &c : kChampsGardes) {
+    o.*c.texte = lit(CleDroite(c.champ, ligne));
+  }
+  o.sud = lit(CleDroite("Hem(", ligne)) != "Nord";
+  o.est = lit(CleDroite("Lon(", ligne)) == "Est";
+}
+
 std::vector<CleValeur> ClesEffacees(int ligne) {
   constexpr std::array<const char *, 19> kVides = {"AS(",  "Bord(", "Hor(", "T3(",  "T4(", "T5(", "Td0(",
                                                    "Td1(", "Td2(",  "T6(",  "T7(",  "T8(", "T9(", "T10(",

@@ -2,6 +2,7 @@
 
 #include "sights/Observation.hpp"
 
+#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -28,6 +29,11 @@ std::string CleDroite(std::string_view champ, int ligne);
 /// @throws Erreur 6 when a product leaves 32 bits
 std::vector<CleValeur> ClesEnregistrees(int ligne, const Observation &observation, const std::string &nom,
                                         const ValeursVisee &valeurs);
+
+/// Reads the texts and the sides of a stored line into a sight.
+/// @param lit  gives a key's value, empty when it is absent
+void LitTextesEnregistres(int ligne, const std::function<std::string(const std::string &)> &lit,
+                          Observation &observation);
 
 /// What erasing a line writes, in this order. Body numbers, fraction kind and fraction keep their values: with the
 /// others empty they mean nothing.

@@ -4,12 +4,22 @@
 
 namespace velmaris {
 
-Bureau::Bureau() { InitialiseDonnees(donnees); }
+Bureau::Bureau() {
+  InitialiseDonnees(donnees);
+  InitialiseFSelect(fselect);
+  InitialiseImpression(impression);
+}
 
 Bureau::~Bureau() = default;
 
 ListeControles ControlesDe(Bureau &bureau, std::string_view fenetre) {
-  return fenetre == kFenetreDonnees ? Liste(bureau.donnees) : ListeControles();
+  if (fenetre == kFenetreDonnees) {
+    return Liste(bureau.donnees);
+  }
+  if (fenetre == kFenetreFSelect) {
+    return Liste(bureau.fselect);
+  }
+  return fenetre == kFenetreImpression ? Liste(bureau.impression) : ListeControles();
 }
 
 Surface *SurfaceDe(Bureau &bureau, const Controle &controle) {

@@ -4,7 +4,11 @@
 #include "foundations/Messages.hpp"
 #include "foundations/Surface.hpp"
 #include "lines/Feuille.hpp"
+#include "lines/FichierLoP.hpp"
+#include "lines/Transport.hpp"
 #include "shell/Donnees.hpp"
+#include "shell/FSelect.hpp"
+#include "shell/Impression.hpp"
 #include "shell/Ports.hpp"
 #include "sights/Affichage.hpp"
 #include "sights/Observation.hpp"
@@ -36,6 +40,8 @@ struct Bureau {
   Bureau &operator=(Bureau &&) = delete;
 
   Donnees donnees;
+  FSelect fselect;
+  Impression impression;
   double largeurFenetre = 0.0;         ///< of the main window, 1/1440 inch
   double hauteurFenetre = 0.0;         ///< of the main window, 1/1440 inch
   std::string titre = "Velmaris 2009"; ///< of the main window
@@ -58,12 +64,16 @@ struct Bureau {
   Feuille feuille;
   PointSolaire soleil;
   Horloge horloge;
-  std::string NomAstre; ///< name of the body of the last reduced line
+  Transports transports;
+  TableLoP lignesLoP;        ///< lines of the sight's file read last
+  bool sansQuestion = false; ///< lines are erased without asking for each, while all four are
+  std::string NomAstre;      ///< name of the body of the last reduced line
 
   Ports ports;
   Dossiers dossiers;
   std::unique_ptr<Valeurs> valeurs; ///< the settings store
   EtatMagasin magasinSignale{};     ///< the trouble that has been told, none at first
+  bool journalSignale = false;      ///< that the journal can't be written has been told
 };
 
 /// The controls of one of the program's windows.

@@ -16,6 +16,7 @@ void PoseTraits(Controle &c, const Traits &traits) {
   c.renvoi = traits.renvoi;
   c.raccourci = traits.raccourci;
   c.lectureSeule = traits.lectureSeule;
+  c.role = traits.role;
   c.groupe = traits.groupe;
   c.taille = traits.taille;
   c.cote = traits.cote;

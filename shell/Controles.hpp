@@ -29,6 +29,9 @@ enum class Genre : std::uint8_t {
 /// Side of its place that a caption keeps to.
 enum class Cote : std::uint8_t { Gauche, Centre, Droite };
 
+/// What Return and Escape press in a dialog.
+enum class Role : std::uint8_t { Aucun, Defaut, Annule };
+
 /// Left, top, width and height in 1/1440 inch, within the parent.
 struct Place {
   double gauche = 0.0;
@@ -62,6 +65,7 @@ struct Controle {
   bool renvoi = false;       ///< of a caption: a click on it does something
   bool raccourci = false;    ///< an ampersand in the caption marks its key
   bool lectureSeule = false; ///< of a field: it shows a result
+  Role role = Role::Aucun;   ///< of a button of a dialog
   bool titre = false;        ///< of a module: it bears a title line; of a caption: it is one
   int groupe = 0;            ///< options of one number exclude each other; 0 for none
   int valeur = 0;            ///< of a box or the slider
@@ -79,6 +83,15 @@ struct Controle {
   bool operator==(const Controle &) const = default;
 };
 
+/// A window besides the main one, as far as it can be seen.
+struct CadreFenetre {
+  std::string_view nom; ///< in language files and among the windows
+  std::string titre;
+  double largeur = 0.0; ///< 1/1440 inch
+  double hauteur = 0.0; ///< 1/1440 inch
+  bool visible = false;
+};
+
 /// What the table of a window says of a control beyond its name, kind and place.
 struct Traits {
   bool visible = true;
@@ -89,6 +102,7 @@ struct Traits {
   bool renvoi = false;
   bool raccourci = false;
   bool lectureSeule = false;
+  Role role = Role::Aucun;
   int groupe = 0;
   int taille = 9;
   Cote cote = Cote::Gauche;

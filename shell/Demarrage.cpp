@@ -6,11 +6,14 @@
 #include "shell/Droites.hpp"
 #include "shell/Evenements.hpp"
 #include "shell/Langage.hpp"
+#include "shell/MemoireDroites.hpp"
+#include "shell/ModesDroite.hpp"
 #include "shell/PanneauDirect.hpp"
 #include "shell/Saisie.hpp"
 #include "shell/Valeurs.hpp"
 
 #include <algorithm>
+#include <array>
 #include <system_error>
 
 namespace velmaris {
@@ -139,6 +142,7 @@ void Timer1_Tick(Bureau &bureau) {
 bool Donnees_KeyDown(Bureau &bureau, int code) {
   constexpr int kF2 = 113;
   constexpr int kF3 = 114;
+  constexpr int kF5 = 116; ///< F5 to F8, the four lines
   constexpr int kF9 = 120;
   constexpr int kF10 = 121;
   Controle &zoom = bureau.donnees.HScroll1;
@@ -154,6 +158,12 @@ bool Donnees_KeyDown(Bureau &bureau, int code) {
     return true;
   case kF3:
     Command1_Click(bureau, -1);
+    return true;
+  case kF5:
+  case kF5 + 1:
+  case kF5 + 2:
+  case kF5 + 3:
+    Droite_Click(bureau, code - kF5);
     return true;
   case kF9:
     deplace(kPasTouches);
@@ -175,18 +185,23 @@ void Sortie_Click(Bureau &bureau, int /*indice*/) {
   }
   bureau.valeurs->Ensemble([&] { GardeReglages(bureau); });
   SignaleMagasin(bureau);
+  bureau.fselect.cadre.visible = false;
   bureau.termine = true;
 }
 
 void Image10_Click(Bureau &bureau, int indice) {
   bureau.FichierLangue = indice == 1 ? "\\EN.txt" : "\\FR.txt";
+  Donnees &d = bureau.donnees;
   const bool sansFichier = bureau.TitreFichier == bureau.messages[9];
+  // The position worked out is a result, which a file's empty captions must not take away.
+  const std::array<std::string, 2> estimee = {d.LabLatEst.legende, d.LabLonEst.legende};
   ChargeLangue(bureau, kFenetreDonnees);
+  d.LabLatEst.legende = estimee[0];
+  d.LabLonEst.legende = estimee[1];
   if (sansFichier) {
     bureau.TitreFichier = bureau.messages[9];
   }
   MajListeDroites(bureau); // the buttons' tool tips are the stored bodies, not the file's
-  Donnees &d = bureau.donnees;
   d.Image10[0].visible = indice != 0;
   d.Image10[1].visible = indice == 0;
   EcritReglage(bureau, "Langue", std::to_string(indice));

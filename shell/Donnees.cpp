@@ -15,6 +15,8 @@ void InitialiseDonnees(Donnees &donnees) {
   donnees.HScroll1.petitPas = 10;
   donnees.HScroll1.grandPas = 100;
   donnees.HScroll1.valeur = donnees.HScroll1.minimum;
+  donnees.Combo5.actif = false;
+  donnees.Option1[4].actif = false; // until dead reckoning has worked out a point
   donnees.Text25.texte = "00";
   donnees.Combo7.liste = {"Venus", "Mars", "Jupiter", "Saturne"};
 }

@@ -1,71 +1,93 @@
 #include "shell/Droites.hpp"
 
-#include "foundations/Erreur.hpp"
 #include "foundations/TexteNombre.hpp"
 #include "shell/Evenements.hpp"
+#include "shell/Journal.hpp"
+#include "shell/ModesDroite.hpp"
+#include "shell/Reduction.hpp"
 #include "shell/Saisie.hpp"
-#include "sights/DroiteSOL.hpp"
 
 namespace velmaris {
 namespace {
 
-constexpr Couleur kHorsFeuille = 0x800000; ///< a line that is not on the sheet
-constexpr std::size_t kAfficher = 2;       ///< the mode that puts a stored line on the sheet
-
 /// The four lines leave the sheet.
 void RetireDroites(Donnees &d) {
   for (std::size_t i = 0; i < d.LHeure.size(); ++i) {
-    d.LHeure[i].couleur = kHorsFeuille;
-    d.Ldate[i].couleur = kHorsFeuille;
+    MarqueDroite(d, i, kHorsFeuille);
   }
 }
 
-/// Puts on the screen what the reduction and the sheet have composed.
-void MontreResultat(Bureau &bureau) {
-  Donnees &d = bureau.donnees;
-  const AffichageDroite &a = bureau.affichage;
-  d.Affichage_Intercept.legende = a.intercept;
-  d.Affichage_Azimuth.legende = a.azimut;
-  d.Label14.infobulle = a.infobulle;
-  for (std::size_t i = 0; i < a.details.size(); ++i) {
-    d.Label70[i].legende = a.details[i];
+/// Clicks on the lines of one state, in their order.
+/// @return how many there were
+int RetraceEtat(Bureau &bureau, Couleur etat) {
+  int nombre = 0;
+  for (std::size_t i = 0; i < bureau.donnees.LHeure.size(); ++i) {
+    if (bureau.donnees.LHeure[i].couleur == etat) {
+      Droite_Click(bureau, static_cast<int>(i));
+      ++nombre;
+    }
   }
+  return nombre;
 }
 
-void MontreTitresFeuille(Bureau &bureau) {
-  bureau.donnees.LabLon.legende = bureau.feuille.LabLon;
-  bureau.donnees.LabLat.legende = bureau.feuille.LabLat;
+/// Clicks on the lines of a list of transports in a mode, in their order.
+/// @param liste  a copy: a click may empty the list that it comes from
+void RetraceTransports(Bureau &bureau, ModeDroite mode, const std::string &liste) {
+  if (liste.empty()) {
+    return;
+  }
+  PoseMode(bureau, mode);
+  if (mode == ModeDroite::TransporteDroite) {
+    PoseTexte(bureau, bureau.donnees.Combo5, bureau.transports.CibleTransport);
+  }
+  for (const char chiffre : liste) {
+    Droite_Click(bureau, chiffre - '0');
+  }
 }
 
 } // namespace
 
-void PremiereDroite(Bureau &bureau) {
-  Observation observation = LitPanneau(bureau.donnees);
-  NormaliseLecture(observation);
-  bureau.visee.HeureDecimale = HeureDesChamps(observation);
-  Passe([&] { LitEstime(observation, bureau.visee); });
-  if (observation.corps == Corps::Soleil) {
-    const ReductionSoleil r = Calcul_DroiteSOL(observation, bureau.visee, bureau.affichage, bureau.messages);
-    if (r.faite) {
-      bureau.NomAstre = bureau.donnees.Option7[0].legende;
-      MontreResultat(bureau);
-    }
+void MarqueDroite(Donnees &d, std::size_t ligne, Couleur etat) {
+  d.LHeure[ligne].couleur = etat;
+  d.Ldate[ligne].couleur = etat;
+}
+
+void OublieFeuille(Bureau &bureau) {
+  RetireDroites(bureau.donnees);
+  for (Controle &rangee : bureau.impression.Frame4) {
+    rangee.visible = false;
   }
-  PoseReduction(bureau, observation);
-  TraceDroites(bureau.feuille, bureau.image1, observation, bureau.visee);
-  MontreTitresFeuille(bureau);
-  MajHeureListes(bureau);
+  bureau.feuille.OrigineFeuille = kSansFeuille;
+  PoseMode(bureau, ModeDroite::Affiche);
+  bureau.transports.ListeTransportDroite.clear();
+  bureau.transports.ListeTransportEstime.clear();
+  bureau.transports.CibleTransport.clear();
 }
 
 void Command2_Click(Bureau &bureau, int /*indice*/) {
-  PremiereDroite(bureau);
+  if (const std::optional<Hauteurs> hauteurs = PremiereDroite(bureau)) {
+    Journalise(bureau, *hauteurs);
+  }
+  RetraceCarte(bureau);
   RetireDroites(bureau.donnees);
 }
 
 void RetraceDroites(Bureau &bureau) {
   bureau.feuille.OrigineFeuille = kSansFeuille;
-  PoseOption(bureau, bureau.donnees.Option1[kAfficher]);
-  PremiereDroite(bureau);
+  PoseMode(bureau, ModeDroite::Affiche);
+  const int premieres = RetraceEtat(bureau, kPremiereDroite);
+  const int ajoutees = RetraceEtat(bureau, kDroiteAjoutee);
+  if (premieres + ajoutees == 0) {
+    PremiereDroite(bureau);
+  }
+  RetraceTransports(bureau, ModeDroite::TransporteDroite, std::string(bureau.transports.ListeTransportDroite));
+  RetraceTransports(bureau, ModeDroite::TransporteEstime, std::string(bureau.transports.ListeTransportEstime));
+}
+
+void RetraceCarte(Bureau &bureau) {
+  if (bureau.donnees.Check2.valeur == 1) {
+    Declenche(bureau, bureau.donnees.Command17, Evenement::Clic);
+  }
 }
 
 void MajHeureListes(Bureau &bureau) {
@@ -73,30 +95,12 @@ void MajHeureListes(Bureau &bureau) {
   PoseTexte(bureau, bureau.donnees.Combo2, Format(bureau.donnees.Text4.texte, "00"));
 }
 
-void MajListeDroites(Bureau &bureau) {
-  Donnees &d = bureau.donnees;
-  for (std::size_t i = 0; i < d.Droite.size(); ++i) {
-    const auto lit = [&](const char *cle) { return LitReglage(bureau, cle + std::to_string(i) + ")"); };
-    if (const std::string jour = lit("Td0("); !jour.empty()) {
-      d.Ldate[i].legende = jour + " / " + lit("Td1(") + " / " + lit("Td2(");
-    }
-    if (const std::string heure = lit("T3("); !heure.empty()) {
-      d.LHeure[i].legende = heure + ":" + lit("T4(") + ":" + lit("T5(");
-    }
-    if (const std::string nom = lit("Nom("); !nom.empty()) {
-      d.Droite[i].infobulle = nom;
-    }
-  }
-}
-
 void Command6_Click(Bureau &bureau, int /*indice*/) {
   Efface(bureau.image1);
   bureau.feuille.LabLon.clear();
   bureau.feuille.LabLat.clear();
   MontreTitresFeuille(bureau);
-  RetireDroites(bureau.donnees);
-  bureau.feuille.OrigineFeuille = kSansFeuille;
-  PoseOption(bureau, bureau.donnees.Option1[kAfficher]);
+  OublieFeuille(bureau);
 }
 
 void Grille_Click(Bureau &bureau, int /*indice*/) {
@@ -107,12 +111,14 @@ void Grille_Click(Bureau &bureau, int /*indice*/) {
   d.Command14.visible = sansGrille;
   bureau.focus = sansGrille ? &d.Command14 : &d.Command12;
   RetraceDroites(bureau);
+  RetraceCarte(bureau);
 }
 
 void HScroll1_Change(Bureau &bureau, int /*indice*/) {
   bureau.feuille.Zoom = Entier16(bureau.donnees.HScroll1.valeur / 10.0);
   bureau.donnees.Label32.legende = "Zoom : " + std::to_string(bureau.feuille.Zoom);
   RetraceDroites(bureau);
+  RetraceCarte(bureau);
 }
 
 } // namespace velmaris

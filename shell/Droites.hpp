@@ -4,23 +4,34 @@
 
 namespace velmaris {
 
-/// "Calcul": reduces the sight of the panel and draws its sheet; none of the stored lines is on it.
+/// State of a stored line, held in the colour of its time and date labels alone.
+/// @{
+inline constexpr Couleur kHorsFeuille = 0x800000;    ///< not on the sheet
+inline constexpr Couleur kPremiereDroite = 0x008000; ///< the line that the sheet was drawn around
+inline constexpr Couleur kDroiteAjoutee = 0x0000FF;  ///< a line added to the sheet
+/// @}
+
+/// "Calcul": reduces the sight of the panel, enters it in the journal and draws its sheet; none of the stored lines is
+/// on it.
 void Command2_Click(Bureau &bureau, int indice);
 
-/// Normalises the fields, reduces the sight of the panel and draws the sheet around its estimated position.
-/// A reading of 0 leaves azimuth and intercept, and the sheet is drawn with those of the sight before.
-void PremiereDroite(Bureau &bureau);
-
-/// Redraws the sheet: with no line on it, the sight of the panel.
+/// Draws the sheet again from the lines' colours and the lists of transports; with no line on it, from the sight of the
+/// panel. The mode is left at the last one that was needed.
 void RetraceDroites(Bureau &bureau);
+
+/// The chart is drawn again where it is to be always visible.
+void RetraceCarte(Bureau &bureau);
+
+/// Gives a line's labels the colour of its state.
+void MarqueDroite(Donnees &donnees, std::size_t ligne, Couleur etat);
+
+/// No line is on a sheet and there is none: labels, print rows, sheet's origin, lists of transports, mode.
+void OublieFeuille(Bureau &bureau);
 
 /// The hours and minutes of dead reckoning take those of the sight.
 void MajHeureListes(Bureau &bureau);
 
-/// Shows what the store holds of the four lines: date, time, and the body's name as the button's tool tip.
-void MajListeDroites(Bureau &bureau);
-
-/// "Ecran": clears the surface and its captions; no line is on a sheet any more.
+/// "Ecran": clears the surface and its captions; no line is on a sheet any more. The store is left alone.
 void Command6_Click(Bureau &bureau, int indice);
 
 /// "Lat/Lon": draws the grid or leaves it out, on either of the two buttons on one spot.

@@ -1,11 +1,16 @@
 #include "shell/Evenements.hpp"
 
+#include "shell/ChoixFichier.hpp"
 #include "shell/Demarrage.hpp"
 #include "shell/Droites.hpp"
+#include "shell/Fichiers.hpp"
+#include "shell/ModesDroite.hpp"
 #include "shell/Modules.hpp"
+#include "shell/Route.hpp"
 #include "shell/Saisie.hpp"
 
 #include <algorithm>
+#include <span>
 #include <string_view>
 
 namespace velmaris {
@@ -20,7 +25,21 @@ struct Abonnement {
   Fonction fonction;
 };
 
-constexpr Abonnement kAbonnements[] = {
+// NOLINTNEXTLINE(cppcoreguidelines-avoid-c-arrays,modernize-avoid-c-arrays)
+constexpr Abonnement kFSelect[] = {
+    {"FName", Evenement::Change, FName_Change},
+    {"File1", Evenement::Clic, File1_Click},
+    {"File1", Evenement::DoubleClic, File1_DblClick},
+    {"File1", Evenement::Entre, File1_Entre},
+    {"Dir1", Evenement::DoubleClic, Dir1_DblClick},
+    {"Drive1", Evenement::Clic, Drive1_Click},
+    {"OK", Evenement::Clic, OK_Click},
+    {"Quitter", Evenement::Clic, Quitter_Click},
+    {"Command1", Evenement::Clic, Supprime_Click},
+};
+
+// NOLINTNEXTLINE(cppcoreguidelines-avoid-c-arrays,modernize-avoid-c-arrays)
+constexpr Abonnement kDonnees[] = {
     {"TDate", Evenement::Quitte, TDate_Quitte},
     {"TDate", Evenement::Change, TDate_Change},
     {"Text3", Evenement::Quitte, Text3_Quitte},
@@ -42,7 +61,20 @@ constexpr Abonnement kAbonnements[] = {
     {"Command1", Evenement::Clic, Command1_Click},
     {"Command2", Evenement::Clic, Command2_Click},
     {"Command26", Evenement::Clic, Command26_Click},
+    {"Command3", Evenement::Clic, Command3_Click},
+    {"Command4", Evenement::Clic, Command4_Click},
     {"Command6", Evenement::Clic, Command6_Click},
+    {"Command8", Evenement::Clic, Command8_Click},
+    {"Droite", Evenement::Clic, Droite_Click},
+    {"Option1", Evenement::Clic, Option1_Click},
+    {"Text2", Evenement::Entre, Text2_Entre},
+    {"Text2", Evenement::Change, CalculEstime},
+    {"Text15", Evenement::Entre, Text15_Entre},
+    {"Text15", Evenement::Change, CalculEstime},
+    {"Command15", Evenement::Clic, CalculEstime},
+    {"LabLatEst", Evenement::Clic, PositionEstimee_Click},
+    {"LabLonEst", Evenement::Clic, PositionEstimee_Click},
+    {"Command10", Evenement::Clic, Command10_Click},
     {"Command12", Evenement::Clic, Grille_Click},
     {"Command14", Evenement::Clic, Grille_Click},
     {"HScroll1", Evenement::Change, HScroll1_Change},
@@ -76,11 +108,21 @@ constexpr Abonnement kAbonnements[] = {
     {"Frame10", Evenement::Clic, SaisitModule<10>},
 };
 
+std::span<const Abonnement> AbonnementsDe(std::string_view fenetre) {
+  if (fenetre == kFenetreDonnees) {
+    return kDonnees;
+  }
+  return fenetre == kFenetreFSelect ? std::span<const Abonnement>(kFSelect) : std::span<const Abonnement>();
+}
+
+/// @return null when nothing happens at that event
 const Abonnement *Trouve(const Controle &controle, Evenement evenement) {
-  const auto *const trouve = std::find_if(std::begin(kAbonnements), std::end(kAbonnements), [&](const Abonnement &a) {
-    return a.evenement == evenement && a.nom == controle.nom;
-  });
-  return trouve == std::end(kAbonnements) ? nullptr : trouve;
+  for (const Abonnement &a : AbonnementsDe(controle.fenetre)) {
+    if (a.evenement == evenement && a.nom == controle.nom) {
+      return &a;
+    }
+  }
+  return nullptr;
 }
 
 bool Utilisable(const Controle &controle) { return controle.actif && controle.visible; }
@@ -136,6 +178,12 @@ void PoseValeur(Bureau &bureau, Controle &controle, int valeur) {
 void ClicControle(Bureau &bureau, Controle &controle) {
   if (Utilisable(controle)) {
     Declenche(bureau, controle, Evenement::Clic);
+  }
+}
+
+void ActiveFenetre(Bureau &bureau, std::string_view fenetre) {
+  if (fenetre == kFenetreFSelect) {
+    FSelect_Activate(bureau);
   }
 }
 

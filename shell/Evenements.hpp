@@ -2,8 +2,11 @@
 
 #include "shell/Bureau.hpp"
 
+#include <array>
+#include <cstddef>
 #include <cstdint>
 #include <string>
+#include <string_view>
 
 namespace velmaris {
 
@@ -31,6 +34,12 @@ void Declenche(Bureau &bureau, Controle &controle, Evenement evenement);
 void PoseTexte(Bureau &bureau, Controle &controle, std::string texte);
 /// Selects an option; the others of its group are left.
 void PoseOption(Bureau &bureau, Controle &controle);
+/// Selects an option of a group by its number; one that doesn't exist changes nothing.
+template <std::size_t N> void PoseChoix(Bureau &bureau, std::array<Controle, N> &options, int rang) {
+  if (rang >= 0 && static_cast<std::size_t>(rang) < N) {
+    PoseOption(bureau, options[static_cast<std::size_t>(rang)]);
+  }
+}
 /// Chooses a line of a list, -1 for none; one past its entries changes nothing.
 /// @param nombre  entries that the list can have
 void PoseRang(Bureau &bureau, Controle &controle, int rang, int nombre);
@@ -43,6 +52,9 @@ void PoseValeur(Bureau &bureau, Controle &controle, int valeur);
 
 /// Presses a command, a picture or a module.
 void ClicControle(Bureau &bureau, Controle &controle);
+/// Brings a window to the front.
+/// @param fenetre  its name
+void ActiveFenetre(Bureau &bureau, std::string_view fenetre);
 /// Presses a list or a picture twice.
 void DoubleClicControle(Bureau &bureau, Controle &controle);
 /// Chooses an option.

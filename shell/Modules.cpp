@@ -10,7 +10,8 @@ namespace {
 
 constexpr double kHautModules = 1080.0; ///< top of the right-hand modules under the toolbar
 constexpr double kHautCarteSousSoleil = 3370.0;
-constexpr double kHautRange = 1215.0; ///< top of module 10 once all are put away
+constexpr double kGaucheDroites = 3060.0; ///< left of module 10 beside module 7
+constexpr double kHautRange = 1215.0;     ///< top of module 10 once all are put away
 
 constexpr std::size_t kLegendeMemoire = 5; ///< caption under "Mémoire"
 
@@ -166,6 +167,16 @@ void Command26_Click(Bureau &bureau, int /*indice*/) {
     }
   }
   LacheModule(bureau);
+}
+
+void MontreDroitesMultiples(Bureau &bureau) {
+  Donnees &d = bureau.donnees;
+  MontreMemoire(d, true);
+  d.Frame10.visible = true;
+  if (d.Frame7.visible && d.Frame10.place.gauche - d.Frame7.place.largeur < d.Frame7.place.gauche) {
+    d.Frame7.place.gauche = 0;
+    d.Frame10.place.gauche = kGaucheDroites;
+  }
 }
 
 void PU_Clear(Bureau &bureau) {

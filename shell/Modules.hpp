@@ -36,6 +36,9 @@ void Command9_Click(Bureau &bureau, int indice);  ///< "Cap": module 2, with mod
 /// "Détails": module 3, aligned with the foot of module 7; nothing before a first reduction.
 void Command26_Click(Bureau &bureau, int indice);
 
+/// Shows module 10 with "Mémoire", at the end of a load; beside module 7 where the two would overlap.
+void MontreDroitesMultiples(Bureau &bureau);
+
 /// Puts all modules away.
 void PU_Clear(Bureau &bureau);
 

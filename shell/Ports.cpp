@@ -1,23 +1,56 @@
 #include "shell/Ports.hpp"
 
+#include <algorithm>
+#include <cstddef>
 #include <cstdlib>
 #include <system_error>
 
 namespace velmaris {
 namespace {
 
+std::filesystem::path Accueil() {
+  const char *maison = std::getenv("HOME");
+  return maison != nullptr && *maison != '\0' ? maison : "/tmp";
+}
+
 std::filesystem::path DossierUtilisateur() {
   if (const char *xdg = std::getenv("XDG_DATA_HOME"); xdg != nullptr && *xdg == '/') {
     return std::filesystem::path(xdg) / "velmaris";
   }
-  const char *maison = std::getenv("HOME");
-  return std::filesystem::path(maison != nullptr && *maison != '\0' ? maison : "/tmp") / ".local/share/velmaris";
+  return Accueil() / ".local/share/velmaris";
+}
+
+/// Adds the folders of a folder, in the order of their names.
+void AjouteDossiers(const std::filesystem::path &racine, std::vector<std::filesystem::path> &dossiers) {
+  std::error_code refus;
+  const auto debut = static_cast<std::ptrdiff_t>(dossiers.size());
+  for (std::filesystem::directory_iterator i(racine, refus), fin; !refus && i != fin; i.increment(refus)) {
+    std::error_code inconnu;
+    if (i->is_directory(inconnu)) {
+      dossiers.push_back(i->path());
+    }
+  }
+  std::sort(dossiers.begin() + debut, dossiers.end());
 }
 
 } // namespace
 
 Dossiers TrouveDossiers(const std::filesystem::path &programme) {
-  return {DossierUtilisateur(), programme, VELMARIS_PARTAGE};
+  return {DossierUtilisateur(), programme, VELMARIS_PARTAGE, Accueil()};
+}
+
+std::vector<std::filesystem::path> Volumes(const std::filesystem::path &accueil) {
+  std::vector<std::filesystem::path> volumes = {accueil, "/"};
+  // A desktop mounts what is plugged in under the user's name.
+  for (const char *racine : {"/media", "/run/media"}) {
+    std::vector<std::filesystem::path> utilisateurs;
+    AjouteDossiers(racine, utilisateurs);
+    for (const std::filesystem::path &utilisateur : utilisateurs) {
+      AjouteDossiers(utilisateur, volumes);
+    }
+  }
+  AjouteDossiers("/mnt", volumes);
+  return volumes;
 }
 
 std::filesystem::path TrouveFichier(const Dossiers &dossiers, const std::string &nom) {

@@ -6,6 +6,8 @@
 #include <filesystem>
 #include <functional>
 #include <string>
+#include <system_error>
+#include <vector>
 
 namespace velmaris {
 
@@ -20,10 +22,21 @@ struct Boite {
   bool nonParDefaut = false;
 };
 
+struct CadreFenetre;
+
 /// What the core asks of the outside.
 struct Ports {
   /// Shows a box and waits. @return true for Yes
   std::function<bool(const Boite &)> boite = [](const Boite &) { return false; };
+  /// Shows a window over the main one and waits until it is no longer visible.
+  std::function<void(CadreFenetre &)> modale = [](CadreFenetre &) {};
+  /// Lets the interface live until something has happened in it.
+  std::function<void()> attend = [] {};
+  /// Puts a file into the desktop's trash, or deletes it where there is none. @return false when it is still there
+  std::function<bool(const std::filesystem::path &)> jette = [](const std::filesystem::path &fichier) {
+    std::error_code refus;
+    return std::filesystem::remove(fichier, refus);
+  };
   /// Name of a date's weekday in the system's language, in lower case.
   std::function<std::string(const ValeurDate &)> nomJour = [](const ValeurDate &) { return std::string(); };
   /// Name of a date's month in the system's language.
@@ -35,11 +48,16 @@ struct Dossiers {
   std::filesystem::path utilisateur;
   std::filesystem::path programme;
   std::filesystem::path partage;
+  std::filesystem::path accueil; ///< the user's own folder, where a dialog starts at first
 };
 
-/// The folders of this run: the user's data folder, the program's own, the installed share folder.
+/// The folders of this run: the user's data folder, the program's own, the installed share folder, the user's own.
 /// @param programme  folder of the executable
 Dossiers TrouveDossiers(const std::filesystem::path &programme);
+
+/// The folders that files are looked for from: the user's own, the root, and what is mounted under /media, /run/media
+/// and /mnt.
+std::vector<std::filesystem::path> Volumes(const std::filesystem::path &accueil);
 
 /// The first folder's file of that name.
 /// @return its path; in the last folder when no folder has it

@@ -73,12 +73,42 @@ Observation LitPanneau(const Donnees &d) {
   o.sud = d.OptN[1].choisi;
   o.est = d.OptE[0].choisi;
   o.fraction = d.Option4[0].choisi ? Fraction::Secondes : Fraction::Centiemes;
-  o.bord = static_cast<Bord>(std::min(Choisie(d.Option6), 2));
-  o.horizon = d.Option5[0].choisi ? Horizon::Naturel : Horizon::Artificiel;
-  o.corps = static_cast<Corps>(std::min(Choisie(d.Option7), 3));
+  o.bord = static_cast<Bord>(Choisie(d.Option6));
+  o.horizon = static_cast<Horizon>(Choisie(d.Option5));
+  o.corps = static_cast<Corps>(Choisie(d.Option7));
   o.planete = d.Combo7.rang;
   o.etoile = d.Combo6.rang;
   return o;
+}
+
+void PoseChamps(Bureau &bureau, const Observation &o) {
+  Donnees &d = bureau.donnees;
+  const auto pose = [&](Controle &champ, const std::string &texte) { PoseTexte(bureau, champ, texte); };
+  pose(d.Text3, o.heure);
+  pose(d.Text4, o.minute);
+  pose(d.Text5, o.seconde);
+  pose(d.TDate[0], o.jour);
+  pose(d.TDate[1], o.mois);
+  pose(d.TDate[2], o.annee);
+  pose(d.Text6, o.longitudeDegres);
+  pose(d.Text7, o.longitudeMinutes);
+  pose(d.Text8, o.latitudeDegres);
+  pose(d.Text9, o.latitudeMinutes);
+  pose(d.Text10, o.hauteurOeil);
+  pose(d.Text11, o.collimation);
+  pose(d.Text12, o.lectureMinutes);
+  pose(d.Text13, o.lectureDegres);
+  pose(d.Text25, o.lectureFraction);
+  PoseOption(bureau, d.OptN[o.sud ? 1 : 0]);
+  PoseOption(bureau, d.OptE[o.est ? 0 : 1]);
+}
+
+void PoseListeDuCorps(Bureau &bureau, int corps, int rang) {
+  if (corps == static_cast<int>(Corps::Etoiles)) {
+    PoseRang(bureau, bureau.donnees.Combo6, rang, kNombreEtoiles);
+  } else if (corps == static_cast<int>(Corps::Planetes)) {
+    PoseRang(bureau, bureau.donnees.Combo7, rang, kNombrePlanetes);
+  }
 }
 
 void PoseReduction(Bureau &bureau, const Observation &observation) {

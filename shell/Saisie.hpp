@@ -7,6 +7,13 @@ namespace velmaris {
 /// Reads the sight from the fields and choices of the panel.
 Observation LitPanneau(const Donnees &donnees);
 
+/// Puts the texts and the sides of a sight into the panel, field by field, each with what its change sets in motion.
+void PoseChamps(Bureau &bureau, const Observation &observation);
+
+/// Chooses the star or the planet of a kind of body by its place in the list; for another kind, or a place that doesn't
+/// exist, nothing.
+void PoseListeDuCorps(Bureau &bureau, int corps, int rang);
+
 /// Writes back what a reduction may change: eye height, collimation, the reading's texts and the fraction's colour.
 void PoseReduction(Bureau &bureau, const Observation &observation);
 

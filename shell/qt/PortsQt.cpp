@@ -1,6 +1,11 @@
 #include "shell/qt/PortsQt.hpp"
 
+#include "shell/qt/Dialogue.hpp"
+
+#include <QCoreApplication>
 #include <QDate>
+#include <QEventLoop>
+#include <QFile>
 #include <QLocale>
 #include <QMessageBox>
 #include <QPushButton>
@@ -61,6 +66,10 @@ bool MontreBoite(const Bureau &bureau, const Boite &boite, QWidget *parent) {
 
 Boites::Boites(Bureau &bureau) : bureau_(bureau) {
   bureau.ports.boite = [this](const Boite &boite) { return Montre(boite); };
+  bureau.ports.jette = [](const std::filesystem::path &fichier) {
+    const QString nom = QString::fromStdString(fichier.string());
+    return QFile::moveToTrash(nom) || QFile::remove(nom);
+  };
   bureau.ports.nomJour = [&bureau](const ValeurDate &date) {
     return Langue(bureau).dayName(JourSemaine(date) == 0 ? 7 : JourSemaine(date)).toStdString();
   };
@@ -77,8 +86,13 @@ bool Boites::Montre(const Boite &boite) {
   return MontreBoite(bureau_, boite, fenetre_);
 }
 
-void Boites::Ouvre(QWidget &fenetre) {
+void Boites::Ouvre(Scene &scene, QWidget &fenetre) {
   fenetre_ = &fenetre;
+  bureau_.ports.modale = [&scene, &fenetre](CadreFenetre &cadre) { Dialogue(scene, cadre, &fenetre).Montre(); };
+  bureau_.ports.attend = [&scene] {
+    scene.Accorde();
+    QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+  };
   for (const Boite &boite : std::exchange(attente_, {})) {
     MontreBoite(bureau_, boite, fenetre_);
   }

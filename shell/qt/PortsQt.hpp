@@ -8,16 +8,18 @@ class QWidget;
 
 namespace velmaris::qt {
 
-/// Answers what the core asks of the outside with the toolkit's boxes and the system's names of days and months.
-/// With a system that names no language the program's own is taken.
+class Scene;
+
+/// Answers what the core asks of the outside with the toolkit's boxes, dialogs and trash, and the system's names of
+/// days and months. With a system that names no language the program's own is taken.
 /// @param bureau  its ports are set
 /// Boxes that only tell something wait until the window is there, so that the program starts at once.
 class Boites {
 public:
   /// @param bureau  its ports are set; it must outlive this
   explicit Boites(Bureau &bureau);
-  /// The window is there: boxes lie over it, and those that have waited are shown.
-  void Ouvre(QWidget &fenetre);
+  /// The main window is there: boxes and dialogs lie over it, and the boxes that have waited are shown.
+  void Ouvre(Scene &scene, QWidget &fenetre);
 
 private:
   bool Montre(const Boite &boite);

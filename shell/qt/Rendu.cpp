@@ -155,8 +155,7 @@ void Rendu::AccordeWidget(Lien &lien, bool tout) {
   if (lien.widget->focusPolicy() != Qt::NoFocus && lien.widget->accessibleName() != nom) {
     lien.widget->setAccessibleName(nom);
   }
-  if (auto *champ = qobject_cast<QLineEdit *>(lien.widget);
-      champ != nullptr && c.toutSelectionne && champ->hasFocus()) {
+  if (auto *champ = qobject_cast<QLineEdit *>(lien.widget); champ != nullptr && c.toutSelectionne) {
     champ->selectAll();
   }
   c.toutSelectionne = false;

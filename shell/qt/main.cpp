@@ -38,6 +38,6 @@ int main(int argc, char **argv) {
   velmaris::qt::Scene scene(bureau);
   velmaris::qt::Fenetre fenetre(scene);
   fenetre.show();
-  QTimer::singleShot(0, &fenetre, [&] { boites.Ouvre(fenetre); });
+  QTimer::singleShot(0, &fenetre, [&] { boites.Ouvre(scene, fenetre); });
   return QApplication::exec();
 }

@@ -166,8 +166,8 @@ TEST_F(FenetreOuverte, ACloseRequestAsksAndStaysRefusedOnNo) {
 
 TEST_F(FenetreOuverte, WhatIsNotThereYetSaysSoInItsToolTip) {
   Ouvre(kPetitEcran, true);
-  EXPECT_EQ(Trouve<QWidget>("Command3")->toolTip(), "Not yet available in this version");
-  EXPECT_FALSE(Trouve<QWidget>("Command3")->isEnabled());
+  EXPECT_EQ(Trouve<QWidget>("Command11")->toolTip(), "Not yet available in this version");
+  EXPECT_FALSE(Trouve<QWidget>("Command11")->isEnabled());
   EXPECT_EQ(Trouve<QWidget>("Command6")->toolTip(), "Clears the screen");
 }
 

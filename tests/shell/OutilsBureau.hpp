@@ -25,7 +25,8 @@ protected:
   Programme() { Branche(bureau); }
 
   void Branche(Bureau &b) {
-    b.dossiers = {dossier.chemin() / "utilisateur", VELMARIS_DONNEES, "/nulle/part"};
+    b.dossiers = {dossier.chemin() / "utilisateur", VELMARIS_DONNEES, "/nulle/part", dossier.chemin() / "accueil"};
+    std::filesystem::create_directories(b.dossiers.accueil);
     b.horloge.source = [this] { return temps; };
     b.horloge.locale = [this] { return locale; };
     b.ports.boite = [this](const Boite &boite) {

@@ -124,7 +124,7 @@ TEST_F(Programme, FunctionKeysWorkAndTheSliderStaysWithinItsLimits) {
   EXPECT_EQ(d.Text3.texte, "07");
   EXPECT_TRUE(Donnees_KeyDown(bureau, 113));
   EXPECT_EQ(boites.size(), 1U);
-  EXPECT_FALSE(Donnees_KeyDown(bureau, 116)) << "the stored lines are not there yet";
+  EXPECT_FALSE(Donnees_KeyDown(bureau, 115)) << "the chart is not there yet";
 }
 
 TEST_F(Programme, TheTitleTellsLocalTimeGmtAndFile) {

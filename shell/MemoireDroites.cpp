@@ -1,0 +1,89 @@
+#include "shell/MemoireDroites.hpp"
+
+#include "foundations/Erreur.hpp"
+#include "foundations/TexteNombre.hpp"
+#include "lines/DroiteMemoire.hpp"
+#include "shell/Evenements.hpp"
+#include "shell/Saisie.hpp"
+#include "shell/Valeurs.hpp"
+
+namespace velmaris {
+namespace {
+
+/// A stored number as a 16-bit integer, 0 for what isn't one.
+int Nombre(const std::string &texte) {
+  int nombre = 0;
+  Passe([&] { nombre = Entier16(Val(texte)); });
+  return nombre;
+}
+
+void Garde(Bureau &bureau, const std::vector<CleValeur> &cles) {
+  bureau.valeurs->Ensemble([&] {
+    for (const CleValeur &c : cles) {
+      bureau.valeurs->SaveSetting(kApplication, kSection, c.cle, c.valeur);
+    }
+  });
+  SignaleMagasin(bureau);
+}
+
+} // namespace
+
+std::string LitChampDroite(const Bureau &bureau, std::string_view champ, int ligne) {
+  return LitReglage(bureau, CleDroite(champ, ligne));
+}
+
+void EnregistreDroite(Bureau &bureau, int ligne) {
+  Garde(bureau, ClesEnregistrees(ligne, LitPanneau(bureau.donnees), bureau.NomAstre, bureau.visee));
+}
+
+void EffaceDroite(Bureau &bureau, int ligne) { Garde(bureau, ClesEffacees(ligne)); }
+
+void ChargeDroite(Bureau &bureau, int ligne) {
+  Donnees &d = bureau.donnees;
+  const auto lit = [&](const char *champ) { return LitChampDroite(bureau, champ, ligne); };
+  const int corps = Nombre(lit("AS("));
+  const std::string bord = lit("Bord(");
+  PoseChoix(bureau, d.Option5, Nombre(lit("Hor(")));
+  Option5_Relache(bureau, -1);
+  PoseChoix(bureau, d.Option7, corps);
+  SelAstre(bureau, corps);
+  PoseChoix(bureau, d.Option6, bord.empty() ? 1 : Nombre(bord));
+  PoseListeDuCorps(bureau, corps, Nombre(lit(corps == static_cast<int>(Corps::Etoiles) ? "Combo6(" : "Combo7(")));
+  const std::string genre = lit("O4(");
+  PoseChoix(bureau, d.Option4, genre.empty() ? 1 : Nombre(genre));
+  Observation observation = LitPanneau(d);
+  LitTextesEnregistres(
+      ligne, [&](const std::string &cle) { return LitReglage(bureau, cle); }, observation);
+  PoseChamps(bureau, observation);
+}
+
+void MajListeDroites(Bureau &bureau) {
+  Donnees &d = bureau.donnees;
+  for (std::size_t i = 0; i < d.Droite.size(); ++i) {
+    const auto lit = [&](const char *champ) { return LitChampDroite(bureau, champ, static_cast<int>(i)); };
+    if (const std::string jour = lit("Td0("); !jour.empty()) {
+      d.Ldate[i].legende = jour + " / " + lit("Td1(") + " / " + lit("Td2(");
+    }
+    if (const std::string heure = lit("T3("); !heure.empty()) {
+      d.LHeure[i].legende = heure + ":" + lit("T4(") + ":" + lit("T5(");
+    }
+    if (const std::string nom = lit("Nom("); !nom.empty()) {
+      d.Droite[i].infobulle = nom;
+    }
+  }
+}
+
+void PublieLigneImpression(Bureau &bureau, int rangee, int ligne) {
+  const Donnees &d = bureau.donnees;
+  const auto r = static_cast<std::size_t>(rangee);
+  Impression &page = bureau.impression;
+  page.Frame4.at(r).visible = true;
+  page.Frame4[r].legende = "    " + std::to_string(ligne + 1) + "°  Droite :";
+  page.Label32[r].legende = d.Text3.texte + " : " + d.Text4.texte + " : " + d.Text5.texte;
+  page.Label33[r].legende = d.Text8.texte + "° " + d.Text9.texte + "'" + (d.OptN[0].choisi ? " N" : " S");
+  page.Label34[r].legende = d.Text6.texte + "° " + d.Text7.texte + "'" + (d.OptE[0].choisi ? " E" : " W");
+  page.Label35[r].legende = Format(bureau.visee.Azimut, "#.##");
+  page.Label36[r].legende = Format(bureau.visee.Intercept, "#.##");
+}
+
+} // namespace velmaris

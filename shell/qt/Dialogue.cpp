@@ -1,0 +1,62 @@
+#include "shell/qt/Dialogue.hpp"
+
+#include "shell/Evenements.hpp"
+#include "shell/qt/Toile.hpp"
+#include "shell/qt/Widgets.hpp"
+
+#include <QEvent>
+#include <QPaintEvent>
+#include <QPainter>
+#include <QPushButton>
+
+#include <cmath>
+
+namespace velmaris::qt {
+
+Dialogue::Dialogue(Scene &scene, CadreFenetre &cadre, QWidget *parent)
+    : QDialog(parent), scene_(scene), cadre_(cadre), rendu_(scene, *this, ControlesDe(scene.bureau(), cadre.nom)) {
+  const double f = PixelsParTwip(*this);
+  setFixedSize(static_cast<int>(std::lround(cadre.largeur * f)), static_cast<int>(std::lround(cadre.hauteur * f)));
+  for (const Lien &lien : rendu_.liens()) {
+    if (auto *bouton = qobject_cast<QPushButton *>(lien.widget)) {
+      bouton->setDefault(lien.controle->role == Role::Defaut);
+    }
+  }
+  rendu_.AccordeFenetre = [this] {
+    setWindowTitle(QString::fromStdString(cadre_.titre));
+    if ((!cadre_.visible || scene_.bureau().termine) && isVisible()) {
+      done(QDialog::Accepted);
+    }
+  };
+}
+
+void Dialogue::Montre() {
+  scene_.Accorde();
+  if (cadre_.visible) {
+    exec();
+  }
+}
+
+void Dialogue::reject() {
+  for (const Lien &lien : rendu_.liens()) {
+    if (lien.controle->role == Role::Annule) {
+      scene_.Joue([&] { ClicControle(scene_.bureau(), *lien.controle); });
+      return;
+    }
+  }
+  QDialog::reject();
+}
+
+void Dialogue::changeEvent(QEvent *event) {
+  if (event->type() == QEvent::ActivationChange && isActiveWindow()) {
+    scene_.Joue([this] { ActiveFenetre(scene_.bureau(), cadre_.nom); });
+  }
+  QDialog::changeEvent(event);
+}
+
+void Dialogue::paintEvent(QPaintEvent *event) {
+  QPainter p(this);
+  p.fillRect(event->rect(), kFondFenetre);
+}
+
+} // namespace velmaris::qt
