@@ -11,8 +11,10 @@ namespace velmaris {
 namespace {
 
 constexpr double kHeuresParJour = 24;
+constexpr double kMinutesParJour = 1440;
 
-/// The interval between two hours.
+/// The interval between two hours: the date value of its whole minutes, without what their difference as fractions of
+/// a day would lose.
 /// @return days; nothing when one of them is no time of day
 std::optional<double> Intervalle(const RouteEstimee &route) {
   double t0 = 0;
@@ -23,7 +25,7 @@ std::optional<double> Intervalle(const RouteEstimee &route) {
   if (t0 > t1) {
     t1 += 1;
   }
-  return t1 - t0;
+  return std::round((t1 - t0) * kMinutesParJour) / kMinutesParJour;
 }
 
 /// Degrees and minutes of a caption.

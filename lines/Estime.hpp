@@ -32,7 +32,7 @@ struct PointEstime {
 /// worked out shows a whole number while the calculation goes on with all its digits.
 /// @param depart  the sight whose estimated position is carried
 /// @return nothing when course, hours, or both speed and distance are missing
-/// @throws Erreur 6 when a result leaves 32 bits, 11 when the cosine of the latitude is 0
+/// @throws Erreur 6 when a result leaves 32 bits
 std::optional<PointEstime> EstimePoint(const RouteEstimee &route, const Observation &depart);
 
 /// A latitude as its caption: "N" or "S", whole degrees, ".", minutes. Latitude 0 is "S".

@@ -26,6 +26,36 @@ void Garde(Bureau &bureau, const std::vector<CleValeur> &cles) {
   SignaleMagasin(bureau);
 }
 
+/// A stored line as it is read: its choices by number, also those that don't exist.
+struct DroiteLue {
+  int corps = 0;
+  int rang = 0; ///< of the star or the planet
+  int bord = 1;
+  int horizon = 0;
+  int fraction = 1;
+  Observation textes; ///< texts and sides
+};
+
+/// Reads a whole line at one moment of the store.
+DroiteLue LitDroite(Bureau &bureau, int ligne) {
+  DroiteLue lue;
+  lue.textes = LitPanneau(bureau.donnees);
+  const auto nombre = [&](const char *champ, int absent) {
+    const std::string texte = LitChampDroite(bureau, champ, ligne);
+    return texte.empty() ? absent : Nombre(texte);
+  };
+  bureau.valeurs->EnsembleLu([&] {
+    lue.corps = nombre("AS(", 0);
+    lue.bord = nombre("Bord(", 1);
+    lue.horizon = nombre("Hor(", 0);
+    lue.rang = nombre(lue.corps == static_cast<int>(Corps::Etoiles) ? "Combo6(" : "Combo7(", 0);
+    lue.fraction = nombre("O4(", 1);
+    LitTextesEnregistres(
+        ligne, [&](const std::string &cle) { return LitReglage(bureau, cle); }, lue.textes);
+  });
+  return lue;
+}
+
 } // namespace
 
 std::string LitChampDroite(const Bureau &bureau, std::string_view champ, int ligne) {
@@ -40,37 +70,33 @@ void EffaceDroite(Bureau &bureau, int ligne) { Garde(bureau, ClesEffacees(ligne)
 
 void ChargeDroite(Bureau &bureau, int ligne) {
   Donnees &d = bureau.donnees;
-  const auto lit = [&](const char *champ) { return LitChampDroite(bureau, champ, ligne); };
-  const int corps = Nombre(lit("AS("));
-  const std::string bord = lit("Bord(");
-  PoseChoix(bureau, d.Option5, Nombre(lit("Hor(")));
+  const DroiteLue lue = LitDroite(bureau, ligne);
+  PoseChoix(bureau, d.Option5, lue.horizon);
   Option5_Relache(bureau, -1);
-  PoseChoix(bureau, d.Option7, corps);
-  SelAstre(bureau, corps);
-  PoseChoix(bureau, d.Option6, bord.empty() ? 1 : Nombre(bord));
-  PoseListeDuCorps(bureau, corps, Nombre(lit(corps == static_cast<int>(Corps::Etoiles) ? "Combo6(" : "Combo7(")));
-  const std::string genre = lit("O4(");
-  PoseChoix(bureau, d.Option4, genre.empty() ? 1 : Nombre(genre));
-  Observation observation = LitPanneau(d);
-  LitTextesEnregistres(
-      ligne, [&](const std::string &cle) { return LitReglage(bureau, cle); }, observation);
-  PoseChamps(bureau, observation);
+  PoseChoix(bureau, d.Option7, lue.corps);
+  SelAstre(bureau, lue.corps);
+  PoseChoix(bureau, d.Option6, lue.bord);
+  PoseListeDuCorps(bureau, lue.corps, lue.rang);
+  PoseChoix(bureau, d.Option4, lue.fraction);
+  PoseChamps(bureau, lue.textes);
 }
 
 void MajListeDroites(Bureau &bureau) {
   Donnees &d = bureau.donnees;
-  for (std::size_t i = 0; i < d.Droite.size(); ++i) {
-    const auto lit = [&](const char *champ) { return LitChampDroite(bureau, champ, static_cast<int>(i)); };
-    if (const std::string jour = lit("Td0("); !jour.empty()) {
-      d.Ldate[i].legende = jour + " / " + lit("Td1(") + " / " + lit("Td2(");
+  bureau.valeurs->EnsembleLu([&] {
+    for (std::size_t i = 0; i < d.Droite.size(); ++i) {
+      const auto lit = [&](const char *champ) { return LitChampDroite(bureau, champ, static_cast<int>(i)); };
+      if (const std::string jour = lit("Td0("); !jour.empty()) {
+        d.Ldate[i].legende = jour + " / " + lit("Td1(") + " / " + lit("Td2(");
+      }
+      if (const std::string heure = lit("T3("); !heure.empty()) {
+        d.LHeure[i].legende = heure + ":" + lit("T4(") + ":" + lit("T5(");
+      }
+      if (const std::string nom = lit("Nom("); !nom.empty()) {
+        d.Droite[i].infobulle = nom;
+      }
     }
-    if (const std::string heure = lit("T3("); !heure.empty()) {
-      d.LHeure[i].legende = heure + ":" + lit("T4(") + ":" + lit("T5(");
-    }
-    if (const std::string nom = lit("Nom("); !nom.empty()) {
-      d.Droite[i].infobulle = nom;
-    }
-  }
+  });
 }
 
 void PublieLigneImpression(Bureau &bureau, int rangee, int ligne) {

@@ -57,12 +57,14 @@ bool EstAbime(sqlite3 *base) {
     return true;
   }
   Instruction lecture(base, kLecture);
-  return lecture.Avance() != SQLITE_DONE;
+  const int lu = lecture.Avance();
+  return lu != SQLITE_DONE && lu != SQLITE_BUSY;
 }
 
 } // namespace
 
 void Valeurs::Fermeture::operator()(sqlite3 *base) const { sqlite3_close_v2(base); }
+void Valeurs::Fermeture::operator()(sqlite3_stmt *instruction) const { sqlite3_finalize(instruction); }
 
 Valeurs::Valeurs(std::filesystem::path fichier) : fichier_(std::move(fichier)) {
   std::error_code refus;
@@ -85,6 +87,7 @@ bool Valeurs::Ouvre() {
   sqlite3 *base = nullptr;
   const std::string nom = fichier_.empty() ? ":memory:" : fichier_.string();
   const int code = sqlite3_open_v2(nom.c_str(), &base, SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE, nullptr);
+  lecture_.reset();
   base_.reset(base);
   if (code != SQLITE_OK) {
     PasseEnMemoire();
@@ -104,6 +107,7 @@ bool Valeurs::Ouvre() {
 }
 
 void Valeurs::MetDeCote() {
+  lecture_.reset();
   base_.reset();
   const TempsSysteme t = GetSystemTime();
   fichierEnCause_ = fichier_;
@@ -127,6 +131,7 @@ void Valeurs::PasseEnMemoire() {
   sqlite3 *memoire = nullptr;
   sqlite3_open(":memory:", &memoire);
   sqlite3_exec(memoire, kPreparation, nullptr, nullptr, nullptr);
+  lecture_.reset();
   base_.reset(memoire);
   etat_ = EtatMagasin::SansTrace;
   fichierEnCause_ = fichier_;
@@ -139,17 +144,40 @@ bool Valeurs::Execute(const char *instruction) {
   return sqlite3_exec(base_.get(), instruction, nullptr, nullptr, nullptr) == SQLITE_OK;
 }
 
+/// @param valeur  what the store holds, when it holds the key
+bool Valeurs::Lit(std::string_view application, std::string_view section, std::string_view cle,
+                  std::string &valeur) const {
+  if (!lecture_) {
+    sqlite3_stmt *preparee = nullptr;
+    sqlite3_prepare_v3(base_.get(), kLecture, -1, SQLITE_PREPARE_PERSISTENT, &preparee, nullptr);
+    lecture_.reset(preparee);
+  }
+  sqlite3_stmt *lecture = lecture_.get();
+  int rang = 0;
+  for (const std::string_view texte : {application, section, cle}) {
+    sqlite3_bind_text(lecture, ++rang, texte.data(), static_cast<int>(texte.size()), SQLITE_STATIC);
+  }
+  const bool la = lecture != nullptr && sqlite3_step(lecture) == SQLITE_ROW;
+  if (la) {
+    const auto *texte = reinterpret_cast<const char *>(sqlite3_column_text(lecture, 0));
+    valeur.assign(texte == nullptr ? "" : texte, static_cast<std::size_t>(sqlite3_column_bytes(lecture, 0)));
+  }
+  sqlite3_reset(lecture);
+  sqlite3_clear_bindings(lecture);
+  return la;
+}
+
 std::string Valeurs::GetSetting(std::string_view application, std::string_view section, std::string_view cle,
                                 std::string_view defaut) const {
-  Instruction lecture(base_.get(), kLecture);
-  lecture.Lie(1, application);
-  lecture.Lie(2, section);
-  lecture.Lie(3, cle);
-  return lecture.Avance() == SQLITE_ROW ? lecture.Colonne(0) : std::string(defaut);
+  std::string valeur;
+  return Lit(application, section, cle, valeur) ? valeur : std::string(defaut);
 }
 
 void Valeurs::SaveSetting(std::string_view application, std::string_view section, std::string_view cle,
                           std::string_view valeur) {
+  if (std::string presente; Lit(application, section, cle, presente) && presente == valeur) {
+    return;
+  }
   int code = SQLITE_OK;
   {
     Instruction ecriture(base_.get(), kEcriture);

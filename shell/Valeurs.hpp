@@ -7,6 +7,7 @@
 #include <string_view>
 
 struct sqlite3;
+struct sqlite3_stmt;
 
 namespace velmaris {
 
@@ -36,7 +37,8 @@ public:
   std::string GetSetting(std::string_view application, std::string_view section, std::string_view cle,
                          std::string_view defaut = {}) const;
 
-  /// Creates or replaces a value; it is on the disk when this returns, unless it stands in a Transaction.
+  /// Creates or replaces a value; it is on the disk when this returns, unless it stands in a group. A value that the
+  /// store holds already is not written again.
   /// When the disk refuses, the store goes on in memory with all its values and `etat` says so.
   void SaveSetting(std::string_view application, std::string_view section, std::string_view cle,
                    std::string_view valeur);
@@ -58,6 +60,13 @@ public:
     }
   }
 
+  /// Runs a group of GetSetting on one state of the store, whatever another program writes meanwhile.
+  template <class Lectures> void EnsembleLu(Lectures &&lectures) {
+    Execute("BEGIN");
+    lectures();
+    Execute("COMMIT");
+  }
+
   EtatMagasin etat() const { return etat_; }
   /// The damaged file's new name, or the file that can't be written.
   const std::filesystem::path &fichierEnCause() const { return fichierEnCause_; }
@@ -65,7 +74,9 @@ public:
 private:
   struct Fermeture {
     void operator()(sqlite3 *base) const;
+    void operator()(sqlite3_stmt *instruction) const;
   };
+  bool Lit(std::string_view application, std::string_view section, std::string_view cle, std::string &valeur) const;
   bool Ouvre();
   void MetDeCote();
   void PasseEnMemoire();
@@ -74,6 +85,7 @@ private:
   std::filesystem::path fichier_;
   std::filesystem::path fichierEnCause_;
   std::unique_ptr<sqlite3, Fermeture> base_;
+  mutable std::unique_ptr<sqlite3_stmt, Fermeture> lecture_; ///< prepared once: a sheet's redraw reads a hundred keys
   EtatMagasin etat_ = EtatMagasin::Sain;
 };
 

@@ -6,6 +6,8 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <cstdio>
+#include <string>
 
 namespace velmaris {
 namespace {
@@ -80,6 +82,64 @@ TEST(WeekDay, CountsFromSunday) {
 TEST(DateText, ADateAndTimeIsWrittenTwoDigitsAFieldAndFourTheYear) {
   EXPECT_EQ(TexteDateHeure({2009, 3, 5, 7, 8, 9}), "05/03/2009 07:08:09");
   EXPECT_EQ(TexteDateHeure({987, 12, 31, 23, 59, 59}), "31/12/0987 23:59:59");
+}
+
+TEST(TimeOfDay, IsTheFractionOfADay) {
+  EXPECT_EQ(LitHeure("00:00"), 0);
+  EXPECT_EQ(LitHeure("06:00"), 0.25);
+  EXPECT_EQ(LitHeure("12:00"), 0.5);
+  EXPECT_EQ(LitHeure("18:00"), 0.75);
+  for (int minutes = 0; minutes < 1440; ++minutes) {
+    const std::string texte = std::to_string(minutes / 60) + ":" + std::to_string(minutes % 60);
+    EXPECT_DOUBLE_EQ(LitHeure(texte) * 1440, minutes) << texte;
+  }
+  EXPECT_LT(LitHeure("23:59"), 1);
+}
+
+TEST(TimeOfDay, FieldsHaveOneOrTwoDigits) {
+  EXPECT_EQ(LitHeure("6:0"), LitHeure("06:00"));
+  EXPECT_EQ(LitHeure("6:5"), LitHeure("06:05"));
+}
+
+TEST(TimeOfDay, AnythingElseIsATypeMismatch) {
+  for (const char *texte : {"",      ":",      "12:",    ":30",      "12",      "24:00",   "23:60",   "99:00",
+                            "00:99", "012:00", "12:000", "12:30:00", "12.5:00", "12:30.5", "12,5:00", "-1:00",
+                            "12:-1", "+1:00",  "ab:cd",  "12h30",    "12:3o",   "12;30",   "é:00",    "1200"}) {
+    EXPECT_EQ(NumeroErreur([&] { LitHeure(texte); }), 13) << texte;
+  }
+}
+
+TEST(TimeText, HasTwoDigitsEachOfHoursMinutesAndSeconds) {
+  EXPECT_EQ(TexteHeure(0), "00:00:00");
+  EXPECT_EQ(TexteHeure(0.5), "12:00:00");
+  EXPECT_EQ(TexteHeure(86399 / 86400.0), "23:59:59");
+  for (int seconde = 0; seconde < 86400; seconde += 37) {
+    char attendu[32];
+    std::snprintf(attendu, sizeof attendu, "%02d:%02d:%02d", seconde / 3600, seconde / 60 % 60, seconde % 60);
+    EXPECT_EQ(TexteHeure(seconde / 86400.0), attendu);
+  }
+}
+
+TEST(TimeText, TakesTheNearestSecond) {
+  EXPECT_EQ(TexteHeure(0.4 / 86400), "00:00:00");
+  EXPECT_EQ(TexteHeure(0.6 / 86400), "00:00:01");
+  EXPECT_EQ(TexteHeure(59.6 / 86400), "00:01:00");
+  EXPECT_EQ(TexteHeure(3599.6 / 86400), "01:00:00");
+}
+
+TEST(TimeText, GivesBackTheMinutesBetweenTwoTimesOfDay) {
+  for (int debut = 0; debut < 1440; debut += 11) {
+    for (int duree = 0; duree < 1440; duree += 19) {
+      const int fin = (debut + duree) % 1440;
+      const auto lit = [](int minutes) {
+        return LitHeure(std::to_string(minutes / 60) + ":" + std::to_string(minutes % 60));
+      };
+      const double jours = lit(fin) - lit(debut) + (fin < debut ? 1 : 0);
+      char attendu[32];
+      std::snprintf(attendu, sizeof attendu, "%02d:%02d:00", duree / 60, duree % 60);
+      EXPECT_EQ(TexteHeure(jours), attendu);
+    }
+  }
 }
 
 } // namespace
