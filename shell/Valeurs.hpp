@@ -62,9 +62,11 @@ public:
 
   /// Runs a group of GetSetting on one state of the store, whatever another program writes meanwhile.
   template <class Lectures> void EnsembleLu(Lectures &&lectures) {
-    Execute("BEGIN");
+    const bool ouvert = Execute("BEGIN");
     lectures();
-    Execute("COMMIT");
+    if (ouvert) {
+      Execute("COMMIT");
+    }
   }
 
   EtatMagasin etat() const { return etat_; }
