@@ -9,7 +9,12 @@ std::span<const std::span<const LigneDonnees>> TableDonnees() {
 }
 
 void InitialiseDonnees(Donnees &donnees) {
-  PourChaque(donnees, [](const LigneDonnees &ligne, Controle &c) { c = ControleNeuf(ligne, kFenetreDonnees); });
+  PourChaque(donnees, [](const LigneDonnees &ligne, Controle &c) {
+    c = ControleNeuf(ligne, kFenetreDonnees);
+    if (c.genre == Genre::Champ) {
+      c.cote = Cote::Droite; // figures
+    }
+  });
   donnees.HScroll1.minimum = 80;
   donnees.HScroll1.maximum = 30000;
   donnees.HScroll1.petitPas = 10;

@@ -24,11 +24,11 @@ finie() { ! kill -0 "$PID" 2>/dev/null; }
 EXIT_BOX='^Velmaris - '
 TOLD_BOX='^Velmaris$'
 
-# Presses a key in the box of that title once it is there, and waits until it is gone.
+# Presses keys in the box of that title once it is there.
 repond() {
   attends boite_ouverte "$1"
   sleep 0.3
-  touche "$2"
+  touche "${@:2}"
 }
 
 # Gives the window the keyboard again after a box.
@@ -74,6 +74,25 @@ champ() { tape "$1"; touche Tab; }
 image() { sleep 0.3; import -window root "$IMAGES/$1.png"; }
 reglage() { sqlite3 "$MAGASIN" "SELECT valeur FROM valeurs WHERE cle='$1'"; }
 attendu() { [ "$2" = "$3" ] || echoue "$1 : attendu « $3 », lu « $2 »"; }
+
+# Pixels near one colour on a picture, as ImageMagick names it.
+pixels() { convert "$IMAGES/$2.png" -fuzz 12% -fill black +opaque "$1" -fill white -opaque "$1" -format '%[fx:int(mean*w*h+0.5)]' info:; }
+
+# Another sight of the Sun, of the same day and sides: hour, minute, second; latitude; longitude; degrees, minutes,
+# seconds read.
+visee_suivante() {
+  clic 300 2850
+  for texte in 21 06 2026 "$1" "$2" "$3"; do champ "$texte"; done
+  touche Tab # past "Top"
+  champ "$4"; champ "$5"; touche Tab
+  champ "$6"; champ "$7"; touche Tab
+  for texte in "$8" "$9" "${10}"; do champ "$texte"; done
+}
+
+# Chooses what a click on a line does: the place of its option from the top.
+MODE_ENREGISTRE=3255 MODE_AFFICHE=3540 MODE_EFFACE=3825 MODE_CENTRE=4110 MODE_RETIRE=4395 MODE_DROITE=4770
+MODE_ESTIME=5145
+mode() { clic 3200 "$1"; }
 
 # A whole sight of the Sun by keyboard alone, from the day's field on: Brittany, shortly before noon.
 visee_bretagne() {
