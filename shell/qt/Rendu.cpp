@@ -107,7 +107,7 @@ void Rendu::BrancheLibelles() {
     if (libelle == nullptr || !libelle->controle->raccourci) {
       continue;
     }
-    if (auto *label = qobject_cast<QLabel *>(libelle->widget)) {
+    if (auto *label = qobject_cast<QLabel *>(libelle->widget); label != nullptr && label->buddy() == nullptr) {
       label->setBuddy(lien.widget);
     }
   }

@@ -76,8 +76,24 @@ QWidget *CreeImage(const Controle &c, QWidget *parent) {
   return new QLabel(parent);
 }
 
+/// A list that chooses nothing by itself when the keyboard comes to it.
+class ListeSansChoix : public QListWidget {
+public:
+  using QListWidget::QListWidget;
+
+protected:
+  void focusInEvent(QFocusEvent *event) override {
+    const bool sansChoix = !currentIndex().isValid();
+    const QSignalBlocker silence(this);
+    QListWidget::focusInEvent(event);
+    if (sansChoix) {
+      setCurrentIndex({});
+    }
+  }
+};
+
 QWidget *CreeListeBoite(QWidget *parent) {
-  auto *liste = new QListWidget(parent);
+  auto *liste = new ListeSansChoix(parent);
   liste->setUniformItemSizes(true);
   liste->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
   return liste;

@@ -78,7 +78,7 @@ attendu "la droite est effacée" "$(reglage 'T3(2)')$(reglage 'AS(2)')" ""
 reprend Attention
 clic 1100 500
 attends boite_ouverte "$CHARGE"
-touche Tab space; sleep 0.2 # the list, its first file
+touche Tab Down; sleep 0.2 # the list, its first file
 image "$NOM-ouvre"
 touche Return; attends boite_fermee "$CHARGE"; reprend "$CHARGE"
 touche F7; attends stocke 'T3(2)' 16
