@@ -183,9 +183,17 @@ void AjouteLigne(const std::filesystem::path &chemin, std::string_view titre, st
   } else if (char dernier = 0; ::pread(fichier.numero(), &dernier, 1, etat.st_size - 1) == 1 && dernier != '\n') {
     octets = "\n";
   }
-  EcritTout(fichier.numero(), octets.append(ligne) + "\n");
-  if (::fdatasync(fichier.numero()) != 0) {
-    throw Erreur(75);
+  try {
+    EcritTout(fichier.numero(), octets.append(ligne) + "\n");
+    if (::fdatasync(fichier.numero()) != 0) {
+      throw Erreur(75);
+    }
+  } catch (const Erreur &) {
+    // Half a line is no line: what was there before stays.
+    if (::ftruncate(fichier.numero(), etat.st_size) != 0) {
+      throw Erreur(75);
+    }
+    throw;
   }
 }
 

@@ -37,6 +37,11 @@ std::string LitReglage(const Bureau &bureau, std::string_view cle, std::string_v
 }
 
 void EcritReglage(Bureau &bureau, std::string_view cle, std::string_view valeur) {
+  // Showing a line chooses its kind of fraction, which keeps it: a redraw would wait for the disk at each line.
+  const std::string absente = std::string(valeur) + "?";
+  if (LitReglage(bureau, cle, absente) == valeur) {
+    return;
+  }
   bureau.valeurs->SaveSetting(kApplication, kSection, cle, valeur);
   SignaleMagasin(bureau);
 }

@@ -88,7 +88,7 @@ Surface *SurfaceDe(Bureau &bureau, const Controle &controle);
 /// A setting of the program.
 std::string LitReglage(const Bureau &bureau, std::string_view cle, std::string_view defaut = {});
 
-/// Keeps a setting; tells the user once when the store can't.
+/// Keeps a setting, unless the store holds that value already; tells the user once when the store can't.
 void EcritReglage(Bureau &bureau, std::string_view cle, std::string_view valeur);
 
 /// Tells the user that the store was damaged or can't be written, once each.

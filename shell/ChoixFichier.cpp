@@ -15,11 +15,20 @@ namespace fs = std::filesystem;
 constexpr const char *kCleDossier = "Dossier"; ///< setting: the folder that a file was last chosen in
 constexpr std::size_t kExtension = 4;          ///< characters of a three-letter extension and its point
 
-char Minuscule(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c + ('a' - 'A')) : c; }
-
-std::string Minuscules(std::string texte) {
-  std::transform(texte.begin(), texte.end(), texte.begin(), Minuscule);
-  return texte;
+/// A text in small letters, the accented ones of Latin-1 included.
+std::string Minuscules(std::string_view texte) {
+  constexpr int kEcart = 'a' - 'A';
+  std::string petit(texte);
+  bool latin = false; // the byte before opens the letters 0xC0 to 0xFF of Latin-1
+  for (char &c : petit) {
+    const auto octet = static_cast<unsigned char>(c);
+    const bool accentuee = latin && octet >= 0x80 && octet <= 0x9E && octet != 0x97;
+    if (accentuee || (c >= 'A' && c <= 'Z')) {
+      c = static_cast<char>(octet + kEcart);
+    }
+    latin = octet == 0xC3;
+  }
+  return petit;
 }
 
 /// In the order of the alphabet, without regard to case.
@@ -108,7 +117,15 @@ void MontreVolume(FSelect &f, const fs::path &accueil) {
   }
 }
 
-/// Shows a folder: its files and its neighbours. The chosen file stays chosen where it is still there.
+/// Shows the files of the present folder; the chosen one stays chosen where it is still there.
+void MontreFichiers(FSelect &f, std::vector<std::string> fichiers) {
+  const std::string choisi = FichierChoisi(f);
+  f.File1.liste = std::move(fichiers);
+  const auto reste = std::find(f.File1.liste.begin(), f.File1.liste.end(), choisi);
+  f.File1.rang = reste == f.File1.liste.end() ? -1 : static_cast<int>(reste - f.File1.liste.begin());
+}
+
+/// Goes to a folder: its files and its neighbours.
 /// @return false when it can't be read; the dialog then stays where it is
 bool Entre(Bureau &bureau, const fs::path &dossier) {
   FSelect &f = bureau.fselect;
@@ -116,24 +133,47 @@ bool Entre(Bureau &bureau, const fs::path &dossier) {
   if (!LitContenu(dossier, f.motif, contenu)) {
     return false;
   }
-  const std::string choisi = dossier == f.dossier ? FichierChoisi(f) : std::string();
+  if (dossier != f.dossier) {
+    f.File1.rang = -1;
+  }
   f.dossier = dossier;
-  f.File1.liste = std::move(contenu.fichiers);
-  const auto reste = std::find(f.File1.liste.begin(), f.File1.liste.end(), choisi);
-  f.File1.rang = reste == f.File1.liste.end() ? -1 : static_cast<int>(reste - f.File1.liste.begin());
+  MontreFichiers(f, std::move(contenu.fichiers));
   MontreDossiers(f, contenu.dossiers);
   MontreVolume(f, bureau.dossiers.accueil);
   return true;
 }
 
-void Rafraichit(Bureau &bureau) { Entre(bureau, fs::path(bureau.fselect.dossier)); }
+/// Goes to a folder, or where it can't be shown to the user's own, or to the root.
+void EntreOuAccueil(Bureau &bureau, const fs::path &dossier) {
+  if (!Entre(bureau, dossier) && !Entre(bureau, bureau.dossiers.accueil)) {
+    Entre(bureau, "/");
+  }
+}
+
+/// Shows what has been written since; a folder that is chosen without having been entered stays so.
+/// @return false when the folder has gone
+bool Rafraichit(FSelect &f) {
+  Contenu contenu;
+  if (!LitContenu(f.dossier, f.motif, contenu)) {
+    return false;
+  }
+  const fs::path choisi = DossierChoisi(f);
+  MontreFichiers(f, std::move(contenu.fichiers));
+  MontreDossiers(f, contenu.dossiers);
+  const auto reste = std::find(f.chemins.begin(), f.chemins.end(), choisi);
+  f.Dir1.rang = reste == f.chemins.end() ? f.Dir1.rang : static_cast<int>(reste - f.chemins.begin());
+  return true;
+}
 
 /// A typed path as a folder: from the present one, or from the user's own after a tilde.
 fs::path Absolu(const Bureau &bureau, const std::string &texte) {
   const fs::path chemin = texte == "~" || texte.starts_with("~/")
                               ? bureau.dossiers.accueil / texte.substr(std::min<std::size_t>(texte.size(), 2))
                               : bureau.fselect.dossier / texte;
-  const fs::path normal = chemin.lexically_normal();
+  fs::path normal = chemin.lexically_normal();
+  if (normal.native().starts_with("//")) {
+    normal = normal.native().substr(1);
+  }
   return normal.has_filename() ? normal : normal == normal.root_path() ? normal : normal.parent_path();
 }
 
@@ -164,8 +204,9 @@ void Accepte(Bureau &bureau) {
   if (!f.etiquette.ends_with('/')) {
     f.etiquette += '/';
   }
-  Rafraichit(bureau);
+  Rafraichit(f);
   f.cadre.visible = false;
+  f.accepte = true;
   const std::size_t longueur = NombreCaracteres(f.FName.texte);
   bureau.TitreFichier = Gauche(f.FName.texte, longueur > kExtension ? longueur - kExtension : 0);
   EcritReglage(bureau, kCleDossier, f.dossier.string());
@@ -175,15 +216,10 @@ void Accepte(Bureau &bureau) {
 void Charge(Bureau &bureau) {
   ChargeLangue(bureau, kFenetreFSelect);
   bureau.fselect.chargee = true;
-  const std::string dernier = LitReglage(bureau, kCleDossier);
-  if (dernier.empty() || !Entre(bureau, dernier)) {
-    if (!Entre(bureau, bureau.dossiers.accueil)) {
-      Entre(bureau, "/");
-    }
-  }
+  EntreOuAccueil(bureau, LitReglage(bureau, kCleDossier));
 }
 
-/// One pattern against one name.
+/// One pattern against one name, both in small letters.
 bool Correspond(std::string_view nom, std::string_view motif) {
   std::size_t n = 0;
   std::size_t m = 0;
@@ -202,7 +238,7 @@ bool Correspond(std::string_view nom, std::string_view motif) {
     } else if (m < motif.size() && motif[m] == '?') {
       n = suivant(n);
       ++m;
-    } else if (m < motif.size() && Minuscule(motif[m]) == Minuscule(nom[n])) {
+    } else if (m < motif.size() && motif[m] == nom[n]) {
       ++n;
       ++m;
     } else if (etoile != std::string_view::npos) {
@@ -218,10 +254,11 @@ bool Correspond(std::string_view nom, std::string_view motif) {
 } // namespace
 
 bool CorrespondMotif(std::string_view nom, std::string_view motif) {
+  const std::string petit = Minuscules(nom);
   while (true) {
     const std::size_t fin = motif.find(';');
-    const std::string_view un = SansBlancs(motif.substr(0, fin));
-    if (un == "*.*" || Correspond(nom, un)) {
+    const std::string un = Minuscules(SansBlancs(motif.substr(0, fin)));
+    if (un == "*.*" || Correspond(petit, un)) {
       return true;
     }
     if (fin == std::string_view::npos) {
@@ -239,21 +276,25 @@ fs::path ChoisitFichier(Bureau &bureau, const std::string &titre, const std::str
   f.FName.toutSelectionne = true;
   f.OK.actif = true;
   f.File1.rang = -1;
-  if (!f.chargee) {
+  f.accepte = false;
+  if (f.chargee) {
+    EntreOuAccueil(bureau, fs::path(f.dossier));
+  } else {
     Charge(bureau);
   }
-  FSelect_Activate(bureau);
   bureau.focus = &f.FName;
   f.cadre.visible = true;
   bureau.ports.modale(f.cadre);
   f.cadre.visible = false;
+  if (!f.accepte) {
+    f.FName.texte.clear();
+  }
   return f.FName.texte.empty() ? fs::path() : fs::path(f.etiquette + f.FName.texte);
 }
 
 void FSelect_Activate(Bureau &bureau) {
-  // A folder that has gone since gives way to the user's own.
-  if (!Entre(bureau, fs::path(bureau.fselect.dossier))) {
-    Entre(bureau, bureau.dossiers.accueil);
+  if (!Rafraichit(bureau.fselect)) {
+    EntreOuAccueil(bureau, bureau.dossiers.accueil);
   }
 }
 
@@ -290,7 +331,7 @@ void OK_Click(Bureau &bureau, int /*indice*/) {
   }
   bool navigation = false;
   std::string nom = f.FName.texte;
-  if (nom.find('/') != std::string::npos) {
+  if (nom == "~" || nom.find('/') != std::string::npos) {
     if (!SuitChemin(bureau, nom)) {
       return;
     }
@@ -302,7 +343,7 @@ void OK_Click(Bureau &bureau, int /*indice*/) {
   }
   const bool unNom = nom.find('.') != std::string::npos && nom != f.motif;
   if (navigation && !unNom) {
-    Rafraichit(bureau);
+    Rafraichit(f);
     RetourAuMotif(f);
     return;
   }
@@ -320,7 +361,7 @@ void Supprime_Click(Bureau &bureau, int /*indice*/) {
     bureau.ports.jette(f.dossier / nom);
   }
   f.File1.rang = -1;
-  Rafraichit(bureau);
+  Rafraichit(f);
   f.OK.actif = false;
 }
 

@@ -20,6 +20,7 @@ void InitialiseDonnees(Donnees &donnees) {
   donnees.HScroll1.petitPas = 10;
   donnees.HScroll1.grandPas = 100;
   donnees.HScroll1.valeur = donnees.HScroll1.minimum;
+  donnees.Label1.texte = donnees.Label1.legende;
   donnees.Combo5.actif = false;
   donnees.Option1[4].actif = false; // until dead reckoning has worked out a point
   donnees.Text25.texte = "00";

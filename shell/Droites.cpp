@@ -31,7 +31,7 @@ int RetraceEtat(Bureau &bureau, Couleur etat) {
 }
 
 /// Clicks on the lines of a list of transports in a mode, in their order.
-/// @param liste  a copy: a click may empty the list that it comes from
+/// @param liste  a click that finds no sheet empties it, and ends the run
 void RetraceTransports(Bureau &bureau, ModeDroite mode, const std::string &liste) {
   if (liste.empty()) {
     return;
@@ -40,8 +40,8 @@ void RetraceTransports(Bureau &bureau, ModeDroite mode, const std::string &liste
   if (mode == ModeDroite::TransporteDroite) {
     PoseTexte(bureau, bureau.donnees.Combo5, bureau.transports.CibleTransport);
   }
-  for (const char chiffre : liste) {
-    Droite_Click(bureau, chiffre - '0');
+  for (std::size_t i = 0; i < liste.size(); ++i) {
+    Droite_Click(bureau, liste[i] - '0');
   }
 }
 
@@ -80,8 +80,8 @@ void RetraceDroites(Bureau &bureau) {
   if (premieres + ajoutees == 0) {
     PremiereDroite(bureau);
   }
-  RetraceTransports(bureau, ModeDroite::TransporteDroite, std::string(bureau.transports.ListeTransportDroite));
-  RetraceTransports(bureau, ModeDroite::TransporteEstime, std::string(bureau.transports.ListeTransportEstime));
+  RetraceTransports(bureau, ModeDroite::TransporteDroite, bureau.transports.ListeTransportDroite);
+  RetraceTransports(bureau, ModeDroite::TransporteEstime, bureau.transports.ListeTransportEstime);
 }
 
 void RetraceCarte(Bureau &bureau) {

@@ -64,12 +64,18 @@ void AppliqueLangue(std::string_view texte, std::string_view fenetre, const List
 void ChargeLangue(Bureau &bureau, std::string_view fenetre) {
   std::optional<std::string> texte;
   Passe([&] { texte = LitFichier(TrouveFichier(bureau.dossiers, bureau.FichierLangue.substr(1))); });
-  if (texte) {
+  Controle &jour = bureau.donnees.Label1;
+  if (texte && fenetre == kFenetreDonnees) {
+    // The plain caption gives way to weekdays; it is kept as the label's own text.
+    jour.legende = jour.texte;
+    AppliqueLangue(*texte, fenetre, ControlesDe(bureau, fenetre), bureau.messages);
+    jour.texte = jour.legende;
+  } else if (texte) {
     AppliqueLangue(*texte, fenetre, ControlesDe(bureau, fenetre), bureau.messages);
   } else if (fenetre == kFenetreDonnees) {
     bureau.ports.boite({.texte = "Fichier absent.", .icone = Icone::Attention});
   }
-  bureau.donnees.Label1.infobulle = bureau.donnees.Label1.legende;
+  jour.infobulle = jour.legende;
 }
 
 std::string ModeleLangue(const ListeControles &controles) {

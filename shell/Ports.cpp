@@ -10,7 +10,9 @@ namespace {
 
 std::filesystem::path Accueil() {
   const char *maison = std::getenv("HOME");
-  return maison != nullptr && *maison != '\0' ? maison : "/tmp";
+  const std::filesystem::path dossier =
+      std::filesystem::path(maison != nullptr && *maison != '\0' ? maison : "/tmp").lexically_normal();
+  return dossier.has_filename() ? dossier : dossier.parent_path();
 }
 
 std::filesystem::path DossierUtilisateur() {

@@ -151,7 +151,7 @@ void Text13_Quitte(Bureau &bureau, int /*indice*/) {
 
 void TDate_Change(Bureau &bureau, int /*indice*/) {
   Donnees &d = bureau.donnees;
-  d.Label1.legende = d.Label1.infobulle;
+  d.Label1.legende = d.Label1.texte;
   Passe([&] {
     const ValeurDate date = LitDate(d.TDate[0].texte + "/" + d.TDate[1].texte + "/" + d.TDate[2].texte);
     d.Label1.legende = PremiereMajuscule(bureau.ports.nomJour(date)) + " :";

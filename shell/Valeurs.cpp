@@ -175,9 +175,6 @@ std::string Valeurs::GetSetting(std::string_view application, std::string_view s
 
 void Valeurs::SaveSetting(std::string_view application, std::string_view section, std::string_view cle,
                           std::string_view valeur) {
-  if (std::string presente; Lit(application, section, cle, presente) && presente == valeur) {
-    return;
-  }
   int code = SQLITE_OK;
   {
     Instruction ecriture(base_.get(), kEcriture);

@@ -37,8 +37,7 @@ public:
   std::string GetSetting(std::string_view application, std::string_view section, std::string_view cle,
                          std::string_view defaut = {}) const;
 
-  /// Creates or replaces a value; it is on the disk when this returns, unless it stands in a group. A value that the
-  /// store holds already is not written again.
+  /// Creates or replaces a value; it is on the disk when this returns, unless it stands in a group.
   /// When the disk refuses, the store goes on in memory with all its values and `etat` says so.
   void SaveSetting(std::string_view application, std::string_view section, std::string_view cle,
                    std::string_view valeur);
