@@ -152,7 +152,8 @@ TEST_F(Langue, TheTemplateIsWrittenToTheUsersFolder) {
 class FichiersLivres : public Programme, public ::testing::WithParamInterface<const char *> {};
 
 TEST_P(FichiersLivres, EveryNumberedTextThatCodeUsesIsThere) {
-  AppliqueLangue(LitFichier(std::filesystem::path(VELMARIS_DONNEES) / GetParam()), "Données", Liste(d), bureau.messages);
+  AppliqueLangue(LitFichier(std::filesystem::path(VELMARIS_DONNEES) / GetParam()), "Données", Liste(d),
+                 bureau.messages);
   for (std::size_t n = 1; n <= 34; ++n) {
     EXPECT_EQ(bureau.messages[n].empty(), n == 27) << n << ": 27 names no text";
   }
@@ -168,7 +169,8 @@ TEST_P(FichiersLivres, EveryCaptionAndToolTipOfTheWindowHasItsLine) {
     }
   };
   PourChaque(d, [&](const LigneDonnees &, Controle &c) { efface(c); });
-  AppliqueLangue(LitFichier(std::filesystem::path(VELMARIS_DONNEES) / GetParam()), "Données", Liste(d), bureau.messages);
+  AppliqueLangue(LitFichier(std::filesystem::path(VELMARIS_DONNEES) / GetParam()), "Données", Liste(d),
+                 bureau.messages);
   const std::set<std::string> composes = {"Label32"};
   PourChaque(d, [&](const LigneDonnees &, const Controle &c) {
     if (composes.count(c.nom) == 0) {
