@@ -70,9 +70,10 @@ double LitHeure(std::string_view texte) {
 }
 
 std::string TexteHeure(double jours) {
-  const auto secondes = std::lround(jours * 86400);
-  return Format(static_cast<double>(secondes / 3600), "00") + ":" +
-         Format(static_cast<double>(secondes / 60 % 60), "00") + ":" + Format(static_cast<double>(secondes % 60), "00");
+  const long secondes = std::lround(jours * 86400);
+  const auto deux = [](long nombre) { return Format(static_cast<double>(nombre), "00"); };
+  const long minutes = secondes / 60;
+  return deux(minutes / 60) + ":" + deux(minutes % 60) + ":" + deux(secondes % 60);
 }
 
 std::string TexteDateHeure(const ValeurDate &date) {

@@ -118,9 +118,9 @@ void PoseTraits(Controle &controle, const Traits &traits);
 /// One control in the table of a window's record: its name, how to find it, and how it starts.
 template <class Fenetre> struct LigneDe {
   std::string_view nom;
-  int indice; ///< -1 for a control alone
-  Controle &(*acces)(Fenetre &);
-  Genre genre;
+  int indice = -1; ///< -1 for a control alone
+  Controle &(*acces)(Fenetre &) = nullptr;
+  Genre genre = Genre::Etiquette;
   std::string_view parent; ///< empty for the window itself
   Place place;
   std::string_view legende = {};

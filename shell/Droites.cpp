@@ -40,8 +40,9 @@ void RetraceTransports(Bureau &bureau, ModeDroite mode, const std::string &liste
   if (mode == ModeDroite::TransporteDroite) {
     PoseTexte(bureau, bureau.donnees.Combo5, bureau.transports.CibleTransport);
   }
-  for (std::size_t i = 0; i < liste.size(); ++i) {
-    Droite_Click(bureau, liste[i] - '0');
+  std::size_t rang = 0;
+  while (rang < liste.size()) {
+    Droite_Click(bureau, liste[rang++] - '0');
   }
 }
 
