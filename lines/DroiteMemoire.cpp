@@ -80,6 +80,7 @@ std::vector<CleValeur> ClesEffacees(int ligne) {
                                                    "Td1(", "Td2(",  "T6(",  "T7(",  "T8(", "T9(", "T10(",
                                                    "T11(", "T12(",  "T13(", "Hem(", "Lon("};
   std::vector<CleValeur> cles;
+  cles.reserve(kVides.size() + 3);
   for (const char *champ : kVides) {
     cles.push_back({CleDroite(champ, ligne), ""});
   }

@@ -143,7 +143,10 @@ QString Rendu::NomLisible(const Controle &c) const {
 }
 
 void Rendu::AccordeWidget(Lien &lien, bool tout) {
-  if (lien.widget == nullptr || (!tout && *lien.controle == lien.vu && !lien.controle->toutSelectionne)) {
+  if (lien.widget == nullptr) {
+    return;
+  }
+  if (!tout && *lien.controle == lien.vu && !lien.controle->toutSelectionne) {
     // A box or an option that the toolkit has switched by itself follows its control all the same.
     if (auto *bouton = qobject_cast<QAbstractButton *>(lien.widget); bouton == nullptr || !bouton->isCheckable()) {
       return;
@@ -183,7 +186,7 @@ void Rendu::Accorde() {
   AccordeGroupes();
 }
 
-void Rendu::DonneFocus(const Controle &controle) {
+void Rendu::DonneFocus(const Controle &controle) const {
   if (QWidget *widget = WidgetDe(controle)) {
     widget->setFocus(Qt::OtherFocusReason);
   }
