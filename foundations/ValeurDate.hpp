@@ -20,6 +20,10 @@ struct ValeurDate {
 /// @throws Erreur 13 for an impossible date, a fraction, an empty field or a year past 9999
 ValeurDate LitDate(std::string_view texte);
 
+/// Date and time from a text day "/" month "/" year " " hour ":" minute ":" second.
+/// @throws Erreur 13 for an impossible date, an hour over 23, a minute or second over 59, a fraction or an empty field
+ValeurDate LitDateHeure(std::string_view texte);
+
 /// Day of the week of a date.
 /// @return 0 for Sunday to 6 for Saturday
 int JourSemaine(const ValeurDate &date);

@@ -142,5 +142,50 @@ TEST(TimeText, GivesBackTheMinutesBetweenTwoTimesOfDay) {
   }
 }
 
+TEST(DateAndTimeText, IsReadWhole) {
+  const ValeurDate d = LitDateHeure("5/12/2025 7:08:59");
+  EXPECT_EQ(TexteDateHeure(d), "05/12/2025 07:08:59");
+  EXPECT_EQ(LitDateHeure(" 05/12/25 23:59:00 ").annee, 2025);
+  EXPECT_EQ(LitDateHeure("5 / 12 / 2025 23:59:00").minute, 59);
+}
+
+TEST(DateAndTimeText, IsReadBackAsItIsWritten) {
+  for (int i = 0; i < 500; ++i) {
+    const ValeurDate d{1900 + i % 200, 1 + i % 12, 1 + i % 28, i % 24, i * 7 % 60, i * 13 % 60};
+    EXPECT_EQ(TexteDateHeure(LitDateHeure(TexteDateHeure(d))), TexteDateHeure(d));
+  }
+}
+
+TEST(DateAndTimeText, AnImpossibleOneIsATypeMismatch) {
+  for (const char *texte : {"31/02/2025 12:00:00",
+                            "05/12/2025 24:00:00",
+                            "05/12/2025 12:60:00",
+                            "05/12/2025 12:00:60",
+                            "05/12/2025 60:00:00",
+                            "05/12/2025 -1:00:00",
+                            "05/12/2025 12.5:00:00",
+                            "05/12/2025 12:00:0.5",
+                            "05/12/2025 12:00",
+                            "05/12/2025",
+                            "12:00:00",
+                            "",
+                            " ",
+                            "05/12/2025 ::",
+                            "05/12/2025 12::00",
+                            "05/12/2025 12:00:",
+                            "05/12/2025 :00:00",
+                            "5.5/12/2025 12:00:00",
+                            "//  12:00:00",
+                            "0/0/0 0:0:0",
+                            "05/12/2025 012:00:00",
+                            "05/12/2025 12:00:00:00",
+                            "05/12/2025 12:00:00 12:00:00",
+                            "05/12/2025 1E1:00:00",
+                            "05/12/2025\n12:00:00",
+                            "05/12/2025 12h00m00"}) {
+    EXPECT_EQ(NumeroErreur([&] { LitDateHeure(texte); }), 13) << texte;
+  }
+}
+
 } // namespace
 } // namespace velmaris
