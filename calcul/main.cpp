@@ -1,5 +1,9 @@
+#include "calcul/Etoile.hpp"
 #include "calcul/Horizon.hpp"
+#include "calcul/Lune.hpp"
+#include "calcul/Planetes.hpp"
 #include "calcul/Reduit.hpp"
+#include "ephemerides/TableEtoiles.hpp"
 #include "foundations/Erreur.hpp"
 #include "shell/Messages.hpp"
 
@@ -16,6 +20,7 @@ using namespace velmaris;
 constexpr int kReussi = 0;
 constexpr int kEchec = 1;
 constexpr int kUsage = 2;
+constexpr std::size_t kLabelAD = 33;       ///< numbered text before a right ascension
 constexpr std::size_t kTampon = 1U << 20U; ///< bytes gathered before they are written
 
 /// What the command line asks for.
@@ -23,6 +28,9 @@ struct Demande {
   std::string langue = "fr";
   std::vector<std::string> fichiers;
   DemandeHorizon horizon;
+  DemandeEtoile etoile;
+  DemandeLune lune;
+  DemandePlanete planete;
 };
 
 /// Writes what has been gathered and empties it.
@@ -81,8 +89,26 @@ int Horizon(const Demande &demande) {
   return Vide(sortie) && reussi ? kReussi : kEchec;
 }
 
+int Etoile(const Demande &demande) {
+  std::string sortie;
+  const bool reussi = EcritEtoile(demande.etoile, sortie);
+  return Vide(sortie) && reussi ? kReussi : kEchec;
+}
+
+int Lune(const Demande &demande, const std::filesystem::path &dossier) {
+  std::string sortie;
+  const bool reussi = EcritLune(demande.lune, MessagesDeLangue(demande.lune.langue, dossier)[kLabelAD], sortie);
+  return Vide(sortie) && reussi ? kReussi : kEchec;
+}
+
+int Planete(const Demande &demande, EcritPlanete ecrit) {
+  std::string sortie;
+  const bool reussi = ecrit(demande.planete, sortie);
+  return Vide(sortie) && reussi ? kReussi : kEchec;
+}
+
 /// A positional argument that must be a number.
-void AjouteAngle(CLI::App &verbe, const std::string &nom, double &valeur, const std::string &aide) {
+void AjouteNombreLu(CLI::App &verbe, const std::string &nom, double &valeur, const std::string &aide) {
   verbe
       .add_option_function<std::string>(
           nom,
@@ -96,13 +122,18 @@ void AjouteAngle(CLI::App &verbe, const std::string &nom, double &valeur, const 
       ->type_name("");
 }
 
-CLI::App *DeclareReduit(CLI::App &programme, Demande &demande) {
-  CLI::App *verbe = programme.add_subcommand("reduit", "Réduit des visées enregistrées, dans l'ordre");
-  verbe->group("Verbes");
-  verbe->add_option("--langue", demande.langue, "Langue des textes : fr, en ou aucune")
+/// The choice of the language of the texts.
+void AjouteLangue(CLI::App &verbe, std::string &langue) {
+  verbe.add_option("--langue", langue, "Langue des textes : fr, en ou aucune")
       ->check(CLI::IsMember({"fr", "en", "aucune"}))
       ->type_name("LANGUE")
       ->capture_default_str();
+}
+
+CLI::App *DeclareReduit(CLI::App &programme, Demande &demande) {
+  CLI::App *verbe = programme.add_subcommand("reduit", "Réduit des visées enregistrées, dans l'ordre");
+  verbe->group("Verbes");
+  AjouteLangue(*verbe, demande.langue);
   verbe->add_option("FICHIER.LoP", demande.fichiers, "Fichiers de visée")->required()->type_name("");
   return verbe;
 }
@@ -112,10 +143,50 @@ CLI::App *DeclareHorizon(CLI::App &programme, Demande &demande) {
   verbe->group("Verbes");
   verbe->add_option("JJ/MM/AAAA", demande.horizon.date, "Date UTC")->required()->type_name("");
   verbe->add_option("HH:MM:SS", demande.horizon.heure, "Heure UTC")->required()->type_name("");
-  AjouteAngle(*verbe, "AD", demande.horizon.AD, "Ascension droite, degrés");
-  AjouteAngle(*verbe, "DEC", demande.horizon.Dec, "Déclinaison, degrés, nord positif");
-  AjouteAngle(*verbe, "LAT", demande.horizon.latitude, "Latitude, degrés, nord positif");
-  AjouteAngle(*verbe, "LON_EST", demande.horizon.lonEst, "Longitude, degrés, est positif");
+  AjouteNombreLu(*verbe, "AD", demande.horizon.AD, "Ascension droite, degrés");
+  AjouteNombreLu(*verbe, "DEC", demande.horizon.Dec, "Déclinaison, degrés, nord positif");
+  AjouteNombreLu(*verbe, "LAT", demande.horizon.latitude, "Latitude, degrés, nord positif");
+  AjouteNombreLu(*verbe, "LON_EST", demande.horizon.lonEst, "Longitude, degrés, est positif");
+  return verbe;
+}
+
+CLI::App *DeclareEtoile(CLI::App &programme, Demande &demande) {
+  CLI::App *verbe =
+      programme.add_subcommand("etoile", "Place d'une étoile de la table à une date, \"adXdec\" en degrés");
+  verbe->group("Verbes");
+  verbe->add_option("RANG", demande.etoile.rang, "Ligne de la table, 1 à 246")
+      ->check(CLI::Range(1, kNombreLignesEtoiles))
+      ->required()
+      ->type_name("");
+  AjouteNombreLu(*verbe, "JOUR", demande.etoile.jour, "Jour");
+  AjouteNombreLu(*verbe, "MOIS", demande.etoile.mois, "Mois");
+  AjouteNombreLu(*verbe, "AN", demande.etoile.an, "Année");
+  return verbe;
+}
+
+/// A verb that gives one place of a planet.
+CLI::App *DeclarePlanete(CLI::App &programme, Demande &demande, const std::string &nom, const std::string &aide) {
+  CLI::App *verbe = programme.add_subcommand(nom, aide);
+  verbe->group("Verbes");
+  verbe->add_option("PLANETE", demande.planete.nom, "Venus, Mars, Jupiter, Saturne ou Earth")
+      ->required()
+      ->type_name("");
+  AjouteNombreLu(*verbe, "JD", demande.planete.JD, "Jour julien, UTC");
+  return verbe;
+}
+
+CLI::App *DeclareLune(CLI::App &programme, Demande &demande) {
+  CLI::App *verbe = programme.add_subcommand("lune", "Place de la Lune, du centre de la Terre et d'un lieu");
+  verbe->group("Verbes");
+  AjouteLangue(*verbe, demande.lune.langue);
+  AjouteNombreLu(*verbe, "AN", demande.lune.an, "Année UTC");
+  AjouteNombreLu(*verbe, "MOIS", demande.lune.mois, "Mois");
+  AjouteNombreLu(*verbe, "JOUR", demande.lune.jour, "Jour");
+  AjouteNombreLu(*verbe, "H", demande.lune.heure, "Heure UTC");
+  AjouteNombreLu(*verbe, "M", demande.lune.minute, "Minute");
+  AjouteNombreLu(*verbe, "S", demande.lune.seconde, "Seconde");
+  AjouteNombreLu(*verbe, "LAT", demande.lune.latitude, "Latitude, degrés, nord positif");
+  AjouteNombreLu(*verbe, "LON_EST", demande.lune.lonEst, "Longitude, degrés, est positif");
   return verbe;
 }
 
@@ -164,6 +235,11 @@ int Execute(int argc, char **argv) {
   programme.require_subcommand(1);
   NommeAide(programme);
   const CLI::App *reduit = DeclareReduit(programme, demande);
+  const CLI::App *helio = DeclarePlanete(programme, demande, "helio", "Lieu héliocentrique d'une planète, \"L|B|R\"");
+  const CLI::App *place =
+      DeclarePlanete(programme, demande, "place", "Lieu apparent d'une planète, cinq champs entre des barres");
+  const CLI::App *etoile = DeclareEtoile(programme, demande);
+  const CLI::App *lune = DeclareLune(programme, demande);
   DeclareHorizon(programme, demande);
   try {
     programme.parse(Arguments(argc, argv));
@@ -174,7 +250,19 @@ int Execute(int argc, char **argv) {
               << ")\nUsage : velmaris-calcul --help\n";
     return kUsage;
   }
-  return reduit->parsed() ? Reduit(demande, DossierProgramme(argv[0])) : Horizon(demande);
+  if (reduit->parsed()) {
+    return Reduit(demande, DossierProgramme(argv[0]));
+  }
+  if (helio->parsed()) {
+    return Planete(demande, EcritHelio);
+  }
+  if (place->parsed()) {
+    return Planete(demande, EcritPlace);
+  }
+  if (etoile->parsed()) {
+    return Etoile(demande);
+  }
+  return lune->parsed() ? Lune(demande, DossierProgramme(argv[0])) : Horizon(demande);
 }
 
 } // namespace

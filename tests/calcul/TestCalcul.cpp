@@ -118,6 +118,8 @@ TEST(CalculCommande, HelpNamesEveryVerb) {
   EXPECT_EQ(p.etat, 0);
   EXPECT_THAT(p.sortie, HasSubstr("reduit"));
   EXPECT_THAT(p.sortie, HasSubstr("horizon"));
+  EXPECT_THAT(p.sortie, HasSubstr("helio"));
+  EXPECT_THAT(p.sortie, HasSubstr("place"));
   EXPECT_THAT(p.erreurs, IsEmpty());
   EXPECT_THAT(Lance({"horizon", "--help"}).sortie, HasSubstr("JJ/MM/AAAA HH:MM:SS AD DEC LAT LON_EST"));
   EXPECT_THAT(Lance({"reduit", "--help"}).sortie, HasSubstr("--langue"));
@@ -131,6 +133,12 @@ TEST(CalculCommande, AUsageErrorGoesToStandardErrorWithStatusTwo) {
                                                      {"reduit", "--langue"},
                                                      {"reduit", "--langue", "de", "a.LoP"},
                                                      {"reduit", "--inconnu", "a.LoP"},
+                                                     {"helio"},
+                                                     {"helio", "Venus"},
+                                                     {"helio", "Venus", "demain"},
+                                                     {"place", "Venus", "2461212,5"},
+                                                     {"place", "Venus", "2461212.5", "5"},
+                                                     {"place", "Venus", "inf"},
                                                      {"horizon"},
                                                      {"horizon", "21/06/2026", "12:00:00", "1", "2", "3"},
                                                      {"horizon", "21/06/2026", "12:00:00", "1", "2", "3", "4", "5"},
