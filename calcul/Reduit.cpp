@@ -3,11 +3,15 @@
 #include "calcul/Json.hpp"
 #include "foundations/Erreur.hpp"
 #include "lines/FichierLoP.hpp"
+#include "sights/DroiteLUN.hpp"
+#include "sights/DroitePLA.hpp"
 #include "sights/DroiteSOL.hpp"
+#include "sights/DroiteSTAR.hpp"
 
 #include <new>
 #include <stdexcept>
 #include <string_view>
+#include <vector>
 
 namespace velmaris {
 namespace {
@@ -20,8 +24,50 @@ struct ViseeReduite {
   Observation observation;
   ValeursVisee valeurs;
   AffichageDroite affichage;
-  ReductionSoleil reduction;
+  bool faite = false;
+  double Ho = 0.0;
+  double Hc = 0.0;
+  bool simple = false; ///< a Sun sight: Ho is a 32-bit value and Hc a 64-bit one; the reverse for the others
 };
+
+/// The star table, split once for all files.
+const Etoiles &TableDesEtoiles() {
+  static const Etoiles etoiles = [] {
+    Etoiles table;
+    std::vector<std::string> noms;
+    ChargeEtoiles(table, noms);
+    return table;
+  }();
+  return etoiles;
+}
+
+/// Reduces a sight by its kind of body.
+/// @throws Erreur 5 when no star or planet is chosen, and what the reduction raises
+void ReduitVisee(ViseeReduite &v, const TexteMsg &messages) {
+  if (v.observation.corps == Corps::Soleil) {
+    const ReductionSoleil soleil = Calcul_DroiteSOL(v.observation, v.valeurs, v.affichage, messages);
+    v.faite = soleil.faite;
+    v.Ho = soleil.lue.Ho;
+    v.Hc = soleil.Hc;
+    v.simple = true;
+    return;
+  }
+  Reduction r;
+  if (v.observation.corps == Corps::Lune) {
+    Lune lune;
+    r = Calcul_DroiteLUN(v.observation, v.valeurs, lune, v.affichage, messages);
+  } else if (v.observation.corps == Corps::Planetes) {
+    r = Calcul_DroitePLA(v.observation, v.valeurs, v.affichage, messages);
+  } else {
+    r = Calcul_DroiteSTAR(v.observation, v.valeurs, TableDesEtoiles(), v.affichage, messages);
+  }
+  if (r.etat == EtatReduction::SansAstre) {
+    throw Erreur(kArgumentIncorrect);
+  }
+  v.faite = r.etat == EtatReduction::Faite;
+  v.Ho = r.lue.Ho;
+  v.Hc = v.valeurs.HauteurCalculee;
+}
 
 std::string_view NomCorps(Corps corps) {
   switch (corps) {
@@ -39,9 +85,17 @@ std::string_view NomCorps(Corps corps) {
 
 void AjouteResultat(std::string &sortie, const ViseeReduite &visee) {
   AjouteCle(sortie, "ho");
-  AjouteNombre(sortie, visee.reduction.lue.Ho);
+  if (visee.simple) {
+    AjouteNombre(sortie, static_cast<float>(visee.Ho));
+  } else {
+    AjouteNombre(sortie, visee.Ho);
+  }
   AjouteCle(sortie, "hc");
-  AjouteNombre(sortie, visee.reduction.Hc);
+  if (visee.simple) {
+    AjouteNombre(sortie, visee.Hc);
+  } else {
+    AjouteNombre(sortie, static_cast<float>(visee.Hc));
+  }
   AjouteCle(sortie, "azimut");
   AjouteNombre(sortie, visee.valeurs.Azimut);
   AjouteCle(sortie, "intercept");
@@ -68,24 +122,19 @@ void AjouteVisee(std::string &sortie, const ViseeReduite &visee) {
   AjouteCle(sortie, "nom");
   AjouteTexte(sortie, NomCorps(visee.observation.corps));
   AjouteCle(sortie, "reduit");
-  sortie += visee.reduction.faite ? "true" : "false";
-  if (visee.reduction.faite) {
+  sortie += visee.faite ? "true" : "false";
+  if (visee.faite) {
     AjouteResultat(sortie, visee);
   }
 }
 
-/// Reduces a file's sight and appends its members, or those of its error.
+/// Reduces a file's sight and appends its members.
 bool AjouteReduction(std::string &sortie, const std::string &fichier, const TexteMsg &messages) {
   ViseeReduite visee;
   ChargeLoP(fichier, visee.observation);
-  if (visee.observation.corps != Corps::Soleil) {
-    AjouteErreur(sortie, kArgumentIncorrect,
-                 "Ce corps n'est pas encore réduit : " + std::string(NomCorps(visee.observation.corps)));
-    return false;
-  }
   visee.valeurs.HeureDecimale = HeureDesChamps(visee.observation);
   LitEstime(visee.observation, visee.valeurs);
-  visee.reduction = Calcul_DroiteSOL(visee.observation, visee.valeurs, visee.affichage, messages);
+  ReduitVisee(visee, messages);
   AjouteVisee(sortie, visee);
   return true;
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "ephemerides/Etoiles.hpp"
+#include "ephemerides/ModulePosLune.hpp"
 #include "foundations/Horloge.hpp"
 #include "foundations/Messages.hpp"
 #include "foundations/Surface.hpp"
@@ -63,6 +65,8 @@ struct Bureau {
   AffichageDroite affichage;
   Feuille feuille;
   PointSolaire soleil;
+  Lune lune;
+  Etoiles etoiles;
   Horloge horloge;
   Transports transports;
   TableLoP lignesLoP;        ///< lines of the sight's file read last

@@ -117,17 +117,15 @@ void Donnees_Charge(Bureau &bureau, const Ecran &ecran) {
   PoseTexte(bureau, d.Combo2, d.Text4.texte);
   PoseTexte(bureau, d.Combo4, d.Text4.texte);
   PosSoleil(bureau, false);
+  ChargeEtoiles(bureau.etoiles, d.Combo6.liste);
   if (ecran.pixelsHaut < kPixelsCompacts) {
     DispositionCompacte(d);
   }
 }
 
 void Timer1_Tick(Bureau &bureau) {
-  const Donnees &d = bureau.donnees;
   LitHorloge(bureau.horloge);
-  if (d.Frame8.visible && d.Option7[0].choisi) {
-    PosSoleil(bureau, false);
-  }
+  PositionLive(bureau);
   const ValeurDate date = bureau.horloge.locale();
   const TempsSysteme &t = bureau.horloge.temps;
   bureau.TitreHorloge = "  " + bureau.ports.nomJour(date) + "   " + std::to_string(date.jour) + "   " +

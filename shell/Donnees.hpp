@@ -74,7 +74,7 @@ struct Donnees {
   // Words that no control shows: boxes and tool tips.
   Controle TexteAVenir, TexteOui, TexteNon, TexteOk, TexteErreur, TexteSecours, TexteMagasinAbime;
   Controle TexteMagasinMuet, TexteSansSecours, TexteAttention, TexteTitreErreur, TexteTempsRoute, TexteSauve;
-  Controle TexteCharge, TexteNonEcrit, TexteNonLu, TexteJournalMuet;
+  Controle TexteCharge, TexteNonEcrit, TexteNonLu, TexteJournalMuet, TexteSansAstre;
 };
 
 /// Name of the main window, in language files and among the windows.

@@ -1,5 +1,6 @@
 #include "shell/Evenements.hpp"
 
+#include "shell/Astres.hpp"
 #include "shell/ChoixFichier.hpp"
 #include "shell/Demarrage.hpp"
 #include "shell/Droites.hpp"
@@ -58,6 +59,9 @@ constexpr Abonnement kDonnees[] = {
     {"Option5", Evenement::Relache, Option5_Relache},
     {"Option7", Evenement::Relache, SelAstre},
     {"Check3", Evenement::Clic, Check3_Click},
+    {"Combo6", Evenement::Clic, Combo6_Click},
+    {"Combo7", Evenement::Clic, Combo7_Click},
+    {"Combo8", Evenement::Clic, Combo8_Click},
     {"Command1", Evenement::Clic, Command1_Click},
     {"Command2", Evenement::Clic, Command2_Click},
     {"Command26", Evenement::Clic, Command26_Click},

@@ -3,6 +3,7 @@
 #include "foundations/Erreur.hpp"
 #include "foundations/Fichiers.hpp"
 #include "lines/FichierLoP.hpp"
+#include "shell/Astres.hpp"
 #include "shell/ChoixFichier.hpp"
 #include "shell/Droites.hpp"
 #include "shell/Evenements.hpp"

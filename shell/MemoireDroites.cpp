@@ -3,6 +3,7 @@
 #include "foundations/Erreur.hpp"
 #include "foundations/TexteNombre.hpp"
 #include "lines/DroiteMemoire.hpp"
+#include "shell/Astres.hpp"
 #include "shell/Evenements.hpp"
 #include "shell/Saisie.hpp"
 #include "shell/Valeurs.hpp"

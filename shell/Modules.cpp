@@ -125,9 +125,7 @@ void Command7_Click(Bureau &bureau, int /*indice*/) {
     d.Soleil.place.gauche = kHorsDeVue;
     d.FOptionCarte.place.haut = kHautModules;
   }
-  if (d.Frame8.visible && d.Option7[0].choisi) {
-    PosSoleil(bureau, false);
-  }
+  PositionLive(bureau);
   d.Frame8.place.haut = kHautModules;
   d.FOptionCarte.place.haut =
       d.FOptionCarte.visible && d.Frame8.visible ? d.Frame8.place.hauteur + kHautModules : kHautModules;

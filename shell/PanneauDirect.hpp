@@ -7,9 +7,25 @@ namespace velmaris {
 /// Left edge of a mark that is put away, 1/1440 inch.
 inline constexpr double kHorsDeVue = -2000.0;
 
+/// The present place of the body that is chosen in the sight panel, on the live panel while it is open.
+void PositionLive(Bureau &bureau);
+
 /// The Sun's present place on the live panel.
 /// @param sansDessin  true leaves labels, dials and sub-solar point alone
 void PosSoleil(Bureau &bureau, bool sansDessin);
+
+/// The Moon's present place on the live panel; the Sun's mark goes out of view.
+/// @param sansDessin  true leaves labels and dials alone
+void PosLune(Bureau &bureau, bool sansDessin);
+
+/// The chosen star's present place; nothing while none is chosen. `Azimut` and `HauteurCalculee` become those of the
+/// star now, which the next drawing takes.
+/// @param dessin  whether it shows on the panel
+void PositionEtoileLive(Bureau &bureau, bool dessin);
+
+/// The chosen planet on the live panel: its place at the sight's date and time, its azimuth and height now. `Azimut`
+/// and `HauteurCalculee` become those.
+void PositionPlaneteLive(Bureau &bureau);
 
 /// Draws the two dials of module 8 and fills their labels.
 /// @param azimut, hauteur  degrees

@@ -3,7 +3,10 @@
 #include "foundations/Erreur.hpp"
 #include "shell/Droites.hpp"
 #include "shell/Saisie.hpp"
+#include "sights/DroiteLUN.hpp"
+#include "sights/DroitePLA.hpp"
 #include "sights/DroiteSOL.hpp"
+#include "sights/DroiteSTAR.hpp"
 
 namespace velmaris {
 namespace {
@@ -29,10 +32,17 @@ std::optional<Hauteurs> ReduitSoleil(Bureau &bureau, Observation &observation) {
   return Hauteurs{r.lue.Ho, r.Hc};
 }
 
-/// A body whose theory isn't there yet: the sheet must not show it with the figures of another sight.
-void RefuseCorps(Bureau &bureau) {
-  bureau.visee.Intercept = 0.0F;
-  bureau.ports.boite({.texte = bureau.donnees.TexteAVenir.legende, .icone = Icone::Information});
+/// @param nom  of the body, kept when its sight was reduced
+std::optional<Hauteurs> Rapporte(Bureau &bureau, const Reduction &r, const ValeursVisee &valeurs,
+                                 const std::string &nom) {
+  if (r.etat == EtatReduction::SansAstre) {
+    bureau.ports.boite({.texte = bureau.donnees.TexteSansAstre.legende});
+  }
+  if (r.etat != EtatReduction::Faite) {
+    return std::nullopt;
+  }
+  bureau.NomAstre = nom;
+  return Hauteurs{r.lue.Ho, valeurs.HauteurCalculee};
 }
 
 } // namespace
@@ -49,14 +59,24 @@ void PrepareVisee(Bureau &bureau, const Observation &observation) {
 
 std::optional<Hauteurs> ReduitVisee(Bureau &bureau, Observation &observation) {
   std::optional<Hauteurs> hauteurs;
+  const Donnees &d = bureau.donnees;
+  ValeursVisee &valeurs = bureau.visee;
   switch (observation.corps) {
   case Corps::Soleil:
     hauteurs = ReduitSoleil(bureau, observation);
     break;
   case Corps::Lune:
+    hauteurs = Rapporte(bureau, Calcul_DroiteLUN(observation, valeurs, bureau.lune, bureau.affichage, bureau.messages),
+                        valeurs, d.Option7[1].legende);
+    break;
   case Corps::Planetes:
+    hauteurs = Rapporte(bureau, Calcul_DroitePLA(observation, valeurs, bureau.affichage, bureau.messages), valeurs,
+                        d.Combo7.texte);
+    break;
   case Corps::Etoiles:
-    RefuseCorps(bureau);
+    hauteurs =
+        Rapporte(bureau, Calcul_DroiteSTAR(observation, valeurs, bureau.etoiles, bureau.affichage, bureau.messages),
+                 valeurs, d.Combo6.texte);
     break;
   case Corps::Aucun:
   default:

@@ -2,6 +2,7 @@
 
 #include "foundations/Erreur.hpp"
 #include "foundations/TexteNombre.hpp"
+#include "shell/Astres.hpp"
 #include "shell/Evenements.hpp"
 
 #include <algorithm>
@@ -43,11 +44,6 @@ std::string PremiereMajuscule(std::string texte) {
     texte[1] = static_cast<char>(static_cast<unsigned char>(texte[1]) - 0x20);
   }
   return texte;
-}
-
-void PermetBords(Donnees &d, bool permis) {
-  d.Option6[0].actif = permis;
-  d.Option6[1].actif = permis;
 }
 
 } // namespace
@@ -133,7 +129,10 @@ void TDate_Quitte(Bureau &bureau, int indice) {
   PoseTexte(bureau, champ, texte);
 }
 
-void Text3_Quitte(Bureau &bureau, int /*indice*/) { QuitteMinutes(bureau, bureau.donnees.Text3); }
+void Text3_Quitte(Bureau &bureau, int /*indice*/) {
+  QuitteMinutes(bureau, bureau.donnees.Text3);
+  ConseilBordLune(bureau);
+}
 
 void QuitteMinutes(Bureau &bureau, Controle &champ) { Quitte(bureau, champ, 0, 60, "00"); }
 
@@ -155,6 +154,7 @@ void TDate_Change(Bureau &bureau, int /*indice*/) {
   Passe([&] {
     const ValeurDate date = LitDate(d.TDate[0].texte + "/" + d.TDate[1].texte + "/" + d.TDate[2].texte);
     d.Label1.legende = PremiereMajuscule(bureau.ports.nomJour(date)) + " :";
+    ConseilBordLune(bureau);
   });
 }
 
@@ -180,47 +180,6 @@ void Option5_Relache(Bureau &bureau, int /*indice*/) {
   for (Controle *champ : {&d.Text12, &d.Text13, &d.Text25}) {
     champ->couleur = artificiel ? kRouge : kNoir;
   }
-}
-
-void SelAstre(Bureau &bureau, int indice) {
-  Donnees &d = bureau.donnees;
-  for (Controle &bord : d.Option6) {
-    bord.accent = false;
-  }
-  PermetBords(d, true);
-  for (Controle *c : {&d.Check3, &d.Combo6, &d.Combo7, &d.Combo8}) {
-    c->visible = false;
-  }
-  d.Bayer1.legende.clear();
-  d.Bayer2.legende.clear();
-  for (std::size_t i = 0; i < d.ImAstre.size(); ++i) {
-    d.ImAstre[i].visible = static_cast<int>(i) == indice;
-  }
-  switch (static_cast<Corps>(indice)) {
-  case Corps::Soleil:
-    PoseOption(bureau, d.Option6[1]);
-    break;
-  case Corps::Planetes:
-    d.Combo7.visible = true;
-    PoseOption(bureau, d.Option6[2]);
-    PermetBords(d, false);
-    break;
-  case Corps::Etoiles:
-    PoseOption(bureau, d.Option6[2]);
-    PermetBords(d, false);
-    d.Check3.visible = true;
-    PoseValeur(bureau, d.Check3, 1);
-    d.Combo8.visible = true;
-    break;
-  default:
-    break;
-  }
-}
-
-void Check3_Click(Bureau &bureau, int /*indice*/) {
-  Donnees &d = bureau.donnees;
-  d.Combo8.visible = d.Check3.valeur == 1;
-  d.Combo6.visible = !d.Combo8.visible;
 }
 
 void PoseHeureGMT(Bureau &bureau) {

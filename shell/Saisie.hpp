@@ -48,13 +48,6 @@ void Option4_Click(Bureau &bureau, int indice);
 /// Chooses the horizon: off an artificial one the centre is shot and the reading turns red, being a double angle.
 void Option5_Relache(Bureau &bureau, int indice);
 
-/// Reacts to the choice of a kind of body: limb, lists and picture.
-/// @param indice  0 to 3; another number only hides what belongs to a body
-void SelAstre(Bureau &bureau, int indice);
-
-/// Shows the short list of visible stars, or the whole list.
-void Check3_Click(Bureau &bureau, int indice);
-
 /// "Top": the sight's date and time take the present GMT, and the reading takes the focus.
 void Command1_Click(Bureau &bureau, int indice);
 

@@ -65,6 +65,7 @@ constexpr LigneDonnees kBarre[] = {
     {SEUL(TexteSecours), Genre::Texte, "", {0, 0, 0, 0}, "La visée du module est conservée dans :"},
     {SEUL(TexteMagasinAbime), Genre::Texte, "", {0, 0, 0, 0}, "Les réglages conservés étaient abîmés. Ils sont mis de côté ici, et le programme repart des valeurs de premier démarrage :"},
     {SEUL(TexteMagasinMuet), Genre::Texte, "", {0, 0, 0, 0}, "Les réglages ne peuvent pas être conservés. Le programme fonctionne, mais ce qui change sera perdu en quittant :"},
+    {SEUL(TexteSansAstre), Genre::Texte, "", {0, 0, 0, 0}, "sélectionnez un astre dans la liste"},
     {SEUL(TexteAttention), Genre::Texte, "", {0, 0, 0, 0}, "Attention"},
     {SEUL(TexteTitreErreur), Genre::Texte, "", {0, 0, 0, 0}, "Erreur"},
     {SEUL(TexteTempsRoute), Genre::Texte, "", {0, 0, 0, 0}, "Temps route = "},

@@ -85,4 +85,14 @@ ReductionSoleil Calcul_DroiteSOL(Observation &observation, ValeursVisee &valeurs
   return r;
 }
 
+double HauteurSoleil(const Observation &observation, double heure, float latitude, float longitude) {
+  const TempsSolaire temps = LitTemps(observation, heure);
+  const auto place = CalculePlaceSoleil<float>(temps.T);
+  const auto angles = CalculeAnglesHoraires<float>(TempsSideralSolaire(temps.T0, heure), place.AD, longitude);
+  double Hc = 0.0;
+  float azimut = 0.0F;
+  CalculeHauteurAzimut<float>(place.Dec, angles.AHL, latitude, Hc, azimut);
+  return Hc;
+}
+
 } // namespace velmaris

@@ -22,4 +22,10 @@ struct ReductionSoleil {
 ReductionSoleil Calcul_DroiteSOL(Observation &observation, ValeursVisee &valeurs, AffichageDroite &affichage,
                                  const TexteMsg &messages);
 
+/// Height of the Sun at the moment of a sight, by the theory and the widths of its reduction.
+/// @param heure                hours, GMT
+/// @param latitude, longitude  degrees, north and west positive
+/// @return degrees; 0 where it has no value
+double HauteurSoleil(const Observation &observation, double heure, float latitude, float longitude);
+
 } // namespace velmaris

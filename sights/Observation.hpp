@@ -13,8 +13,8 @@ enum class Bord : std::uint8_t { Superieur = 0, Inferieur = 1, Centre = 2, Aucun
 enum class Horizon : std::uint8_t { Naturel = 0, Artificiel = 1, Aucun = 2 };
 enum class Fraction : std::uint8_t { Secondes = 0, Centiemes = 1 };
 
-/// Entries of the list of stars and of the list of planets.
-inline constexpr int kNombreEtoiles = 246;
+/// Entries of the list of stars, which are the named ones, and of the list of planets.
+inline constexpr int kNombreEtoiles = 156;
 inline constexpr int kNombrePlanetes = 4;
 
 /// One sight, field by field, as it was typed. A reduction reads these texts at the moment it runs and may write

@@ -188,12 +188,35 @@ TEST_F(Calcul, AFractionOfOneDigitIsTakenAsItStands) {
   EXPECT_EQ(cinq, ReduitUn(EcritVisee("a.LoP", lignes))["ho"].get<double>());
 }
 
-TEST_F(Calcul, OtherBodiesAreToldAsNotReducedYet) {
-  for (const char *corps : {" 1 ", " 2 ", " 3 "}) {
+TEST_F(Calcul, EveryBodyIsReducedUnderItsNumber) {
+  for (int corps = 1; corps <= 3; ++corps) {
+    auto lignes = LignesSoleil();
+    lignes[17] = " " + std::to_string(corps) + " ";
+    lignes.push_back(" 1 ");
+    const ordered_json o = ReduitUn(EcritVisee("a.LoP", lignes));
+    EXPECT_EQ(o["corps"], corps);
+    EXPECT_EQ(o["reduit"], true);
+    EXPECT_NEAR(o["intercept"].get<double>(), (o["ho"].get<double>() - o["hc"].get<double>()) * 60, 1E-3);
+  }
+}
+
+TEST_F(Calcul, AStarOrAPlanetThatIsNotChosenIsAnInvalidArgument) {
+  for (const char *corps : {" 2 ", " 3 "}) {
     auto lignes = LignesSoleil();
     lignes[17] = corps;
+    lignes.push_back("-1 ");
     AttendErreur(EcritVisee("a.LoP", lignes), 5);
   }
+}
+
+TEST_F(Calcul, AnEmptyEyeHeightFailsForAStarAndNotForTheMoon) {
+  auto lignes = LignesSoleil();
+  lignes[10] = "";
+  lignes[17] = " 3 ";
+  lignes.push_back(" 1 ");
+  AttendErreur(EcritVisee("a.LoP", lignes), 13);
+  lignes[17] = " 1 ";
+  EXPECT_EQ(ReduitUn(EcritVisee("b.LoP", lignes))["reduit"], true);
 }
 
 TEST_F(Calcul, ABodyThatDoesNotExistLeavesTheSun) {

@@ -1,9 +1,13 @@
 #include "Attend.hpp"
 #include "foundations/Erreur.hpp"
 #include "lines/FichierLoP.hpp"
+#include "sights/DroiteLUN.hpp"
+#include "sights/DroitePLA.hpp"
 #include "sights/DroiteSOL.hpp"
+#include "sights/DroiteSTAR.hpp"
 
 #include <cmath>
+#include <vector>
 
 using namespace velmaris;
 
@@ -36,6 +40,26 @@ void AttendReduction(Observation observation) {
   Attend(r.faite || affichage.azimut.empty(), "a reading of zero shows nothing");
 }
 
+/// The Moon passes over every failure; a star or a planet ends on a numbered one.
+void AttendAutresCorps(Observation observation) {
+  ValeursVisee valeurs;
+  Passe([&] { LitEstime(observation, valeurs); });
+  AffichageDroite affichage;
+  const TexteMsg messages;
+  static const Etoiles etoiles = [] {
+    Etoiles table;
+    std::vector<std::string> noms;
+    ChargeEtoiles(table, noms);
+    return table;
+  }();
+  Lune lune;
+  Calcul_DroiteLUN(observation, valeurs, lune, affichage, messages);
+  Passe([&] { Calcul_DroiteSTAR(observation, valeurs, etoiles, affichage, messages); });
+  Passe([&] { Calcul_DroitePLA(observation, valeurs, affichage, messages); });
+  Attend(std::isfinite(valeurs.Azimut) && std::isfinite(valeurs.Intercept) && std::isfinite(valeurs.HauteurCalculee),
+         "every body leaves figures");
+}
+
 } // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *octets, std::size_t taille) {
@@ -50,6 +74,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *octets, std::size_t ta
   AppliqueLoP(table, observation);
   AttendRelecture(observation);
   AttendReduction(observation);
+  AttendAutresCorps(observation);
   NomProposeLoP(observation);
   return 0;
 }

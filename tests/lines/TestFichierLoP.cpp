@@ -104,7 +104,7 @@ TEST(SightFile, EverySightComesBackFromTheDiskAsItWent) {
     o.sud = (n / 48 & 1) != 0;
     o.est = (n / 48 & 2) != 0;
     o.planete = o.corps == Corps::Planetes ? n % 5 - 1 : -1;
-    o.etoile = o.corps == Corps::Etoiles ? n * 5 % 247 - 1 : -1;
+    o.etoile = o.corps == Corps::Etoiles ? n * 5 % (kNombreEtoiles + 1) - 1 : -1;
     SauveLoP(dossier / "sight.LoP", o);
     Observation relue;
     ChargeLoP(dossier / "sight.LoP", relue);

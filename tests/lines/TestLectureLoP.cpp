@@ -232,14 +232,14 @@ TEST(SightReader, TheKindOfFractionIs0Or1AndEmptyCountsAs1) {
 TEST(SightReader, TheListNumberGoesToTheListOfTheBody) {
   auto lignes = LignesCompletes();
   lignes[17] = " 3 ";
-  lignes[21] = " 245 ";
+  lignes[21] = " 155 ";
   Lue l = Lit(Joint(lignes, "\r\n"));
-  EXPECT_EQ(l.observation.etoile, 245);
+  EXPECT_EQ(l.observation.etoile, 155) << "the last of the named stars";
   EXPECT_EQ(l.observation.planete, 1);
   lignes[21] = "-1 ";
   l = Lit(Joint(lignes, "\r\n"));
   EXPECT_EQ(l.observation.etoile, -1) << "no star chosen";
-  for (const char *ligne : {" 246 ", "-2 ", "99999"}) {
+  for (const char *ligne : {" 156 ", "-2 ", "99999"}) {
     lignes[21] = ligne;
     EXPECT_EQ(Lit(Joint(lignes, "\r\n")).observation.etoile, 7) << ligne;
   }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "shell/Astres.hpp"
 #include "shell/Demarrage.hpp"
 #include "shell/Droites.hpp"
 #include "shell/Evenements.hpp"

@@ -77,7 +77,7 @@ TEST_F(Programme, WhatIsNotThereYetIsDisabledAndSaysSo) {
       EXPECT_TRUE(Ecoute(c, Evenement::Clic)) << c.nom << " pretends";
     }
   });
-  EXPECT_GT(nombre, 10);
+  EXPECT_GT(nombre, 5);
   EXPECT_NE(d.TexteAVenir.legende, "");
 }
 

@@ -122,9 +122,10 @@ TEST_F(FichierLu, EveryBodyIsTakenWithItsPlaceInTheList) {
   EXPECT_EQ(d.Combo7.rang, 3);
   EXPECT_EQ(d.Combo7.texte, d.Combo7.liste[3]);
   EXPECT_TRUE(d.Combo7.visible);
-  OuvreCorps(" 3 ", " 245 ");
+  OuvreCorps(" 3 ", " 155 ");
   EXPECT_EQ(Choisie(d.Option7), 3);
-  EXPECT_EQ(d.Combo6.rang, 245);
+  EXPECT_EQ(d.Combo6.rang, 155);
+  EXPECT_EQ(d.Combo6.texte, d.Combo6.liste.back());
   EXPECT_EQ(d.Combo7.rang, 3);
   OuvreCorps(" 3 ", "-1 ");
   EXPECT_EQ(d.Combo6.rang, -1) << "no star is chosen";
@@ -133,7 +134,7 @@ TEST_F(FichierLu, EveryBodyIsTakenWithItsPlaceInTheList) {
 TEST_F(FichierLu, APlaceThatTheListDoesNotHaveIsPassedOver) {
   OuvreCorps(" 2 ", " 1 ");
   OuvreCorps(" 3 ", " 7 ");
-  for (const char *rang : {"246", "-2", "40000", "1e300"}) {
+  for (const char *rang : {"156", "-2", "40000", "1e300"}) {
     OuvreCorps(" 3 ", rang);
     EXPECT_EQ(d.Combo6.rang, 7) << rang;
   }

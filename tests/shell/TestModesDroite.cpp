@@ -1,5 +1,7 @@
 #include "OutilsDroites.hpp"
 
+#include <array>
+
 #include <algorithm>
 
 namespace velmaris::essais {
@@ -268,17 +270,21 @@ TEST_F(Modes, WithTheLastLineRemovedThePanelsSightIsDrawn) {
   EXPECT_EQ(Traits(kTraitPremiere).size(), 1U);
 }
 
-TEST_F(Modes, BodiesToComeSayAsMuchAndAreNotDrawn) {
-  for (const char *corps : {"1", "2", "3"}) {
-    EcritReglage(bureau, "AS(1)", corps);
+TEST_F(Modes, EveryBodyJoinsTheSheetUnderItsName) {
+  EcritReglage(bureau, "Combo6(1)", "128");
+  EcritReglage(bureau, "Combo7(1)", "1");
+  const std::array<std::string, 4> noms = {"", d.Option7[1].legende, "Mars", d.Combo6.liste[128]};
+  for (const std::size_t corps : {1U, 2U, 3U}) {
+    EcritReglage(bureau, "AS(1)", std::to_string(corps));
     ClicControle(bureau, d.Command6);
     Montre(0);
     boites.clear();
     Montre(1);
-    ASSERT_EQ(boites.size(), 1U) << corps;
-    EXPECT_EQ(boites[0].icone, Icone::Information);
-    EXPECT_EQ(bureau.visee.Intercept, 0.0F);
-    EXPECT_TRUE(Traits(kTraitAjoute).empty());
+    EXPECT_TRUE(boites.empty()) << corps;
+    EXPECT_EQ(bureau.NomAstre, noms.at(corps));
+    EXPECT_EQ(d.LHeure[1].couleur, kDroiteAjoutee);
+    EXPECT_NE(bureau.visee.Intercept, 0.0F);
+    EXPECT_FALSE(Traits(kTraitAjoute).empty());
   }
 }
 

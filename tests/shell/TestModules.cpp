@@ -225,8 +225,8 @@ TEST_F(Programme, ADisabledOrHiddenControlDoesNothing) {
   Calcule();
   ClicControle(bureau, d.Command6);
   EXPECT_FALSE(bureau.image1.traces.empty());
-  ClicOption(bureau, d.Option7[1]);
-  EXPECT_TRUE(d.Option7[0].choisi);
+  ClicOption(bureau, d.Option1[4]);
+  EXPECT_TRUE(d.Option1[2].choisi) << "no point of dead reckoning yet";
   ClicControle(bureau, d.Command8);
   EXPECT_TRUE(boites.empty());
 }
