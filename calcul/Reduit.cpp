@@ -69,15 +69,17 @@ void ReduitVisee(ViseeReduite &v, const TexteMsg &messages) {
   v.Hc = v.valeurs.HauteurCalculee;
 }
 
-std::string_view NomCorps(Corps corps) {
-  switch (corps) {
+/// Name of a sight's body: the Sun, the Moon, or the chosen planet or star.
+std::string NomAstre(const Observation &observation) {
+  switch (observation.corps) {
   case Corps::Lune:
     return "Lune";
   case Corps::Planetes:
-    return "Planètes";
+    return NomPlanete(observation.planete);
   case Corps::Etoiles:
-    return "Etoiles";
+    return std::string(TableDesEtoiles().EtoileNom.at(static_cast<std::size_t>(observation.etoile) + 1));
   case Corps::Soleil:
+  case Corps::Aucun:
   default:
     return "Soleil";
   }
@@ -120,7 +122,7 @@ void AjouteVisee(std::string &sortie, const ViseeReduite &visee) {
   AjouteCle(sortie, "corps");
   sortie += std::to_string(static_cast<int>(visee.observation.corps));
   AjouteCle(sortie, "nom");
-  AjouteTexte(sortie, NomCorps(visee.observation.corps));
+  AjouteTexte(sortie, NomAstre(visee.observation));
   AjouteCle(sortie, "reduit");
   sortie += visee.faite ? "true" : "false";
   if (visee.faite) {

@@ -188,13 +188,15 @@ TEST_F(Calcul, AFractionOfOneDigitIsTakenAsItStands) {
   EXPECT_EQ(cinq, ReduitUn(EcritVisee("a.LoP", lignes))["ho"].get<double>());
 }
 
-TEST_F(Calcul, EveryBodyIsReducedUnderItsNumber) {
+TEST_F(Calcul, EveryBodyIsReducedUnderItsNumberAndName) {
+  constexpr std::array<const char *, 3> kNoms = {"Lune", "Mars", "Achenar"};
   for (int corps = 1; corps <= 3; ++corps) {
     auto lignes = LignesSoleil();
     lignes[17] = " " + std::to_string(corps) + " ";
     lignes.push_back(" 1 ");
     const ordered_json o = ReduitUn(EcritVisee("a.LoP", lignes));
     EXPECT_EQ(o["corps"], corps);
+    EXPECT_EQ(o["nom"], kNoms.at(static_cast<std::size_t>(corps) - 1));
     EXPECT_EQ(o["reduit"], true);
     EXPECT_NEAR(o["intercept"].get<double>(), (o["ho"].get<double>() - o["hc"].get<double>()) * 60, 1E-3);
   }
