@@ -45,19 +45,8 @@ std::optional<Hauteurs> Rapporte(Bureau &bureau, const Reduction &r, const Valeu
   return Hauteurs{r.lue.Ho, valeurs.HauteurCalculee};
 }
 
-} // namespace
-
-void MontreTitresFeuille(Bureau &bureau) {
-  bureau.donnees.LabLon.legende = bureau.feuille.LabLon;
-  bureau.donnees.LabLat.legende = bureau.feuille.LabLat;
-}
-
-void PrepareVisee(Bureau &bureau, const Observation &observation) {
-  bureau.visee.HeureDecimale = HeureDesChamps(observation);
-  Passe([&] { LitEstime(observation, bureau.visee); });
-}
-
-std::optional<Hauteurs> ReduitVisee(Bureau &bureau, Observation &observation) {
+/// Reduces a sight by its kind of body, into the shared records.
+std::optional<Hauteurs> Reduit(Bureau &bureau, Observation &observation) {
   std::optional<Hauteurs> hauteurs;
   const Donnees &d = bureau.donnees;
   ValeursVisee &valeurs = bureau.visee;
@@ -81,6 +70,31 @@ std::optional<Hauteurs> ReduitVisee(Bureau &bureau, Observation &observation) {
   case Corps::Aucun:
   default:
     break;
+  }
+  return hauteurs;
+}
+
+} // namespace
+
+void MontreTitresFeuille(Bureau &bureau) {
+  bureau.donnees.LabLon.legende = bureau.feuille.LabLon;
+  bureau.donnees.LabLat.legende = bureau.feuille.LabLat;
+}
+
+void PrepareVisee(Bureau &bureau, const Observation &observation) {
+  bureau.visee.HeureDecimale = HeureDesChamps(observation);
+  Passe([&] { LitEstime(observation, bureau.visee); });
+}
+
+std::optional<Hauteurs> ReduitVisee(Bureau &bureau, Observation &observation) {
+  std::optional<Hauteurs> hauteurs;
+  try {
+    hauteurs = Reduit(bureau, observation);
+  } catch (const Erreur &) {
+    // What was written before the failure stands on the screen.
+    MontreResultat(bureau);
+    PoseReduction(bureau, observation);
+    throw;
   }
   if (hauteurs) {
     MontreResultat(bureau);

@@ -29,9 +29,11 @@ void AjouteBord(const Observation &observation, HauteurObservee<double> &h, floa
     Passe([&] { DemiDiametre = Simple(lune.LuneDemiDiametre / 60.0); });
   }
   h.DemiDiametre = DemiDiametre;
-  h.Ho = observation.horizon == Horizon::Naturel
-             ? h.H - h.Depression - h.Refraction + h.Parallaxe + collimation / 60.0 + DemiDiametre
-             : (h.H - h.Refraction + h.Parallaxe + collimation / 60.0) / 2;
+  Passe([&] {
+    h.Ho = Range<double>(observation.horizon == Horizon::Naturel
+                             ? h.H - h.Depression - h.Refraction + h.Parallaxe + collimation / 60.0 + DemiDiametre
+                             : (h.H - h.Refraction + h.Parallaxe + collimation / 60.0) / 2);
+  });
 }
 
 void Montre(const HauteurObservee<double> &h, const ValeursVisee &valeurs, const Lune &lune, AffichageDroite &affichage,

@@ -8,7 +8,8 @@ namespace velmaris {
 /// apart; a declination between 0 and -1 degree comes out north. No statement is passed over.
 /// @param observation  the fields; an empty fraction is written back
 /// @param valeurs      `Azimut`, `HauteurCalculee`, `Intercept` are left in it
-/// @throws Erreur 13 for an impossible date or time, an empty eye height or collimation; 11 in the zenith or at a pole
+/// @throws Erreur 13 for an impossible date or time, an empty eye height or collimation;
+///         11 where a cosine of the horizon is exactly 0
 Reduction Calcul_DroitePLA(Observation &observation, ValeursVisee &valeurs, AffichageDroite &affichage,
                            const TexteMsg &messages);
 

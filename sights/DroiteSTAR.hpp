@@ -9,7 +9,8 @@ namespace velmaris {
 /// No statement is passed over: a failure reaches the caller with what was written before it.
 /// @param observation  the fields; an empty fraction is written back
 /// @param valeurs      reads `LatEstimee`, `LonEstimee`; `Azimut`, `HauteurCalculee`, `Intercept` are left in it
-/// @throws Erreur 13 for an impossible date or time, an empty eye height or collimation; 11 in the zenith or at a pole
+/// @throws Erreur 13 for an impossible date or time, an empty eye height or collimation;
+///         11 where a cosine of the horizon is exactly 0
 /// Source: the star's place by annual precession from J2000.0, on the date alone.
 Reduction Calcul_DroiteSTAR(Observation &observation, ValeursVisee &valeurs, const Etoiles &etoiles,
                             AffichageDroite &affichage, const TexteMsg &messages);

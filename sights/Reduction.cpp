@@ -7,7 +7,12 @@
 namespace velmaris {
 
 ValeurDate DateDeVisee(const Observation &o) {
-  const auto nombre = [](const std::string &texte) { return TexteGeneral(Val(texte)); };
+  const auto nombre = [](const std::string &texte) {
+    if (texte.empty()) {
+      throw Erreur(13);
+    }
+    return TexteGeneral(Val(texte));
+  };
   return LitDateHeure(nombre(o.jour) + "/" + nombre(o.mois) + "/" + nombre(o.annee) + "   " + nombre(o.heure) + ":" +
                       o.minute + ":" + o.seconde);
 }
@@ -19,8 +24,8 @@ void CorrigeAstre(const Observation &o, HauteurObservee<double> &h, AffichageDro
   h.Refraction = RefractionLue<double>(h.H);
   affichage.details[1] = messages[15] + EnMinutes(h.Refraction);
   const double collimation = LitVirgule(o.collimation) / 60;
-  h.Ho = o.horizon == Horizon::Naturel ? h.H - h.Depression - h.Refraction + collimation
-                                       : (h.H - h.Refraction + collimation) / 2;
+  h.Ho = Range<double>(o.horizon == Horizon::Naturel ? h.H - h.Depression - h.Refraction + collimation
+                                                     : (h.H - h.Refraction + collimation) / 2);
 }
 
 void PrendHorizon(std::string_view texte, ValeursVisee &valeurs) {

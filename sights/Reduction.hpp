@@ -25,7 +25,7 @@ struct Reduction {
 };
 
 /// Date and time of a sight of a star or a planet, from its fields: hours over 23, minutes or seconds over 59, a
-/// fraction or an empty minute or second are no time.
+/// fraction or an empty field make none.
 /// @throws Erreur 13 when the fields make no date and time
 ValeurDate DateDeVisee(const Observation &observation);
 

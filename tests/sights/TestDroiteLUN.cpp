@@ -265,6 +265,22 @@ TEST(MoonSight, AFailureInsideTheMoonsRoutinesGoesOnWithWhatTheRecordHeld) {
   s.SansNan();
 }
 
+TEST(MoonSight, AnyTextInAnyFieldLeavesLabelsThatAreNumbers) {
+  using O = Observation;
+  for (std::string O::*champ : {&O::jour, &O::mois, &O::annee, &O::heure, &O::minute, &O::seconde, &O::longitudeDegres,
+                                &O::longitudeMinutes, &O::latitudeDegres, &O::latitudeMinutes, &O::hauteurOeil,
+                                &O::collimation, &O::lectureMinutes, &O::lectureDegres, &O::lectureFraction}) {
+    for (const char *texte :
+         {"", "abc", "1E300", "-1E300", "1E999", "-1E999", "NaN", "inf", "99999", "-1", "é", "&HFF"}) {
+      Visee s{ViseeAstre{}};
+      s.observation.*champ = texte;
+      SCOPED_TRACE(texte);
+      EXPECT_EQ(s.Reduit(), EtatReduction::Faite);
+      s.SansNan();
+    }
+  }
+}
+
 TEST(MoonSight, AReadingOfZeroChangesNothing) {
   for (const char *zero : {"", "0", "00", "abc"}) {
     Visee s{ViseeAstre{}};

@@ -245,6 +245,22 @@ TEST(StarSight, AYearOfOneDigitIsOfThisCenturyForTheHourAngleAndTheFirstCenturyF
   EXPECT_EQ(s.valeurs.Azimut, ciel.azimut);
 }
 
+TEST(StarSight, AtThePoleTheHeightIsTheDeclination) {
+  for (int i = 0; i < kNombreEtoiles; ++i) {
+    ViseeAstre v;
+    v.latDegres = 90;
+    v.latMinutes = 0;
+    v.sud = i % 2 == 1;
+    v.astre = i;
+    const std::string place = PlaceALaMain(v);
+    const double dec = std::strtod(place.c_str() + place.find('X') + 1, nullptr);
+    Visee s(v);
+    ASSERT_EQ(s.Reduit(), EtatReduction::Faite) << i;
+    EXPECT_NEAR(s.valeurs.HauteurCalculee, v.sud ? -dec : dec, 1E-5) << i;
+    Compare(v);
+  }
+}
+
 TEST(StarSight, TheDateIsTheDayFirst) {
   ViseeAstre v;
   v.jour = 4;
