@@ -7,7 +7,9 @@ target_compile_options(velmaris_reglages INTERFACE
   $<$<CXX_COMPILER_ID:GNU>:-Wno-restrict>)
 if(VELMARIS_SANITIZE)
   target_compile_options(velmaris_reglages INTERFACE -fsanitize=address,undefined -fno-sanitize-recover=all
-                         -fno-omit-frame-pointer)
+                         -fno-omit-frame-pointer
+                         # g++ 12 takes the library's own regular expressions for unset under the sanitizers.
+                         $<$<CXX_COMPILER_ID:GNU>:-Wno-maybe-uninitialized>)
   target_link_options(velmaris_reglages INTERFACE -fsanitize=address,undefined)
 endif()
 if(VELMARIS_FUZZ)
