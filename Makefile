@@ -26,7 +26,10 @@ build:
 	cmake --preset release
 	cmake --build --preset release
 
-run: deps build
+# Builds the programs alone: who only wants to sail needs no tests.
+run: deps
+	cmake --preset release
+	cmake --build --preset release --target velmaris velmaris-calcul donnees
 	tools/demarre
 
 test: deps build
