@@ -199,7 +199,8 @@ void Image10_Click(Bureau &bureau, int indice) {
   if (sansFichier) {
     bureau.TitreFichier = bureau.messages[9];
   }
-  MajListeDroites(bureau); // the buttons' tool tips are the stored bodies, not the file's
+  TDate_Change(bureau, -1); // the weekday again, where the file has put the plain caption
+  MajListeDroites(bureau);  // the buttons' tool tips are the stored bodies, not the file's
   d.Image10[0].visible = indice != 0;
   d.Image10[1].visible = indice == 0;
   EcritReglage(bureau, "Langue", std::to_string(indice));

@@ -190,5 +190,15 @@ TEST_F(Programme, TheFrenchFileHoldsTheBuiltInCaptions) {
   PourChaque(d, [&](const LigneDonnees &, const Controle &c) { EXPECT_EQ(c.legende, avant[i++]) << c.nom; });
 }
 
+TEST_F(Programme, AChangeOfLanguageLeavesTheWeekdayOnShow) {
+  Demarre();
+  TapeVisee();
+  ClicControle(bureau, d.Image10[1]);
+  EXPECT_EQ(d.Label1.legende, "Sunday :");
+  EXPECT_EQ(d.Label1.infobulle, d.Label1.texte) << "the plain caption of the new language";
+  Tape(d.TDate[1], "");
+  EXPECT_EQ(d.Label1.legende, d.Label1.texte);
+}
+
 } // namespace
 } // namespace velmaris::essais
