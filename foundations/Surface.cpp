@@ -1,5 +1,6 @@
 #include "foundations/Surface.hpp"
 
+#include <algorithm>
 #include <utility>
 
 namespace velmaris {
@@ -10,10 +11,19 @@ void Efface(Surface &surface) {
   ++surface.effacements;
 }
 
+bool RetireRepetition(Surface &surface, std::size_t debut, std::size_t milieu) {
+  const auto place = [&](std::size_t rang) { return surface.traces.begin() + static_cast<std::ptrdiff_t>(rang); };
+  const bool repete = debut < milieu && std::equal(place(debut), place(milieu), place(milieu), surface.traces.end());
+  if (repete) {
+    surface.traces.resize(milieu);
+  }
+  return repete;
+}
+
 void Ligne(Surface &surface, Point debut, Point fin, Couleur couleur) {
   const Plume plume{couleur, surface.epaisseur, surface.style};
   surface.position = fin;
-  if (!surface.traces.empty()) {
+  if (!std::exchange(surface.plumeLevee, false) && !surface.traces.empty()) {
     auto *derniere = std::get_if<Polyligne>(&surface.traces.back());
     if (derniere != nullptr && derniere->plume == plume && derniere->points.back() == debut) {
       derniere->points.push_back(fin);

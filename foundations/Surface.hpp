@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <string>
 #include <variant>
@@ -48,12 +49,14 @@ struct Police {
 struct Polyligne {
   Plume plume;
   std::vector<Point> points;
+  bool operator==(const Polyligne &) const = default;
 };
 
 struct CercleTrace {
   Plume plume;
   Point centre;
   double rayon = 0.0;
+  bool operator==(const CercleTrace &) const = default;
 };
 
 struct TexteTrace {
@@ -61,6 +64,7 @@ struct TexteTrace {
   Police police;
   Point position; ///< upper left corner
   std::string texte;
+  bool operator==(const TexteTrace &) const = default;
 };
 
 using Trace = std::variant<Polyligne, CercleTrace, TexteTrace>;
@@ -76,12 +80,20 @@ struct Surface {
   Police police;
   double interligne = 240.0; ///< height of a line of text in the font, 1/1440 inch
   Point position;            ///< where the next text starts
+  bool plumeLevee = false;   ///< the next segment starts a polyline of its own
   std::vector<Trace> traces;
   std::uint64_t effacements = 0; ///< how often the surface was cleared
 };
 
 /// Empties the surface; the drawing position returns to the upper left corner.
 void Efface(Surface &surface);
+
+/// Drops the traces from a place on when they repeat, one by one, those that lie right before them: drawing a layer
+/// twice in the same place changes nothing that can be seen, and costs no memory.
+/// @param debut   first trace of the layer as it was drawn before
+/// @param milieu  first trace of the layer as it was drawn again
+/// @return whether they were dropped
+bool RetireRepetition(Surface &surface, std::size_t debut, std::size_t milieu);
 
 /// A segment in the surface's width and style; it joins the last one when it starts at its end in the same pen.
 /// Leaves the drawing position at its end.
