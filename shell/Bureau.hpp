@@ -1,5 +1,7 @@
 #pragma once
 
+#include "chart/Polygones.hpp"
+#include "chart/SourisCarte.hpp"
 #include "ephemerides/Etoiles.hpp"
 #include "ephemerides/ModulePosLune.hpp"
 #include "foundations/Horloge.hpp"
@@ -16,6 +18,7 @@
 #include "sights/Observation.hpp"
 #include "sights/PositionDirecte.hpp"
 
+#include <cstddef>
 #include <cstdint>
 #include <memory>
 #include <string>
@@ -30,6 +33,20 @@ struct Ecran {
   double largeur = 28800.0; ///< 1/1440 inch
   double hauteur = 16200.0; ///< 1/1440 inch
   int pixelsHaut = 1080;
+};
+
+/// One drawing of the chart in the surface's list.
+struct DernierDessin {
+  std::size_t debut = 0;
+  std::size_t fin = 0;
+  std::uint64_t effacements = 0; ///< of the surface when it was drawn
+};
+
+/// What the drawings of the chart share.
+struct CarteOuverte {
+  Polygone polygone;         ///< the outlines of one file after the other
+  bool fichierReste = false; ///< a file was opened and not read to its end: no other can be opened
+  DernierDessin dernier;
 };
 
 /// The whole program: its windows and what they share. Event functions take it; nothing below the shell knows it.
@@ -48,6 +65,8 @@ struct Bureau {
   double hauteurFenetre = 0.0;         ///< of the main window, 1/1440 inch
   std::string titre = "Velmaris 2009"; ///< of the main window
   const Controle *focus = nullptr;     ///< control that asks for the focus
+  const Controle *menu = nullptr;      ///< menu that asks to be opened at the pointer
+  bool pointeurOccupe = false;         ///< the pointer tells that the program works
   bool termine = false;                ///< the exit sequence has run
 
   Surface image1; ///< the drawing surface of the main window
@@ -69,6 +88,8 @@ struct Bureau {
   Etoiles etoiles;
   Horloge horloge;
   Transports transports;
+  CarteOuverte carte;
+  SourisCarte souris;
   TableLoP lignesLoP;        ///< lines of the sight's file read last
   bool sansQuestion = false; ///< lines are erased without asking for each, while all four are
   std::string NomAstre;      ///< name of the body of the last reduced line

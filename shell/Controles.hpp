@@ -23,11 +23,17 @@ enum class Genre : std::uint8_t {
   ListeBoite, ///< a list that shows its lines
   Curseur,    ///< the slider
   Image,      ///< a picture, pressed like a button when a click means something
+  Menu,       ///< a menu that opens at the pointer, or within another one
+  Entree,     ///< a command in a menu: `valeur` 1 marks it
+  Separateur, ///< a line between two entries of a menu
   Texte       ///< words that no control shows
 };
 
 /// Side of its place that a caption keeps to.
 enum class Cote : std::uint8_t { Gauche, Centre, Droite };
+
+/// The mouse pointer over a control.
+enum class Pointeur : std::uint8_t { Normal = 0, Croix = 2 };
 
 /// What Return and Escape press in a dialog.
 enum class Role : std::uint8_t { Aucun, Defaut, Annule };
@@ -79,6 +85,7 @@ struct Controle {
   double taille = 9.0; ///< of the font, points
   bool gras = false;   ///< of the font
   Cote cote = Cote::Gauche;
+  Pointeur pointeur = Pointeur::Normal;
   bool toutSelectionne = false; ///< asks that the whole text be selected
   bool operator==(const Controle &) const = default;
 };

@@ -2,6 +2,7 @@
 
 #include "foundations/TexteNombre.hpp"
 #include "lines/FichierLoP.hpp"
+#include "shell/Carte.hpp"
 #include "shell/Disposition.hpp"
 #include "shell/Droites.hpp"
 #include "shell/Evenements.hpp"
@@ -102,6 +103,7 @@ void Donnees_Charge(Bureau &bureau, const Ecran &ecran) {
   bureau.feuille.OrigineFeuille = kSansFeuille;
   bureau.feuille.CouleurGrille = static_cast<float>(Rvb(220, 220, 220));
   bureau.image1.fond = kBlanc;
+  d.LabC.opaque = true;
   d.LabLon.opaque = true;
   d.LabLat.opaque = true;
   PoseValeur(bureau, d.HScroll1, kZoomInitial);
@@ -140,6 +142,7 @@ void Timer1_Tick(Bureau &bureau) {
 bool Donnees_KeyDown(Bureau &bureau, int code) {
   constexpr int kF2 = 113;
   constexpr int kF3 = 114;
+  constexpr int kF4 = 115;
   constexpr int kF5 = 116; ///< F5 to F8, the four lines
   constexpr int kF9 = 120;
   constexpr int kF10 = 121;
@@ -156,6 +159,9 @@ bool Donnees_KeyDown(Bureau &bureau, int code) {
     return true;
   case kF3:
     Command1_Click(bureau, -1);
+    return true;
+  case kF4:
+    OuvreCartes(bureau);
     return true;
   case kF5:
   case kF5 + 1:

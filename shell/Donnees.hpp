@@ -18,6 +18,11 @@ struct Donnees {
   Controle Sortie;
   std::array<Controle, 2> Image10;
 
+  // The menu of the drawing surface.
+  Controle PopUp, PU_Carte, PU_Centre, PU_Distance, PU_Coord, PU_Modules, PU_DM, PU_D, PU_S, PU_C, PU_E, PU_Caps;
+  Controle PU_Clear, PU_Exit, PU_Apropos, PU_Quitter;
+  std::array<Controle, 5> PU_Trait;
+
   // Module 7, "Données": the sight.
   Controle Frame7, Label63, Image6;
   std::array<Controle, 4> Option7;
@@ -89,6 +94,7 @@ std::span<const std::span<const LigneDonnees>> TableDonnees();
 
 /// The pieces of the table.
 std::span<const LigneDonnees> TableBarre();
+std::span<const LigneDonnees> TableMenu();
 std::span<const LigneDonnees> TableVisee();
 std::span<const LigneDonnees> TableModules();
 std::span<const LigneDonnees> TableDroites();

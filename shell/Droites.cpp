@@ -7,8 +7,13 @@
 #include "shell/Reduction.hpp"
 #include "shell/Saisie.hpp"
 
+#include <algorithm>
+#include <cmath>
+
 namespace velmaris {
 namespace {
+
+constexpr double kCran = 1.25; ///< miles shown at one notch of the zoom, over those at the next
 
 /// The four lines leave the sheet.
 void RetireDroites(Donnees &d) {
@@ -120,6 +125,12 @@ void HScroll1_Change(Bureau &bureau, int /*indice*/) {
   bureau.donnees.Label32.legende = "Zoom : " + std::to_string(bureau.feuille.Zoom);
   RetraceDroites(bureau);
   RetraceCarte(bureau);
+}
+
+void ZoomeCrans(Bureau &bureau, int crans) {
+  Controle &zoom = bureau.donnees.HScroll1;
+  const double valeur = zoom.valeur * std::pow(kCran, -crans);
+  BougeCurseur(bureau, zoom, static_cast<int>(std::lround(std::clamp<double>(valeur, zoom.minimum, zoom.maximum))));
 }
 
 } // namespace velmaris

@@ -40,4 +40,8 @@ void Grille_Click(Bureau &bureau, int indice);
 /// The zoom slider: the sheet follows its value.
 void HScroll1_Change(Bureau &bureau, int indice);
 
+/// Turns the zoom by notches, each a quarter of the miles shown, through the slider.
+/// @param crans  above 0 nearer, below 0 farther
+void ZoomeCrans(Bureau &bureau, int crans);
+
 } // namespace velmaris

@@ -1,6 +1,7 @@
 #include "shell/Evenements.hpp"
 
 #include "shell/Astres.hpp"
+#include "shell/Carte.hpp"
 #include "shell/ChoixFichier.hpp"
 #include "shell/Demarrage.hpp"
 #include "shell/Droites.hpp"
@@ -9,6 +10,7 @@
 #include "shell/Modules.hpp"
 #include "shell/Route.hpp"
 #include "shell/Saisie.hpp"
+#include "shell/Souris.hpp"
 
 #include <algorithm>
 #include <span>
@@ -110,6 +112,23 @@ constexpr Abonnement kDonnees[] = {
     {"PicHE", Evenement::Clic, SaisitModule<8>},
     {"FOptionCarte", Evenement::Clic, SaisitModule<9>},
     {"Frame10", Evenement::Clic, SaisitModule<10>},
+    {"Command17", Evenement::Clic, Command17_Click},
+    {"Command16", Evenement::Clic, Command16_Click},
+    {"Command24", Evenement::Clic, PU_Distance_Click},
+    {"Command25", Evenement::Clic, PU_Coord_Click},
+    {"Command19", Evenement::Clic, Command19_Click},
+    {"PU_Carte", Evenement::Clic, Command17_Click},
+    {"PU_Centre", Evenement::Clic, PU_Centre_Click},
+    {"PU_Distance", Evenement::Clic, PU_Distance_Click},
+    {"PU_Coord", Evenement::Clic, PU_Coord_Click},
+    {"PU_DM", Evenement::Clic, Command23_Click},
+    {"PU_D", Evenement::Clic, Command20_Click},
+    {"PU_S", Evenement::Clic, Command7_Click},
+    {"PU_C", Evenement::Clic, Command21_Click},
+    {"PU_E", Evenement::Clic, Command22_Click},
+    {"PU_Caps", Evenement::Clic, Command9_Click},
+    {"PU_Clear", Evenement::Clic, PU_Clear_Click},
+    {"PU_Quitter", Evenement::Clic, Sortie_Click},
 };
 
 std::span<const Abonnement> AbonnementsDe(std::string_view fenetre) {

@@ -22,6 +22,7 @@ bool AUneLegende(Genre genre) {
   case Genre::ListeBoite:
   case Genre::Curseur:
   case Genre::Image:
+  case Genre::Separateur:
     return false;
   default:
     return true;

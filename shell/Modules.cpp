@@ -41,6 +41,13 @@ void MontreMemoire(Donnees &d, bool visible) {
   d.Label50[kLegendeMemoire].visible = visible;
 }
 
+/// Legs are no longer measured.
+void TermineDistance(Bureau &bureau) {
+  bureau.souris.ModeDistance = 0;
+  bureau.donnees.PU_Distance.valeur = 0;
+  bureau.donnees.Image1.pointeur = Pointeur::Normal;
+}
+
 /// Shows module 10 at a place, with "Mémoire" in the toolbar.
 void MontreDroitesEn(Donnees &d, double gauche, double haut) {
   MontreMemoire(d, true);
@@ -79,6 +86,9 @@ void FermeModule(Bureau &bureau, int numero) {
     module->visible = false;
   }
   switch (numero) {
+  case 1:
+    TermineDistance(bureau);
+    break;
   case 7:
     d.Frame9.visible = false;
     break;
@@ -93,9 +103,9 @@ void FermeModule(Bureau &bureau, int numero) {
   }
 }
 
-void Image1_MouseMove(Bureau &bureau, bool boutonGauche, double x, double y) {
+void DeplaceModule(Bureau &bureau, double x, double y) {
   Controle *module = Module(bureau.donnees, bureau.ModuleDeplace);
-  if (module == nullptr || !boutonGauche) {
+  if (module == nullptr) {
     return;
   }
   bureau.donnees.Label62.place.gauche = x - 1700;
@@ -103,8 +113,6 @@ void Image1_MouseMove(Bureau &bureau, bool boutonGauche, double x, double y) {
   module->place.gauche = x;
   module->place.haut = y;
 }
-
-void Image1_MouseUp(Bureau &bureau) { bureau.donnees.Label62.visible = false; }
 
 void Command23_Click(Bureau &bureau, int /*indice*/) {
   Donnees &d = bureau.donnees;
@@ -177,8 +185,9 @@ void MontreDroitesMultiples(Bureau &bureau) {
   }
 }
 
-void PU_Clear(Bureau &bureau) {
+void PU_Clear_Click(Bureau &bureau, int /*indice*/) {
   Donnees &d = bureau.donnees;
+  TermineDistance(bureau);
   d.Label62.visible = false;
   MontreMemoire(d, false);
   for (const ModuleNumerote &module : kModules) {

@@ -16,12 +16,9 @@ template <int Numero> void SaisitModule(Bureau &bureau, int /*indice*/) { Saisit
 void FermeModule(Bureau &bureau, int numero);
 template <int Numero> void FermeModule(Bureau &bureau, int /*indice*/) { FermeModule(bureau, Numero); }
 
-/// Mouse move over the drawing surface: a held module follows it while the left button is down.
-/// @param x, y  1/1440 inch, on the surface
-void Image1_MouseMove(Bureau &bureau, bool boutonGauche, double x, double y);
-
-/// Mouse button up over the drawing surface: the help label hides.
-void Image1_MouseUp(Bureau &bureau);
+/// The held module, if any, goes to a place with its help label.
+/// @param x, y  1/1440 inch, on the drawing surface
+void DeplaceModule(Bureau &bureau, double x, double y);
 
 /// Module buttons of the toolbar.
 /// @{
@@ -39,8 +36,8 @@ void Command26_Click(Bureau &bureau, int indice);
 /// Shows module 10 with "Mémoire", at the end of a load; beside module 7 where the two would overlap.
 void MontreDroitesMultiples(Bureau &bureau);
 
-/// Puts all modules away.
-void PU_Clear(Bureau &bureau);
+/// Puts all modules away, and ends the measuring of legs.
+void PU_Clear_Click(Bureau &bureau, int indice);
 
 /// "Carte globale" greys islands and lakes, "Contours précis" ticks them.
 void OpCarte_Click(Bureau &bureau, int indice);

@@ -32,6 +32,8 @@ struct Ports {
   std::function<void(CadreFenetre &)> modale = [](CadreFenetre &) {};
   /// Lets the interface live until something has happened in it.
   std::function<void()> attend = [] {};
+  /// Lets the interface live for a moment, in the middle of a long drawing; the user's own events wait.
+  std::function<void()> respire = [] {};
   /// Puts a file into the desktop's trash, or deletes it where there is none. @return false when it is still there
   std::function<bool(const std::filesystem::path &)> jette = [](const std::filesystem::path &fichier) {
     std::error_code refus;

@@ -1,22 +1,48 @@
 #include "shell/qt/Fenetre.hpp"
 
 #include "shell/Demarrage.hpp"
-#include "shell/Modules.hpp"
+#include "shell/Droites.hpp"
+#include "shell/Souris.hpp"
+#include "shell/qt/MenuCarte.hpp"
 #include "shell/qt/Toile.hpp"
 #include "shell/qt/Widgets.hpp"
 
+#include <QAbstractItemView>
 #include <QApplication>
 #include <QCloseEvent>
+#include <QComboBox>
 #include <QKeyEvent>
+#include <QLineEdit>
 #include <QPainter>
 #include <QPushButton>
 
 #include <cmath>
+#include <optional>
+#include <utility>
 
 namespace velmaris::qt {
 namespace {
 
 constexpr int kCodeF1 = 112;
+
+/// The notch of the zoom that a key stands for, 0 for none.
+int CranDeZoom(int touche) {
+  switch (touche) {
+  case Qt::Key_Plus:
+  case Qt::Key_Equal: // the key of the plus sign on many keyboards
+    return 1;
+  case Qt::Key_Minus:
+    return -1;
+  default:
+    return 0;
+  }
+}
+
+/// Whether a widget has a use of its own for signs typed into it.
+bool EcritOuChoisit(const QWidget &widget) {
+  return qobject_cast<const QLineEdit *>(&widget) != nullptr || qobject_cast<const QComboBox *>(&widget) != nullptr ||
+         qobject_cast<const QAbstractItemView *>(&widget) != nullptr;
+}
 
 } // namespace
 
@@ -29,12 +55,7 @@ Fenetre::Fenetre(Scene &scene)
     surface->interligne = QFontMetricsF(PoliceQt(surface->police), this).height() / f;
   }
   BrancheDessin();
-  rendu_.AccordeFenetre = [this] {
-    setWindowTitle(QString::fromStdString(bureau_.titre));
-    if (bureau_.termine) {
-      horloge_.stop();
-    }
-  };
+  rendu_.AccordeFenetre = [this] { AccordeFenetre(); };
   scene_.Accorde();
   qApp->installEventFilter(this);
   horloge_.callOnTimeout(this, [this] {
@@ -45,16 +66,40 @@ Fenetre::Fenetre(Scene &scene)
   horloge_.start(kPeriodeTimer1);
 }
 
-/// The mouse over the drawing surface moves the module that is held.
+/// The mouse over the drawing surface.
 void Fenetre::BrancheDessin() {
-  auto &toile = dynamic_cast<Toile &>(*rendu_.WidgetDe(bureau_.donnees.Image1));
+  Toile &toile = Dessin();
   toile.auClic = nullptr;
   toile.auMouvement = [this](bool gauche, double x, double y) {
-    if (bureau_.ModuleDeplace != 0) {
+    if (SuitPointeur(bureau_)) {
       scene_.Joue([&] { Image1_MouseMove(bureau_, gauche, x, y); });
     }
   };
+  toile.auPresse = [this](bool gauche, double x, double y) {
+    scene_.Joue([&] { Image1_MouseDown(bureau_, gauche ? BoutonSouris::Gauche : BoutonSouris::Droit, x, y); });
+  };
   toile.auRelache = [this] { scene_.Joue([this] { Image1_MouseUp(bureau_); }); };
+  toile.auZoom = [this](int crans) { scene_.Joue([&] { ZoomeCrans(bureau_, crans); }); };
+}
+
+Toile &Fenetre::Dessin() { return dynamic_cast<Toile &>(*rendu_.WidgetDe(bureau_.donnees.Image1)); }
+
+/// What the main window has beside its controls.
+void Fenetre::AccordeFenetre() {
+  setWindowTitle(QString::fromStdString(bureau_.titre));
+  if (bureau_.termine) {
+    horloge_.stop();
+  }
+  std::optional<QLineF> elastique;
+  if (const auto branche = BrancheEnCours(bureau_)) {
+    elastique = QLineF(branche->debut.x, branche->debut.y, branche->fin.x, branche->fin.y);
+  }
+  Toile &toile = Dessin();
+  toile.MontreElastique(elastique);
+  if (const Controle *menu = std::exchange(bureau_.menu, nullptr); menu != nullptr && !bureau_.termine) {
+    const QPoint place = toile.PixelDe({bureau_.souris.ClicX, bureau_.souris.ClicY});
+    OuvreMenu(scene_, *menu, *this, toile.mapToGlobal(place));
+  }
 }
 
 void Fenetre::closeEvent(QCloseEvent *event) {
@@ -72,6 +117,16 @@ bool Fenetre::Touche(QObject *objet, int touche) {
   if (auto *bouton = qobject_cast<QPushButton *>(objet);
       bouton != nullptr && (touche == Qt::Key_Return || touche == Qt::Key_Enter)) {
     bouton->click();
+    return true;
+  }
+  if (touche == Qt::Key_Menu) {
+    scene_.Joue([this] {
+      Image1_MouseDown(bureau_, BoutonSouris::Gauche, bureau_.image1.largeur / 2, bureau_.image1.hauteur / 2);
+    });
+    return true;
+  }
+  if (const int cran = CranDeZoom(touche); cran != 0 && !EcritOuChoisit(*widget)) {
+    scene_.Joue([&] { ZoomeCrans(bureau_, cran); });
     return true;
   }
   if (touche < Qt::Key_F1 || touche > Qt::Key_F12) {

@@ -7,6 +7,8 @@
 
 namespace velmaris::qt {
 
+class Toile;
+
 /// The main window: its controls, the clock, the function keys and the way out.
 class Fenetre : public QWidget {
 public:
@@ -22,6 +24,8 @@ protected:
 
 private:
   void BrancheDessin();
+  void AccordeFenetre();
+  Toile &Dessin();
   bool Touche(QObject *objet, int touche);
 
   Scene &scene_;

@@ -2,7 +2,7 @@
 
 #include "shell/qt/Dialogue.hpp"
 
-#include <QCoreApplication>
+#include <QApplication>
 #include <QDate>
 #include <QEventLoop>
 #include <QFile>
@@ -83,6 +83,7 @@ bool Boites::Montre(const Boite &boite) {
     attente_.push_back(boite);
     return true;
   }
+  QApplication::restoreOverrideCursor(); // a question is asked with the usual pointer
   return MontreBoite(bureau_, boite, fenetre_);
 }
 
@@ -92,6 +93,10 @@ void Boites::Ouvre(Scene &scene, QWidget &fenetre) {
   bureau_.ports.attend = [&scene] {
     scene.Accorde();
     QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+  };
+  bureau_.ports.respire = [&scene] {
+    scene.AccordePointeur();
+    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
   };
   for (const Boite &boite : std::exchange(attente_, {})) {
     MontreBoite(bureau_, boite, fenetre_);

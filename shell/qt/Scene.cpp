@@ -21,7 +21,17 @@ void Scene::Joue(const std::function<void()> &evenement) {
   Accorde();
 }
 
+void Scene::AccordePointeur() const {
+  const bool occupe = QApplication::overrideCursor() != nullptr;
+  if (bureau_.pointeurOccupe && !occupe) {
+    QApplication::setOverrideCursor(Qt::WaitCursor);
+  } else if (!bureau_.pointeurOccupe && occupe) {
+    QApplication::restoreOverrideCursor();
+  }
+}
+
 void Scene::Accorde() {
+  AccordePointeur();
   encore_ = true;
   if (accorde_) {
     return;

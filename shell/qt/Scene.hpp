@@ -24,6 +24,9 @@ public:
   /// run.
   void Accorde();
 
+  /// The pointer tells whether the program works.
+  void AccordePointeur() const;
+
   void Ajoute(Rendu &rendu) { rendus_.push_back(&rendu); }
   void Retire(const Rendu &rendu) { std::erase(rendus_, &rendu); }
 

@@ -1,8 +1,10 @@
 #include "shell/qt/Toile.hpp"
 
+#include <QApplication>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPainterPath>
+#include <QWheelEvent>
 
 #include <algorithm>
 #include <cmath>
@@ -11,7 +13,8 @@ namespace velmaris::qt {
 namespace {
 
 constexpr double kTwipsParPouce = 1440.0;
-constexpr double kPortee = 1e8; ///< 1/1440 inch from the surface's corner
+constexpr double kPasVisible = 0.25; ///< pixels under which two points of a line are one
+constexpr double kPortee = 1e8;      ///< 1/1440 inch from the surface's corner
 
 QPen PlumeQt(const Plume &plume) {
   QPen pen(CouleurQt(plume.couleur), plume.largeur);
@@ -52,17 +55,38 @@ struct Peintre {
 
   QPointF Place(Point p) const { return {p.x * facteur, p.y * facteur}; }
 
+  /// The points of a line that can be told apart. One that never leaves its first point is only that.
+  QPolygonF Amincit(const Polyligne &ligne) const {
+    const double seuil = kPasVisible / facteur * kPasVisible / facteur;
+    const auto distinct = [&](Point a, Point b) {
+      return (a.x - b.x) * (a.x - b.x) + (a.y - b.y) * (a.y - b.y) >= seuil;
+    };
+    QPolygonF points;
+    points.reserve(static_cast<qsizetype>(ligne.points.size()));
+    Point garde = ligne.points.front();
+    points << Place(garde);
+    for (const Point &p : ligne.points) {
+      if (distinct(p, garde)) {
+        points << Place(p);
+        garde = p;
+      }
+    }
+    if (points.size() > 1) {
+      points.last() = Place(ligne.points.back()); // less than a step away
+    }
+    return points;
+  }
+
   void operator()(const Polyligne &ligne) const {
+    const QPolygonF points = Amincit(ligne);
+    if (points.size() < 2) {
+      return;
+    }
     painter.setPen(PlumeQt(ligne.plume));
     // A single line along an axis is sharp only without smoothing.
     const bool droite =
         ligne.points.size() == 2 && (ligne.points[0].x == ligne.points[1].x || ligne.points[0].y == ligne.points[1].y);
     painter.setRenderHint(QPainter::Antialiasing, !droite);
-    QPolygonF points;
-    points.reserve(static_cast<qsizetype>(ligne.points.size()));
-    for (const Point &p : ligne.points) {
-      points << Place(p);
-    }
     if (const QPen pen = painter.pen(); FautLisere(pen.color(), fond)) {
       painter.setPen(QPen(kLisere, pen.widthF() + 2));
       painter.drawPolyline(points);
@@ -147,6 +171,8 @@ Toile::Toile(const Surface &surface, QWidget *parent) : QWidget(parent), surface
 
 void Toile::Accorde() {
   const QSize taille = size() * devicePixelRatioF();
+  // A layer drawn twice in the same place is dropped from the record; what is painted of it stays.
+  traces_ = std::min(traces_, surface_.traces.size());
   const bool neuve = image_.size() != taille || effacements_ != surface_.effacements;
   if (!neuve && traces_ == surface_.traces.size() && points_ == NombrePoints(surface_)) {
     return;
@@ -179,28 +205,70 @@ void Toile::paintEvent(QPaintEvent *event) {
   const double ratio = devicePixelRatioF();
   const QRectF zone = event->rect();
   painter.drawImage(zone, image_, QRectF(zone.topLeft() * ratio, zone.size() * ratio));
+  if (elastique_) {
+    const double facteur = PixelsParTwip(*this);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(CouleurQt(kMagenta), 1, Qt::DotLine));
+    painter.drawLine(elastique_->p1() * facteur, elastique_->p2() * facteur);
+  }
+}
+
+void Toile::MontreElastique(const std::optional<QLineF> &ligne) {
+  if (elastique_ != ligne) {
+    elastique_ = ligne;
+    update();
+  }
+}
+
+QPoint Toile::PixelDe(Point point) const {
+  const double facteur = PixelsParTwip(*this);
+  return QPointF(point.x * facteur, point.y * facteur).toPoint();
+}
+
+void Toile::Mouvement(const QMouseEvent &event) const {
+  const double facteur = PixelsParTwip(*this);
+  const QPointF p = event.position();
+  auMouvement(event.buttons().testFlag(Qt::LeftButton), p.x() / facteur, p.y() / facteur);
 }
 
 void Toile::mousePressEvent(QMouseEvent *event) {
-  if (event->button() == Qt::LeftButton && auClic) {
+  const bool gauche = event->button() == Qt::LeftButton;
+  if (gauche && auClic) {
     auClic();
   }
-  if (auMouvement) {
-    mouseMoveEvent(event);
+  if (!auPresse || (!gauche && event->button() != Qt::RightButton)) {
+    return;
   }
+  presseDroite_ = event->position();
+  Mouvement(*event);
+  const double facteur = PixelsParTwip(*this);
+  auPresse(gauche, event->position().x() / facteur, event->position().y() / facteur);
 }
 
 void Toile::mouseMoveEvent(QMouseEvent *event) {
-  if (auMouvement) {
-    const double facteur = PixelsParTwip(*this);
-    const QPointF p = event->position();
-    auMouvement(event->buttons().testFlag(Qt::LeftButton), p.x() / facteur, p.y() / facteur);
+  const bool tremble = event->buttons().testFlag(Qt::RightButton) &&
+                       (event->position() - presseDroite_).manhattanLength() < QApplication::startDragDistance();
+  if (auMouvement && !tremble) {
+    Mouvement(*event);
   }
 }
 
 void Toile::mouseReleaseEvent(QMouseEvent * /*event*/) {
   if (auRelache) {
     auRelache();
+  }
+}
+
+void Toile::wheelEvent(QWheelEvent *event) {
+  if (!auZoom || !event->modifiers().testFlag(Qt::ControlModifier)) {
+    event->ignore();
+    return;
+  }
+  molette_ += event->angleDelta().y();
+  const int crans = molette_ / QWheelEvent::DefaultDeltasPerStep;
+  molette_ -= crans * QWheelEvent::DefaultDeltasPerStep;
+  if (crans != 0) {
+    auZoom(crans);
   }
 }
 

@@ -3,9 +3,11 @@
 #include "foundations/Surface.hpp"
 
 #include <QImage>
+#include <QLineF>
 #include <QWidget>
 
 #include <functional>
+#include <optional>
 #include <vector>
 
 class QPainter;
@@ -38,9 +40,19 @@ public:
   /// Brings the image in line with the record.
   void Accorde();
 
-  /// Mouse over the surface: left button down, and the place in 1/1440 inch.
+  /// A line that is seen over the image without being part of it, in 1/1440 inch.
+  void MontreElastique(const std::optional<QLineF> &ligne);
+  /// The place on the surface in the toolkit's pixels.
+  QPoint PixelDe(Point point) const;
+
+  /// Mouse over the surface: left button down, and the place in 1/1440 inch. While the right button is down, a
+  /// tremble of the hand is no move.
   std::function<void(bool, double, double)> auMouvement;
+  /// A button goes down, after a move to that place: the left one or else the right one.
+  std::function<void(bool, double, double)> auPresse;
   std::function<void()> auRelache;
+  /// The wheel with the control key: notches, away from the user above 0.
+  std::function<void(int)> auZoom;
   std::function<void()> auClic;
 
 protected:
@@ -48,14 +60,20 @@ protected:
   void mousePressEvent(QMouseEvent *event) override;
   void mouseMoveEvent(QMouseEvent *event) override;
   void mouseReleaseEvent(QMouseEvent *event) override;
+  void wheelEvent(QWheelEvent *event) override;
 
 private:
+  void Mouvement(const QMouseEvent &event) const;
+
   const Surface &surface_;
   QImage image_;
   std::uint64_t effacements_ = 0;
   std::size_t traces_ = 0;
   std::vector<QRectF> figures_;
   std::size_t points_ = 0; ///< of the last trace painted, which may have grown since
+  std::optional<QLineF> elastique_;
+  QPointF presseDroite_; ///< where the right button went down
+  int molette_ = 0;      ///< eighths of a degree that make no whole notch yet
 };
 
 } // namespace velmaris::qt

@@ -19,6 +19,7 @@
 #include <QStyleOptionFocusRect>
 #include <QToolButton>
 
+#include <algorithm>
 #include <cmath>
 
 namespace velmaris::qt {
@@ -156,7 +157,12 @@ void RemplitDeroulante(QComboBox &deroulante, const Controle &c, const Controle 
 }
 
 void RemplitListe(QListWidget &liste, const Controle &c, const Controle &vu, bool tout) {
-  if (tout || c.liste != vu.liste) {
+  const bool ajout =
+      !tout && c.liste.size() == vu.liste.size() + 1 && std::equal(vu.liste.begin(), vu.liste.end(), c.liste.begin());
+  if (ajout) {
+    liste.addItem(Texte(c.liste.back()));
+    liste.scrollToBottom();
+  } else if (tout || c.liste != vu.liste) {
     QStringList lignes;
     lignes.reserve(static_cast<qsizetype>(c.liste.size()));
     for (const std::string &ligne : c.liste) {
@@ -272,6 +278,9 @@ QWidget *CreeWidget(Bureau &bureau, const Controle &c, QWidget *parent) {
   case Genre::Image:
     return CreeImage(c, parent);
   case Genre::Texte:
+  case Genre::Menu:
+  case Genre::Entree:
+  case Genre::Separateur:
   default:
     return nullptr;
   }
@@ -300,6 +309,9 @@ void AccordeWidget(QWidget &widget, const Controle &c, const Controle &vu, bool 
   const QString infobulle = attend ? aVenir : Texte(c.infobulle);
   if (widget.toolTip() != infobulle) {
     widget.setToolTip(infobulle);
+  }
+  if (c.pointeur != vu.pointeur) {
+    widget.setCursor(c.pointeur == Pointeur::Croix ? Qt::CrossCursor : Qt::ArrowCursor);
   }
   if (tout || c.actif != vu.actif) {
     widget.setEnabled(c.actif);

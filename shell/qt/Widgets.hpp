@@ -41,7 +41,7 @@ protected:
 };
 
 /// Makes the widget that shows a control; it bears the control's name and index as its object name.
-/// @return null for words that no control shows
+/// @return null for words that no control shows, and for menus and their entries
 QWidget *CreeWidget(Bureau &bureau, const Controle &controle, QWidget *parent);
 
 /// Brings a widget in line with its control.

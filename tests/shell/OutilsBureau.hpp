@@ -7,6 +7,7 @@
 #include "shell/Modules.hpp"
 #include "shell/PanneauDirect.hpp"
 #include "shell/Saisie.hpp"
+#include "shell/Souris.hpp"
 #include "shell/Valeurs.hpp"
 
 #include "../OutilsTests.hpp"
@@ -43,6 +44,12 @@ protected:
   }
 
   void Demarre(const Ecran &ecran = {}) { Donnees_Charge(bureau, ecran); }
+
+  /// Starts without "Toujours Visible": the sheet is looked at without the chart over it.
+  void DemarreSansCarte(const Ecran &ecran = {}) {
+    Demarre(ecran);
+    d.Check2.valeur = 0;
+  }
 
   /// Types into a field as a user does, entering and leaving it.
   void Tape(Controle &champ, const std::string &texte) {

@@ -15,7 +15,7 @@ namespace velmaris::essais {
 /// The whole program, started, with a user at its file dialog. It opens in an empty folder of the user's own.
 class AvecDialogue : public Programme {
 protected:
-  AvecDialogue() { Demarre(); }
+  AvecDialogue() { DemarreSansCarte(); }
 
   /// What the user does in the dialog the next times it is shown. Left open in the end, it is given up.
   void Jouera(std::function<void()> gestes) {

@@ -78,7 +78,7 @@ protected:
 
   /// Morning in line 0, afternoon in line 1, noon in line 2; nothing on the sheet.
   void TroisDroites() {
-    Demarre();
+    DemarreSansCarte();
     Stocke(0, kMatin);
     Stocke(1, kApresMidi);
     Stocke(2, kMidi);

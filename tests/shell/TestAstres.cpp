@@ -21,7 +21,7 @@ namespace {
 class Astres : public QuatreDroites {
 protected:
   Astres() {
-    Demarre();
+    DemarreSansCarte();
     TapeVisee();
   }
 

@@ -39,7 +39,7 @@ std::string EnTexte(const char *forme, double valeur) {
 class Caps : public QuatreDroites {
 protected:
   void SetUp() override {
-    Demarre();
+    DemarreSansCarte();
     ClicControle(bureau, d.Command9);
   }
 

@@ -116,7 +116,7 @@ class Coupure : public QuatreDroites {
 protected:
   void SetUp() override {
     bureau.valeurs = std::make_unique<Valeurs>(std::filesystem::path());
-    Demarre();
+    DemarreSansCarte();
   }
 
   void OuvreMagasin(const std::filesystem::path &fichier) {

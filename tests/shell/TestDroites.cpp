@@ -17,7 +17,7 @@ std::size_t Traits(const Surface &surface, Couleur couleur) {
 }
 
 TEST_F(Programme, ASightTypedIntoThePanelReducesAsTheSameSightReadFromAFile) {
-  Demarre();
+  DemarreSansCarte();
   TapeVisee();
   Calcule();
   Observation lue;
@@ -42,7 +42,7 @@ TEST_F(Programme, ASightTypedIntoThePanelReducesAsTheSameSightReadFromAFile) {
 }
 
 TEST_F(Programme, CalculDrawsASheetAroundTheEstimatedPosition) {
-  Demarre();
+  DemarreSansCarte();
   TapeVisee();
   Calcule();
   EXPECT_EQ(bureau.feuille.OrigineFeuille, (Origine{47.5F, static_cast<float>(5 + 10.0 / 60)}));
@@ -53,7 +53,7 @@ TEST_F(Programme, CalculDrawsASheetAroundTheEstimatedPosition) {
 }
 
 TEST_F(Programme, CalculTakesAllStoredLinesOffTheSheet) {
-  Demarre();
+  DemarreSansCarte();
   d.LHeure[1].couleur = 0x008000;
   d.Ldate[2].couleur = kRouge;
   TapeVisee();
@@ -65,7 +65,7 @@ TEST_F(Programme, CalculTakesAllStoredLinesOffTheSheet) {
 }
 
 TEST_F(Programme, AnAllZeroReadingShowsZerosChangesNoResultAndRedrawsTheSheet) {
-  Demarre();
+  DemarreSansCarte();
   TapeVisee();
   Calcule();
   const std::string intercept = d.Affichage_Intercept.legende;
@@ -82,7 +82,7 @@ TEST_F(Programme, AnAllZeroReadingShowsZerosChangesNoResultAndRedrawsTheSheet) {
 }
 
 TEST_F(Programme, AnEmptyEyeHeightReducesWithoutDipAndShowsZero) {
-  Demarre();
+  DemarreSansCarte();
   TapeVisee();
   Tape(d.Text10, "");
   Calcule();
@@ -91,7 +91,7 @@ TEST_F(Programme, AnEmptyEyeHeightReducesWithoutDipAndShowsZero) {
 }
 
 TEST_F(Programme, MoreThanSixtySecondsPaintTheFractionRedAndStillReduce) {
-  Demarre();
+  DemarreSansCarte();
   TapeVisee();
   Calcule();
   const double avant = bureau.visee.Intercept;
@@ -105,7 +105,7 @@ TEST_F(Programme, MoreThanSixtySecondsPaintTheFractionRedAndStillReduce) {
 }
 
 TEST_F(Programme, OneDigitOfFractionIsFiveSecondsAndNotFifty) {
-  Demarre();
+  DemarreSansCarte();
   TapeVisee();
   Tape(d.Text25, "5");
   Calcule();
@@ -113,7 +113,7 @@ TEST_F(Programme, OneDigitOfFractionIsFiveSecondsAndNotFifty) {
 }
 
 TEST_F(Programme, TheHoursOfDeadReckoningFollowTheSight) {
-  Demarre();
+  DemarreSansCarte();
   TapeVisee();
   Calcule();
   EXPECT_EQ(d.Combo1.texte, "12");
@@ -121,7 +121,7 @@ TEST_F(Programme, TheHoursOfDeadReckoningFollowTheSight) {
 }
 
 TEST_F(Programme, EcranClearsSurfaceCaptionsAndSheetAndLeavesTheResults) {
-  Demarre();
+  DemarreSansCarte();
   TapeVisee();
   Calcule();
   d.LHeure[0].couleur = kRouge;
@@ -135,7 +135,7 @@ TEST_F(Programme, EcranClearsSurfaceCaptionsAndSheetAndLeavesTheResults) {
 }
 
 TEST_F(Programme, TheGridStartsOffAndItsTwoButtonsShareOneSpot) {
-  Demarre();
+  DemarreSansCarte();
   TapeVisee();
   Calcule();
   const auto sansGrille = bureau.image1.traces.size();
@@ -153,7 +153,7 @@ TEST_F(Programme, TheGridStartsOffAndItsTwoButtonsShareOneSpot) {
 }
 
 TEST_F(Programme, TheSliderSetsTheMilesOverTheHeightAndRedraws) {
-  Demarre();
+  DemarreSansCarte();
   TapeVisee();
   Calcule();
   BougeCurseur(bureau, d.HScroll1, 995);
@@ -180,7 +180,7 @@ TEST_F(Programme, StoredLinesAreShownByDateTimeAndBody) {
     garde("nom(1)", "Soleil");
     garde("T3(2)", "");
   }
-  Demarre();
+  DemarreSansCarte();
   EXPECT_EQ(d.Ldate[1].legende, "21 / 06 / 2026");
   EXPECT_EQ(d.LHeure[1].legende, "12:05:30");
   EXPECT_EQ(d.Droite[1].infobulle, "Soleil");
@@ -189,7 +189,7 @@ TEST_F(Programme, StoredLinesAreShownByDateTimeAndBody) {
 }
 
 TEST_F(Programme, ASightWithoutPositionReducesAtTheOrigin) {
-  Demarre();
+  DemarreSansCarte();
   Tape(d.Text13, "30");
   Calcule();
   EXPECT_EQ(bureau.feuille.OrigineFeuille, (Origine{0.0F, 0.0F}));

@@ -155,7 +155,7 @@ TEST_P(FichiersLivres, EveryNumberedTextThatCodeUsesIsThere) {
   AppliqueLangue(LitFichier(std::filesystem::path(VELMARIS_DONNEES) / GetParam()), "Données", Liste(d),
                  bureau.messages);
   for (std::size_t n = 1; n <= 34; ++n) {
-    EXPECT_EQ(bureau.messages[n].empty(), n == 27) << n << ": 27 names no text";
+    EXPECT_FALSE(bureau.messages[n].empty()) << n;
   }
 }
 

@@ -14,7 +14,7 @@ std::string EnMilliemes(float valeur) {
 
 class Memoire : public QuatreDroites {
 protected:
-  void SetUp() override { Demarre(); }
+  void SetUp() override { DemarreSansCarte(); }
 
   void ChoisitCorps(int corps) { PoseChoix(bureau, d.Option7, corps); }
 

@@ -175,7 +175,7 @@ TEST_F(Programme, AllModulesCanBePutAwayAtOnce) {
   ClicControle(bureau, d.Command23);
   ClicControle(bureau, d.Command7);
   bureau.donnees.Label62.visible = true;
-  PU_Clear(bureau);
+  PU_Clear_Click(bureau, -1);
   for (const int numero : {1, 2, 3, 4, 7, 8, 9, 10}) {
     EXPECT_FALSE(Module(d, numero)->visible) << numero;
   }
@@ -219,7 +219,7 @@ TEST_F(Programme, TheSunsMarkLiesAtTheSubSolarPointOfTheSheetOrOutOfView) {
 }
 
 TEST_F(Programme, ADisabledOrHiddenControlDoesNothing) {
-  Demarre();
+  DemarreSansCarte();
   d.Command6.actif = false;
   TapeVisee();
   Calcule();

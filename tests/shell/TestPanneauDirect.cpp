@@ -16,7 +16,7 @@ namespace {
 class PanneauDirect : public Programme {
 protected:
   PanneauDirect() {
-    Demarre();
+    DemarreSansCarte();
     TapeVisee();
     // The sight is of another day than the clock's.
     Tape(d.TDate[0], "3");

@@ -6,7 +6,7 @@ namespace {
 class Estime : public QuatreDroites {
 protected:
   void SetUp() override {
-    Demarre();
+    DemarreSansCarte();
     TapeSoleil(kMatin);
     Intervalle(9, 0, 10, 0);
   }

@@ -19,7 +19,7 @@ TEST_F(Programme, EnteringAFieldSelectsItsWholeText) {
 }
 
 TEST_F(Programme, ADayOutsideItsMonthLengthsIsEmptiedAndAnAcceptedOneHasTwoDigits) {
-  Demarre();
+  DemarreSansCarte();
   for (const Cas &cas :
        {Cas{"0", "00"}, {"1", "01"}, {"31", "31"}, {"32", ""}, {"-1", ""}, {"9 juin", "09"}, {"2.6", "03"}}) {
     Tape(d.TDate[0], cas.tape);
@@ -28,7 +28,7 @@ TEST_F(Programme, ADayOutsideItsMonthLengthsIsEmptiedAndAnAcceptedOneHasTwoDigit
 }
 
 TEST_F(Programme, AMonthGoesToTwelve) {
-  Demarre();
+  DemarreSansCarte();
   for (const Cas &cas : {Cas{"12", "12"}, {"13", ""}, {"0", "00"}, {"-0.5", ""}, {"juin", "00"}}) {
     Tape(d.TDate[1], cas.tape);
     EXPECT_EQ(d.TDate[1].texte, cas.reste) << cas.tape;
@@ -36,7 +36,7 @@ TEST_F(Programme, AMonthGoesToTwelve) {
 }
 
 TEST_F(Programme, AYearUnderAHundredIsOfThisCenturyAndFiveThousandIsTheLast) {
-  Demarre();
+  DemarreSansCarte();
   for (const Cas &cas :
        {Cas{"9", "2009"}, {"99", "2099"}, {"100", "0100"}, {"5000", "5000"}, {"5001", ""}, {"-1", ""}, {"", "2000"}}) {
     Tape(d.TDate[2], cas.tape);
@@ -45,7 +45,7 @@ TEST_F(Programme, AYearUnderAHundredIsOfThisCenturyAndFiveThousandIsTheLast) {
 }
 
 TEST_F(Programme, HoursMinutesAndSecondsAllGoToSixtyAndKeepATextThatIsNoNumber) {
-  Demarre();
+  DemarreSansCarte();
   for (Controle *champ : {&d.Text3, &d.Text4, &d.Text5, &d.Text7, &d.Text9, &d.Text12}) {
     for (const Cas &cas : {Cas{"5", "05"},
                            {"60", "60"},
@@ -62,7 +62,7 @@ TEST_F(Programme, HoursMinutesAndSecondsAllGoToSixtyAndKeepATextThatIsNoNumber) 
 }
 
 TEST_F(Programme, DegreesOfLatitudeShareTheLimitOfTheLongitude) {
-  Demarre();
+  DemarreSansCarte();
   for (Controle *champ : {&d.Text6, &d.Text8}) {
     for (const Cas &cas : {Cas{"5", "05"}, {"180", "180"}, {"181", ""}, {"-5", ""}, {"47x", "47x"}}) {
       Tape(*champ, cas.tape);
@@ -72,7 +72,7 @@ TEST_F(Programme, DegreesOfLatitudeShareTheLimitOfTheLongitude) {
 }
 
 TEST_F(Programme, AReadingOffAnArtificialHorizonIsADoubleAngle) {
-  Demarre();
+  DemarreSansCarte();
   Tape(d.Text13, "120");
   EXPECT_EQ(d.Text13.texte, "");
   Tape(d.Text13, "90");
@@ -85,7 +85,7 @@ TEST_F(Programme, AReadingOffAnArtificialHorizonIsADoubleAngle) {
 }
 
 TEST_F(Programme, EyeHeightAndIndexErrorHoldACommaAndTheirLimitsSeeOnlyWhatStandsBeforeIt) {
-  Demarre();
+  DemarreSansCarte();
   for (const Cas &cas : {Cas{"2.5", "2,5"},
                          {"2,56", "2,6"},
                          {"3", "3,0"},
@@ -104,7 +104,7 @@ TEST_F(Programme, EyeHeightAndIndexErrorHoldACommaAndTheirLimitsSeeOnlyWhatStand
 }
 
 TEST_F(Programme, TheFractionOfTheReadingIsCutToTwoCharactersAsItIsTyped) {
-  Demarre();
+  DemarreSansCarte();
   SaisitTexte(bureau, d.Text25, "123");
   EXPECT_EQ(d.Text25.texte, "12");
   SaisitTexte(bureau, d.Text25, "éàü");
@@ -112,7 +112,7 @@ TEST_F(Programme, TheFractionOfTheReadingIsCutToTwoCharactersAsItIsTyped) {
 }
 
 TEST_F(Programme, TheWeekdayStandsOverADateAndThePlainCaptionOverAnImpossibleOne) {
-  Demarre();
+  DemarreSansCarte();
   EXPECT_EQ(d.Label1.legende, "Sunday :");
   SaisitTexte(bureau, d.TDate[0], "22");
   EXPECT_EQ(d.Label1.legende, "Monday :");
@@ -123,14 +123,14 @@ TEST_F(Programme, TheWeekdayStandsOverADateAndThePlainCaptionOverAnImpossibleOne
 }
 
 TEST_F(Programme, AWeekdayThatOpensWithAnAccentTakesItsCapital) {
-  Demarre();
+  DemarreSansCarte();
   bureau.ports.nomJour = [](const ValeurDate &) { return std::string("éday"); };
   SaisitTexte(bureau, d.TDate[0], "23");
   EXPECT_EQ(d.Label1.legende, "Éday :");
 }
 
 TEST_F(Programme, SecondsAndHundredthsChangeTheMarksOfTheReadingAndAreKeptAtOnce) {
-  Demarre();
+  DemarreSansCarte();
   EXPECT_TRUE(d.Label9.visible);
   EXPECT_EQ(d.Label68.legende, "''");
   EXPECT_FALSE(d.Label69.visible);
@@ -144,7 +144,7 @@ TEST_F(Programme, SecondsAndHundredthsChangeTheMarksOfTheReadingAndAreKeptAtOnce
 }
 
 TEST_F(Programme, AnArtificialHorizonShootsTheCentreAndWarnsInRed) {
-  Demarre();
+  DemarreSansCarte();
   ClicOption(bureau, d.Option5[1]);
   EXPECT_TRUE(d.Option6[2].choisi);
   EXPECT_FALSE(d.Option6[0].actif);
@@ -162,7 +162,7 @@ TEST_F(Programme, AnArtificialHorizonShootsTheCentreAndWarnsInRed) {
 }
 
 TEST_F(Programme, OptionsOfOneGroupExcludeEachOtherAndLeaveTheOthers) {
-  Demarre();
+  DemarreSansCarte();
   ClicOption(bureau, d.OptN[0]);
   EXPECT_TRUE(d.OptN[0].choisi);
   EXPECT_FALSE(d.OptN[1].choisi);
@@ -171,7 +171,7 @@ TEST_F(Programme, OptionsOfOneGroupExcludeEachOtherAndLeaveTheOthers) {
 }
 
 TEST_F(Programme, EachKindOfBodyShowsItsPictureItsListAndItsLimb) {
-  Demarre();
+  DemarreSansCarte();
   const auto images = [&] {
     std::string visibles;
     for (const Controle &image : d.ImAstre) {
@@ -213,7 +213,7 @@ TEST_F(Programme, TheShortListOfStarsTakesThePlaceOfTheWholeOne) {
 }
 
 TEST_F(Programme, TopTakesThePresentGmtAndHandsTheFocusToTheReading) {
-  Demarre();
+  DemarreSansCarte();
   temps = {2027, 1, 0, 2, 3, 4, 5, 999};
   ClicControle(bureau, d.Command1);
   EXPECT_EQ(d.Text3.texte + d.Text4.texte + d.Text5.texte, "030405");
@@ -223,7 +223,7 @@ TEST_F(Programme, TopTakesThePresentGmtAndHandsTheFocusToTheReading) {
 }
 
 TEST_F(Programme, EveryFieldSurvivesGarbageAccentsAndTenThousandCharacters) {
-  Demarre();
+  DemarreSansCarte();
   const std::string longs[] = {
       std::string(10000, '9'), std::string(10000, 'x'),      "1e308", "1e999", "-1e999", "\xff\xfe\x01",
       "àéïôù ß 漢字",          std::string(5000, ' ') + "7", "+-5",   "NaN",   "inf",    "&HFF"};

@@ -203,7 +203,7 @@ TEST_F(Magasin, AStoreThatRefusesAWriteKeepsAllValuesInMemory) {
 TEST_F(Programme, TheUserIsToldOnceOfADamagedStoreAndTheProgramWorksOn) {
   std::filesystem::create_directories(dossier.chemin() / "utilisateur");
   Pose(dossier.chemin() / "utilisateur" / "valeurs.sqlite", "abîmé");
-  Demarre();
+  DemarreSansCarte();
   ASSERT_EQ(boites.size(), 1U);
   EXPECT_NE(boites[0].texte.find(bureau.valeurs->fichierEnCause().string()), std::string::npos);
   TapeVisee();
@@ -213,7 +213,7 @@ TEST_F(Programme, TheUserIsToldOnceOfADamagedStoreAndTheProgramWorksOn) {
 
 TEST_F(Programme, TheUserIsToldOnceThatNothingCanBeKept) {
   bureau.dossiers.utilisateur = "/proc/velmaris";
-  Demarre();
+  DemarreSansCarte();
   ClicOption(bureau, d.Option4[1]);
   EXPECT_EQ(boites.size(), 1U);
   reponse = true;

@@ -9,7 +9,7 @@ constexpr int kF5 = 116;
 class Voyage : public QuatreDroites {
 protected:
   void SetUp() override {
-    Demarre();
+    DemarreSansCarte();
     ClicControle(bureau, d.Command23);
   }
 

@@ -1,0 +1,45 @@
+#include "shell/qt/MenuCarte.hpp"
+
+#include "shell/Evenements.hpp"
+
+#include <QMenu>
+
+namespace velmaris::qt {
+namespace {
+
+/// The entries of a menu, and those of the menus in it.
+void Remplit(QMenu &qt, Scene &scene, const ListeControles &controles, std::string_view menu) {
+  qt.setToolTipsVisible(true);
+  for (Controle *c : controles) {
+    if (c->parent != menu) {
+      continue;
+    }
+    const QString legende = QString::fromStdString(c->legende);
+    if (c->genre == Genre::Menu) {
+      Remplit(*qt.addMenu(legende), scene, controles, c->nom);
+    } else if (c->genre == Genre::Separateur) {
+      qt.addSeparator();
+    } else if (c->genre == Genre::Entree) {
+      QAction *entree = qt.addAction(legende);
+      entree->setObjectName(QString::fromStdString(c->nom));
+      entree->setEnabled(c->actif);
+      entree->setCheckable(c->valeur != 0);
+      entree->setChecked(c->valeur != 0);
+      entree->setToolTip(QString::fromStdString(c->aVenir ? scene.bureau().donnees.TexteAVenir.legende : c->infobulle));
+      QObject::connect(entree, &QAction::triggered, &qt,
+                       [&scene, c] { scene.Joue([&scene, c] { ClicControle(scene.bureau(), *c); }); });
+    }
+  }
+}
+
+} // namespace
+
+void OuvreMenu(Scene &scene, const Controle &menu, QWidget &parent, const QPoint &place) {
+  auto *qt = new QMenu(&parent);
+  qt->setObjectName(QString::fromStdString(menu.nom));
+  Remplit(*qt, scene, ControlesDe(scene.bureau(), menu.fenetre), menu.nom);
+  QObject::connect(qt, &QMenu::aboutToHide, qt, &QObject::deleteLater);
+  qt->popup(place);
+}
+
+} // namespace velmaris::qt
