@@ -9,7 +9,7 @@ APT := $(SUDO) env DEBIAN_FRONTEND=noninteractive apt-get -o DPkg::Lock::Timeout
 TACHES := 2
 # Seconds that each fuzz target runs.
 DUREE := 60
-CIBLES_FUZZ := fuzz-lop fuzz-langue fuzz-nombre
+CIBLES_FUZZ := fuzz-lop fuzz-langue fuzz-nombre fuzz-polygone fuzz-lieux
 SOURCES := (foundations|ephemerides|sights|lines|chart|sky|shell|calcul)/.*\.cpp$$
 
 # Installs what is missing; touches no network when nothing is.
@@ -47,6 +47,7 @@ test-sanitize: deps
 
 bench: deps build
 	build/bin/velmaris-bench
+	build/bin/velmaris-bench-ecran
 	tests/bench/debit.sh build/bin/velmaris-calcul
 
 fuzz: deps
