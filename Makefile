@@ -1,7 +1,7 @@
 # Everyday commands. The programs land in build/bin.
 .NOTPARALLEL:
 .DEFAULT_GOAL := build
-.PHONY: deps build run test lint test-sanitize bench fuzz clean
+.PHONY: deps build run test lint test-sanitize bench fuzz donnees-carte clean
 
 SHELL := /bin/bash
 SUDO := $(shell [ "$$(id -u)" = 0 ] || echo sudo)
@@ -9,6 +9,8 @@ APT := $(SUDO) env DEBIAN_FRONTEND=noninteractive apt-get -o DPkg::Lock::Timeout
 TACHES := 2
 # Seconds that each fuzz target runs.
 DUREE := 60
+# What the chart's data are made from; a build needs none of it.
+PAQUETS_CARTE := gmt gmt-gshhg-high libgeonames-common python3 python3-numpy
 CIBLES_FUZZ := fuzz-lop fuzz-langue fuzz-nombre fuzz-polygone fuzz-lieux
 SOURCES := (foundations|ephemerides|sights|lines|chart|sky|shell|calcul)/.*\.cpp$$
 
@@ -58,6 +60,14 @@ fuzz: deps
 	  UBSAN_OPTIONS=halt_on_error=1:print_stacktrace=1 build/fuzz/bin/$$cible -max_total_time=$(DUREE) -print_final_stats=1 -artifact_prefix=build/fuzz/$$cible- \
 	    build/fuzz/corpus/$$cible tests/fuzz/corpus/$$cible || exit 1; \
 	done
+
+# Makes the world chart's data again, from GSHHG and GeoNames, into data/.
+donnees-carte:
+	@voulus="$(PAQUETS_CARTE) $$(command -v npm >/dev/null || echo nodejs npm)"; \
+	dpkg -s $$voulus >/dev/null 2>&1 || \
+	  $(APT) install -y --no-install-recommends $$voulus || \
+	  { $(APT) update && $(APT) install -y --no-install-recommends $$voulus; }
+	/usr/bin/python3 -B tools/donnees_carte --travail build/donnees_carte
 
 clean:
 	rm -rf build
