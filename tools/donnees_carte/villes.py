@@ -23,9 +23,10 @@ EXONYMES = {
     4795467: "Charlotte-Amélie", 2392087: "Porto-Novo", 1526273: "Astana", 3871336: "Santiago", 703448: "Kiev",
     6691831: "Vatican", 3426691: "Port Stanley",
 }
-LETTRES = str.maketrans({"ł": "l", "Ł": "L", "đ": "d", "Đ": "Dj", "ı": "i", "ħ": "h", "Ħ": "H", "ə": "e", "Ə": "E",
-                         "ʻ": "'", "ʼ": "'", "ʿ": "'", "ʾ": "'", "ʹ": "'", "′": "'", "`": "'", "’": "'", "‘": "'",
-                         "–": "-", "‐": "-", ";": ","})
+LETTRES = str.maketrans({
+    "ł": "l", "Ł": "L", "đ": "d", "Đ": "D", "ı": "i", "ħ": "h", "Ħ": "H", "ə": "e", "Ə": "E", "ʻ": "'", "ʼ": "'", "ʿ": "'",
+    "ʾ": "'", "ʹ": "'", "′": "'", "`": "'", "’": "'", "‘": "'", "–": "-", "‐": "-", ";": ",",
+})
 TITRE = """\
 ; Villes de la carte du monde.
 ; Source : GeoNames (https://www.geonames.org), licence CC BY 4.0 (https://creativecommons.org/licenses/by/4.0/),
