@@ -263,6 +263,16 @@ TEST(ChartCoast, HasTheSmallIslandsThatMatter) {
   }
 }
 
+TEST(ChartCoast, HasTheSmallestOnTheSpot) {
+  const std::vector<Cap> iles = {
+      {"Sein", {48.037, -4.855}},    {"Porquerolles", {43.000, 6.205}}, {"Rockall", {57.596, -13.687}},
+      {"Fastnet", {51.389, -9.603}}, {"Tresco", {49.955, -6.330}},      {"Eddystone", {50.180, -4.265}},
+  };
+  for (const Cap &ile : iles) {
+    EXPECT_THAT(Lu("Iles.Asc").Distance(ile.lieu), Le(1.0)) << ile;
+  }
+}
+
 TEST(ChartCoast, HasLakesAndRiversWhereTheyAre) {
   EXPECT_THAT(Lu("Lacs.Asc").Distance({46.45, 6.20}), Le(6.0)) << "Lake Geneva";
   EXPECT_THAT(Lu("Lacs.Asc").Distance({-0.30, 32.60}), Le(40.0)) << "Lake Victoria";

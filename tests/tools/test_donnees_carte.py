@@ -4,8 +4,10 @@ import sys
 import unittest
 from pathlib import Path
 
+RACINE = Path(__file__).resolve().parents[2]
+DONNEES = RACINE / "data"
 sys.dont_write_bytecode = True
-sys.path.insert(0, str(Path(__file__).resolve().parents[2] / "tools" / "donnees_carte"))
+sys.path.insert(0, str(RACINE / "tools" / "donnees_carte"))
 
 import numpy as np  # noqa: E402
 
@@ -14,7 +16,7 @@ from fichiers import compte, coupe_antimeridien, texte  # noqa: E402
 from geometrie import aire, deroule, distance, ecarts, vecteurs  # noqa: E402
 from raccords import coupe_longs, est_anneau, joint, lit_morceaux  # noqa: E402
 from simplifie import Faisceau, Trait, ajuste, simplifie  # noqa: E402
-from villes import en_windows1252  # noqa: E402
+from villes import en_windows1252, sans_surnom  # noqa: E402
 
 
 def cote_dentelee(nombre=2000, graine=1):
@@ -184,6 +186,31 @@ class Noms(unittest.TestCase):
         self.assertEqual(en_windows1252("Tórshavn"), "Tórshavn")
         self.assertEqual(en_windows1252("Nuku‘alofa"), "Nuku'alofa")
         self.assertEqual(en_windows1252("a;b"), "a,b")
+
+    def test_what_a_gazetteer_adds(self):
+        self.assertEqual(sans_surnom("City of Balikpapan"), "Balikpapan")
+        self.assertEqual(sans_surnom("Kalibo (poblacion)"), "Kalibo")
+        self.assertEqual(sans_surnom("Mexico City"), "Mexico City")
+
+
+def cotes_du_fichier(nom):
+    """First and last points in degrees of all sides of a committed file."""
+    points = np.loadtxt(DONNEES / nom)
+    coupures = points[:, 0] > 1
+    points = np.column_stack((points[:, 0] * 360 - 180, points[:, 1] * 180 * np.sqrt(2) - 90))
+    cotes = ~(coupures[1:] | coupures[:-1])
+    return points[:-1][cotes], points[1:][cotes]
+
+
+class Donnees(unittest.TestCase):
+    def croisements(self, *noms):
+        fichiers = [cotes_du_fichier(nom) for nom in noms]
+        return len(cherche(*(np.concatenate(points) for points in zip(*fichiers))))
+
+    def test_no_coasts_cross(self):
+        self.assertEqual(self.croisements("Contours.Asc", "Iles.Asc"), 0)
+        self.assertEqual(self.croisements("Totale.asc"), 0)
+        self.assertEqual(self.croisements("Lacs.Asc"), 0)
 
 
 if __name__ == "__main__":

@@ -24,7 +24,7 @@ TOTALE_LIGNES = 30_000
 COTE_DE_RIVIERE = 30  # miles
 # Waters whose coast is wanted finer: west, east, south, north, and the part of the tolerance granted there.
 EAUX_FINES = [
-    (-6.0, 2.6, 46.0, 51.3, 0.25),  # Brittany and the Channel
+    (-6.6, 2.6, 46.0, 51.3, 0.25),  # Brittany, the Channel and Scilly
     (3.0, 10.0, 41.2, 44.5, 0.4),  # Provence and Corsica
     (-63.5, -60.5, 11.9, 18.6, 0.4),  # the Lesser Antilles
 ]
@@ -98,7 +98,8 @@ def lieux(fichier):
 
 
 def nommees(toutes, gardees):
-    """Adds the islands of the list: the ring at the place if the source has one, else a small diamond.
+    """Adds the islands of the list: of the rings within reach of the place the largest and the nearest, or, when the
+    source has none, a small diamond.
 
     Returns (lands, names of those drawn as a diamond)."""
     choisies, dessinees = list(gardees), []
@@ -107,15 +108,16 @@ def nommees(toutes, gardees):
     for lat, lon, rayon, nom in lieux("iles.txt"):
         portee = float(rayon)
         proches = np.flatnonzero(np.abs(centres[:, 1] - lat) < 2)
-        au_plus = [n for n in proches if _touche(toutes[n], (lon, lat), portee)]
-        if not au_plus:
+        a_portee = [n for n in proches if _touche(toutes[n], (lon, lat), portee)]
+        if not a_portee:
             choisies.append(Terre(losange(lon, lat)))
             dessinees.append(nom)
             continue
-        terre = toutes[au_plus[0]]
-        if id(terre) not in presentes:
-            presentes.add(id(terre))
-            choisies.append(terre)
+        proche = min(a_portee, key=lambda n: distance(toutes[n].centre, (lon, lat)))
+        for terre in (toutes[a_portee[0]], toutes[proche]):
+            if id(terre) not in presentes:
+                presentes.add(id(terre))
+                choisies.append(terre)
     return choisies, dessinees
 
 

@@ -4,7 +4,6 @@ import numpy as np
 
 MILLES_PAR_RADIAN = 60 * 180 / np.pi
 RAYON_KM = 6371.0
-KM_PAR_MILLE = 1.852
 
 
 def vecteurs(points):

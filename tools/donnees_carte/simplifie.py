@@ -6,7 +6,7 @@ import math
 import numpy as np
 
 from croisements import cherche
-from geometrie import distance, ecarts, vecteurs
+from geometrie import ecarts, vecteurs
 from raccords import est_anneau
 
 ESSAIS = 14

@@ -1,5 +1,6 @@
 """The towns of the chart: which of GeoNames' places, in which class, under which name."""
 
+import re
 import unicodedata
 
 import numpy as np
@@ -52,6 +53,11 @@ def en_windows1252(nom):
     return " ".join("".join(resultat).split())
 
 
+def sans_surnom(nom):
+    """The name without what a gazetteer adds to it: "City of" before it, a word in brackets after it."""
+    return re.sub(r"^City of | *\(.*\)$", "", nom)
+
+
 class Semis:
     """Towns kept so far, by cells of a degree, to find the nearest."""
 
@@ -77,7 +83,7 @@ def en_francais(places, francais):
     """The places that may stand on the chart, under their French names."""
     gardees = [p for p in places if p["genre"] not in GENRES_IGNORES]
     return [
-        dict(p, nom=en_windows1252(EXONYMES.get(p["id"]) or francais(p["id"], p["nom"])), lettre="V", poids=0)
+        dict(p, nom=en_windows1252(EXONYMES.get(p["id"]) or sans_surnom(francais(p["id"], p["nom"]))), lettre="V", poids=0)
         for p in gardees
     ]
 
