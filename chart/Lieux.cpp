@@ -85,7 +85,9 @@ void TraceObjets(const Feuille &feuille, Surface &surface, std::string_view octe
     const DetailsObjet objet = DecoupeObjet(ligne, blanc);
     Cercle(surface, surface.position, Val(objet.rayon) * feuille.EchelleY, kObjet);
     surface.encre = kObjet;
+    surface.insistant = true;
     Ecrit(surface, std::string(objet.nom));
+    surface.insistant = false;
   });
   surface.encre = kNoir;
 }

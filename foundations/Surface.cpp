@@ -39,7 +39,8 @@ void Cercle(Surface &surface, Point centre, double rayon, Couleur couleur) {
 }
 
 void Ecrit(Surface &surface, std::string texte) {
-  surface.traces.emplace_back(TexteTrace{surface.encre, surface.police, surface.position, std::move(texte)});
+  surface.traces.emplace_back(
+      TexteTrace{surface.encre, surface.police, surface.position, std::move(texte), surface.insistant});
   surface.position = {0.0, surface.position.y + surface.interligne};
 }
 

@@ -64,6 +64,7 @@ struct TexteTrace {
   Police police;
   Point position; ///< upper left corner
   std::string texte;
+  bool insistant = false; ///< it is shown though other texts lie there, which give way to it
   bool operator==(const TexteTrace &) const = default;
 };
 
@@ -78,6 +79,7 @@ struct Surface {
   int epaisseur = 1;     ///< draw width
   Style style = Style::Plein;
   Police police;
+  bool insistant = false;    ///< texts are shown though others lie there
   double interligne = 240.0; ///< height of a line of text in the font, 1/1440 inch
   Point position;            ///< where the next text starts
   bool plumeLevee = false;   ///< the next segment starts a polyline of its own

@@ -8,7 +8,7 @@ namespace velmaris::qt {
 namespace {
 
 /// The entries of a menu, and those of the menus in it.
-void Remplit(QMenu &qt, Scene &scene, const ListeControles &controles, std::string_view menu) {
+void Remplit(QMenu &qt, QWidget &parent, Scene &scene, const ListeControles &controles, std::string_view menu) {
   qt.setToolTipsVisible(true);
   for (Controle *c : controles) {
     if (c->parent != menu) {
@@ -16,7 +16,7 @@ void Remplit(QMenu &qt, Scene &scene, const ListeControles &controles, std::stri
     }
     const QString legende = QString::fromStdString(c->legende);
     if (c->genre == Genre::Menu) {
-      Remplit(*qt.addMenu(legende), scene, controles, c->nom);
+      Remplit(*qt.addMenu(legende), parent, scene, controles, c->nom);
     } else if (c->genre == Genre::Separateur) {
       qt.addSeparator();
     } else if (c->genre == Genre::Entree) {
@@ -26,8 +26,10 @@ void Remplit(QMenu &qt, Scene &scene, const ListeControles &controles, std::stri
       entree->setCheckable(c->valeur != 0);
       entree->setChecked(c->valeur != 0);
       entree->setToolTip(QString::fromStdString(c->aVenir ? scene.bureau().donnees.TexteAVenir.legende : c->infobulle));
-      QObject::connect(entree, &QAction::triggered, &qt,
-                       [&scene, c] { scene.Joue([&scene, c] { ClicControle(scene.bureau(), *c); }); });
+      // Once the menu has gone: a drawing lets the interface live, which would take the menu away under its own entry.
+      QObject::connect(
+          entree, &QAction::triggered, &parent,
+          [&scene, c] { scene.Joue([&scene, c] { ClicControle(scene.bureau(), *c); }); }, Qt::QueuedConnection);
     }
   }
 }
@@ -37,7 +39,7 @@ void Remplit(QMenu &qt, Scene &scene, const ListeControles &controles, std::stri
 void OuvreMenu(Scene &scene, const Controle &menu, QWidget &parent, const QPoint &place) {
   auto *qt = new QMenu(&parent);
   qt->setObjectName(QString::fromStdString(menu.nom));
-  Remplit(*qt, scene, ControlesDe(scene.bureau(), menu.fenetre), menu.nom);
+  Remplit(*qt, parent, scene, ControlesDe(scene.bureau(), menu.fenetre), menu.nom);
   QObject::connect(qt, &QMenu::aboutToHide, qt, &QObject::deleteLater);
   qt->popup(place);
 }

@@ -99,22 +99,24 @@ struct Peintre {
     painter.setRenderHint(QPainter::Antialiasing);
     painter.drawEllipse(Place(cercle.centre), cercle.rayon * facteur, cercle.rayon * facteur);
   }
+  /// Where a text is painted.
+  QRectF Zone(const TexteTrace &texte) const {
+    const QFontMetricsF metrique(PoliceQt(texte.police), painter.device());
+    return {Place(texte.position),
+            QSizeF(metrique.horizontalAdvance(QString::fromStdString(texte.texte)) + kEcartFigures, metrique.ascent())};
+  }
+
   void operator()(const TexteTrace &texte) const {
-    painter.setPen(CouleurQt(texte.couleur));
-    painter.setFont(PoliceQt(texte.police));
-    const QFontMetricsF metrique(painter.font());
-    const QString contenu = QString::fromStdString(texte.texte);
-    const QPointF place = Place(texte.position);
-    if (texte.couleur != kNoir) {
-      const QRectF zone(place, QSizeF(metrique.horizontalAdvance(contenu) + kEcartFigures, metrique.ascent()));
-      const bool couvre =
-          std::any_of(figures.begin(), figures.end(), [&](const QRectF &f) { return f.intersects(zone); });
-      if (couvre) {
+    const QRectF zone = Zone(texte);
+    if (texte.couleur != kNoir && !texte.insistant) {
+      if (std::any_of(figures.begin(), figures.end(), [&](const QRectF &f) { return f.intersects(zone); })) {
         return;
       }
       figures.push_back(zone);
     }
-    painter.drawText(place + QPointF(0, metrique.ascent()), contenu);
+    painter.setPen(CouleurQt(texte.couleur));
+    painter.setFont(PoliceQt(texte.police));
+    painter.drawText(zone.topLeft() + QPointF(0, zone.height()), QString::fromStdString(texte.texte));
   }
 };
 
@@ -153,6 +155,12 @@ QColor CouleurQt(Couleur couleur) {
 void PeintTraces(QPainter &painter, const Surface &surface, double facteur, std::size_t premier,
                  std::vector<QRectF> &figures) {
   const Peintre peintre{painter, facteur, CouleurQt(surface.fond), figures};
+  for (std::size_t i = premier; i < surface.traces.size(); ++i) {
+    const auto *texte = std::get_if<TexteTrace>(&surface.traces[i]);
+    if (texte != nullptr && texte->insistant && Visible{}(*texte)) {
+      figures.push_back(peintre.Zone(*texte));
+    }
+  }
   // Texts come over lines, so that no line strikes a figure through.
   for (const bool textes : {false, true}) {
     for (std::size_t i = premier; i < surface.traces.size(); ++i) {

@@ -23,8 +23,9 @@ QFont PoliceQt(const Police &police);
 /// A colour as the toolkit's.
 QColor CouleurQt(Couleur couleur);
 
-/// Paints part of what is recorded on a surface, lines first and texts over them. A coloured figure that would
-/// overprint the figure before it is left out: so the figures of a fine grid stay readable.
+/// Paints part of what is recorded on a surface, lines first and texts over them. A coloured text that would
+/// overprint one before it, or one that insists, is left out: so the figures of a fine grid and the names of cities
+/// stay readable.
 /// @param painter    scaled to the toolkit's pixels
 /// @param facteur    pixels per 1/1440 inch
 /// @param premier    first recorded trace to paint

@@ -56,8 +56,8 @@ QWidget *CreeEtiquette(const Controle &c, QWidget *parent) {
   label->setTextFormat(Qt::PlainText);
   label->setAlignment(Alignement(c.cote));
   if (c.opaque) {
-    // Not quite opaque: an opaque widget that moves is copied from place to place by the toolkit, which then paints what
-    // lies under it over the modules.
+    // Not quite opaque: an opaque widget that moves is copied from place to place by the toolkit, which then paints
+    // what lies under it over the modules.
     QPalette palette = label->palette();
     QColor fond = palette.color(QPalette::Base);
     fond.setAlpha(254);

@@ -135,6 +135,16 @@ TEST_F(Lieux, AnObjectHasItsCircleOfMilesAndItsNameInGreenAndLeavesTheInkBlack) 
   EXPECT_EQ(surface.encre, kNoir);
 }
 
+TEST_F(Lieux, NamesOfCitiesGiveWayToThoseOfObjects) {
+  Villes("+45.50 +006.00 1 V Une");
+  Objets("+45.50 +006.00 3 Ar-Men");
+  Villes("+45.40 +006.00 1 V Deux");
+  ASSERT_EQ(Textes().size(), 3U);
+  EXPECT_FALSE(Textes()[0].insistant);
+  EXPECT_TRUE(Textes()[1].insistant);
+  EXPECT_FALSE(Textes()[2].insistant);
+}
+
 TEST_F(Lieux, ObjectsBearTheirNamesAtEveryZoom) {
   feuille.Zoom = 3000;
   Objets("+45.50 +006.00 3 Ar-Men");

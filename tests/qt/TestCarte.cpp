@@ -217,6 +217,33 @@ TEST(Peinture, PointsCloserThanAQuarterPixelMakeNoDifferenceThatCanBeSeen) {
   EXPECT_LT(ecarts, 20) << "of some 1500 pixels of the line";
 }
 
+TEST(Peinture, ATextThatInsistsIsPaintedAndTheOthersGiveWay) {
+  const auto peint = [](bool insiste) {
+    Surface surface = SurfaceNeuve(6000, 6000);
+    surface.encre = kRouge;
+    EcritEn(surface, {1000, 1000}, "Brest");
+    surface.encre = kBleu;
+    surface.insistant = insiste;
+    EcritEn(surface, {1000, 1000}, "Phare");
+    return Peint(surface, 1 / 15.0, {400, 400});
+  };
+  const auto compte = [](const QImage &image, auto &&teinte) {
+    int pixels = 0;
+    for (int y = 0; y < image.height(); ++y) {
+      for (int x = 0; x < image.width(); ++x) {
+        pixels += teinte(image.pixelColor(x, y)) ? 1 : 0;
+      }
+    }
+    return pixels;
+  };
+  const auto rouge = [](const QColor &c) { return c.red() > 200 && c.blue() < 100; };
+  const auto bleu = [](const QColor &c) { return c.blue() > 200 && c.red() < 100; };
+  EXPECT_GT(compte(peint(false), rouge), 10);
+  EXPECT_EQ(compte(peint(false), bleu), 0);
+  EXPECT_EQ(compte(peint(true), rouge), 0);
+  EXPECT_GT(compte(peint(true), bleu), 10);
+}
+
 TEST(Peinture, AnIsletUnderAQuarterPixelIsNotPaintedAndIsSeenNearer) {
   Surface surface = SurfaceNeuve(6000, 6000);
   Ligne(surface, {3000, 3000}, {3001, 3001}, kNoir);

@@ -12,7 +12,7 @@ sys.path.insert(0, str(RACINE / "tools" / "donnees_carte"))
 import numpy as np  # noqa: E402
 
 from croisements import cherche  # noqa: E402
-from fichiers import compte, coupe_antimeridien, texte  # noqa: E402
+from fichiers import compte, coupe_antimeridien, sans_long_cote, texte  # noqa: E402
 from geometrie import aire, deroule, distance, ecarts, vecteurs  # noqa: E402
 from raccords import coupe_longs, est_anneau, joint, lit_morceaux  # noqa: E402
 from simplifie import Faisceau, Trait, ajuste, simplifie  # noqa: E402
@@ -173,10 +173,16 @@ class Antimeridien(unittest.TestCase):
 
 class Fichier(unittest.TestCase):
     def test_points_and_cuts(self):
-        lignes = [np.array([(0, 0), (90, 90)], float), np.array([(-180, -90), (-179, -90)], float)]
-        attendu = "0.5000000 0.3535534\n0.7500000 0.7071068\n2 0\n0.0000001 0.0000000\n0.0027778 0.0000000\n"
+        lignes = [np.array([(0, 0), (0, 0.5)], float), np.array([(-180, -90), (-179, -90)], float)]
+        attendu = "0.5000000 0.3535534\n0.5000000 0.3555176\n2 0\n0.0000001 0.0000000\n0.0027778 0.0000000\n"
         self.assertEqual(texte(lignes), attendu)
         self.assertEqual(compte(lignes), attendu.count("\n"))
+
+
+    def test_points_are_put_on_long_sides_where_the_chart_draws_them(self):
+        morceau = np.array([(0, 60), (3, 60), (3, 62.5), (3.1, 62.5)], float)
+        attendu = [(0, 60), (1.5, 60), (3, 60), (3, 60 + 2.5 / 3), (3, 60 + 5 / 3), (3, 62.5), (3.1, 62.5)]
+        np.testing.assert_allclose(sans_long_cote(morceau), attendu, atol=1e-12)
 
 
 class Noms(unittest.TestCase):

@@ -6,6 +6,7 @@ COUPURE = "2 0"
 LIGNES_MAX = 60000
 BORD = 1e-7
 DECIMALES = 7
+COTE_MAX = 60  # miles: a side both of whose ends lie far outside a small sheet isn't drawn
 DIAGONALE = 180 * np.sqrt(2)
 
 
@@ -73,9 +74,19 @@ def _ramene(morceau):
     return ramene
 
 
+def sans_long_cote(morceau):
+    """The piece with points put on its sides over COTE_MAX, where the chart draws them: its picture is the same."""
+    points = [morceau[:1]]
+    for a, b in zip(morceau, morceau[1:]):
+        milles = 60 * np.hypot((b[0] - a[0]) * np.cos(np.radians((a[1] + b[1]) / 2)), b[1] - a[1])
+        parts = np.arange(1, np.ceil(max(milles, 1) / COTE_MAX) + 1) / np.ceil(max(milles, 1) / COTE_MAX)
+        points.append(a + parts[:, None] * (b - a))
+    return np.concatenate(points)
+
+
 def morceaux_traces(lignes):
     """All lines as pieces that a flat chart can draw."""
-    return [morceau for ligne in lignes for morceau in coupe_antimeridien(ligne)]
+    return [sans_long_cote(morceau) for ligne in lignes for morceau in coupe_antimeridien(ligne)]
 
 
 def compte(lignes):
