@@ -94,6 +94,19 @@ std::optional<std::string> NombreEntier(std::string_view texte, char signeDecima
   return resultat;
 }
 
+/// A text that is wholly a number, as that number.
+double Convertit(std::string_view texte, char signeDecimal) {
+  const auto nombre = NombreEntier(texte, signeDecimal);
+  if (!nombre) {
+    throw Erreur(13);
+  }
+  const auto valeur = Valeur(*nombre);
+  if (!valeur) {
+    throw Erreur(6);
+  }
+  return *valeur;
+}
+
 /// Decimal digits of a positive value: its 15 significant digits and the place of the point among them.
 struct Decimales {
   std::string chiffres;
@@ -280,17 +293,9 @@ std::string TexteVirgule(float valeur) {
   return texte;
 }
 
-double LitVirgule(std::string_view texte) {
-  const auto nombre = NombreEntier(texte, ',');
-  if (!nombre) {
-    throw Erreur(13);
-  }
-  const auto valeur = Valeur(*nombre);
-  if (!valeur) {
-    throw Erreur(6);
-  }
-  return *valeur;
-}
+double LitVirgule(std::string_view texte) { return Convertit(texte, ','); }
+
+double LitNombre(std::string_view texte) { return Convertit(texte, '.'); }
 
 std::size_t NombreCaracteres(std::string_view texte) {
   return static_cast<std::size_t>(std::count_if(

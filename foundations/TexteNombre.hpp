@@ -46,6 +46,10 @@ std::string TexteVirgule(float valeur);
 /// @throws Erreur 13 when the text is not wholly a number (a point, an empty text), 6 when it leaves 64 bits
 double LitVirgule(std::string_view texte);
 
+/// Conversion of a whole text with "." as its point.
+/// @throws Erreur 13 when the text is not wholly a number (a comma, an empty text), 6 when it leaves 64 bits
+double LitNombre(std::string_view texte);
+
 /// Number of characters of a UTF-8 text.
 std::size_t NombreCaracteres(std::string_view texte);
 

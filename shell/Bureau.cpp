@@ -8,6 +8,7 @@ Bureau::Bureau() {
   InitialiseDonnees(donnees);
   InitialiseFSelect(fselect);
   InitialiseImpression(impression);
+  InitialiseUtilisateur(utilisateur);
 }
 
 Bureau::~Bureau() = default;
@@ -19,8 +20,13 @@ ListeControles ControlesDe(Bureau &bureau, std::string_view fenetre) {
   if (fenetre == kFenetreFSelect) {
     return Liste(bureau.fselect);
   }
+  if (fenetre == kFenetreUtilisateur) {
+    return Liste(bureau.utilisateur);
+  }
   return fenetre == kFenetreImpression ? Liste(bureau.impression) : ListeControles();
 }
+
+std::vector<CadreFenetre *> FenetresLibres(Bureau &bureau) { return {&bureau.utilisateur.cadre}; }
 
 Surface *SurfaceDe(Bureau &bureau, const Controle &controle) {
   if (&controle == &bureau.donnees.Image1) {

@@ -14,6 +14,7 @@
 #include "shell/FSelect.hpp"
 #include "shell/Impression.hpp"
 #include "shell/Ports.hpp"
+#include "shell/Utilisateur.hpp"
 #include "sights/Affichage.hpp"
 #include "sights/Observation.hpp"
 #include "sights/PositionDirecte.hpp"
@@ -22,6 +23,8 @@
 #include <cstdint>
 #include <memory>
 #include <string>
+#include <string_view>
+#include <vector>
 
 namespace velmaris {
 
@@ -61,6 +64,7 @@ struct Bureau {
   Donnees donnees;
   FSelect fselect;
   Impression impression;
+  Utilisateur utilisateur;
   double largeurFenetre = 0.0;         ///< of the main window, 1/1440 inch
   double hauteurFenetre = 0.0;         ///< of the main window, 1/1440 inch
   std::string titre = "Velmaris 2009"; ///< of the main window
@@ -68,6 +72,8 @@ struct Bureau {
   const Controle *menu = nullptr;      ///< menu that asks to be opened at the pointer
   bool pointeurOccupe = false;         ///< the pointer tells that the program works
   bool termine = false;                ///< the exit sequence has run
+  std::string_view premierPlan;        ///< name of the window that asks to come to the front
+  bool horlogeArretee = false;         ///< the main window's clock stands still
 
   Surface image1; ///< the drawing surface of the main window
   Surface picAZ;  ///< the azimuth dial
@@ -105,6 +111,9 @@ struct Bureau {
 /// @param fenetre  the window's name
 /// @return an empty list for an unknown window
 ListeControles ControlesDe(Bureau &bureau, std::string_view fenetre);
+
+/// The frames of the windows that live beside the main one; each is on show while it is visible.
+std::vector<CadreFenetre *> FenetresLibres(Bureau &bureau);
 
 /// The surface that a control of that kind shows.
 /// @return null for another control

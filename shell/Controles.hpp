@@ -13,7 +13,7 @@ namespace velmaris {
 enum class Genre : std::uint8_t {
   Surface,    ///< a drawing surface
   Cadre,      ///< a module or the toolbar
-  Groupe,     ///< a plain grouping inside a module
+  Groupe,     ///< a plain grouping, in a frame where it has a caption
   Etiquette,  ///< a caption
   Champ,      ///< a text field
   Bouton,     ///< a command

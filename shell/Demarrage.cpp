@@ -6,9 +6,11 @@
 #include "shell/Disposition.hpp"
 #include "shell/Droites.hpp"
 #include "shell/Evenements.hpp"
+#include "shell/FichierObjets.hpp"
 #include "shell/Langage.hpp"
 #include "shell/MemoireDroites.hpp"
 #include "shell/ModesDroite.hpp"
+#include "shell/Objets.hpp"
 #include "shell/PanneauDirect.hpp"
 #include "shell/Saisie.hpp"
 #include "shell/Valeurs.hpp"
@@ -190,6 +192,7 @@ void Sortie_Click(Bureau &bureau, int /*indice*/) {
   bureau.valeurs->Ensemble([&] { GardeReglages(bureau); });
   SignaleMagasin(bureau);
   bureau.fselect.cadre.visible = false;
+  QuitteObjets(bureau);
   bureau.termine = true;
 }
 
@@ -226,6 +229,9 @@ void Secours(Bureau &bureau, const std::exception &erreur) {
     std::filesystem::create_directories(fichier.parent_path(), refus);
     SauveLoP(fichier, LitPanneau(d));
   });
+  if (bureau.utilisateur.Modifie != 0) {
+    Passe([&] { EcritFichier(bureau); });
+  }
   texte += conservee ? d.TexteSecours.legende + "\n" + fichier.string() : d.TexteSansSecours.legende;
   bureau.ports.boite({.texte = texte, .icone = Icone::Erreur});
 }

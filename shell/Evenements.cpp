@@ -8,6 +8,7 @@
 #include "shell/Fichiers.hpp"
 #include "shell/ModesDroite.hpp"
 #include "shell/Modules.hpp"
+#include "shell/Objets.hpp"
 #include "shell/Route.hpp"
 #include "shell/Saisie.hpp"
 #include "shell/Souris.hpp"
@@ -39,6 +40,17 @@ constexpr Abonnement kFSelect[] = {
     {"OK", Evenement::Clic, OK_Click},
     {"Quitter", Evenement::Clic, Quitter_Click},
     {"Command1", Evenement::Clic, Supprime_Click},
+};
+
+// NOLINTNEXTLINE(cppcoreguidelines-avoid-c-arrays,modernize-avoid-c-arrays)
+constexpr Abonnement kUtilisateur[] = {
+    {"List1", Evenement::Clic, objets::List1_Click},       {"Text3", Evenement::Change, objets::Champ_Change},
+    {"Text4", Evenement::Change, objets::Champ_Change},    {"Text6", Evenement::Change, objets::Champ_Change},
+    {"Text7", Evenement::Change, objets::Champ_Change},    {"Text8", Evenement::Change, objets::Champ_Change},
+    {"Text9", Evenement::Change, objets::Champ_Change},    {"OptN", Evenement::Clic, objets::Champ_Change},
+    {"OptE", Evenement::Clic, objets::Champ_Change},       {"Option1", Evenement::Clic, objets::Option1_Click},
+    {"Command1", Evenement::Clic, objets::Command1_Click}, {"Command2", Evenement::Clic, objets::Command2_Click},
+    {"Command3", Evenement::Clic, objets::Command3_Click}, {"Command4", Evenement::Clic, objets::Command4_Click},
 };
 
 // NOLINTNEXTLINE(cppcoreguidelines-avoid-c-arrays,modernize-avoid-c-arrays)
@@ -85,6 +97,7 @@ constexpr Abonnement kDonnees[] = {
     {"Command14", Evenement::Clic, Grille_Click},
     {"HScroll1", Evenement::Change, HScroll1_Change},
     {"Command23", Evenement::Clic, Command23_Click},
+    {"Command18", Evenement::Clic, Command18_Click},
     {"Command20", Evenement::Clic, Command20_Click},
     {"Command7", Evenement::Clic, Command7_Click},
     {"Command21", Evenement::Clic, Command21_Click},
@@ -134,6 +147,9 @@ constexpr Abonnement kDonnees[] = {
 std::span<const Abonnement> AbonnementsDe(std::string_view fenetre) {
   if (fenetre == kFenetreDonnees) {
     return kDonnees;
+  }
+  if (fenetre == kFenetreUtilisateur) {
+    return kUtilisateur;
   }
   return fenetre == kFenetreFSelect ? std::span<const Abonnement>(kFSelect) : std::span<const Abonnement>();
 }

@@ -33,7 +33,7 @@ constexpr LigneDonnees kModules[] = {
     {RANG(Check1, 3), Genre::Case, "FOptionCarte", {1890, 1155, 1770, 270}, "Iles"},
     {SEUL(Command17), Genre::Bouton, "FOptionCarte", {90, 1470, 1170, 390}, "Affiche (F4)", "(F4)"},
     {SEUL(Command16), Genre::Bouton, "FOptionCarte", {1290, 1470, 1080, 390}, "Efface"},
-    {SEUL(Command18), Genre::Bouton, "FOptionCarte", {2400, 1470, 1200, 390}, "Config", "", {.aVenir = true}},
+    {SEUL(Command18), Genre::Bouton, "FOptionCarte", {2400, 1470, 1200, 390}, "Config"},
     {SEUL(Command24), Genre::Bouton, "FOptionCarte", {90, 1920, 1740, 390}, "Distance"},
     {SEUL(Command25), Genre::Bouton, "FOptionCarte", {1860, 1920, 1740, 390}, "Coordonnées"},
     // Module 1, " Distance  et  Route": legs measured on the chart.

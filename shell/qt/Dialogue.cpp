@@ -5,10 +5,12 @@
 #include "shell/qt/Widgets.hpp"
 
 #include <QEvent>
+#include <QKeyEvent>
 #include <QPaintEvent>
 #include <QPainter>
 #include <QPushButton>
 
+#include <algorithm>
 #include <cmath>
 
 namespace velmaris::qt {
@@ -17,8 +19,11 @@ Dialogue::Dialogue(Scene &scene, CadreFenetre &cadre, QWidget *parent)
     : QDialog(parent), scene_(scene), cadre_(cadre), rendu_(scene, *this, ControlesDe(scene.bureau(), cadre.nom)) {
   const double f = PixelsParTwip(*this);
   setFixedSize(static_cast<int>(std::lround(cadre.largeur * f)), static_cast<int>(std::lround(cadre.hauteur * f)));
+  parDefaut_ = std::any_of(rendu_.liens().begin(), rendu_.liens().end(),
+                           [](const Lien &lien) { return lien.controle->role == Role::Defaut; });
   for (const Lien &lien : rendu_.liens()) {
     if (auto *bouton = qobject_cast<QPushButton *>(lien.widget)) {
+      bouton->setAutoDefault(parDefaut_); // else the toolkit would give Return to the first one
       bouton->setDefault(lien.controle->role == Role::Defaut);
     }
   }
@@ -37,6 +42,13 @@ void Dialogue::Montre() {
   }
 }
 
+void Dialogue::MontreACote() {
+  scene_.Accorde();
+  if (cadre_.visible) {
+    show();
+  }
+}
+
 void Dialogue::reject() {
   for (const Lien &lien : rendu_.liens()) {
     if (lien.controle->role == Role::Annule) {
@@ -52,6 +64,15 @@ void Dialogue::changeEvent(QEvent *event) {
     scene_.Joue([this] { ActiveFenetre(scene_.bureau(), cadre_.nom); });
   }
   QDialog::changeEvent(event);
+}
+
+void Dialogue::keyPressEvent(QKeyEvent *event) {
+  const bool retour = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+  if (auto *bouton = qobject_cast<QPushButton *>(focusWidget()); retour && !parDefaut_ && bouton != nullptr) {
+    bouton->click();
+  } else {
+    QDialog::keyPressEvent(event);
+  }
 }
 
 void Dialogue::paintEvent(QPaintEvent *event) {

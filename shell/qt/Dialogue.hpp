@@ -6,8 +6,8 @@
 
 namespace velmaris::qt {
 
-/// A window over the main one, shown until the core hides it. Return presses its default button, Escape and the close
-/// button the one that gives up.
+/// A window over the main one, shown until the core hides it. Return presses its default button, or where it has none
+/// the button with the focus; Escape and the close button press the one that gives up.
 class Dialogue : public QDialog {
 public:
   /// Makes the widgets.
@@ -16,17 +16,21 @@ public:
 
   /// Shows it and waits until it is hidden.
   void Montre();
+  /// Shows it beside the main window, which goes on working.
+  void MontreACote();
 
   void reject() override;
 
 protected:
   void changeEvent(QEvent *event) override;
+  void keyPressEvent(QKeyEvent *event) override;
   void paintEvent(QPaintEvent *event) override;
 
 private:
   Scene &scene_;
   CadreFenetre &cadre_;
   Rendu rendu_;
+  bool parDefaut_ = false; ///< Return has a button of its own
 };
 
 } // namespace velmaris::qt

@@ -47,7 +47,9 @@ bool EcritOuChoisit(const QWidget &widget) {
 } // namespace
 
 Fenetre::Fenetre(Scene &scene)
-    : scene_(scene), bureau_(scene.bureau()), rendu_(scene, *this, ControlesDe(bureau_, kFenetreDonnees)) {
+    : scene_(scene), bureau_(scene.bureau()), rendu_(scene, *this, ControlesDe(bureau_, kFenetreDonnees)),
+      horloge_(this), libres_(scene, *this) {
+  horloge_.setObjectName("Timer1");
   const double f = PixelsParTwip(*this);
   resize(static_cast<int>(std::lround(bureau_.largeurFenetre * f)),
          static_cast<int>(std::lround(bureau_.hauteurFenetre * f)));
@@ -63,7 +65,17 @@ Fenetre::Fenetre(Scene &scene)
       scene_.Joue([this] { Timer1_Tick(bureau_); });
     }
   });
-  horloge_.start(kPeriodeTimer1);
+  AccordeHorloge();
+}
+
+/// The clock stands still when the core says so, and when the program has ended.
+void Fenetre::AccordeHorloge() {
+  const bool arretee = bureau_.horlogeArretee || bureau_.termine;
+  if (arretee) {
+    horloge_.stop();
+  } else if (!horloge_.isActive()) {
+    horloge_.start(kPeriodeTimer1);
+  }
 }
 
 /// The mouse over the drawing surface.
@@ -87,9 +99,8 @@ Toile &Fenetre::Dessin() { return dynamic_cast<Toile &>(*rendu_.WidgetDe(bureau_
 /// What the main window has beside its controls.
 void Fenetre::AccordeFenetre() {
   setWindowTitle(QString::fromStdString(bureau_.titre));
-  if (bureau_.termine) {
-    horloge_.stop();
-  }
+  AccordeHorloge();
+  libres_.Accorde();
   std::optional<QLineF> elastique;
   if (const auto branche = BrancheEnCours(bureau_)) {
     elastique = QLineF(branche->debut.x, branche->debut.y, branche->fin.x, branche->fin.y);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "shell/qt/Libres.hpp"
 #include "shell/qt/Rendu.hpp"
 
 #include <QTimer>
@@ -9,7 +10,7 @@ namespace velmaris::qt {
 
 class Toile;
 
-/// The main window: its controls, the clock, the function keys and the way out.
+/// The main window: its controls, the clock, the function keys and the way out, and the windows beside it.
 class Fenetre : public QWidget {
 public:
   /// Makes the widgets; the start sequence has run.
@@ -23,6 +24,7 @@ protected:
   void paintEvent(QPaintEvent *event) override;
 
 private:
+  void AccordeHorloge();
   void BrancheDessin();
   void AccordeFenetre();
   Toile &Dessin();
@@ -32,6 +34,7 @@ private:
   Bureau &bureau_;
   Rendu rendu_;
   QTimer horloge_;
+  Libres libres_;
 };
 
 } // namespace velmaris::qt

@@ -84,7 +84,9 @@ bool Boites::Montre(const Boite &boite) {
     return true;
   }
   QApplication::restoreOverrideCursor(); // a question is asked with the usual pointer
-  return MontreBoite(bureau_, boite, fenetre_);
+  // Over the window that the user is in: beside the main one it would hide under it.
+  QWidget *devant = fenetre_ == nullptr ? nullptr : QApplication::activeWindow();
+  return MontreBoite(bureau_, boite, devant == nullptr ? fenetre_ : devant);
 }
 
 void Boites::Ouvre(Scene &scene, QWidget &fenetre) {
@@ -92,7 +94,7 @@ void Boites::Ouvre(Scene &scene, QWidget &fenetre) {
   bureau_.ports.modale = [&scene, &fenetre](CadreFenetre &cadre) { Dialogue(scene, cadre, &fenetre).Montre(); };
   bureau_.ports.attend = [&scene] {
     scene.Accorde();
-    QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    QApplication::processEvents(QEventLoop::WaitForMoreEvents);
   };
   bureau_.ports.respire = [&scene] {
     scene.AccordePointeur();

@@ -186,10 +186,12 @@ void Rendu::Accorde() {
   AccordeGroupes();
 }
 
-void Rendu::DonneFocus(const Controle &controle) const {
-  if (QWidget *widget = WidgetDe(controle)) {
+bool Rendu::DonneFocus(const Controle &controle) const {
+  QWidget *widget = WidgetDe(controle);
+  if (widget != nullptr) {
     widget->setFocus(Qt::OtherFocusReason);
   }
+  return widget != nullptr;
 }
 
 void Rendu::Champ(QObject *objet, QEvent *event) {

@@ -38,8 +38,9 @@ public:
 
   /// Brings all widgets in line with their controls.
   void Accorde();
-  /// Gives the keyboard to the widget of a control, if it is one of this window.
-  void DonneFocus(const Controle &controle) const;
+  /// Gives the keyboard to the widget of a control.
+  /// @return false when it is none of this window
+  bool DonneFocus(const Controle &controle) const;
   /// Brings the window itself in line, its title at least.
   std::function<void()> AccordeFenetre = [] {};
 

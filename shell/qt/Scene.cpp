@@ -45,8 +45,12 @@ void Scene::Accorde() {
       rendu->Accorde();
     }
     if (const Controle *voulu = std::exchange(bureau_.focus, nullptr)) {
+      bool donne = false;
       for (Rendu *rendu : rendus) {
-        rendu->DonneFocus(*voulu);
+        donne = rendu->DonneFocus(*voulu) || donne;
+      }
+      if (!donne && bureau_.focus == nullptr) {
+        bureau_.focus = voulu; // its window isn't there yet
       }
     }
   }

@@ -7,6 +7,7 @@
 #include <QAbstractButton>
 #include <QCheckBox>
 #include <QComboBox>
+#include <QGroupBox>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QListWidget>
@@ -127,6 +128,9 @@ void PoseImage(QWidget &widget, const Controle &c) {
 }
 
 void PoseLegende(QWidget &widget, const Controle &c) {
+  if (auto *groupe = qobject_cast<QGroupBox *>(&widget)) {
+    groupe->setTitle(Legende(c));
+  }
   if (auto *label = qobject_cast<QLabel *>(&widget); label != nullptr && c.genre == Genre::Etiquette) {
     label->setText(CoupeLegende(Texte(c.legende), widget, widget.width(), widget.height()));
   } else if (auto *bouton = qobject_cast<QAbstractButton *>(&widget); bouton != nullptr) {
@@ -261,7 +265,7 @@ QWidget *CreeWidget(Bureau &bureau, const Controle &c, QWidget *parent) {
   case Genre::Cadre:
     return new Carte(c.titre, parent);
   case Genre::Groupe:
-    return new QWidget(parent);
+    return c.legende.empty() ? new QWidget(parent) : new QGroupBox(parent);
   case Genre::Etiquette:
     return CreeEtiquette(c, parent);
   case Genre::Champ: {
