@@ -46,7 +46,7 @@ void Ajoute(Utilisateur &u, Objet objet) {
     throw Erreur(kHorsTable);
   }
   if (!SeRelit(objet)) {
-    throw Erreur(kSansChamp);
+    throw Erreur(kSansChamp); // an empty latitude, say, which would end the next writing
   }
   u.List1.liste.push_back(objet.Nom);
   u.tables[n] = std::move(objet);
@@ -104,9 +104,6 @@ std::string LigneObjet(const Objet &objet) {
 Objet ObjetDeLigne(std::string_view ligne) {
   const PositionLieu position = DecoupePosition(ligne);
   const DetailsObjet details = DecoupeObjet(ligne, position.blanc);
-  if (position.latitude.empty()) {
-    throw Erreur(kSansChamp); // such an entry would end the next writing
-  }
   // After a latitude that is too long the place of the longitude reaches into the radius.
   const std::string_view longitude = position.longitude.substr(0, position.longitude.find(' '));
   return {std::string(position.latitude), std::string(longitude), Entier16(Val(details.rayon)),

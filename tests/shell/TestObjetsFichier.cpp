@@ -144,6 +144,14 @@ TEST_F(FichierObjets, CommentsAndCutFieldsAreSetAsideToo) {
   EXPECT_THAT(boites, IsEmpty());
 }
 
+TEST_F(FichierObjets, EmptyLinesAndLineEndsAreNotWorthSettingAside) {
+  OuvreSur("\r\n+43.50 -005.00 2 Est\r\n\r\n");
+  Nouveau("A");
+  Ferme();
+  EXPECT_EQ(Ecrit(), std::string(kBonne) + "+47.25 +05.50 4 A\n");
+  EXPECT_THAT(Autres(), IsEmpty());
+}
+
 TEST_F(FichierObjets, OneEntryTooManyIsARangeErrorAndEndsTheReading) {
   std::string octets;
   for (int i = 0; i < 2001; ++i) {
