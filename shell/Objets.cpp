@@ -146,7 +146,8 @@ void QuitteObjets(Bureau &bureau) {
   Decharge(bureau);
 }
 
-void ConstruitPosition(const Utilisateur &u, Objet &objet) {
+void ConstruitPosition(const Utilisateur &fenetre, Objet &objet) {
+  const Utilisateur &u = fenetre;
   objet.Latitude = TextePosition(u.OptN[0].choisi ? '+' : '-', u.Text8, u.Text9, u.Precision);
   objet.Longitude = TextePosition(u.OptE[0].choisi ? '-' : '+', u.Text6, u.Text7, u.Precision);
 }

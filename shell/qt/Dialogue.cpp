@@ -14,13 +14,21 @@
 #include <cmath>
 
 namespace velmaris::qt {
+namespace {
+
+/// Whether Return has a button of its own among the controls.
+bool AParDefaut(const Rendu &rendu) {
+  return std::any_of(rendu.liens().begin(), rendu.liens().end(),
+                     [](const Lien &lien) { return lien.controle->role == Role::Defaut; });
+}
+
+} // namespace
 
 Dialogue::Dialogue(Scene &scene, CadreFenetre &cadre, QWidget *parent)
-    : QDialog(parent), scene_(scene), cadre_(cadre), rendu_(scene, *this, ControlesDe(scene.bureau(), cadre.nom)) {
+    : QDialog(parent), scene_(scene), cadre_(cadre), rendu_(scene, *this, ControlesDe(scene.bureau(), cadre.nom)),
+      parDefaut_(AParDefaut(rendu_)) {
   const double f = PixelsParTwip(*this);
   setFixedSize(static_cast<int>(std::lround(cadre.largeur * f)), static_cast<int>(std::lround(cadre.hauteur * f)));
-  parDefaut_ = std::any_of(rendu_.liens().begin(), rendu_.liens().end(),
-                           [](const Lien &lien) { return lien.controle->role == Role::Defaut; });
   for (const Lien &lien : rendu_.liens()) {
     if (auto *bouton = qobject_cast<QPushButton *>(lien.widget)) {
       bouton->setAutoDefault(parDefaut_); // else the toolkit would give Return to the first one

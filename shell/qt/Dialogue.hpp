@@ -30,7 +30,7 @@ private:
   Scene &scene_;
   CadreFenetre &cadre_;
   Rendu rendu_;
-  bool parDefaut_ = false; ///< Return has a button of its own
+  bool parDefaut_; ///< Return has a button of its own
 };
 
 } // namespace velmaris::qt
