@@ -19,6 +19,8 @@ namespace {
 /// The editor of the objects in its window, beside the main one.
 class EditeurOuvert : public FenetreOuverte {
 protected:
+  EditeurOuvert() { LanguesSeules(); }
+
   void Ouvre(bool anglais = false) {
     FenetreOuverte::Ouvre(kPetitEcran, anglais);
     Joue([this] { ClicControle(bureau, d.Command21); });

@@ -43,6 +43,16 @@ protected:
     b.ports.nomMois = [](const ValeurDate &date) { return "month" + std::to_string(date.mois); };
   }
 
+  /// Beside the program lie the two languages and nothing else: neither outlines, nor cities, nor objects.
+  void LanguesSeules() {
+    const std::filesystem::path seul = dossier / "programme";
+    std::filesystem::create_directories(seul);
+    for (const char *nom : {"FR.txt", "EN.txt"}) {
+      std::filesystem::copy_file(std::filesystem::path(VELMARIS_DONNEES) / nom, seul / nom);
+    }
+    bureau.dossiers.programme = seul;
+  }
+
   void Demarre(const Ecran &ecran = {}) { Donnees_Charge(bureau, ecran); }
 
   /// Starts without "Toujours Visible": the sheet is looked at without the chart over it.

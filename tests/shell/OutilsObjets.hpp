@@ -14,6 +14,7 @@ namespace velmaris::essais {
 class AvecObjets : public Programme {
 protected:
   AvecObjets() {
+    LanguesSeules();
     Demarre();
     std::filesystem::create_directories(fichier.parent_path());
   }
