@@ -6,6 +6,8 @@ PROGRAMME=${1:-build/bin/velmaris} IMAGES=${2:-build/pictures}
 
 demarre
 image voyage-1-depart
+touche F4; sleep 0.3
+image voyage-1-monde
 visee_bretagne
 image voyage-2-visee
 touche space

@@ -6,6 +6,8 @@
 #include <QPainter>
 #include <QWheelEvent>
 
+#include <cmath>
+
 namespace velmaris::essais {
 namespace {
 
@@ -185,6 +187,44 @@ TEST_F(CarteOuverte, TheBusyPointerIsSeenWhileTheCoreSaysSoAndGoesAfterwards) {
   Joue([this] { bureau.pointeurOccupe = false; });
   EXPECT_EQ(QApplication::overrideCursor(), nullptr);
 }
+
+/// A place and what its chart must show.
+struct Lieu {
+  const char *nom;
+  Origine centre;
+  double milles;
+};
+
+class Bouts : public FenetreOuverte, public ::testing::WithParamInterface<Lieu> {};
+
+TEST_P(Bouts, TheChartIsDrawnThereAndNothingRunsAcrossIt) {
+  Ouvre(kGrandEcran);
+  const Lieu &lieu = GetParam();
+  Joue([&] {
+    Feuille &f = bureau.feuille;
+    f.OrigineFeuille = lieu.centre;
+    f.Zoom = static_cast<std::int16_t>(lieu.milles);
+    f.EchelleY = static_cast<float>(bureau.image1.hauteur / lieu.milles);
+    f.EchelleX = static_cast<float>(f.EchelleY * std::cos(lieu.centre.latitude * 3.14159265 / 180));
+    Donnees_KeyDown(bureau, 115);
+  });
+  EXPECT_TRUE(boites.empty());
+  const double mille = bureau.feuille.EchelleY;
+  std::size_t cotes = 0;
+  for (const Segment &s : Segments(bureau.image1)) {
+    EXPECT_LT(std::hypot(s.fin.x - s.debut.x, s.fin.y - s.debut.y), 62 * mille);
+    ++cotes;
+  }
+  EXPECT_GT(cotes, 200U);
+  Image(QString("carte-%1").arg(lieu.nom));
+}
+
+INSTANTIATE_TEST_SUITE_P(DuMonde, Bouts,
+                         ::testing::Values(Lieu{"fidji", {-17.0F, -179.5F}, 400},
+                                           Lieu{"groenland", {82.5F, 35.0F}, 600},
+                                           Lieu{"tchoukotka", {66.0F, 178.0F}, 800},
+                                           Lieu{"antilles", {15.0F, 61.5F}, 400}),
+                         [](const auto &cas) { return std::string(cas.param.nom); });
 
 /// What is recorded, painted at a number of pixels per 1/1440 inch.
 QImage Peint(const Surface &surface, double facteur, QSize taille) {
