@@ -46,6 +46,12 @@ PlaceCarte PlaceSousPoint(const Feuille &feuille, Point point) {
           reference.longitude - Divise(point.x - feuille.CentreX, feuille.EchelleX) / 60};
 }
 
+Point PointDePlace(const Feuille &feuille, double latitude, double longitude) {
+  const PlaceCarte reference = ReferenceCarte(feuille);
+  return {feuille.CentreX + (reference.longitude - longitude) * feuille.EchelleX * 60,
+          feuille.CentreY + (reference.latitude - latitude) * feuille.EchelleY * 60};
+}
+
 Origine Enroule(Origine centre) {
   if (centre.longitude < -180.0F) {
     centre.longitude += 360.0F;

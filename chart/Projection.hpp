@@ -36,6 +36,10 @@ PlaceCarte ReferenceCarte(const Feuille &feuille);
 /// @throws Erreur 11 while there is no scale
 PlaceCarte PlaceSousPoint(const Feuille &feuille, Point point);
 
+/// Where a place lies on the surface, by the same reference and scales as the mouse.
+/// @param latitude, longitude  degrees, north and west positive
+Point PointDePlace(const Feuille &feuille, double latitude, double longitude);
+
 /// A centre brought back within 180 degrees of longitude and 90 of latitude, by one turn. Over a pole the place goes to
 /// the other end of the scale, not over the pole.
 Origine Enroule(Origine centre);

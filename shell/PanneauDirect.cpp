@@ -1,5 +1,6 @@
 #include "shell/PanneauDirect.hpp"
 
+#include "chart/Projection.hpp"
 #include "ephemerides/pLANETE.hpp"
 #include "foundations/CelHor.hpp"
 #include "foundations/Erreur.hpp"
@@ -134,10 +135,10 @@ void TraceCadrans(Bureau &bureau, double azimut, double hauteur) {
 void PlaceMarqueSoleil(Bureau &bureau) {
   Controle &marque = bureau.donnees.Soleil;
   marque.place.gauche = kHorsDeVue;
-  if (bureau.feuille.OrigineFeuille == kSansFeuille) {
-    return;
+  if (bureau.feuille.EchelleX == 0.0F || bureau.feuille.EchelleY == 0.0F) {
+    return; // nothing has been drawn yet
   }
-  const Point p = PlaceSurFeuille(bureau.feuille, bureau.soleil.LatSoleil, bureau.soleil.LonSoleil);
+  const Point p = PointDePlace(bureau.feuille, bureau.soleil.LatSoleil, bureau.soleil.LonSoleil);
   if (p.x >= 0 && p.x <= bureau.image1.largeur && p.y >= 0 && p.y <= bureau.image1.hauteur) {
     marque.place.gauche = p.x - marque.place.largeur / 2;
     marque.place.haut = p.y - marque.place.hauteur / 2;

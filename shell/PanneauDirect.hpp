@@ -31,7 +31,7 @@ void PositionPlaneteLive(Bureau &bureau);
 /// @param azimut, hauteur  degrees
 void TraceCadrans(Bureau &bureau, double azimut, double hauteur);
 
-/// Puts the Sun's mark at the sub-solar point of the sheet, or out of view when it lies off the sheet.
+/// Puts the Sun's mark at the sub-solar point on the sheet or the chart, or out of view when it lies off the surface.
 void PlaceMarqueSoleil(Bureau &bureau);
 
 } // namespace velmaris

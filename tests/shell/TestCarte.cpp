@@ -1,5 +1,7 @@
 #include "OutilsCarte.hpp"
 
+#include "chart/Projection.hpp"
+
 #include <algorithm>
 
 namespace velmaris::essais {
@@ -289,6 +291,20 @@ TEST_F(Carte, WithToujoursVisibleCalculZoomAndGridDrawTheChart) {
   EXPECT_EQ(carte(), 1);
   ClicControle(bureau, d.Command14);
   EXPECT_EQ(carte(), 1);
+}
+
+TEST_F(Carte, TheSunStandsOverTheWholeWorldAtItsSubsolarPointOnTheScalesOfTheMouse) {
+  ClicControle(bureau, d.Command7);
+  EXPECT_EQ(d.Soleil.place.gauche, kHorsDeVue) << "nothing has been drawn yet";
+  OuvreCartes(bureau);
+  Timer1_Tick(bureau);
+  const Point milieu{d.Soleil.place.gauche + d.Soleil.place.largeur / 2,
+                     d.Soleil.place.haut + d.Soleil.place.hauteur / 2};
+  const PlaceCarte place = PlaceSousPoint(bureau.feuille, milieu);
+  EXPECT_NEAR(place.latitude, bureau.soleil.LatSoleil, 1e-6);
+  EXPECT_NEAR(place.longitude, bureau.soleil.LonSoleil, 1e-6);
+  EXPECT_NEAR(place.latitude, 23.4, 0.1) << "the longest day";
+  EXPECT_NEAR(place.longitude, 1.0, 1.0) << "five minutes past noon at Greenwich";
 }
 
 TEST_F(Carte, TheChartIsNotDrawnAtStart) { EXPECT_TRUE(bureau.image1.traces.empty()); }
