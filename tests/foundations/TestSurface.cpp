@@ -106,5 +106,47 @@ TEST(DrawingSurface, ClearingEmptiesTheListAndKeepsThePen) {
   EXPECT_EQ(s.effacements, 2U);
 }
 
+TEST(DrawingSurface, ALiftedPenStartsAPolylineOfItsOwn) {
+  Surface surface;
+  Ligne(surface, {0, 0}, {10, 0}, kNoir);
+  surface.plumeLevee = true;
+  Ligne(surface, {10, 0}, {20, 0}, kNoir);
+  Ligne(surface, {20, 0}, {30, 0}, kNoir);
+  ASSERT_EQ(surface.traces.size(), 2U);
+  EXPECT_EQ(std::get<Polyligne>(surface.traces[1]).points.size(), 3U);
+}
+
+/// A layer of a line, a circle and a text.
+void Couche(Surface &surface, double x) {
+  surface.plumeLevee = true;
+  Ligne(surface, {x, 0}, {x + 10, 5}, kNoir);
+  Cercle(surface, {x, 3}, 4, kRouge);
+  EcritEn(surface, {x, 1}, "Brest");
+}
+
+TEST(DrawingSurface, ALayerThatRepeatsTheOneRightBeforeItIsDropped) {
+  Surface surface;
+  Couche(surface, 1);
+  Couche(surface, 7);
+  Couche(surface, 7);
+  EXPECT_TRUE(RetireRepetition(surface, 3, 6));
+  EXPECT_EQ(surface.traces.size(), 6U);
+}
+
+TEST(DrawingSurface, ALayerThatDiffersInAnythingStays) {
+  Surface surface;
+  Couche(surface, 7);
+  Couche(surface, 8);
+  EXPECT_FALSE(RetireRepetition(surface, 0, 3));
+  EXPECT_EQ(surface.traces.size(), 6U);
+  Surface courte;
+  Couche(courte, 7);
+  Couche(courte, 7);
+  Ligne(courte, {0, 0}, {1, 1}, kNoir);
+  EXPECT_FALSE(RetireRepetition(courte, 0, 3)) << "it goes on after the repetition";
+  Surface vide;
+  EXPECT_FALSE(RetireRepetition(vide, 0, 0));
+}
+
 } // namespace
 } // namespace velmaris
