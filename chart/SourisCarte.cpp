@@ -4,6 +4,7 @@
 #include "foundations/TexteNombre.hpp"
 
 #include <cmath>
+#include <ranges>
 
 namespace velmaris {
 namespace {
@@ -79,8 +80,8 @@ void TraceBranche(SourisCarte &souris, Surface &surface) {
 
 void EffaceBranches(SourisCarte &souris, Surface &surface) {
   if (souris.effacements == surface.effacements && !souris.traces.empty()) {
-    for (auto rang = souris.traces.rbegin(); rang != souris.traces.rend(); ++rang) {
-      surface.traces.erase(surface.traces.begin() + static_cast<std::ptrdiff_t>(*rang));
+    for (const std::size_t rang : std::views::reverse(souris.traces)) {
+      surface.traces.erase(surface.traces.begin() + static_cast<std::ptrdiff_t>(rang));
     }
     ++surface.effacements;
   }

@@ -187,6 +187,12 @@ void RemplitListe(QListWidget &liste, const Controle &c, const Controle &vu, boo
   }
 }
 
+void PosePointeur(QWidget &widget, const Controle &c, const Controle &vu) {
+  if (c.pointeur != vu.pointeur) {
+    widget.setCursor(c.pointeur == Pointeur::Croix ? Qt::CrossCursor : Qt::ArrowCursor);
+  }
+}
+
 /// Text, value or choice of a control that the user fills.
 void PoseContenu(QWidget &widget, const Controle &c, const Controle &vu, bool tout) {
   const QSignalBlocker silence(&widget);
@@ -321,9 +327,7 @@ void AccordeWidget(QWidget &widget, const Controle &c, const Controle &vu, bool 
   if (widget.toolTip() != infobulle) {
     widget.setToolTip(infobulle);
   }
-  if (c.pointeur != vu.pointeur) {
-    widget.setCursor(c.pointeur == Pointeur::Croix ? Qt::CrossCursor : Qt::ArrowCursor);
-  }
+  PosePointeur(widget, c, vu);
   if (tout || c.actif != vu.actif) {
     widget.setEnabled(c.actif);
   }
