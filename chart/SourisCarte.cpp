@@ -3,8 +3,8 @@
 #include "foundations/Erreur.hpp"
 #include "foundations/TexteNombre.hpp"
 
+#include <algorithm>
 #include <cmath>
-#include <ranges>
 
 namespace velmaris {
 namespace {
@@ -80,9 +80,9 @@ void TraceBranche(SourisCarte &souris, Surface &surface) {
 
 void EffaceBranches(SourisCarte &souris, Surface &surface) {
   if (souris.effacements == surface.effacements && !souris.traces.empty()) {
-    for (const std::size_t rang : std::views::reverse(souris.traces)) {
+    std::for_each(souris.traces.rbegin(), souris.traces.rend(), [&](std::size_t rang) {
       surface.traces.erase(surface.traces.begin() + static_cast<std::ptrdiff_t>(rang));
-    }
+    });
     ++surface.effacements;
   }
   souris.traces.clear();
