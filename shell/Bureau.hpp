@@ -70,6 +70,7 @@ struct Bureau {
   std::string titre = "Velmaris 2009"; ///< of the main window
   const Controle *focus = nullptr;     ///< control that asks for the focus
   const Controle *menu = nullptr;      ///< menu that asks to be opened at the pointer
+  bool nuit = false;                   ///< everything is painted in red on black
   bool pointeurOccupe = false;         ///< the pointer tells that the program works
   bool termine = false;                ///< the exit sequence has run
   std::string_view premierPlan;        ///< name of the window that asks to come to the front

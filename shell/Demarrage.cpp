@@ -10,6 +10,7 @@
 #include "shell/Langage.hpp"
 #include "shell/MemoireDroites.hpp"
 #include "shell/ModesDroite.hpp"
+#include "shell/Nuit.hpp"
 #include "shell/Objets.hpp"
 #include "shell/PanneauDirect.hpp"
 #include "shell/Saisie.hpp"
@@ -98,6 +99,7 @@ void Donnees_Charge(Bureau &bureau, const Ecran &ecran) {
   if (!bureau.valeurs) {
     bureau.valeurs = std::make_unique<Valeurs>(bureau.dossiers.utilisateur / "valeurs.sqlite");
   }
+  LitNuit(bureau);
   DisposeFenetre(bureau, ecran);
   d.ImAstre[0].image = d.Soleil.image;
   bureau.TitreFichier = bureau.messages[9];

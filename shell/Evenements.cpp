@@ -8,6 +8,7 @@
 #include "shell/Fichiers.hpp"
 #include "shell/ModesDroite.hpp"
 #include "shell/Modules.hpp"
+#include "shell/Nuit.hpp"
 #include "shell/Objets.hpp"
 #include "shell/Route.hpp"
 #include "shell/Saisie.hpp"
@@ -141,6 +142,7 @@ constexpr Abonnement kDonnees[] = {
     {"PU_E", Evenement::Clic, Command22_Click},
     {"PU_Caps", Evenement::Clic, Command9_Click},
     {"PU_Clear", Evenement::Clic, PU_Clear_Click},
+    {"PU_Nuit", Evenement::Clic, PU_Nuit_Click},
     {"PU_Quitter", Evenement::Clic, Sortie_Click},
 };
 

@@ -1,6 +1,7 @@
 #include "shell/qt/Dialogue.hpp"
 
 #include "shell/Evenements.hpp"
+#include "shell/qt/Nuit.hpp"
 #include "shell/qt/Toile.hpp"
 #include "shell/qt/Widgets.hpp"
 
@@ -85,7 +86,7 @@ void Dialogue::keyPressEvent(QKeyEvent *event) {
 
 void Dialogue::paintEvent(QPaintEvent *event) {
   QPainter p(this);
-  p.fillRect(event->rect(), kFondFenetre);
+  p.fillRect(event->rect(), TeintesDe(EstNuit()).fenetre);
 }
 
 } // namespace velmaris::qt

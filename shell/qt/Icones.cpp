@@ -1,5 +1,7 @@
 #include "shell/qt/Icones.hpp"
 
+#include "shell/qt/Nuit.hpp"
+
 #include <QIconEngine>
 #include <QPainter>
 #include <QPainterPath>
@@ -283,16 +285,11 @@ public:
   explicit MoteurIcone(void (*trace)(QPainter &)) : trace_(trace) {}
 
   void paint(QPainter *painter, const QRect &rect, QIcon::Mode mode, QIcon::State /*state*/) override {
-    painter->save();
-    painter->setRenderHint(QPainter::Antialiasing);
-    const double cote = std::min(rect.width(), rect.height());
-    painter->translate(rect.x() + (rect.width() - cote) / 2, rect.y() + (rect.height() - cote) / 2);
-    painter->scale(cote / kCote, cote / kCote);
-    painter->setOpacity(mode == QIcon::Disabled ? 0.35 : 1.0);
-    painter->setPen(Trait());
-    painter->setBrush(Qt::NoBrush);
-    trace_(*painter);
-    painter->restore();
+    if (EstNuit()) {
+      PeintNuit(*painter, rect, mode);
+    } else {
+      Peint(*painter, rect, mode);
+    }
   }
 
   QPixmap pixmap(const QSize &size, QIcon::Mode mode, QIcon::State state) override {
@@ -306,6 +303,31 @@ public:
   QIconEngine *clone() const override { return new MoteurIcone(*this); }
 
 private:
+  void Peint(QPainter &painter, const QRect &rect, QIcon::Mode mode) const {
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    const double cote = std::min(rect.width(), rect.height());
+    painter.translate(rect.x() + (rect.width() - cote) / 2, rect.y() + (rect.height() - cote) / 2);
+    painter.scale(cote / kCote, cote / kCote);
+    painter.setOpacity(mode == QIcon::Disabled ? 0.35 : 1.0);
+    painter.setPen(Trait());
+    painter.setBrush(Qt::NoBrush);
+    trace_(painter);
+    painter.restore();
+  }
+
+  void PeintNuit(QPainter &painter, const QRect &rect, QIcon::Mode mode) const {
+    const double densite = painter.device()->devicePixelRatioF();
+    QImage image(rect.size() * densite, QImage::Format_ARGB32_Premultiplied);
+    image.setDevicePixelRatio(densite);
+    image.fill(Qt::transparent);
+    QPainter apart(&image);
+    Peint(apart, QRect(QPoint(0, 0), rect.size()), mode);
+    apart.end();
+    RougitImage(image);
+    painter.drawImage(rect.topLeft(), image);
+  }
+
   void (*trace_)(QPainter &);
 };
 

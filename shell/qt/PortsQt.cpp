@@ -1,6 +1,7 @@
 #include "shell/qt/PortsQt.hpp"
 
 #include "shell/qt/Dialogue.hpp"
+#include "shell/qt/Nuit.hpp"
 
 #include <QApplication>
 #include <QDate>
@@ -42,6 +43,7 @@ QMessageBox::Icon IconeQt(Icone icone) {
 
 bool MontreBoite(const Bureau &bureau, const Boite &boite, QWidget *parent) {
   const Donnees &d = bureau.donnees;
+  AccordeNuit(bureau.nuit);
   QMessageBox qt(parent);
   qt.setWindowTitle(QString::fromStdString(boite.titre));
   qt.setTextFormat(Qt::PlainText);

@@ -1,6 +1,7 @@
 #include "shell/qt/Rendu.hpp"
 
 #include "shell/Evenements.hpp"
+#include "shell/qt/Nuit.hpp"
 #include "shell/qt/Toile.hpp"
 #include "shell/qt/Widgets.hpp"
 
@@ -15,6 +16,8 @@
 #include <QListWidget>
 #include <QRadioButton>
 #include <QSlider>
+
+#include <utility>
 
 namespace velmaris::qt {
 
@@ -176,8 +179,12 @@ void Rendu::AccordeGroupes() {
 }
 
 void Rendu::Accorde() {
+  const bool change = std::exchange(nuit_, EstNuit()) != EstNuit() || premier_;
   for (Lien &lien : liens_) {
     AccordeWidget(lien, premier_);
+    if (change && lien.widget != nullptr) {
+      AccordeTeintes(*lien.widget, *lien.controle);
+    }
     if (auto *toile = dynamic_cast<Toile *>(lien.widget)) {
       toile->Accorde();
     }

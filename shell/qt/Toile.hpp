@@ -29,9 +29,10 @@ QColor CouleurQt(Couleur couleur);
 /// @param painter    scaled to the toolkit's pixels
 /// @param facteur    pixels per 1/1440 inch
 /// @param premier    first recorded trace to paint
+/// @param nuit       in red on black
 /// @param figures    places of the coloured figures on the image, of this call and those before
 void PeintTraces(QPainter &painter, const Surface &surface, double facteur, std::size_t premier,
-                 std::vector<QRectF> &figures);
+                 std::vector<QRectF> &figures, bool nuit = false);
 
 /// Shows a recorded surface: it is painted once into an image at the screen's resolution, then only what is appended.
 class Toile : public QWidget {
@@ -72,6 +73,7 @@ private:
   std::size_t traces_ = 0;
   std::vector<QRectF> figures_;
   std::size_t points_ = 0; ///< of the last trace painted, which may have grown since
+  bool nuit_ = false;      ///< the image is painted by night
   std::optional<QLineF> elastique_;
   QPointF presseDroite_; ///< where the right button went down
   int molette_ = 0;      ///< eighths of a degree that make no whole notch yet
