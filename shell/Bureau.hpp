@@ -10,6 +10,7 @@
 #include "lines/Feuille.hpp"
 #include "lines/FichierLoP.hpp"
 #include "lines/Transport.hpp"
+#include "shell/Ciel.hpp"
 #include "shell/Donnees.hpp"
 #include "shell/FSelect.hpp"
 #include "shell/Impression.hpp"
@@ -65,6 +66,8 @@ struct Bureau {
   FSelect fselect;
   Impression impression;
   Utilisateur utilisateur;
+  Ciel ciel;
+  Ecran ecran;                         ///< that it has started on
   double largeurFenetre = 0.0;         ///< of the main window, 1/1440 inch
   double hauteurFenetre = 0.0;         ///< of the main window, 1/1440 inch
   std::string titre = "Velmaris 2009"; ///< of the main window

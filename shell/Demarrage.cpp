@@ -5,6 +5,7 @@
 #include "shell/Carte.hpp"
 #include "shell/Disposition.hpp"
 #include "shell/Droites.hpp"
+#include "shell/EcranCiel.hpp"
 #include "shell/Evenements.hpp"
 #include "shell/FichierObjets.hpp"
 #include "shell/Langage.hpp"
@@ -99,6 +100,7 @@ void Donnees_Charge(Bureau &bureau, const Ecran &ecran) {
   if (!bureau.valeurs) {
     bureau.valeurs = std::make_unique<Valeurs>(bureau.dossiers.utilisateur / "valeurs.sqlite");
   }
+  bureau.ecran = ecran;
   LitNuit(bureau);
   DisposeFenetre(bureau, ecran);
   d.ImAstre[0].image = d.Soleil.image;
@@ -122,7 +124,7 @@ void Donnees_Charge(Bureau &bureau, const Ecran &ecran) {
   PoseTexte(bureau, d.Combo3, d.Text3.texte);
   PoseTexte(bureau, d.Combo2, d.Text4.texte);
   PoseTexte(bureau, d.Combo4, d.Text4.texte);
-  PosSoleil(bureau, false);
+  PosSoleil(bureau, false, false);
   ChargeEtoiles(bureau.etoiles, d.Combo6.liste);
   if (ecran.pixelsHaut < kPixelsCompacts) {
     DispositionCompacte(d);
@@ -193,6 +195,7 @@ void Sortie_Click(Bureau &bureau, int /*indice*/) {
   }
   bureau.valeurs->Ensemble([&] { GardeReglages(bureau); });
   SignaleMagasin(bureau);
+  Ciel_Ferme(bureau);
   bureau.fselect.cadre.visible = false;
   QuitteObjets(bureau);
   bureau.termine = true;

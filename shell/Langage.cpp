@@ -23,6 +23,7 @@ bool AUneLegende(Genre genre) {
   case Genre::Curseur:
   case Genre::Image:
   case Genre::Separateur:
+  case Genre::Marque:
     return false;
   default:
     return true;

@@ -7,15 +7,20 @@
 #include <QDate>
 #include <QEventLoop>
 #include <QFile>
+#include <QFont>
+#include <QFontMetricsF>
 #include <QLocale>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QScreen>
 #include <QWidget>
 
 #include <utility>
 
 namespace velmaris::qt {
 namespace {
+
+constexpr double kTwipsParPouce = 1440.0;
 
 QLocale Langue(const Bureau &bureau) {
   const QLocale systeme = QLocale::system();
@@ -71,6 +76,14 @@ Boites::Boites(Bureau &bureau) : bureau_(bureau) {
   bureau.ports.jette = [](const std::filesystem::path &fichier) {
     const QString nom = QString::fromStdString(fichier.string());
     return QFile::moveToTrash(nom) || QFile::remove(nom);
+  };
+  bureau.ports.largeurTexte = [](const std::string &texte, double taille, bool gras) {
+    QFont police = QApplication::font();
+    police.setPointSizeF(taille);
+    police.setBold(gras);
+    const QScreen *ecran = QGuiApplication::primaryScreen();
+    return QFontMetricsF(police).horizontalAdvance(QString::fromStdString(texte)) * kTwipsParPouce /
+           ecran->logicalDotsPerInch();
   };
   bureau.ports.nomJour = [&bureau](const ValeurDate &date) {
     return Langue(bureau).dayName(JourSemaine(date) == 0 ? 7 : JourSemaine(date)).toStdString();

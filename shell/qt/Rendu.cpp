@@ -3,6 +3,7 @@
 #include "shell/Evenements.hpp"
 #include "shell/qt/Nuit.hpp"
 #include "shell/qt/Toile.hpp"
+#include "shell/qt/ToileCiel.hpp"
 #include "shell/qt/Widgets.hpp"
 
 #include <QAbstractButton>
@@ -35,6 +36,10 @@ void Rendu::CreeWidgets(const ListeControles &controles) {
   QWidget *precedent = nullptr;
   for (Controle *c : controles) {
     const Lien *parent = Trouve(c->parent, -1);
+    if (auto *ciel = dynamic_cast<ToileCiel *>(parent == nullptr ? nullptr : parent->widget)) {
+      ciel->Ajoute(*c);
+      continue;
+    }
     QWidget *widget = CreeWidget(bureau_, *c, parent == nullptr ? &fenetre_ : parent->widget);
     liens_.push_back({c, widget, {}});
     if (widget == nullptr) {

@@ -40,7 +40,7 @@ public:
   Toile(const Surface &surface, QWidget *parent);
 
   /// Brings the image in line with the record.
-  void Accorde();
+  virtual void Accorde();
 
   /// A line that is seen over the image without being part of it, in 1/1440 inch.
   void MontreElastique(const std::optional<QLineF> &ligne);

@@ -4,6 +4,7 @@
 #include "shell/qt/Icones.hpp"
 #include "shell/qt/Nuit.hpp"
 #include "shell/qt/Toile.hpp"
+#include "shell/qt/ToileCiel.hpp"
 
 #include <QAbstractButton>
 #include <QApplication>
@@ -280,6 +281,9 @@ void Renvoi::paintEvent(QPaintEvent *event) {
 QWidget *CreeWidget(Bureau &bureau, const Controle &c, QWidget *parent) {
   switch (c.genre) {
   case Genre::Surface:
+    if (&c == &bureau.ciel.Picture1) {
+      return new ToileCiel(bureau.ciel, parent);
+    }
     return new Toile(*SurfaceDe(bureau, c), parent);
   case Genre::Cadre:
     return new Carte(c.titre, parent);
@@ -307,6 +311,7 @@ QWidget *CreeWidget(Bureau &bureau, const Controle &c, QWidget *parent) {
     return CreeCurseur(c, parent);
   case Genre::Image:
     return CreeImage(c, parent);
+  case Genre::Marque: // the sky's chart paints its own
   case Genre::Texte:
   case Genre::Menu:
   case Genre::Entree:
