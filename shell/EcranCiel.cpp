@@ -1,6 +1,7 @@
 #include "shell/EcranCiel.hpp"
 
 #include "foundations/Erreur.hpp"
+#include "shell/DessinCiel.hpp"
 #include "shell/Evenements.hpp"
 #include "shell/Langage.hpp"
 
@@ -54,7 +55,7 @@ void Ciel_Charge(Bureau &bureau) {
   for (std::size_t i = 1; i <= kEtoilesCiel; ++i) {
     Controle &label = c.Laet[i];
     label.etiquette = std::to_string(kBlanc);
-    label.legende = bureau.etoiles.EtoileNom[i];
+    PoseMots(bureau.ports, label, bureau.etoiles.EtoileNom[i]);
     label.infobulle = bureau.etoiles.EtoileBayer[i];
   }
   Dispose(c, c.cadre.largeur, c.cadre.hauteur);
@@ -87,8 +88,6 @@ void Ciel_EcritLangue(Bureau &bureau) {
                         .icone = Icone::Attention});
   }
 }
-
-void TraceCiel(Bureau & /*bureau*/) {}
 
 namespace ciel {
 
