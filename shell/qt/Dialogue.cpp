@@ -29,7 +29,8 @@ Dialogue::Dialogue(Scene &scene, CadreFenetre &cadre, QWidget *parent, bool etir
     : QDialog(parent), scene_(scene), cadre_(cadre), rendu_(scene, *this, ControlesDe(scene.bureau(), cadre.nom)),
       parDefaut_(AParDefaut(rendu_)) {
   const double f = PixelsParTwip(*this);
-  const QSize taille(static_cast<int>(std::lround(cadre.largeur * f)), static_cast<int>(std::lround(cadre.hauteur * f)));
+  const QSize taille(static_cast<int>(std::lround(cadre.largeur * f)),
+                     static_cast<int>(std::lround(cadre.hauteur * f)));
   etirable ? resize(taille) : setFixedSize(taille);
   for (const Lien &lien : rendu_.liens()) {
     if (auto *bouton = qobject_cast<QPushButton *>(lien.widget)) {

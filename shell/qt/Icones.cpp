@@ -280,6 +280,20 @@ constexpr Dessin kDessins[] = {{"sauve", Sauve},
                                {"drapeau-fr", DrapeauFr},
                                {"drapeau-en", DrapeauEn}};
 
+/// A picture by day.
+void Peint(QPainter &painter, const QRect &rect, QIcon::Mode mode, void (*trace)(QPainter &)) {
+  painter.save();
+  painter.setRenderHint(QPainter::Antialiasing);
+  const double cote = std::min(rect.width(), rect.height());
+  painter.translate(rect.x() + (rect.width() - cote) / 2, rect.y() + (rect.height() - cote) / 2);
+  painter.scale(cote / kCote, cote / kCote);
+  painter.setOpacity(mode == QIcon::Disabled ? 0.35 : 1.0);
+  painter.setPen(Trait());
+  painter.setBrush(Qt::NoBrush);
+  trace(painter);
+  painter.restore();
+}
+
 class MoteurIcone : public QIconEngine {
 public:
   explicit MoteurIcone(void (*trace)(QPainter &)) : trace_(trace) {}
@@ -288,7 +302,7 @@ public:
     if (EstNuit()) {
       PeintNuit(*painter, rect, mode);
     } else {
-      Peint(*painter, rect, mode);
+      Peint(*painter, rect, mode, trace_);
     }
   }
 
@@ -303,26 +317,13 @@ public:
   QIconEngine *clone() const override { return new MoteurIcone(*this); }
 
 private:
-  void Peint(QPainter &painter, const QRect &rect, QIcon::Mode mode) const {
-    painter.save();
-    painter.setRenderHint(QPainter::Antialiasing);
-    const double cote = std::min(rect.width(), rect.height());
-    painter.translate(rect.x() + (rect.width() - cote) / 2, rect.y() + (rect.height() - cote) / 2);
-    painter.scale(cote / kCote, cote / kCote);
-    painter.setOpacity(mode == QIcon::Disabled ? 0.35 : 1.0);
-    painter.setPen(Trait());
-    painter.setBrush(Qt::NoBrush);
-    trace_(painter);
-    painter.restore();
-  }
-
   void PeintNuit(QPainter &painter, const QRect &rect, QIcon::Mode mode) const {
     const double densite = painter.device()->devicePixelRatioF();
     QImage image(rect.size() * densite, QImage::Format_ARGB32_Premultiplied);
     image.setDevicePixelRatio(densite);
     image.fill(Qt::transparent);
     QPainter apart(&image);
-    Peint(apart, QRect(QPoint(0, 0), rect.size()), mode);
+    Peint(apart, QRect(QPoint(0, 0), rect.size()), mode, trace_);
     apart.end();
     RougitImage(image);
     painter.drawImage(rect.topLeft(), image);
@@ -340,6 +341,19 @@ QIcon Icone(std::string_view nom) {
     }
   }
   return {};
+}
+
+QImage ImageJour(std::string_view nom, int cote, double densite) {
+  QImage image(QSize(cote, cote) * densite, QImage::Format_ARGB32_Premultiplied);
+  image.setDevicePixelRatio(densite);
+  image.fill(Qt::transparent);
+  QPainter painter(&image);
+  for (const Dessin &dessin : kDessins) {
+    if (dessin.nom == nom) {
+      Peint(painter, QRect(0, 0, cote, cote), QIcon::Normal, dessin.trace);
+    }
+  }
+  return image;
 }
 
 } // namespace velmaris::qt

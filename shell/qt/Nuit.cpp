@@ -173,12 +173,13 @@ QColor EncreDeNuit(const QColor &encre, const QColor &fond) {
   return rouge;
 }
 
-void RougitImage(QImage &image) {
+void RougitImage(QImage &image, const QColor &fond) {
+  const auto rouge = Clarte(fond.rgb()) < 0.5 ? RougeSurSombre : RougeSurClair;
   image.convertTo(QImage::Format_ARGB32);
   for (int y = 0; y < image.height(); ++y) {
     auto *ligne = reinterpret_cast<QRgb *>(image.scanLine(y)); // NOLINT(*-reinterpret-cast)
     for (QRgb &c : std::span(ligne, static_cast<std::size_t>(image.width()))) {
-      c = qRgba(static_cast<int>(RougeSurClair(c)), 0, 0, qAlpha(c));
+      c = qRgba(static_cast<int>(rouge(c)), 0, 0, qAlpha(c));
     }
   }
 }

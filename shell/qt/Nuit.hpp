@@ -29,8 +29,9 @@ QColor FondDeNuit(const QColor &fond);
 /// own colour is as little to be seen as by day.
 QColor EncreDeNuit(const QColor &encre, const QColor &fond = Qt::white);
 
-/// A picture on a light ground, in its night shades.
-void RougitImage(QImage &image);
+/// A picture in its night shades.
+/// @param fond  the ground that it is seen on by day
+void RougitImage(QImage &image, const QColor &fond = Qt::white);
 
 /// The look of all the toolkit draws, by day and by night.
 class Apparat : public QProxyStyle {

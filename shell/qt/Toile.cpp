@@ -93,10 +93,11 @@ struct Peintre {
         ligne.points.size() == 2 && (ligne.points[0].x == ligne.points[1].x || ligne.points[0].y == ligne.points[1].y);
     painter.setRenderHint(QPainter::Antialiasing, !droite);
     QPen pen = painter.pen();
-    if (FautLisere(CouleurQt(ligne.plume.couleur), fond) && nuit) {
+    const bool faible = FautLisere(CouleurQt(ligne.plume.couleur), fond);
+    if (faible && nuit) {
       pen.setWidthF(pen.widthF() + 1);
       painter.setPen(pen);
-    } else if (FautLisere(pen.color(), fond)) {
+    } else if (faible) {
       painter.setPen(QPen(kLisere, pen.widthF() + 2));
       painter.drawPolyline(points);
       painter.setPen(QPen(pen.color(), pen.widthF() + 0.5));

@@ -2,10 +2,11 @@
 
 #include "shell/qt/Icones.hpp"
 #include "shell/qt/Nuit.hpp"
+#include "sky/LettreGrecque.hpp"
 
 #include <QApplication>
 #include <QHelpEvent>
-#include <QIcon>
+#include <QImage>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
@@ -16,7 +17,7 @@
 namespace velmaris::qt {
 namespace {
 
-constexpr double kPrise = 4;      ///< pixels around a mark that still take the pointer
+constexpr double kPrise = 4;          ///< pixels around a mark that still take the pointer
 constexpr double kGrandeMarque = 150; ///< 1/1440 inch from which a mark has a broad border
 
 QString Texte(const std::string &texte) { return QString::fromStdString(texte); }
@@ -161,11 +162,20 @@ void ToileCiel::PeintEtiquette(QPainter &painter, const Controle &etiquette) con
     const QColor fond = CouleurQt(etiquette.fond);
     painter.fillRect(zone.adjusted(-2, 0, 2, 0), EstNuit() ? FondDeNuit(fond) : fond);
   }
-  const bool eclaire = Eclaire(etiquette) && EstNuit();
+  const bool eclaire = Eclaire(etiquette);
   painter.setFont(PoliceDe(etiquette, eclaire));
-  painter.setPen(Encre(eclaire ? kBlanc : etiquette.couleur));
+  painter.setPen(Encre(eclaire && EstNuit() ? kBlanc : etiquette.couleur));
   painter.drawText(zone, static_cast<int>(Qt::AlignCenter) | static_cast<int>(Qt::TextDontClip),
                    Texte(etiquette.legende));
+}
+
+void ToileCiel::PeintImage(QPainter &painter, const Controle &astre) const {
+  const QRectF zone = Zone(astre);
+  QImage image = ImageJour(astre.image, static_cast<int>(zone.width()), devicePixelRatioF());
+  if (EstNuit()) {
+    RougitImage(image, CouleurQt(ciel_.picture1.fond));
+  }
+  painter.drawImage(zone.topLeft(), image);
 }
 
 void ToileCiel::paintEvent(QPaintEvent *event) {
@@ -179,7 +189,7 @@ void ToileCiel::paintEvent(QPaintEvent *event) {
   }
   for (const Controle *c : corps_) {
     if (c->genre == Genre::Image && c->visible) {
-      Icone(c->image).paint(&painter, Zone(*c).toAlignedRect());
+      PeintImage(painter, *c);
     }
   }
   for (const Controle *c : EtiquettesLisibles()) {
@@ -204,7 +214,10 @@ bool ToileCiel::event(QEvent *event) {
   if (corps == nullptr || corps->infobulle.empty()) {
     QToolTip::hideText();
   } else {
-    QToolTip::showText(aide.globalPos(), Texte(corps->infobulle), this, Zone(*corps).toAlignedRect());
+    const std::string_view bayer = corps->infobulle;
+    QToolTip::showText(aide.globalPos(),
+                       Texte(std::string(LettreGrecque(bayer.substr(0, 1))) + corps->infobulle.substr(1)), this,
+                       Zone(*corps).toAlignedRect());
   }
   return true;
 }

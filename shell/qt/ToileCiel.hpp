@@ -42,6 +42,7 @@ private:
   QColor Encre(Couleur couleur) const;
   bool Eclaire(const Controle &corps) const;
   void PeintMarque(QPainter &painter, const Controle &marque) const;
+  void PeintImage(QPainter &painter, const Controle &astre) const;
   void PeintEtiquette(QPainter &painter, const Controle &etiquette) const;
   std::vector<const Controle *> EtiquettesLisibles() const;
 

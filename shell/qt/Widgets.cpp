@@ -5,6 +5,7 @@
 #include "shell/qt/Nuit.hpp"
 #include "shell/qt/Toile.hpp"
 #include "shell/qt/ToileCiel.hpp"
+#include "sky/LettreGrecque.hpp"
 
 #include <QAbstractButton>
 #include <QApplication>
@@ -35,8 +36,12 @@ constexpr double kInterligne = 1.3; ///< lines of a caption that share a place
 
 QString Texte(const std::string &texte) { return QString::fromStdString(texte); }
 
-/// A caption as the toolkit takes it: an ampersand marks a key only where the control has one.
+/// A caption as the toolkit takes it: an ampersand marks a key only where the control has one. The letter of a star is
+/// a Greek one.
 QString Legende(const Controle &c) {
+  if (c.nom == "Bayer1") {
+    return Texte(std::string(LettreGrecque(c.legende)));
+  }
   return c.raccourci ? Texte(c.legende) : Texte(c.legende).replace('&', QLatin1String("&&"));
 }
 
@@ -151,7 +156,8 @@ void PoseLegende(QWidget &widget, const Controle &c) {
     groupe->setTitle(Legende(c));
   }
   if (auto *label = qobject_cast<QLabel *>(&widget); label != nullptr && c.genre == Genre::Etiquette) {
-    label->setText(CoupeLegende(Texte(c.legende), widget, widget.width(), widget.height()));
+    label->setText(
+        CoupeLegende(c.nom == "Bayer1" ? Legende(c) : Texte(c.legende), widget, widget.width(), widget.height()));
   } else if (auto *bouton = qobject_cast<QAbstractButton *>(&widget); bouton != nullptr) {
     const int marque = qobject_cast<QPushButton *>(&widget) == nullptr ? LargeurMarque(widget) : 8;
     bouton->setText(CoupeLegende(Legende(c), widget, widget.width() - marque, widget.height()));
