@@ -56,6 +56,7 @@ struct Peintre {
   QColor fond;
   std::vector<QRectF> &figures;
   bool nuit = false;
+  double bas = kPortee; ///< pixel that no text goes under
 
   QColor Encre(Couleur couleur) const { return nuit ? EncreDeNuit(CouleurQt(couleur), fond) : CouleurQt(couleur); }
   QPointF Place(Point p) const { return {p.x * facteur, p.y * facteur}; }
@@ -112,7 +113,11 @@ struct Peintre {
   /// Where a text is painted.
   QRectF Zone(const TexteTrace &texte) const {
     const QFontMetricsF metrique(PoliceQt(texte.police), painter.device());
-    return {Place(texte.position),
+    QPointF place = Place(texte.position);
+    if (place.y() < bas) {
+      place.setY(std::min(place.y(), bas - metrique.ascent()));
+    }
+    return {place,
             QSizeF(metrique.horizontalAdvance(QString::fromStdString(texte.texte)) + kEcartFigures, metrique.ascent())};
   }
 
@@ -163,8 +168,9 @@ QColor CouleurQt(Couleur couleur) {
 }
 
 void PeintTraces(QPainter &painter, const Surface &surface, double facteur, std::size_t premier,
-                 std::vector<QRectF> &figures, bool nuit) {
-  const Peintre peintre{painter, facteur, CouleurQt(surface.fond), figures, nuit};
+                 std::vector<QRectF> &figures, Maniere maniere) {
+  const Peintre peintre{painter, facteur,      CouleurQt(surface.fond),
+                        figures, maniere.nuit, maniere.textesEntiers ? surface.hauteur * facteur : kPortee};
   for (std::size_t i = premier; i < surface.traces.size(); ++i) {
     const auto *texte = std::get_if<TexteTrace>(&surface.traces[i]);
     if (texte != nullptr && texte->insistant && Visible{}(*texte)) {
@@ -208,7 +214,8 @@ void Toile::Accorde() {
   QPainter painter(&image_);
   // The last polyline may have grown since it was painted: it is painted again.
   const bool reprise = traces_ > 0 && traces_ <= surface_.traces.size() && points_ != 0;
-  PeintTraces(painter, surface_, PixelsParTwip(*this), reprise ? traces_ - 1 : traces_, figures_, nuit_);
+  PeintTraces(painter, surface_, PixelsParTwip(*this), reprise ? traces_ - 1 : traces_, figures_,
+              {nuit_, textesEntiers_});
   effacements_ = surface_.effacements;
   traces_ = surface_.traces.size();
   points_ = NombrePoints(surface_);

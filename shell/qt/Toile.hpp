@@ -23,16 +23,22 @@ QFont PoliceQt(const Police &police);
 /// A colour as the toolkit's.
 QColor CouleurQt(Couleur couleur);
 
+/// How a surface is painted.
+struct Maniere {
+  bool nuit = false;          ///< in red on black
+  bool textesEntiers = false; ///< a text that the lower edge would cut is moved up
+};
+
 /// Paints part of what is recorded on a surface, lines first and texts over them. A coloured text that would
 /// overprint one before it, or one that insists, is left out: so the figures of a fine grid and the names of cities
 /// stay readable.
 /// @param painter    scaled to the toolkit's pixels
 /// @param facteur    pixels per 1/1440 inch
 /// @param premier    first recorded trace to paint
-/// @param nuit       in red on black
+/// @param maniere    how, beyond what is recorded
 /// @param figures    places of the coloured figures on the image, of this call and those before
 void PeintTraces(QPainter &painter, const Surface &surface, double facteur, std::size_t premier,
-                 std::vector<QRectF> &figures, bool nuit = false);
+                 std::vector<QRectF> &figures, Maniere maniere = {});
 
 /// Shows a recorded surface: it is painted once into an image at the screen's resolution, then only what is appended.
 class Toile : public QWidget {
@@ -63,6 +69,8 @@ protected:
   void mouseMoveEvent(QMouseEvent *event) override;
   void mouseReleaseEvent(QMouseEvent *event) override;
   void wheelEvent(QWheelEvent *event) override;
+
+  bool textesEntiers_ = false; ///< a text that the lower edge would cut is moved up
 
 private:
   void Mouvement(const QMouseEvent &event) const;

@@ -46,6 +46,7 @@ QFont PoliceDe(const Controle &etiquette, bool gras) {
 
 ToileCiel::ToileCiel(const Ciel &ciel, QWidget *parent) : Toile(ciel.picture1, parent), ciel_(ciel) {
   setFocusPolicy(Qt::StrongFocus);
+  textesEntiers_ = true;
 }
 
 void ToileCiel::Ajoute(Controle &corps) { corps_.push_back(&corps); }
