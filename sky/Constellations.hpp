@@ -25,7 +25,7 @@ struct SegmentCiel {
   std::uint8_t b;
 };
 
-/// The lines of the constellations, in drawing order. Two of them join a star to itself and can't be seen.
+/// The lines of the constellations, in drawing order. Three of them join a star to itself and can't be seen.
 // clang-format off
 inline constexpr std::array<SegmentCiel, 146> kSegments = {{
     {173, 171}, {171, 175}, {175, 102}, {102, 177}, {177, 178}, {178, 102}, {102, 175}, {175, 176}, {176, 75},
