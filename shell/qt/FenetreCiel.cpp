@@ -6,6 +6,7 @@
 
 #include <QResizeEvent>
 #include <QScreen>
+#include <QWindow>
 
 #include <algorithm>
 
@@ -27,9 +28,13 @@ FenetreCiel::FenetreCiel(Scene &scene, QWidget *parent)
   horloge_.setObjectName("TimerCiel");
   horloge_.setInterval(kPeriodeCiel);
   horloge_.callOnTimeout(this, [this] { this->scene().Joue([this] { ciel::Timer1_Tick(bureau_); }); });
-  setWindowFlag(Qt::WindowMaximizeButtonHint);
+  // A window of its own: as a dialog of the main one it would stay over it, which comes to the front with a choice.
+  setWindowFlags(Qt::Window);
+  create();
+  windowHandle()->setTransientParent(nullptr);
   setMinimumSize(kPlusPetite);
   resize(size().boundedTo(screen()->availableSize() - QSize(0, kBarreTitre)));
+  move(screen()->availableGeometry().topLeft()); // in the middle its title would leave the screen
   const double f = PixelsParTwip(*this);
   for (Surface *surface : {&bureau_.ciel.picture1, &bureau_.ciel.picAZ, &bureau_.ciel.picHE}) {
     surface->interligne = QFontMetricsF(PoliceQt(surface->police), this).height() / f;

@@ -24,15 +24,17 @@ QString Texte(const std::string &texte) { return QString::fromStdString(texte); 
 
 bool EstMuette(const Controle &etiquette) { return etiquette.legende.find_first_not_of(' ') == std::string::npos; }
 
-/// Which of two labels stays where both can't: lit ones, then planets, then stars for navigation.
+/// Which of two labels stays where both can't: the one under the pointer, then lit ones, planets, and stars for
+/// navigation.
 int Importance(const Controle &etiquette) {
+  const int navigation = etiquette.gras ? 1 : 0;
   if (etiquette.opaque) {
-    return 4;
+    return 5;
   }
-  if (etiquette.nom == "LaP") {
-    return 3;
+  if (etiquette.couleur == kRouge) {
+    return 3 + navigation;
   }
-  return etiquette.couleur == kRouge ? 2 : etiquette.gras ? 1 : 0;
+  return etiquette.nom == "LaP" ? 2 : navigation;
 }
 
 QFont PoliceDe(const Controle &etiquette, bool gras) {

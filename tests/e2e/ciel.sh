@@ -66,7 +66,7 @@ clic 7700 520
 mode $MODE_ENREGISTRE; touche F5
 attends stocke 'AS(0)' 3
 image "$NOM-rangee"
-attendu "l'étoile est celle que l'on a touchée" "$(reglage 'Nom(0)')" Sirius
+attendu "l'étoile est celle que l'on a touchée, par son rang" "$(reglage 'Combo6(0)')" 135
 
 # The keyboard in the sky's window: an arrow, Escape.
 xdotool windowactivate --sync "$CIEL" 2>/dev/null || xdotool windowfocus --sync "$CIEL"
