@@ -2,6 +2,9 @@
 
 #include "shell/Valeurs.hpp"
 
+#include <array>
+#include <utility>
+
 namespace velmaris {
 
 Bureau::Bureau() {
@@ -9,6 +12,7 @@ Bureau::Bureau() {
   InitialiseFSelect(fselect);
   InitialiseImpression(impression);
   InitialiseUtilisateur(utilisateur);
+  InitialiseCiel(ciel);
 }
 
 Bureau::~Bureau() = default;
@@ -23,19 +27,28 @@ ListeControles ControlesDe(Bureau &bureau, std::string_view fenetre) {
   if (fenetre == kFenetreUtilisateur) {
     return Liste(bureau.utilisateur);
   }
+  if (fenetre == kFenetreCiel) {
+    return Liste(bureau.ciel);
+  }
   return fenetre == kFenetreImpression ? Liste(bureau.impression) : ListeControles();
 }
 
-std::vector<CadreFenetre *> FenetresLibres(Bureau &bureau) { return {&bureau.utilisateur.cadre}; }
+std::vector<CadreFenetre *> FenetresLibres(Bureau &bureau) { return {&bureau.utilisateur.cadre, &bureau.ciel.cadre}; }
 
 Surface *SurfaceDe(Bureau &bureau, const Controle &controle) {
-  if (&controle == &bureau.donnees.Image1) {
-    return &bureau.image1;
+  const std::array<std::pair<const Controle *, Surface *>, 6> surfaces = {
+      {{&bureau.donnees.Image1, &bureau.image1},
+       {&bureau.donnees.PicAZ, &bureau.picAZ},
+       {&bureau.donnees.PicHE, &bureau.picHE},
+       {&bureau.ciel.Picture1, &bureau.ciel.picture1},
+       {&bureau.ciel.PicAZ, &bureau.ciel.picAZ},
+       {&bureau.ciel.PicHE, &bureau.ciel.picHE}}};
+  for (const auto &[porte, surface] : surfaces) {
+    if (porte == &controle) {
+      return surface;
+    }
   }
-  if (&controle == &bureau.donnees.PicAZ) {
-    return &bureau.picAZ;
-  }
-  return &controle == &bureau.donnees.PicHE ? &bureau.picHE : nullptr;
+  return nullptr;
 }
 
 std::string LitReglage(const Bureau &bureau, std::string_view cle, std::string_view defaut) {

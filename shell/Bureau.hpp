@@ -10,6 +10,7 @@
 #include "lines/Feuille.hpp"
 #include "lines/FichierLoP.hpp"
 #include "lines/Transport.hpp"
+#include "shell/Ciel.hpp"
 #include "shell/Donnees.hpp"
 #include "shell/FSelect.hpp"
 #include "shell/Impression.hpp"
@@ -65,11 +66,14 @@ struct Bureau {
   FSelect fselect;
   Impression impression;
   Utilisateur utilisateur;
+  Ciel ciel;
+  Ecran ecran;                         ///< that it has started on
   double largeurFenetre = 0.0;         ///< of the main window, 1/1440 inch
   double hauteurFenetre = 0.0;         ///< of the main window, 1/1440 inch
   std::string titre = "Velmaris 2009"; ///< of the main window
   const Controle *focus = nullptr;     ///< control that asks for the focus
   const Controle *menu = nullptr;      ///< menu that asks to be opened at the pointer
+  bool nuit = false;                   ///< everything is painted in red on black
   bool pointeurOccupe = false;         ///< the pointer tells that the program works
   bool termine = false;                ///< the exit sequence has run
   std::string_view premierPlan;        ///< name of the window that asks to come to the front

@@ -26,6 +26,7 @@ enum class Genre : std::uint8_t {
   Menu,       ///< a menu that opens at the pointer, or within another one
   Entree,     ///< a command in a menu: `valeur` 1 marks it
   Separateur, ///< a line between two entries of a menu
+  Marque,     ///< a filled circle in its place: its border in `bordure`, its inside in `couleur`
   Texte       ///< words that no control shows
 };
 
@@ -59,7 +60,8 @@ struct Controle {
   std::string legende;
   std::string texte;
   std::string infobulle;
-  std::string image; ///< name of its picture, empty for none
+  std::string image;     ///< name of its picture, empty for none
+  std::string etiquette; ///< what code keeps with it, and nobody sees
   Place place;
   bool visible = true;
   bool actif = true;
@@ -82,8 +84,10 @@ struct Controle {
   std::vector<std::string> liste;
   int rang = -1; ///< chosen line of a list, -1 for none
   Couleur couleur = kNoir;
-  double taille = 9.0; ///< of the font, points
-  bool gras = false;   ///< of the font
+  Couleur bordure = kNoir; ///< of a mark
+  Couleur fond = kBlanc;   ///< behind the words of an opaque caption that has a background of its own
+  double taille = 9.0;     ///< of the font, points
+  bool gras = false;       ///< of the font
   Cote cote = Cote::Gauche;
   Pointeur pointeur = Pointeur::Normal;
   bool toutSelectionne = false; ///< asks that the whole text be selected

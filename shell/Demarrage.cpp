@@ -5,11 +5,13 @@
 #include "shell/Carte.hpp"
 #include "shell/Disposition.hpp"
 #include "shell/Droites.hpp"
+#include "shell/EcranCiel.hpp"
 #include "shell/Evenements.hpp"
 #include "shell/FichierObjets.hpp"
 #include "shell/Langage.hpp"
 #include "shell/MemoireDroites.hpp"
 #include "shell/ModesDroite.hpp"
+#include "shell/Nuit.hpp"
 #include "shell/Objets.hpp"
 #include "shell/PanneauDirect.hpp"
 #include "shell/Saisie.hpp"
@@ -98,6 +100,8 @@ void Donnees_Charge(Bureau &bureau, const Ecran &ecran) {
   if (!bureau.valeurs) {
     bureau.valeurs = std::make_unique<Valeurs>(bureau.dossiers.utilisateur / "valeurs.sqlite");
   }
+  bureau.ecran = ecran;
+  LitNuit(bureau);
   DisposeFenetre(bureau, ecran);
   d.ImAstre[0].image = d.Soleil.image;
   bureau.TitreFichier = bureau.messages[9];
@@ -120,7 +124,7 @@ void Donnees_Charge(Bureau &bureau, const Ecran &ecran) {
   PoseTexte(bureau, d.Combo3, d.Text3.texte);
   PoseTexte(bureau, d.Combo2, d.Text4.texte);
   PoseTexte(bureau, d.Combo4, d.Text4.texte);
-  PosSoleil(bureau, false);
+  PosSoleil(bureau, false, false);
   ChargeEtoiles(bureau.etoiles, d.Combo6.liste);
   if (ecran.pixelsHaut < kPixelsCompacts) {
     DispositionCompacte(d);
@@ -191,6 +195,7 @@ void Sortie_Click(Bureau &bureau, int /*indice*/) {
   }
   bureau.valeurs->Ensemble([&] { GardeReglages(bureau); });
   SignaleMagasin(bureau);
+  Ciel_Ferme(bureau);
   bureau.fselect.cadre.visible = false;
   QuitteObjets(bureau);
   bureau.termine = true;

@@ -5,9 +5,11 @@
 #include "shell/ChoixFichier.hpp"
 #include "shell/Demarrage.hpp"
 #include "shell/Droites.hpp"
+#include "shell/EcranCiel.hpp"
 #include "shell/Fichiers.hpp"
 #include "shell/ModesDroite.hpp"
 #include "shell/Modules.hpp"
+#include "shell/Nuit.hpp"
 #include "shell/Objets.hpp"
 #include "shell/Route.hpp"
 #include "shell/Saisie.hpp"
@@ -51,6 +53,20 @@ constexpr Abonnement kUtilisateur[] = {
     {"OptE", Evenement::Clic, objets::Champ_Change},       {"Option1", Evenement::Clic, objets::Option1_Click},
     {"Command1", Evenement::Clic, objets::Command1_Click}, {"Command2", Evenement::Clic, objets::Command2_Click},
     {"Command3", Evenement::Clic, objets::Command3_Click}, {"Command4", Evenement::Clic, objets::Command4_Click},
+};
+
+// NOLINTNEXTLINE(cppcoreguidelines-avoid-c-arrays,modernize-avoid-c-arrays)
+constexpr Abonnement kCiel[] = {
+    {"HScroll1", Evenement::Change, ciel::HScroll1_Change},
+    {"Check2", Evenement::Clic, ciel::Check2_Click},
+    {"Command1", Evenement::Clic, ciel::Command1_Click},
+    {"Command4", Evenement::Clic, ciel::Command4_Click},
+    {"Option1", Evenement::Clic, ciel::Option1_Click},
+    {"List1", Evenement::Clic, ciel::List1_Click},
+    {"SOL", Evenement::Clic, ciel::SOL_Click},
+    {"Lune", Evenement::Clic, ciel::Lune_Click},
+    {"LaP", Evenement::Clic, ciel::LaP_Click},
+    {"Laet", Evenement::Clic, ciel::Laet_Click},
 };
 
 // NOLINTNEXTLINE(cppcoreguidelines-avoid-c-arrays,modernize-avoid-c-arrays)
@@ -103,6 +119,7 @@ constexpr Abonnement kDonnees[] = {
     {"Command21", Evenement::Clic, Command21_Click},
     {"Command22", Evenement::Clic, Command22_Click},
     {"Command9", Evenement::Clic, Command9_Click},
+    {"Command13", Evenement::Clic, Command13_Click},
     {"Sortie", Evenement::Clic, Sortie_Click},
     {"Image10", Evenement::Clic, Image10_Click},
     {"OpCarte", Evenement::Clic, OpCarte_Click},
@@ -141,6 +158,7 @@ constexpr Abonnement kDonnees[] = {
     {"PU_E", Evenement::Clic, Command22_Click},
     {"PU_Caps", Evenement::Clic, Command9_Click},
     {"PU_Clear", Evenement::Clic, PU_Clear_Click},
+    {"PU_Nuit", Evenement::Clic, PU_Nuit_Click},
     {"PU_Quitter", Evenement::Clic, Sortie_Click},
 };
 
@@ -150,6 +168,9 @@ std::span<const Abonnement> AbonnementsDe(std::string_view fenetre) {
   }
   if (fenetre == kFenetreUtilisateur) {
     return kUtilisateur;
+  }
+  if (fenetre == kFenetreCiel) {
+    return kCiel;
   }
   return fenetre == kFenetreFSelect ? std::span<const Abonnement>(kFSelect) : std::span<const Abonnement>();
 }

@@ -23,6 +23,7 @@ bool AUneLegende(Genre genre) {
   case Genre::Curseur:
   case Genre::Image:
   case Genre::Separateur:
+  case Genre::Marque:
     return false;
   default:
     return true;
@@ -72,6 +73,9 @@ void ChargeLangue(Bureau &bureau, std::string_view fenetre) {
     AppliqueLangue(*texte, fenetre, ControlesDe(bureau, fenetre), bureau.messages);
     jour.texte = jour.legende;
   } else if (texte) {
+    if (fenetre == kFenetreCiel && texte->find("Form=" + std::string(kFenetreCiel)) != std::string::npos) {
+      bureau.ciel.marqueLangue = "Lang";
+    }
     AppliqueLangue(*texte, fenetre, ControlesDe(bureau, fenetre), bureau.messages);
   } else if (fenetre == kFenetreDonnees) {
     bureau.ports.boite({.texte = "Fichier absent.", .icone = Icone::Attention});

@@ -41,9 +41,9 @@ void PositionLive(Bureau &bureau) {
     return;
   }
   if (d.Option7[0].choisi) {
-    PosSoleil(bureau, false);
+    PosSoleil(bureau, false, false);
   } else if (d.Option7[1].choisi) {
-    PosLune(bureau, false);
+    PosLune(bureau, false, false);
   } else if (d.Option7[2].choisi) {
     PositionPlaneteLive(bureau);
   } else if (d.Option7[3].choisi) {
@@ -51,7 +51,7 @@ void PositionLive(Bureau &bureau) {
   }
 }
 
-void PosLune(Bureau &bureau, bool sansDessin) {
+void PosLune(Bureau &bureau, bool versCiel, bool sansDessin) {
   const Origine place = PositionPanneau(LitPanneau(bureau.donnees));
   LitHorloge(bureau.horloge);
   const Horloge &h = bureau.horloge;
@@ -65,6 +65,10 @@ void PosLune(Bureau &bureau, bool sansDessin) {
   bureau.donnees.Soleil.place.gauche = kHorsDeVue;
   Passe([&] { CalculLune(lune); });
   Passe([&] { TopoLune(lune, lune.LuneAD, lune.LuneDecl, place.latitude, -place.longitude, bureau.messages[33]); });
+  if (versCiel) {
+    bureau.ciel.Lune.etiquette = TexteGeneral(lune.LuneAzimut) + "X" + TexteGeneral(lune.LuneHauteur);
+    bureau.ciel.Label1.legende = TexteGeneral(lune.LuneDecl) + "X" + TexteGeneral(lune.LuneAD);
+  }
   if (!sansDessin) {
     TraceCadrans(bureau, lune.LuneAzimut, lune.LuneHauteur);
     bureau.donnees.Label64.legende = bureau.messages[30];
@@ -114,8 +118,12 @@ void PositionPlaneteLive(Bureau &bureau) {
   }
 }
 
-void PosSoleil(Bureau &bureau, bool sansDessin) {
+void PosSoleil(Bureau &bureau, bool versCiel, bool sansDessin) {
   const SoleilDirect soleil = CalculeSoleilDirect(LitPanneau(bureau.donnees), bureau.horloge);
+  if (versCiel) {
+    bureau.ciel.SOL.etiquette = TexteGeneral(soleil.azimut) + "X" + TexteGeneral(soleil.hauteur);
+    bureau.ciel.Label1.legende = TexteGeneral(soleil.AD) + "X" + TexteGeneral(soleil.Dec);
+  }
   if (sansDessin) {
     return;
   }

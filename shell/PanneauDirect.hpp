@@ -11,12 +11,16 @@ inline constexpr double kHorsDeVue = -2000.0;
 void PositionLive(Bureau &bureau);
 
 /// The Sun's present place on the live panel.
+/// @param versCiel    true leaves it with the sky window: azimuth "X" height as the tag of its `SOL`, right ascension
+///                    "X" declination as the caption of its `Label1`
 /// @param sansDessin  true leaves labels, dials and sub-solar point alone
-void PosSoleil(Bureau &bureau, bool sansDessin);
+void PosSoleil(Bureau &bureau, bool versCiel, bool sansDessin);
 
 /// The Moon's present place on the live panel; the Sun's mark goes out of view.
+/// @param versCiel    true leaves it with the sky window: azimuth "X" height as the tag of its `Lune`, declination "X"
+///                    right ascension, degrees and hours, as the caption of its `Label1`
 /// @param sansDessin  true leaves labels and dials alone
-void PosLune(Bureau &bureau, bool sansDessin);
+void PosLune(Bureau &bureau, bool versCiel, bool sansDessin);
 
 /// The chosen star's present place; nothing while none is chosen. `Azimut` and `HauteurCalculee` become those of the
 /// star now, which the next drawing takes.

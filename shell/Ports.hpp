@@ -34,6 +34,11 @@ struct Ports {
   std::function<void()> attend = [] {};
   /// Lets the interface live for a moment, in the middle of a long drawing; the user's own events wait.
   std::function<void()> respire = [] {};
+  /// Width of a text in one line, 1/1440 inch: its words, the font's points, and whether it is bold.
+  std::function<double(const std::string &, double, bool)> largeurTexte = [](const std::string &texte, double taille,
+                                                                             bool gras) {
+    return static_cast<double>(texte.size()) * taille * (gras ? 12.0 : 11.0); // a typical face, near enough
+  };
   /// Puts a file into the desktop's trash, or deletes it where there is none. @return false when it is still there
   std::function<bool(const std::filesystem::path &)> jette = [](const std::filesystem::path &fichier) {
     std::error_code refus;

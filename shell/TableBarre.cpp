@@ -48,7 +48,7 @@ constexpr LigneDonnees kBarre[] = {
     {RANG(Label50, 10), Genre::Etiquette, "Frame3", {10545, 765, 750, 225}, "Estime", "", {.cote = Cote::Centre}},
     {SEUL(Command9), Genre::Bouton, "Frame3", {11310, 225, 720, 525}, "", "Affiche ou efface le module Caps et distances", {.image = "cap"}},
     {RANG(Label50, 11), Genre::Etiquette, "Frame3", {11295, 765, 750, 225}, "Cap", "", {.cote = Cote::Centre}},
-    {SEUL(Command13), Genre::Bouton, "Frame3", {12060, 225, 720, 525}, "", "Ouvre la fenêtre du ciel", {.aVenir = true, .image = "astres"}},
+    {SEUL(Command13), Genre::Bouton, "Frame3", {12060, 225, 720, 525}, "", "Ouvre la fenêtre du ciel", {.image = "astres"}},
     {RANG(Label50, 12), Genre::Etiquette, "Frame3", {12045, 765, 750, 225}, "Astres", "", {.cote = Cote::Centre}},
     {SEUL(Command5), Genre::Bouton, "Frame3", {12810, 225, 720, 525}, "", "Hot line", {.aVenir = true, .image = "aide"}},
     {RANG(Label50, 13), Genre::Etiquette, "Frame3", {12795, 765, 750, 225}, "Aide", "", {.cote = Cote::Centre}},

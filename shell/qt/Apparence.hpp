@@ -2,7 +2,7 @@
 
 namespace velmaris::qt {
 
-/// The program's look: one style, one light palette, one type family of 9 points.
+/// The program's look: one style, one light palette and one for the night, one type family of 9 points.
 /// The application must be there.
 void PoseApparence();
 

@@ -1,6 +1,7 @@
 #include "shell/qt/Dialogue.hpp"
 
 #include "shell/Evenements.hpp"
+#include "shell/qt/Nuit.hpp"
 #include "shell/qt/Toile.hpp"
 #include "shell/qt/Widgets.hpp"
 
@@ -24,23 +25,27 @@ bool AParDefaut(const Rendu &rendu) {
 
 } // namespace
 
-Dialogue::Dialogue(Scene &scene, CadreFenetre &cadre, QWidget *parent)
+Dialogue::Dialogue(Scene &scene, CadreFenetre &cadre, QWidget *parent, bool etirable)
     : QDialog(parent), scene_(scene), cadre_(cadre), rendu_(scene, *this, ControlesDe(scene.bureau(), cadre.nom)),
       parDefaut_(AParDefaut(rendu_)) {
   const double f = PixelsParTwip(*this);
-  setFixedSize(static_cast<int>(std::lround(cadre.largeur * f)), static_cast<int>(std::lround(cadre.hauteur * f)));
+  const QSize taille(static_cast<int>(std::lround(cadre.largeur * f)),
+                     static_cast<int>(std::lround(cadre.hauteur * f)));
+  etirable ? resize(taille) : setFixedSize(taille);
   for (const Lien &lien : rendu_.liens()) {
     if (auto *bouton = qobject_cast<QPushButton *>(lien.widget)) {
       bouton->setAutoDefault(parDefaut_); // else the toolkit would give Return to the first one
       bouton->setDefault(lien.controle->role == Role::Defaut);
     }
   }
-  rendu_.AccordeFenetre = [this] {
-    setWindowTitle(QString::fromStdString(cadre_.titre));
-    if ((!cadre_.visible || scene_.bureau().termine) && isVisible()) {
-      done(QDialog::Accepted);
-    }
-  };
+  rendu_.AccordeFenetre = [this] { AccordeFenetre(); };
+}
+
+void Dialogue::AccordeFenetre() {
+  setWindowTitle(QString::fromStdString(cadre_.titre));
+  if ((!cadre_.visible || scene_.bureau().termine) && isVisible()) {
+    done(QDialog::Accepted);
+  }
 }
 
 void Dialogue::Montre() {
@@ -85,7 +90,7 @@ void Dialogue::keyPressEvent(QKeyEvent *event) {
 
 void Dialogue::paintEvent(QPaintEvent *event) {
   QPainter p(this);
-  p.fillRect(event->rect(), kFondFenetre);
+  p.fillRect(event->rect(), TeintesDe(EstNuit()).fenetre);
 }
 
 } // namespace velmaris::qt

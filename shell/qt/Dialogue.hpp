@@ -11,8 +11,9 @@ namespace velmaris::qt {
 class Dialogue : public QDialog {
 public:
   /// Makes the widgets.
-  /// @param cadre  the window's record; it must outlive this
-  Dialogue(Scene &scene, CadreFenetre &cadre, QWidget *parent);
+  /// @param cadre     the window's record; it must outlive this
+  /// @param etirable  the user may give it another size
+  Dialogue(Scene &scene, CadreFenetre &cadre, QWidget *parent, bool etirable = false);
 
   /// Shows it and waits until it is hidden.
   void Montre();
@@ -22,6 +23,10 @@ public:
   void reject() override;
 
 protected:
+  Scene &scene() const { return scene_; }
+  const Rendu &rendu() const { return rendu_; }
+  /// Brings in line what the window has beside its controls.
+  virtual void AccordeFenetre();
   void changeEvent(QEvent *event) override;
   void keyPressEvent(QKeyEvent *event) override;
   void paintEvent(QPaintEvent *event) override;

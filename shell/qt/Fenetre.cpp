@@ -2,8 +2,10 @@
 
 #include "shell/Demarrage.hpp"
 #include "shell/Droites.hpp"
+#include "shell/Nuit.hpp"
 #include "shell/Souris.hpp"
 #include "shell/qt/MenuCarte.hpp"
+#include "shell/qt/Nuit.hpp"
 #include "shell/qt/Toile.hpp"
 #include "shell/qt/Widgets.hpp"
 
@@ -149,12 +151,20 @@ bool Fenetre::Touche(QObject *objet, int touche) {
 }
 
 bool Fenetre::eventFilter(QObject *objet, QEvent *event) {
-  return event->type() == QEvent::KeyPress && Touche(objet, static_cast<QKeyEvent *>(event)->key());
+  if (event->type() != QEvent::KeyPress || !objet->isWidgetType()) {
+    return false;
+  }
+  const auto &appui = *static_cast<QKeyEvent *>(event);
+  if (appui.key() == Qt::Key_N && appui.modifiers() == Qt::ControlModifier) {
+    scene_.Joue([this] { PU_Nuit_Click(bureau_, -1); });
+    return true;
+  }
+  return Touche(objet, appui.key());
 }
 
 void Fenetre::paintEvent(QPaintEvent *event) {
   QPainter p(this);
-  p.fillRect(event->rect(), kFondFenetre);
+  p.fillRect(event->rect(), TeintesDe(EstNuit()).fenetre);
 }
 
 } // namespace velmaris::qt

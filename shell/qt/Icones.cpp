@@ -1,5 +1,7 @@
 #include "shell/qt/Icones.hpp"
 
+#include "shell/qt/Nuit.hpp"
+
 #include <QIconEngine>
 #include <QPainter>
 #include <QPainterPath>
@@ -278,21 +280,30 @@ constexpr Dessin kDessins[] = {{"sauve", Sauve},
                                {"drapeau-fr", DrapeauFr},
                                {"drapeau-en", DrapeauEn}};
 
+/// A picture by day.
+void Peint(QPainter &painter, const QRect &rect, QIcon::Mode mode, void (*trace)(QPainter &)) {
+  painter.save();
+  painter.setRenderHint(QPainter::Antialiasing);
+  const double cote = std::min(rect.width(), rect.height());
+  painter.translate(rect.x() + (rect.width() - cote) / 2, rect.y() + (rect.height() - cote) / 2);
+  painter.scale(cote / kCote, cote / kCote);
+  painter.setOpacity(mode == QIcon::Disabled ? 0.35 : 1.0);
+  painter.setPen(Trait());
+  painter.setBrush(Qt::NoBrush);
+  trace(painter);
+  painter.restore();
+}
+
 class MoteurIcone : public QIconEngine {
 public:
   explicit MoteurIcone(void (*trace)(QPainter &)) : trace_(trace) {}
 
   void paint(QPainter *painter, const QRect &rect, QIcon::Mode mode, QIcon::State /*state*/) override {
-    painter->save();
-    painter->setRenderHint(QPainter::Antialiasing);
-    const double cote = std::min(rect.width(), rect.height());
-    painter->translate(rect.x() + (rect.width() - cote) / 2, rect.y() + (rect.height() - cote) / 2);
-    painter->scale(cote / kCote, cote / kCote);
-    painter->setOpacity(mode == QIcon::Disabled ? 0.35 : 1.0);
-    painter->setPen(Trait());
-    painter->setBrush(Qt::NoBrush);
-    trace_(*painter);
-    painter->restore();
+    if (EstNuit()) {
+      PeintNuit(*painter, rect, mode);
+    } else {
+      Peint(*painter, rect, mode, trace_);
+    }
   }
 
   QPixmap pixmap(const QSize &size, QIcon::Mode mode, QIcon::State state) override {
@@ -306,6 +317,18 @@ public:
   QIconEngine *clone() const override { return new MoteurIcone(*this); }
 
 private:
+  void PeintNuit(QPainter &painter, const QRect &rect, QIcon::Mode mode) const {
+    const double densite = painter.device()->devicePixelRatioF();
+    QImage image(rect.size() * densite, QImage::Format_ARGB32_Premultiplied);
+    image.setDevicePixelRatio(densite);
+    image.fill(Qt::transparent);
+    QPainter apart(&image);
+    Peint(apart, QRect(QPoint(0, 0), rect.size()), mode, trace_);
+    apart.end();
+    RougitImage(image);
+    painter.drawImage(rect.topLeft(), image);
+  }
+
   void (*trace_)(QPainter &);
 };
 
@@ -318,6 +341,19 @@ QIcon Icone(std::string_view nom) {
     }
   }
   return {};
+}
+
+QImage ImageJour(std::string_view nom, int cote, double densite) {
+  QImage image(QSize(cote, cote) * densite, QImage::Format_ARGB32_Premultiplied);
+  image.setDevicePixelRatio(densite);
+  image.fill(Qt::transparent);
+  QPainter painter(&image);
+  for (const Dessin &dessin : kDessins) {
+    if (dessin.nom == nom) {
+      Peint(painter, QRect(0, 0, cote, cote), QIcon::Normal, dessin.trace);
+    }
+  }
+  return image;
 }
 
 } // namespace velmaris::qt

@@ -1,6 +1,7 @@
 #include "shell/qt/Libres.hpp"
 
 #include "shell/qt/Dialogue.hpp"
+#include "shell/qt/FenetreCiel.hpp"
 
 #include <utility>
 
@@ -17,7 +18,8 @@ void Libres::Accorde() {
       fenetre->hide();
       fenetre->deleteLater();
     } else if (cadre->visible && fenetre == nullptr && !bureau.termine) {
-      fenetre = new Dialogue(scene_, *cadre, &principale_);
+      fenetre = cadre->nom == kFenetreCiel ? new FenetreCiel(scene_, &principale_)
+                                           : new Dialogue(scene_, *cadre, &principale_);
       ouvertes_.insert(cadre, fenetre);
       fenetre->MontreACote();
     }

@@ -1,20 +1,26 @@
 #include "shell/qt/PortsQt.hpp"
 
 #include "shell/qt/Dialogue.hpp"
+#include "shell/qt/Nuit.hpp"
 
 #include <QApplication>
 #include <QDate>
 #include <QEventLoop>
 #include <QFile>
+#include <QFont>
+#include <QFontMetricsF>
 #include <QLocale>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QScreen>
 #include <QWidget>
 
 #include <utility>
 
 namespace velmaris::qt {
 namespace {
+
+constexpr double kTwipsParPouce = 1440.0;
 
 QLocale Langue(const Bureau &bureau) {
   const QLocale systeme = QLocale::system();
@@ -42,6 +48,7 @@ QMessageBox::Icon IconeQt(Icone icone) {
 
 bool MontreBoite(const Bureau &bureau, const Boite &boite, QWidget *parent) {
   const Donnees &d = bureau.donnees;
+  AccordeNuit(bureau.nuit);
   QMessageBox qt(parent);
   qt.setWindowTitle(QString::fromStdString(boite.titre));
   qt.setTextFormat(Qt::PlainText);
@@ -69,6 +76,14 @@ Boites::Boites(Bureau &bureau) : bureau_(bureau) {
   bureau.ports.jette = [](const std::filesystem::path &fichier) {
     const QString nom = QString::fromStdString(fichier.string());
     return QFile::moveToTrash(nom) || QFile::remove(nom);
+  };
+  bureau.ports.largeurTexte = [](const std::string &texte, double taille, bool gras) {
+    QFont police = QApplication::font();
+    police.setPointSizeF(taille);
+    police.setBold(gras);
+    const QScreen *ecran = QGuiApplication::primaryScreen();
+    return QFontMetricsF(police).horizontalAdvance(QString::fromStdString(texte)) * kTwipsParPouce /
+           ecran->logicalDotsPerInch();
   };
   bureau.ports.nomJour = [&bureau](const ValeurDate &date) {
     return Langue(bureau).dayName(JourSemaine(date) == 0 ? 7 : JourSemaine(date)).toStdString();

@@ -1,7 +1,9 @@
 #include "shell/qt/Rendu.hpp"
 
 #include "shell/Evenements.hpp"
+#include "shell/qt/Nuit.hpp"
 #include "shell/qt/Toile.hpp"
+#include "shell/qt/ToileCiel.hpp"
 #include "shell/qt/Widgets.hpp"
 
 #include <QAbstractButton>
@@ -15,6 +17,8 @@
 #include <QListWidget>
 #include <QRadioButton>
 #include <QSlider>
+
+#include <utility>
 
 namespace velmaris::qt {
 
@@ -32,6 +36,10 @@ void Rendu::CreeWidgets(const ListeControles &controles) {
   QWidget *precedent = nullptr;
   for (Controle *c : controles) {
     const Lien *parent = Trouve(c->parent, -1);
+    if (auto *ciel = dynamic_cast<ToileCiel *>(parent == nullptr ? nullptr : parent->widget)) {
+      ciel->Ajoute(*c);
+      continue;
+    }
     QWidget *widget = CreeWidget(bureau_, *c, parent == nullptr ? &fenetre_ : parent->widget);
     liens_.push_back({c, widget, {}});
     if (widget == nullptr) {
@@ -176,8 +184,12 @@ void Rendu::AccordeGroupes() {
 }
 
 void Rendu::Accorde() {
+  const bool change = std::exchange(nuit_, EstNuit()) != EstNuit() || premier_;
   for (Lien &lien : liens_) {
     AccordeWidget(lien, premier_);
+    if (change && lien.widget != nullptr) {
+      AccordeTeintes(*lien.widget, *lien.controle);
+    }
     if (auto *toile = dynamic_cast<Toile *>(lien.widget)) {
       toile->Accorde();
     }

@@ -72,6 +72,7 @@ private:
   QHash<int, QButtonGroup *> groupes_;
   QObject *champPresse_ = nullptr; ///< field that the mouse brings the focus to, until its button is up
   bool premier_ = true;
+  bool nuit_ = false; ///< the widgets show the colours of the night
 };
 
 } // namespace velmaris::qt

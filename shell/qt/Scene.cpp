@@ -1,6 +1,7 @@
 #include "shell/qt/Scene.hpp"
 
 #include "shell/Demarrage.hpp"
+#include "shell/qt/Nuit.hpp"
 #include "shell/qt/Rendu.hpp"
 
 #include <QApplication>
@@ -40,6 +41,7 @@ void Scene::Accorde() {
   // Moving the focus, or hiding what has it, is an event in its turn.
   while (encore_) {
     encore_ = false;
+    AccordeNuit(bureau_.nuit);
     const std::vector<Rendu *> rendus = rendus_;
     for (Rendu *rendu : rendus) {
       rendu->Accorde();

@@ -1,5 +1,7 @@
 #include "shell/qt/Toile.hpp"
 
+#include "shell/qt/Nuit.hpp"
+
 #include <QApplication>
 #include <QMouseEvent>
 #include <QPainter>
@@ -8,6 +10,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace velmaris::qt {
 namespace {
@@ -16,8 +19,8 @@ constexpr double kTwipsParPouce = 1440.0;
 constexpr double kPasVisible = 0.25; ///< pixels under which two points of a line are one
 constexpr double kPortee = 1e8;      ///< 1/1440 inch from the surface's corner
 
-QPen PlumeQt(const Plume &plume) {
-  QPen pen(CouleurQt(plume.couleur), plume.largeur);
+QPen PlumeQt(const Plume &plume, const QColor &couleur) {
+  QPen pen(couleur, plume.largeur);
   pen.setCapStyle(Qt::FlatCap);
   switch (plume.style) {
   case Style::Tirets:
@@ -52,7 +55,10 @@ struct Peintre {
   double facteur = 1.0;
   QColor fond;
   std::vector<QRectF> &figures;
+  bool nuit = false;
+  double bas = kPortee; ///< pixel that no text goes under
 
+  QColor Encre(Couleur couleur) const { return nuit ? EncreDeNuit(CouleurQt(couleur), fond) : CouleurQt(couleur); }
   QPointF Place(Point p) const { return {p.x * facteur, p.y * facteur}; }
 
   /// The points of a line that can be told apart. One that never leaves its first point is only that.
@@ -82,12 +88,17 @@ struct Peintre {
     if (points.size() < 2) {
       return;
     }
-    painter.setPen(PlumeQt(ligne.plume));
+    painter.setPen(PlumeQt(ligne.plume, Encre(ligne.plume.couleur)));
     // A single line along an axis is sharp only without smoothing.
     const bool droite =
         ligne.points.size() == 2 && (ligne.points[0].x == ligne.points[1].x || ligne.points[0].y == ligne.points[1].y);
     painter.setRenderHint(QPainter::Antialiasing, !droite);
-    if (const QPen pen = painter.pen(); FautLisere(pen.color(), fond)) {
+    QPen pen = painter.pen();
+    const bool faible = FautLisere(CouleurQt(ligne.plume.couleur), fond);
+    if (faible && nuit) {
+      pen.setWidthF(pen.widthF() + 1);
+      painter.setPen(pen);
+    } else if (faible) {
       painter.setPen(QPen(kLisere, pen.widthF() + 2));
       painter.drawPolyline(points);
       painter.setPen(QPen(pen.color(), pen.widthF() + 0.5));
@@ -95,14 +106,18 @@ struct Peintre {
     painter.drawPolyline(points);
   }
   void operator()(const CercleTrace &cercle) const {
-    painter.setPen(PlumeQt(cercle.plume));
+    painter.setPen(PlumeQt(cercle.plume, Encre(cercle.plume.couleur)));
     painter.setRenderHint(QPainter::Antialiasing);
     painter.drawEllipse(Place(cercle.centre), cercle.rayon * facteur, cercle.rayon * facteur);
   }
   /// Where a text is painted.
   QRectF Zone(const TexteTrace &texte) const {
     const QFontMetricsF metrique(PoliceQt(texte.police), painter.device());
-    return {Place(texte.position),
+    QPointF place = Place(texte.position);
+    if (place.y() < bas) {
+      place.setY(std::min(place.y(), bas - metrique.ascent()));
+    }
+    return {place,
             QSizeF(metrique.horizontalAdvance(QString::fromStdString(texte.texte)) + kEcartFigures, metrique.ascent())};
   }
 
@@ -114,7 +129,7 @@ struct Peintre {
       }
       figures.push_back(zone);
     }
-    painter.setPen(CouleurQt(texte.couleur));
+    painter.setPen(Encre(texte.couleur));
     painter.setFont(PoliceQt(texte.police));
     painter.drawText(zone.topLeft() + QPointF(0, zone.height()), QString::fromStdString(texte.texte));
   }
@@ -153,8 +168,9 @@ QColor CouleurQt(Couleur couleur) {
 }
 
 void PeintTraces(QPainter &painter, const Surface &surface, double facteur, std::size_t premier,
-                 std::vector<QRectF> &figures) {
-  const Peintre peintre{painter, facteur, CouleurQt(surface.fond), figures};
+                 std::vector<QRectF> &figures, Maniere maniere) {
+  const Peintre peintre{painter, facteur,      CouleurQt(surface.fond),
+                        figures, maniere.nuit, maniere.textesEntiers ? surface.hauteur * facteur : kPortee};
   for (std::size_t i = premier; i < surface.traces.size(); ++i) {
     const auto *texte = std::get_if<TexteTrace>(&surface.traces[i]);
     if (texte != nullptr && texte->insistant && Visible{}(*texte)) {
@@ -181,7 +197,8 @@ void Toile::Accorde() {
   const QSize taille = size() * devicePixelRatioF();
   // A layer drawn twice in the same place is dropped from the record; what is painted of it stays.
   traces_ = std::min(traces_, surface_.traces.size());
-  const bool neuve = image_.size() != taille || effacements_ != surface_.effacements;
+  const bool tourne = std::exchange(nuit_, EstNuit()) != EstNuit();
+  const bool neuve = tourne || image_.size() != taille || effacements_ != surface_.effacements;
   if (!neuve && traces_ == surface_.traces.size() && points_ == NombrePoints(surface_)) {
     return;
   }
@@ -190,14 +207,15 @@ void Toile::Accorde() {
     image_.setDevicePixelRatio(devicePixelRatioF());
   }
   if (neuve) {
-    image_.fill(CouleurQt(surface_.fond));
+    image_.fill(nuit_ ? FondDeNuit(CouleurQt(surface_.fond)) : CouleurQt(surface_.fond));
     traces_ = 0;
     figures_.clear();
   }
   QPainter painter(&image_);
   // The last polyline may have grown since it was painted: it is painted again.
   const bool reprise = traces_ > 0 && traces_ <= surface_.traces.size() && points_ != 0;
-  PeintTraces(painter, surface_, PixelsParTwip(*this), reprise ? traces_ - 1 : traces_, figures_);
+  PeintTraces(painter, surface_, PixelsParTwip(*this), reprise ? traces_ - 1 : traces_, figures_,
+              {nuit_, textesEntiers_});
   effacements_ = surface_.effacements;
   traces_ = surface_.traces.size();
   points_ = NombrePoints(surface_);
@@ -207,7 +225,7 @@ void Toile::Accorde() {
 void Toile::paintEvent(QPaintEvent *event) {
   QPainter painter(this);
   if (image_.isNull()) {
-    painter.fillRect(event->rect(), CouleurQt(surface_.fond));
+    painter.fillRect(event->rect(), EstNuit() ? FondDeNuit(CouleurQt(surface_.fond)) : CouleurQt(surface_.fond));
     return;
   }
   const double ratio = devicePixelRatioF();
@@ -216,7 +234,7 @@ void Toile::paintEvent(QPaintEvent *event) {
   if (elastique_) {
     const double facteur = PixelsParTwip(*this);
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(CouleurQt(kMagenta), 1, Qt::DotLine));
+    painter.setPen(QPen(nuit_ ? EncreDeNuit(CouleurQt(kMagenta)) : CouleurQt(kMagenta), 1, Qt::DotLine));
     painter.drawLine(elastique_->p1() * facteur, elastique_->p2() * facteur);
   }
 }

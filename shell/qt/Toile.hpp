@@ -23,15 +23,22 @@ QFont PoliceQt(const Police &police);
 /// A colour as the toolkit's.
 QColor CouleurQt(Couleur couleur);
 
+/// How a surface is painted.
+struct Maniere {
+  bool nuit = false;          ///< in red on black
+  bool textesEntiers = false; ///< a text that the lower edge would cut is moved up
+};
+
 /// Paints part of what is recorded on a surface, lines first and texts over them. A coloured text that would
 /// overprint one before it, or one that insists, is left out: so the figures of a fine grid and the names of cities
 /// stay readable.
 /// @param painter    scaled to the toolkit's pixels
 /// @param facteur    pixels per 1/1440 inch
 /// @param premier    first recorded trace to paint
+/// @param maniere    how, beyond what is recorded
 /// @param figures    places of the coloured figures on the image, of this call and those before
 void PeintTraces(QPainter &painter, const Surface &surface, double facteur, std::size_t premier,
-                 std::vector<QRectF> &figures);
+                 std::vector<QRectF> &figures, Maniere maniere = {});
 
 /// Shows a recorded surface: it is painted once into an image at the screen's resolution, then only what is appended.
 class Toile : public QWidget {
@@ -39,7 +46,7 @@ public:
   Toile(const Surface &surface, QWidget *parent);
 
   /// Brings the image in line with the record.
-  void Accorde();
+  virtual void Accorde();
 
   /// A line that is seen over the image without being part of it, in 1/1440 inch.
   void MontreElastique(const std::optional<QLineF> &ligne);
@@ -63,6 +70,8 @@ protected:
   void mouseReleaseEvent(QMouseEvent *event) override;
   void wheelEvent(QWheelEvent *event) override;
 
+  bool textesEntiers_ = false; ///< a text that the lower edge would cut is moved up
+
 private:
   void Mouvement(const QMouseEvent &event) const;
 
@@ -72,6 +81,7 @@ private:
   std::size_t traces_ = 0;
   std::vector<QRectF> figures_;
   std::size_t points_ = 0; ///< of the last trace painted, which may have grown since
+  bool nuit_ = false;      ///< the image is painted by night
   std::optional<QLineF> elastique_;
   QPointF presseDroite_; ///< where the right button went down
   int molette_ = 0;      ///< eighths of a degree that make no whole notch yet

@@ -2,9 +2,13 @@
 
 #include "shell/Evenements.hpp"
 #include "shell/qt/Icones.hpp"
+#include "shell/qt/Nuit.hpp"
 #include "shell/qt/Toile.hpp"
+#include "shell/qt/ToileCiel.hpp"
+#include "sky/LettreGrecque.hpp"
 
 #include <QAbstractButton>
+#include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QGroupBox>
@@ -12,6 +16,7 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMouseEvent>
+#include <QPaintEvent>
 #include <QPainter>
 #include <QPushButton>
 #include <QRadioButton>
@@ -29,14 +34,14 @@ namespace {
 constexpr int kHautTitre = 20;      ///< pixels of a module's title band
 constexpr double kInterligne = 1.3; ///< lines of a caption that share a place
 
-const QColor kCarte(247, 248, 250);
-const QColor kBordCarte(168, 178, 189);
-const QColor kBandeTitre(219, 227, 236);
-
 QString Texte(const std::string &texte) { return QString::fromStdString(texte); }
 
-/// A caption as the toolkit takes it: an ampersand marks a key only where the control has one.
+/// A caption as the toolkit takes it: an ampersand marks a key only where the control has one. The letter of a star is
+/// a Greek one.
 QString Legende(const Controle &c) {
+  if (c.nom == "Bayer1") {
+    return Texte(std::string(LettreGrecque(c.legende)));
+  }
   return c.raccourci ? Texte(c.legende) : Texte(c.legende).replace('&', QLatin1String("&&"));
 }
 
@@ -52,18 +57,21 @@ Qt::Alignment Alignement(Cote cote) {
   }
 }
 
+/// The background of a caption on the drawing surface. Not quite opaque: an opaque widget that moves is copied from
+/// place to place by the toolkit, which then paints what lies under it over the modules.
+void PoseFond(QWidget &widget) {
+  QPalette palette = widget.palette();
+  QColor fond = QApplication::palette().color(QPalette::Base);
+  fond.setAlpha(254);
+  palette.setColor(QPalette::Base, fond);
+  widget.setPalette(palette);
+}
+
 QWidget *CreeEtiquette(const Controle &c, QWidget *parent) {
   auto *label = c.renvoi ? new Renvoi(parent) : new QLabel(parent);
   label->setTextFormat(Qt::PlainText);
   label->setAlignment(Alignement(c.cote));
   if (c.opaque) {
-    // Not quite opaque: an opaque widget that moves is copied from place to place by the toolkit, which then paints
-    // what lies under it over the modules.
-    QPalette palette = label->palette();
-    QColor fond = palette.color(QPalette::Base);
-    fond.setAlpha(254);
-    palette.setColor(QPalette::Base, fond);
-    label->setPalette(palette);
     label->setAutoFillBackground(true);
     label->setBackgroundRole(QPalette::Base);
   }
@@ -101,6 +109,22 @@ protected:
   }
 };
 
+/// A field whose cursor, which the toolkit draws as the negative of the ground, is red by night.
+class Champ : public QLineEdit {
+public:
+  using QLineEdit::QLineEdit;
+
+protected:
+  void paintEvent(QPaintEvent *event) override {
+    QLineEdit::paintEvent(event);
+    if (EstNuit()) {
+      QPainter p(this);
+      p.setCompositionMode(QPainter::CompositionMode_Darken);
+      p.fillRect(event->rect(), palette().color(QPalette::BrightText));
+    }
+  }
+};
+
 QWidget *CreeListeBoite(QWidget *parent) {
   auto *liste = new ListeSansChoix(parent);
   liste->setUniformItemSizes(true);
@@ -132,7 +156,8 @@ void PoseLegende(QWidget &widget, const Controle &c) {
     groupe->setTitle(Legende(c));
   }
   if (auto *label = qobject_cast<QLabel *>(&widget); label != nullptr && c.genre == Genre::Etiquette) {
-    label->setText(CoupeLegende(Texte(c.legende), widget, widget.width(), widget.height()));
+    label->setText(
+        CoupeLegende(c.nom == "Bayer1" ? Legende(c) : Texte(c.legende), widget, widget.width(), widget.height()));
   } else if (auto *bouton = qobject_cast<QAbstractButton *>(&widget); bouton != nullptr) {
     const int marque = qobject_cast<QPushButton *>(&widget) == nullptr ? LargeurMarque(widget) : 8;
     bouton->setText(CoupeLegende(Legende(c), widget, widget.width() - marque, widget.height()));
@@ -141,7 +166,7 @@ void PoseLegende(QWidget &widget, const Controle &c) {
 
 void PoseCouleur(QWidget &widget, const Controle &c) {
   QPalette palette = widget.palette();
-  const QColor couleur = CouleurQt(c.couleur);
+  const QColor couleur = EstNuit() ? EncreDeNuit(CouleurQt(c.couleur)) : CouleurQt(c.couleur);
   palette.setColor(QPalette::Active, widget.foregroundRole(), couleur);
   palette.setColor(QPalette::Inactive, widget.foregroundRole(), couleur);
   widget.setPalette(palette);
@@ -219,11 +244,12 @@ Carte::Carte(bool titre, QWidget *parent) : QFrame(parent), titre_(titre) {}
 
 void Carte::paintEvent(QPaintEvent * /*event*/) {
   QPainter p(this);
-  p.fillRect(rect(), kCarte);
+  const Teintes &teintes = TeintesDe(EstNuit());
+  p.fillRect(rect(), teintes.carte);
   if (titre_) {
-    p.fillRect(QRect(0, 0, width(), kHautTitre), kBandeTitre);
+    p.fillRect(QRect(0, 0, width(), kHautTitre), teintes.bande);
   }
-  p.setPen(kBordCarte);
+  p.setPen(teintes.bord);
   p.drawRect(rect().adjusted(0, 0, -1, -1));
 }
 
@@ -267,6 +293,9 @@ void Renvoi::paintEvent(QPaintEvent *event) {
 QWidget *CreeWidget(Bureau &bureau, const Controle &c, QWidget *parent) {
   switch (c.genre) {
   case Genre::Surface:
+    if (&c == &bureau.ciel.Picture1) {
+      return new ToileCiel(bureau.ciel, parent);
+    }
     return new Toile(*SurfaceDe(bureau, c), parent);
   case Genre::Cadre:
     return new Carte(c.titre, parent);
@@ -275,7 +304,7 @@ QWidget *CreeWidget(Bureau &bureau, const Controle &c, QWidget *parent) {
   case Genre::Etiquette:
     return CreeEtiquette(c, parent);
   case Genre::Champ: {
-    auto *champ = new QLineEdit(parent);
+    auto *champ = new Champ(parent);
     champ->setAlignment(Alignement(c.cote));
     champ->setReadOnly(c.lectureSeule);
     return champ;
@@ -294,6 +323,7 @@ QWidget *CreeWidget(Bureau &bureau, const Controle &c, QWidget *parent) {
     return CreeCurseur(c, parent);
   case Genre::Image:
     return CreeImage(c, parent);
+  case Genre::Marque: // the sky's chart paints its own
   case Genre::Texte:
   case Genre::Menu:
   case Genre::Entree:
@@ -336,6 +366,19 @@ void AccordeWidget(QWidget &widget, const Controle &c, const Controle &vu, bool 
     if (c.visible && (c.genre == Genre::Cadre || c.couleur != kNoir)) {
       widget.raise();
     }
+  }
+}
+
+void AccordeTeintes(QWidget &widget, const Controle &c) {
+  if (c.opaque) {
+    PoseFond(widget);
+  }
+  if (!c.image.empty()) {
+    PoseImage(widget, c);
+  }
+  if (widget.palette().isBrushSet(QPalette::Active, widget.foregroundRole()) &&
+      widget.testAttribute(Qt::WA_SetPalette)) {
+    PoseCouleur(widget, c);
   }
 }
 

@@ -11,9 +11,6 @@
 
 namespace velmaris::qt {
 
-/// Background of the windows.
-inline const QColor kFondFenetre(238, 240, 243);
-
 /// A module: a light card with a title band, that can be taken with the mouse.
 class Carte : public QFrame {
 public:
@@ -48,6 +45,9 @@ QWidget *CreeWidget(Bureau &bureau, const Controle &controle, QWidget *parent);
 /// @param vu      the control as the widget showed it last
 /// @param aVenir  tool tip of a control that has nothing to do yet
 void AccordeWidget(QWidget &widget, const Controle &controle, const Controle &vu, bool tout, const QString &aVenir);
+
+/// Brings the colours and the picture of a widget in line with the day or the night.
+void AccordeTeintes(QWidget &widget, const Controle &controle);
 
 /// A caption broken into lines so that it fits a width; a single line when it does, or when there is no room for two.
 QString CoupeLegende(const QString &texte, const QWidget &widget, double largeur, double hauteur);

@@ -155,7 +155,7 @@ TEST_F(Programme, TheSunsPlaceWithoutDrawingLeavesThePanelAlone) {
   const std::string az = d.Label35.legende;
   const auto traces = bureau.picAZ.effacements;
   temps.heure = 3;
-  PosSoleil(bureau, true);
+  PosSoleil(bureau, false, true);
   EXPECT_EQ(bureau.soleil.LonSoleil, point.LonSoleil);
   EXPECT_EQ(d.Label35.legende, az);
   EXPECT_EQ(bureau.picAZ.effacements, traces);

@@ -77,7 +77,7 @@ TEST_F(Programme, WhatIsNotThereYetIsDisabledAndSaysSo) {
       EXPECT_TRUE(Ecoute(c, Evenement::Clic)) << c.nom << " pretends";
     }
   });
-  EXPECT_GE(nombre, 4);
+  EXPECT_GE(nombre, 3);
   EXPECT_NE(d.TexteAVenir.legende, "");
 }
 

@@ -192,7 +192,7 @@ TEST_F(PanneauDirect, WithoutDrawingLabelsAndDialsStay) {
   bureau.picAZ.traces.clear();
   bureau.picHE.traces.clear();
   Choisit(1);
-  PosLune(bureau, true);
+  PosLune(bureau, false, true);
   Intact();
   EXPECT_NE(bureau.lune.LuneJD, 0.0);
   Etoile("Vega");

@@ -92,7 +92,7 @@ TEST_F(Souris, TheEntriesOfTheMenuStandInTheirOrderBetweenTheirSeparators) {
   }
   EXPECT_EQ(ordre,
             (std::vector<std::string>{"PU_Carte", "-", "PU_Centre", "-", "PU_Distance", "PU_Coord", "-", "PU_Modules",
-                                      "PU_Clear", "-", "PU_Exit", "PU_Apropos", "-", "PU_Quitter"}));
+                                      "PU_Clear", "-", "PU_Exit", "PU_Apropos", "PU_Nuit", "-", "PU_Quitter"}));
 }
 
 TEST_F(Souris, TheEntriesOfModulesDoWhatTheirButtonsDo) {

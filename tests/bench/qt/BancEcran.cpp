@@ -2,7 +2,9 @@
 #include "shell/Carte.hpp"
 #include "shell/Demarrage.hpp"
 #include "shell/Droites.hpp"
+#include "shell/EcranCiel.hpp"
 #include "shell/Evenements.hpp"
+#include "shell/qt/Dialogue.hpp"
 #include "shell/qt/Fenetre.hpp"
 #include "shell/qt/Toile.hpp"
 
@@ -135,6 +137,63 @@ void PasDeZoom(benchmark::State &etat) {
       etat, tourne, [&] { PeintNu(image, lignes); }, 10);
 }
 BENCHMARK(PasDeZoom)->ArgName("milles")->Arg(200)->Arg(2000)->Unit(benchmark::kMillisecond);
+
+/// The sky worked out, its window brought in line and painted, against a fill of its picture. At 1920 by 1080.
+void CielEntier(benchmark::State &etat) {
+  Programme p;
+  p.Feuille(200);
+  p.Joue([&] { Command13_Click(p.bureau, -1); });
+  QApplication::processEvents();
+  auto *fenetre = p.fenetre->findChild<qt::Dialogue *>();
+  fenetre->resize(1913, 1040);
+  QApplication::processEvents();
+  QImage image(fenetre->size(), QImage::Format_RGB32);
+  Compare(
+      etat,
+      [&] {
+        p.scene.Joue([&] { ciel::Command1_Click(p.bureau, -1); });
+        fenetre->repaint();
+      },
+      [&] { image.fill(Qt::blue); }, 10);
+}
+BENCHMARK(CielEntier)->Unit(benchmark::kMillisecond);
+
+/// The pointer over a star's label: its constellation lit and painted, against a fill of its picture.
+void SurvolCiel(benchmark::State &etat) {
+  Programme p;
+  p.Joue([&] { Command13_Click(p.bureau, -1); });
+  QApplication::processEvents();
+  auto *fenetre = p.fenetre->findChild<qt::Dialogue *>();
+  fenetre->resize(1913, 1040);
+  QApplication::processEvents();
+  QImage image(fenetre->size(), QImage::Format_RGB32);
+  int etoile = 1;
+  Compare(
+      etat,
+      [&] {
+        p.scene.Joue([&] { ciel::Laet_MouseMove(p.bureau, etoile); });
+        fenetre->repaint();
+        etoile = etoile % static_cast<int>(kEtoilesCiel) + 1;
+      },
+      [&] { image.fill(Qt::blue); }, 10);
+}
+BENCHMARK(SurvolCiel)->Unit(benchmark::kMillisecond);
+
+/// "Astres" to the first picture, and back.
+void OuvreCiel(benchmark::State &etat) {
+  Programme p;
+  QImage image(1913, 1040, QImage::Format_RGB32);
+  Compare(
+      etat,
+      [&] {
+        p.scene.Joue([&] { Command13_Click(p.bureau, -1); });
+        QApplication::processEvents();
+        p.scene.Joue([&] { Ciel_Ferme(p.bureau); });
+        QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+      },
+      [&] { image.fill(Qt::blue); }, 5);
+}
+BENCHMARK(OuvreCiel)->Unit(benchmark::kMillisecond);
 
 } // namespace
 } // namespace velmaris

@@ -1,0 +1,13 @@
+#pragma once
+
+#include "foundations/Surface.hpp"
+#include "sky/ProjectionCiel.hpp"
+
+namespace velmaris {
+
+/// Draws the scale on the sky's chart: every 15 degrees a tick over the horizon line, with the azimuth in degrees or
+/// the hour of right ascension. Both charts place it by the azimuth.
+/// @param carte  its font and colour of texts are left changed
+void TraceEchelleCiel(Surface &carte, const CadreCiel &cadre);
+
+} // namespace velmaris
