@@ -14,6 +14,7 @@ namespace velmaris::qt {
 namespace {
 
 constexpr int kBarreTitre = 32; ///< pixels that a window manager's title takes, near enough
+constexpr int kBord = 3;        ///< pixels of its border
 constexpr QSize kPlusPetite(900, 420);
 
 ToileCiel &ToileDe(const Rendu &rendu, const Ciel &ciel) {
@@ -34,7 +35,8 @@ FenetreCiel::FenetreCiel(Scene &scene, QWidget *parent)
   windowHandle()->setTransientParent(nullptr);
   setMinimumSize(kPlusPetite);
   resize(size().boundedTo(screen()->availableSize() - QSize(0, kBarreTitre)));
-  move(screen()->availableGeometry().topLeft()); // in the middle its title would leave the screen
+  // In the middle of the screen its title would leave it.
+  move(screen()->availableGeometry().topLeft() + QPoint(kBord, kBarreTitre - kBord));
   const double f = PixelsParTwip(*this);
   for (Surface *surface : {&bureau_.ciel.picture1, &bureau_.ciel.picAZ, &bureau_.ciel.picHE}) {
     surface->interligne = QFontMetricsF(PoliceQt(surface->police), this).height() / f;

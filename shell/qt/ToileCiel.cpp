@@ -37,6 +37,11 @@ int Importance(const Controle &etiquette) {
   return etiquette.nom == "LaP" ? 2 : navigation;
 }
 
+/// Whether a body stands out with its constellation: by night a ring tells it, as there is no other red.
+bool Eclaire(const Controle &corps) {
+  return corps.genre == Genre::Marque ? corps.bordure == kRouge : corps.couleur == kRouge;
+}
+
 QFont PoliceDe(const Controle &etiquette, bool gras) {
   QFont police = QApplication::font();
   police.setPointSizeF(etiquette.taille);
@@ -77,11 +82,6 @@ QColor ToileCiel::Encre(Couleur couleur) const {
   return EstNuit() ? EncreDeNuit(jour, CouleurQt(ciel_.picture1.fond)) : jour;
 }
 
-/// Whether a body stands out with its constellation: by night a ring tells it, as there is no other red.
-bool ToileCiel::Eclaire(const Controle &corps) const {
-  return corps.genre == Genre::Marque ? corps.bordure == kRouge : corps.couleur == kRouge;
-}
-
 Controle *ToileCiel::CorpsSous(QPointF pixel) const {
   std::vector<Controle *> etoiles(kEtoilesCiel + 1, nullptr);
   std::vector<Controle *> devant;
@@ -106,20 +106,25 @@ Controle *ToileCiel::CorpsSous(QPointF pixel) const {
   if (mobile != nullptr) {
     return mobile;
   }
+  const auto marque = [&](double autour) -> Controle * {
+    const auto trouvee = std::find_if(marques.rbegin(), marques.rend(), [&](const Controle *m) {
+      return Zone(*m).adjusted(-autour, -autour, autour, autour).contains(pixel);
+    });
+    return trouvee == marques.rend() ? nullptr : EtiquetteDe(**trouvee);
+  };
+  if (Controle *disque = marque(0)) {
+    return disque;
+  }
   const auto etoile = std::find_if(ciel_.pile.rbegin(), ciel_.pile.rend(),
                                    [&](std::size_t i) { return touche(i) && !EstMuette(*etoiles[i]); });
-  if (etoile != ciel_.pile.rend()) {
-    return etoiles[*etoile];
-  }
-  const auto marque = std::find_if(marques.rbegin(), marques.rend(), [&](const Controle *m) {
-    return Zone(*m).adjusted(-kPrise, -kPrise, kPrise, kPrise).contains(pixel);
-  });
-  if (marque == marques.rend()) {
-    return nullptr;
-  }
-  const std::string_view nom = (*marque)->nom == "Shet" ? "Laet" : "LaP";
+  return etoile != ciel_.pile.rend() ? etoiles[*etoile] : marque(kPrise);
+}
+
+/// The label of a mark.
+Controle *ToileCiel::EtiquetteDe(const Controle &marque) const {
+  const std::string_view nom = marque.nom == "Shet" ? "Laet" : "LaP";
   const auto label = std::find_if(corps_.begin(), corps_.end(),
-                                  [&](const Controle *c) { return c->nom == nom && c->indice == (*marque)->indice; });
+                                  [&](const Controle *c) { return c->nom == nom && c->indice == marque.indice; });
   return label == corps_.end() ? nullptr : *label;
 }
 

@@ -19,7 +19,7 @@ public:
   void Accorde() override;
 
   /// The label or picture of the body at a place, in the stacking order; the mark of a star or a planet stands for its
-  /// label.
+  /// label, and its disc goes before the labels of other stars.
   /// @return null for none
   Controle *CorpsSous(QPointF pixel) const;
 
@@ -39,8 +39,8 @@ protected:
 
 private:
   QRectF Zone(const Controle &corps) const;
+  Controle *EtiquetteDe(const Controle &marque) const;
   QColor Encre(Couleur couleur) const;
-  bool Eclaire(const Controle &corps) const;
   void PeintMarque(QPainter &painter, const Controle &marque) const;
   void PeintImage(QPainter &painter, const Controle &astre) const;
   void PeintEtiquette(QPainter &painter, const Controle &etiquette) const;

@@ -333,18 +333,24 @@ QWidget *CreeWidget(Bureau &bureau, const Controle &c, QWidget *parent) {
   }
 }
 
+namespace {
+
+void AccordePolice(QWidget &widget, const Controle &c, const Controle &vu, bool tout) {
+  if (tout || c.taille != vu.taille || c.gras != vu.gras || c.accent != vu.accent) {
+    PosePolice(widget, c);
+  }
+  if ((tout || c.image != vu.image) && (!c.image.empty() || !vu.image.empty())) {
+    PoseImage(widget, c);
+  }
+}
+
+} // namespace
+
 void AccordeWidget(QWidget &widget, const Controle &c, const Controle &vu, bool tout, const QString &aVenir) {
   if (tout || c.place != vu.place) {
     widget.setGeometry(PlaceQt(c.place, widget));
   }
-  if (tout || c.taille != vu.taille || c.gras != vu.gras || c.accent != vu.accent) {
-    PosePolice(widget, c);
-  }
-  if (tout || c.image != vu.image) {
-    if (!c.image.empty() || !vu.image.empty()) {
-      PoseImage(widget, c);
-    }
-  }
+  AccordePolice(widget, c, vu, tout);
   if (tout || c.legende != vu.legende || c.place != vu.place || c.accent != vu.accent) {
     PoseLegende(widget, c);
   }

@@ -19,7 +19,7 @@ LON=$(awk -v t="$(date +%s)" 'BEGIN {
 # The sky's window: sets CIEL, and W and H of its chart in pixels.
 fenetre_ciel() { CIEL=$(xdotool search --onlyvisible --pid "$PID" --name "$TITRE" 2>/dev/null | tail -n 1); [ -n "$CIEL" ]; }
 mesure_ciel() {
-  eval "$(xdotool getwindowgeometry --shell "$CIEL" | grep -E '^(WIDTH|HEIGHT)=')"
+  eval "$(xdotool getwindowgeometry --shell "$CIEL" | grep -E '^(X|Y|WIDTH|HEIGHT)=')"
   W=$((WIDTH - 2300 / 15)) H=$((HEIGHT - 2725 / 15))
 }
 survole() { xdotool mousemove --window "$CIEL" "$1" "$2"; sleep 0.2; xdotool mousemove_relative 1 0; sleep 0.4; }
@@ -28,6 +28,12 @@ horizon() { survole $(awk -v w=$W -v h=$H -v a="$1" -v b="$2" 'BEGIN {printf "%d
 equateur() { survole $(awk -v w=$W -v h=$H -v a="$1" -v b="$2" 'BEGIN {printf "%d %d", 140 + w - a / 360 * w, 8 + h - (b + 90) / 180 * h}'); }
 # Clicks in the bottom strip, in 1/1440 inch from its own corner.
 bas() { xdotool mousemove --window "$CIEL" $((WIDTH - (200 + 12900 - $1) / 15)) $((8 + H + (255 + $2) / 15)) click 1; sleep 0.5; }
+
+# Pixels of the window's inside, without its last rows, that have green or blue.
+autres() {
+  convert "$IMAGES/$1.png" -crop $((WIDTH - 20))x$((HEIGHT - 60))+$((X + 10))+$((Y + 20)) +repage \
+    -channel R -evaluate set 0 +channel -separate -evaluate-sequence max -threshold 7% -format '%[fx:int(mean*w*h+0.5)]' info:
+}
 
 demarre
 [ "$LANGUE" = en ] && clic 14700 520
@@ -50,7 +56,7 @@ image "$NOM-orion"
 [ "$(pixels '#ff0000' "$NOM-orion")" -ge 60 ] || echoue "Orion ne s'allume pas"
 touche ctrl+n; sleep 0.5
 image "$NOM-orion-nuit"
-[ "$(pixels '#ffffff' "$NOM-orion-nuit")" -le 6000 ] || echoue "la nuit n'est pas rouge"
+[ "$(autres "$NOM-orion-nuit")" -eq 0 ] || echoue "la nuit n'est pas rouge"
 bas 6960 510
 horizon 180 43.2 # Sirius
 image "$NOM-sirius-nuit"
