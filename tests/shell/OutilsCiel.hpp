@@ -77,6 +77,19 @@ protected:
   static Point Milieu(const Controle &astre) {
     return {astre.place.gauche + astre.place.largeur / 2, astre.place.haut + astre.place.hauteur / 2};
   }
+  /// The middle of a body is there.
+  static void EstEn(const Controle &astre, double x, double y) {
+    EXPECT_NEAR(Milieu(astre).x, x, 0.02) << astre.nom << " " << astre.indice;
+    EXPECT_NEAR(Milieu(astre).y, y, 0.02) << astre.nom << " " << astre.indice;
+  }
+  /// The middle of a body is where the horizontal chart has an azimuth and a height.
+  void EstAHorizon(const Controle &astre, double az, double h) const {
+    EstEn(astre, az / 360 * W(), H() - h / 90 * H());
+  }
+  /// The middle of a body is where the equatorial chart has a right ascension, degrees, and a declination.
+  void EstAEquateur(const Controle &astre, double a, double dec) const {
+    EstEn(astre, W() - a / 360 * W(), H() - (dec + 90) / 180 * H());
+  }
   /// A star that stands above the horizon, or one under it, from a rank on.
   std::size_t Premiere(bool levee, std::size_t depuis = 1) const {
     for (std::size_t i = depuis; i <= 246; ++i) {
@@ -86,7 +99,7 @@ protected:
     }
     return 0;
   }
-  std::string Dans(const Controle &liste) const {
+  static std::string Dans(const Controle &liste) {
     return liste.rang < 0 ? "" : liste.liste.at(static_cast<std::size_t>(liste.rang));
   }
 

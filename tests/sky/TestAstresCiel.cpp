@@ -78,8 +78,7 @@ TEST_F(AstresCiel, APlanetIsThatOfTheClockAndLeavesItsHorizonOnly) {
     EXPECT_EQ(angles.AngleAz, static_cast<float>(vu.gauche));
     EXPECT_EQ(angles.AngleHaut, static_cast<float>(vu.droite));
   }
-  EXPECT_EQ(angles.AngleAD, 1.0F);
-  EXPECT_EQ(angles.AngleDec, 2.0F);
+  EXPECT_TRUE(angles.AngleAD == 1.0F && angles.AngleDec == 2.0F);
 }
 
 TEST_F(AstresCiel, AStarAtTheHorizonExactlyCountsAsBelowIt) {
@@ -122,6 +121,9 @@ TEST_F(AstresCiel, TheTablesLettersAreThoseOfTheGreekAlphabet) {
   EXPECT_EQ(LettreGrecque("z"), "ζ");
   EXPECT_EQ(LettreGrecque("L"), "L") << "L Puppis is a Latin name";
   EXPECT_EQ(LettreGrecque(""), "");
+}
+
+TEST_F(AstresCiel, EveryStarHasAGreekLetterButLPuppis) {
   for (std::size_t i = 1; i <= 246; ++i) {
     const std::string_view lettre = etoiles.EtoileBayer[i].substr(0, 1);
     EXPECT_TRUE(lettre == "L" || LettreGrecque(lettre).size() == 2) << etoiles.EtoileBayer[i];
