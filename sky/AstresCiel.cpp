@@ -15,9 +15,9 @@ namespace {
 constexpr Couleur kBleuNuit = 0x800000;
 
 constexpr std::array<std::string_view, 26> kNavigables = {
-    "Castor",    "Spica",  "Antares", "Alpheratz",  "Denebola", "Albireo", "Mirfak",          "Polaris", "Aldebaran",
-    "Fomalhaut", "Deneb",  "Acrux",   "Betelgeuse", "Vega",     "Canopus", "Arcturus",        "Capella", "Regulus",
-    "Dubhe",     "Altair", "Pollux",  "Achernar",   "Procyon",  "Rigel",   "Rigil Kentaurus", "Sirius"};
+    "Castor",    "Spica",  "Antares",    "Alpheratz", "Denebola", "Albireo", "Mirfak",          "Polaris", "Aldebaran",
+    "Fomalhaut", "Deneb",  "Betelgeuse", "Acrux",     "Vega",     "Canopus", "Arcturus",        "Capella", "Regulus",
+    "Dubhe",     "Altair", "Pollux",     "Achernar",  "Procyon",  "Rigel",   "Rigil Kentaurus", "Sirius"};
 
 /// Azimuth and height of a place from where one stands; what the conversion leaves in radians is dropped.
 void CalculeHorizon(AnglesCiel &angles, PlaceEquateur place, const RegardCiel &regard) {
