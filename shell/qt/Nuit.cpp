@@ -14,11 +14,10 @@
 namespace velmaris::qt {
 namespace {
 
-constexpr int kPlusVif = 196;     ///< red of the brightest ink by night
-constexpr int kBordNuit = 78;     ///< red of the frames by night
-constexpr double kVifClair = 130; ///< red that a vivid colour has beyond that of its brightness, on a light ground
-constexpr double kVifSombre = 85; ///< and on a dark one
-constexpr int kMarge = 3;         ///< pixels that the toolkit may draw beyond a control
+constexpr int kPlusVif = 196; ///< red of the brightest ink by night
+constexpr int kBordNuit = 78; ///< red of the frames by night
+constexpr double kVif = 85;   ///< red that a vivid colour has beyond that of its brightness
+constexpr int kMarge = 3;     ///< pixels that the toolkit may draw beyond a control
 
 QColor Rouge(double valeur) { return {static_cast<int>(std::lround(std::clamp(valeur, 0.0, 255.0))), 0, 0}; }
 
@@ -32,9 +31,9 @@ double Vivacite(QRgb c) {
 }
 
 /// Red of an ink on a light ground: black is the brightest; a vivid colour stays well over the ground.
-double RougeSurClair(QRgb c) { return kPlusVif * (1 - Clarte(c)) + kVifClair * Vivacite(c) * Clarte(c); }
+double RougeSurClair(QRgb c) { return kPlusVif * (1 - Clarte(c)) + kVif * Vivacite(c) * Clarte(c); }
 
-double RougeSurSombre(QRgb c) { return kPlusVif * Clarte(c) + kVifSombre * Vivacite(c) * (1 - Clarte(c)); }
+double RougeSurSombre(QRgb c) { return kPlusVif * Clarte(c) + kVif * Vivacite(c) * (1 - Clarte(c)); }
 
 QPalette PaletteJour() {
   QPalette p(QColor(226, 231, 237), QColor(247, 248, 250));
