@@ -9,14 +9,6 @@ sleep 0.5
 TAILLE=$(xdpyinfo | awk '/dimensions/ {print $2}' | cut -dx -f1)
 NOM=carte-$LANGUE-$TAILLE
 
-# Takes a picture until a colour has at least so many pixels on it.
-attend_pixels() {
-  for _ in $(seq 50); do
-    image "$1"
-    [ "$(pixels "$2" "$1")" -ge "$3" ] && return 0
-  done
-  echoue "$1 : trop peu de $2"
-}
 # Goes to a place of the window in 1/1440 inch, and presses the right button there.
 va() { xdotool mousemove --window "$FENETRE" $(($1 / 15)) $(($2 / 15)); sleep 0.2; }
 point() { va "$1" "$2"; xdotool click 3; sleep 0.2; }

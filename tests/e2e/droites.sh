@@ -11,14 +11,6 @@ NOM=droites-$LANGUE-$TAILLE
 SAUVE="^(Sauvegarder le|Save the) " CHARGE="^(Charger un|Load a) "
 export HOME=$(mktemp -d)
 
-# Takes a picture until a colour has at least so many pixels on it.
-attend_pixels() {
-  for _ in $(seq 50); do
-    image "$1"
-    [ "$(pixels "$2" "$1")" -ge "$3" ] && return 0
-  done
-  echoue "$1 : trop peu de $2"
-}
 stocke() { [ "$(reglage "$1")" = "$2" ]; }
 
 demarre

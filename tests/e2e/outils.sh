@@ -78,6 +78,15 @@ attendu() { [ "$2" = "$3" ] || echoue "$1 : attendu « $3 », lu « $2 »"; }
 # Pixels near one colour on a picture, as ImageMagick names it.
 pixels() { convert "$IMAGES/$2.png" -fuzz 12% -fill black +opaque "$1" -fill white -opaque "$1" -format '%[fx:int(mean*w*h+0.5)]' info:; }
 
+# Takes a picture until a colour has at least so many pixels on it.
+attend_pixels() {
+  for _ in $(seq 50); do
+    image "$1"
+    [ "$(pixels "$2" "$1")" -ge "$3" ] && return 0
+  done
+  echoue "$1 : trop peu de $2"
+}
+
 # Another sight of the Sun, of the same day and sides: hour, minute, second; latitude; longitude; degrees, minutes,
 # seconds read.
 visee_suivante() {
