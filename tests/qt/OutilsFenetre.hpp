@@ -2,14 +2,18 @@
 
 #include "OutilsBureau.hpp"
 #include "shell/qt/Fenetre.hpp"
+#include "shell/qt/Widgets.hpp"
 
 #include <QAbstractButton>
 #include <QApplication>
 #include <QDir>
+#include <QFontMetricsF>
+#include <QGroupBox>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMouseEvent>
+#include <QPushButton>
 
 #include <memory>
 
@@ -18,6 +22,30 @@ namespace velmaris::essais {
 constexpr Ecran kPetitEcran{15360, 11520, 768};
 constexpr Ecran kGrandEcran{28800, 16200, 1080};
 constexpr Ecran kEcranBas{15360, 9000, 600};
+
+/// Every caption on show fits its widget, and what takes the keyboard has a name for a screen reader.
+/// @param liste  a list, whose inner widget has the list's name
+inline void RienDeCoupe(const QWidget &fenetre, const QWidget *liste) {
+  for (auto *widget : fenetre.findChildren<QWidget *>()) {
+    QString texte;
+    double marge = 0;
+    if (const auto *label = qobject_cast<QLabel *>(widget)) {
+      texte = label->text();
+    } else if (const auto *groupe = qobject_cast<QGroupBox *>(widget)) {
+      texte = groupe->title();
+    } else if (const auto *bouton = qobject_cast<QAbstractButton *>(widget)) {
+      texte = bouton->text();
+      marge = qobject_cast<QPushButton *>(widget) == nullptr ? qt::LargeurMarque(*widget) : 8;
+      marge += bouton->icon().isNull() ? 0 : bouton->iconSize().width() + 4;
+    }
+    if (!texte.isEmpty() && widget->isVisible()) {
+      EXPECT_LE(QFontMetricsF(widget->font()).horizontalAdvance(texte) + marge, widget->width()) << texte.toStdString();
+    }
+    if (widget->focusPolicy() != Qt::NoFocus && widget->parentWidget() != liste) {
+      EXPECT_FALSE(widget->accessibleName().isEmpty()) << widget->objectName().toStdString();
+    }
+  }
+}
 
 /// The program with its window.
 class FenetreOuverte : public Programme {

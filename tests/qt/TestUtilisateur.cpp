@@ -224,26 +224,7 @@ TEST_F(EditeurOuvert, LeavingTheProgramClosesItAndWrites) {
 TEST_F(EditeurOuvert, NothingIsCutInEitherLanguageAndWhatTakesTheKeyboardIsNamed) {
   for (const bool anglais : {false, true}) {
     Ouvre(anglais);
-    for (auto *widget : Editeur()->findChildren<QWidget *>()) {
-      QString texte;
-      double marge = 0;
-      if (const auto *label = qobject_cast<QLabel *>(widget)) {
-        texte = label->text();
-      } else if (const auto *groupe = qobject_cast<QGroupBox *>(widget)) {
-        texte = groupe->title();
-      } else if (const auto *bouton = qobject_cast<QAbstractButton *>(widget)) {
-        texte = bouton->text();
-        marge = qobject_cast<QPushButton *>(widget) == nullptr ? qt::LargeurMarque(*widget) : 8;
-        marge += bouton->icon().isNull() ? 0 : bouton->iconSize().width() + 4;
-      }
-      if (!texte.isEmpty()) {
-        EXPECT_LE(QFontMetricsF(widget->font()).horizontalAdvance(texte) + marge, widget->width())
-            << texte.toStdString();
-      }
-      if (widget->focusPolicy() != Qt::NoFocus && widget->parent() != Sien<QListWidget>("List1")) {
-        EXPECT_FALSE(widget->accessibleName().isEmpty()) << widget->objectName().toStdString();
-      }
-    }
+    RienDeCoupe(*Editeur(), Sien<QListWidget>("List1"));
     Editeur()->grab().save(QString(VELMARIS_IMAGES) + (anglais ? "/objets-en.png" : "/objets-fr.png"));
     Joue([this] { ClicControle(bureau, u.Command2); });
     fenetre.reset();
