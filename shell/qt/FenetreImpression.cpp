@@ -33,6 +33,11 @@ FenetreImpression::FenetreImpression(Scene &scene, QWidget *parent)
 
 void FenetreImpression::AccordeFenetre() {
   Dialogue::AccordeFenetre();
+  // On a small screen the button stays in reach.
+  if (QWidget *cadre = rendu().WidgetDe(page_.Frame1)) {
+    const QSize reste = size() - cadre->size();
+    cadre->move(std::min(cadre->x(), reste.width()), std::min(cadre->y(), reste.height()));
+  }
   std::vector<Controle> voulus;
   PourChaque(page_, [&](const LigneImpression &, const Controle &c) {
     if (c.peint) {

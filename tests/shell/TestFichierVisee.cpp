@@ -322,6 +322,37 @@ TEST_F(FichierVisee, ALoadedSightFillsTheSecondRowOfThePrintPageUnderTheTitleOfT
   EXPECT_NEAR(Val(page.Label36[1].legende), bureau.visee.Intercept, 0.0051);
 }
 
+TEST_F(FichierVisee, AFileNamedFromOutsideIsOpenedAsByTheDialog) {
+  const std::string nom = "été à Brest n° 1.LoP";
+  Pose(lieu / nom, Joint(LignesSoleil()));
+  Pose(lieu / "in.LoP", Joint(LignesSoleil()));
+  Ouvre("in.LoP");
+  const auto parLeDialogue = Controles();
+  const auto traces = bureau.image1.traces;
+  ClicControle(bureau, d.Command6);
+  SaisitTexte(bureau, d.Text3, "07");
+  OuvreVisee(bureau, lieu / nom);
+  EXPECT_EQ(Changes(parLeDialogue), "");
+  EXPECT_EQ(bureau.image1.traces, traces);
+  EXPECT_EQ(bureau.TitreFichier, "été à Brest n° 1");
+  EXPECT_TRUE(boites.empty());
+}
+
+TEST_F(FichierVisee, AFileNamedFromOutsideThatIsNotThereIsToldAndNothingChanges) {
+  TapeVisee();
+  Calcule();
+  const auto avant = Controles();
+  const auto traces = bureau.image1.traces;
+  const std::string titre = bureau.TitreFichier;
+  OuvreVisee(bureau, lieu / "absent.LoP");
+  OuvreVisee(bureau, lieu);
+  ASSERT_EQ(boites.size(), 2U);
+  EXPECT_EQ(boites[0].texte, d.TexteNonLu.legende + "\n" + (lieu / "absent.LoP").string());
+  EXPECT_EQ(Changes(avant), "");
+  EXPECT_EQ(bureau.image1.traces, traces);
+  EXPECT_EQ(bureau.TitreFichier, titre);
+}
+
 TEST_F(FichierVisee, ALoadShowsTheStoredLinesBesideTheSight) {
   for (const double gauche : {0.0, 700.0}) {
     d.Frame10.visible = false;
