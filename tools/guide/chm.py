@@ -1,0 +1,86 @@
+"""The project that chmcmd makes a help file from: options, contents, index, and pages in plain ASCII."""
+
+import html
+import re
+from xml.etree import ElementTree
+
+from pages import ACCUEIL, LANGUES, ecrit_guide
+
+# Readers of help files take names in the code page of the file's language.
+CODAGE = "cp1252"
+SITEMAP = ('<!DOCTYPE HTML PUBLIC "-//IETF//DTD HTML//EN">\r\n<html><head>'
+           f'<meta http-equiv="Content-Type" content="text/html; charset={CODAGE.replace("cp", "windows-")}">'
+           "</head><body>\r\n{}\r\n</body></html>\r\n")
+
+
+def _objet(nom, cible):
+    # An apostrophe stays: some readers end the name at its reference.
+    nom = html.escape(nom, quote=False).replace('"', "&quot;")
+    return (f'<li><object type="text/sitemap"><param name="Name" value="{nom}">'
+            f'<param name="Local" value="{cible}"></object>')
+
+
+def sommaire(pages):
+    """The contents: pages, and the sections of each."""
+    lignes = ["<ul>"]
+    for page in pages:
+        lignes.append(_objet(page.titre, page.fichier))
+        sections = [t for t in page.titres if t.niveau == 2]
+        if sections:
+            lignes.append("<ul>")
+            lignes += [_objet(t.texte, f"{page.fichier}#{t.ancre}") for t in sections]
+            lignes.append("</ul>")
+    return "\r\n".join(lignes + ["</ul>"])
+
+
+def _entrees(page):
+    """Headings of a page, and captions of controls with the section where each is first told."""
+    ancre = ""
+    vues = set()
+    for noeud in ElementTree.fromstring(f"<page>{page.corps}</page>").iter():
+        mots = re.sub(r"\s+", " ", "".join(noeud.itertext())).strip()
+        if re.fullmatch(r"h[1-3]", noeud.tag):
+            ancre = noeud.get("id", "")
+        if re.fullmatch(r"h[1-3]|strong", noeud.tag) and mots and mots.lower() not in vues:
+            vues.add(mots.lower())
+            yield mots, page.fichier + (f"#{ancre}" if ancre else "")
+
+
+def mots_cles(pages):
+    """The index, in the order of the alphabet."""
+    entrees = sorted({entree for page in pages for entree in _entrees(page)}, key=lambda e: (e[0].lower(), e[1]))
+    return "\r\n".join(["<ul>"] + [_objet(*entree) for entree in entrees] + ["</ul>"])
+
+
+def options(langue, pages, images):
+    """The project file."""
+    fichiers = [page.fichier for page in pages] + ["guide.css"] + [f"images/{nom}" for nom in images]
+    return "\r\n".join([
+        "[OPTIONS]",
+        "Compatibility=1.1 or later",
+        f"Compiled file={langue.fichier}",
+        "Contents file=sommaire.hhc",
+        "Index file=mots.hhk",
+        f"Default topic={ACCUEIL}.html",
+        "Full-text search=Yes",
+        f"Language={langue.lcid}",
+        f"Title={langue.titre}",
+        "",
+        "[FILES]",
+        *fichiers,
+        "",
+    ])
+
+
+def ecrit_projet(pages, source, sortie):
+    """Writes a project and its pages; letters beyond ASCII are references, which every reader shows right."""
+    langue = LANGUES[pages[0].langue]
+    ecrit_guide(pages, source, sortie, "ascii")
+    images = sorted(f.name for f in (sortie / "images").iterdir())
+
+    def ecrit(nom, texte):
+        (sortie / nom).write_bytes(texte.encode(CODAGE, "replace"))
+
+    ecrit("sommaire.hhc", SITEMAP.format(sommaire(pages)))
+    ecrit("mots.hhk", SITEMAP.format(mots_cles(pages)))
+    ecrit(langue.fichier.replace(".chm", ".hhp"), options(langue, pages, images))
