@@ -63,7 +63,7 @@ fenetre monde
 
 # The first sight: the fields, the result, the sheet, the details.
 visee_bretagne
-piece champs 0 1050 3040 7000
+piece champs 0 1050 3040 6740
 touche space; sleep 0.5
 pastilles 246 72 108 168 165 597 575 385 690 385 590 560 640 660
 fenetre fenetre "${PASTILLES[@]}"
