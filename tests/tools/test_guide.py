@@ -3,6 +3,7 @@
 import re
 import shutil
 import struct
+import subprocess
 import sys
 import tempfile
 import unittest
@@ -19,6 +20,9 @@ from legendes import en_gras, legendes, normalise  # noqa: E402
 from pages import Faute, LANGUES, ecrit_guide, lit_guide  # noqa: E402
 from verifie import verifie  # noqa: E402
 
+# Entries of the menu that go without words, or name a module that is told under its own name.
+HORS_GUIDE = {"Exit (ne rien faire et retourner sur la carte)", "Exit (do nothing and go back to the chart)",
+              "Configuration de la carte", "Chart settings", "Position du Soleil", "Position of the Sun", "Data"}
 PIXEL = bytes.fromhex("89504e470d0a1a0a")
 
 
@@ -120,6 +124,15 @@ class Ecriture(Dossier):
             self.assertTrue((sortie / nom).is_file(), nom)
         self.assertIn("Été".encode("cp1252"), (sortie / "sommaire.hhc").read_bytes())
 
+    @unittest.skipUnless(shutil.which("chmcmd") and shutil.which("chmls"), "needs chmcmd and chmls")
+    def test_the_help_file_holds_every_page_and_picture(self):
+        sortie = self.source / "chm"
+        ecrit_projet(self.lit()["en"], self.source / "en", sortie)
+        subprocess.run(["chmcmd", "--no-html-scan", "velmaris-EN.hhp"], cwd=sortie, check=True, capture_output=True)
+        dedans = subprocess.run(["chmls", "list", "velmaris-EN.chm"], cwd=sortie, check=True, capture_output=True).stdout
+        for nom in ("index.html", "autre.html", "guide.css", "images/une.png", "sommaire.hhc", "mots.hhk"):
+            self.assertIn(f"/{nom}\n".encode(), dedans.replace(b"\r", b""))
+
     def test_contents_and_index(self):
         pages = self.lit()["en"]
         self.assertIn('<param name="Name" value="Là d\'ici"><param name="Local" value="autre.html#ici">', sommaire(pages))
@@ -181,11 +194,6 @@ class LeGuide(unittest.TestCase):
                 for noeud in arbre.iter("img"):
                     self.assertNotIn("//", noeud.get("src"))
         self.assertNotIn("url(", (RACINE / "tools" / "guide" / "guide.css").read_text("utf-8"))
-
-
-# Entries of the menu that bear a module's own name under another caption.
-HORS_GUIDE = {"Exit (ne rien faire et retourner sur la carte)", "Exit (do nothing and go back to the chart)",
-              "Configuration de la carte", "Chart settings", "Position du Soleil", "Position of the Sun", "Data"}
 
 
 if __name__ == "__main__":
