@@ -138,7 +138,7 @@ class Ecriture(Dossier):
         self.assertIn('<param name="Name" value="Là d\'ici"><param name="Local" value="autre.html#ici">', sommaire(pages))
         mots = re.findall(r'value="([^"]*)"><param name="Local" value="([^"]*)"', mots_cles(pages))
         self.assertIn(("Calcul", "autre.html#ici"), mots)
-        self.assertEqual(mots, sorted(mots, key=lambda m: (m[0].lower(), m[1])))
+        self.assertEqual(mots, sorted(set(mots), key=lambda m: m[0].lower()))
         self.assertIn("Compiled file=velmaris-EN.chm", options(LANGUES["en"], pages, []))
 
 

@@ -34,22 +34,23 @@ def sommaire(pages):
 
 
 def _entrees(page):
-    """Headings of a page, and captions of controls with the section where each is first told."""
+    """Headings of a page and captions of controls: whether it is a heading, its words, where it stands."""
     ancre = ""
-    vues = set()
     for noeud in ElementTree.fromstring(f"<page>{page.corps}</page>").iter():
-        mots = re.sub(r"\s+", " ", "".join(noeud.itertext())).strip()
-        if re.fullmatch(r"h[1-3]", noeud.tag):
+        titre = bool(re.fullmatch(r"h[1-3]", noeud.tag))
+        if titre:
             ancre = noeud.get("id", "")
-        if re.fullmatch(r"h[1-3]|strong", noeud.tag) and mots and mots.lower() not in vues:
-            vues.add(mots.lower())
-            yield mots, page.fichier + (f"#{ancre}" if ancre else "")
+        if titre or noeud.tag == "strong":
+            mots = re.sub(r"\s+", " ", "".join(noeud.itertext())).strip()
+            yield titre, mots, page.fichier + (f"#{ancre}" if ancre else "")
 
 
 def mots_cles(pages):
-    """The index, in the order of the alphabet."""
-    entrees = sorted({entree for page in pages for entree in _entrees(page)}, key=lambda e: (e[0].lower(), e[1]))
-    return "\r\n".join(["<ul>"] + [_objet(*entree) for entree in entrees] + ["</ul>"])
+    """The index, in the order of the alphabet: each word once, where it is a heading or else where it is first told."""
+    entrees = {}
+    for _, mots, cible in sorted((e for page in pages for e in _entrees(page)), key=lambda e: not e[0]):
+        entrees.setdefault(mots.lower(), (mots, cible))
+    return "\r\n".join(["<ul>"] + [_objet(*entrees[cle]) for cle in sorted(entrees)] + ["</ul>"])
 
 
 def options(langue, pages, images):
