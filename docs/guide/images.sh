@@ -93,6 +93,10 @@ clic 10200 520; clic 14200 3200; clic 10200 520 # the coordinates
 clic 7700 520; clic 8500 520
 va 10331 8441 # where the carried line crosses the second one
 piece transport 1700 1050 13200 9970
+clic 1900 520 # the page to print
+attends boite_ouverte '^Impression$'
+boite '^Impression$' impression
+touche Escape; reprend '^Impression$'
 clic 10200 520; clic 14200 3200; clic 10200 520
 
 # The first one carried to the dead-reckoning point: its panel, its run.
@@ -158,8 +162,15 @@ touche Escape
 attends boite_fermee "$OBJETS"
 xdotool windowfocus --sync "$FENETRE"
 
-# The sky: the pointer on Sirius, then Orion on the other chart.
+# Who made the program; that puts the modules away.
 clic 6200 520
+clic 9000 6000; touche Up Up Up Return
+attends boite_ouverte '^(A propos|About)$'
+boite '^(A propos|About)$' apropos
+touche Escape; reprend '^(A propos|About)$'
+clic 8500 520
+
+# The sky: the pointer on Sirius, then Orion on the other chart.
 ouvre_ciel
 horizon 180 43.2
 boite "$TITRE" ciel

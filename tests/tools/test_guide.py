@@ -159,6 +159,15 @@ class LeGuide(unittest.TestCase):
                 for mots in en_gras(page):
                     self.assertIn(mots, connues, f"{langue}/{page.nom}.md")
 
+    def test_the_boxes_quoted_are_those_of_the_program(self):
+        for langue, pages in self.guides.items():
+            connues = legendes(RACINE, langue) | {"Fichier absent"}  # what a start without its language file says
+            page = next(page for page in pages if page.nom == "depannage")
+            boites = re.findall(r'<td>(?:« |")(.*?)(?: »|")</td>', page.corps.replace("&quot;", '"'))
+            self.assertGreater(len(boites), 10)
+            for boite in map(normalise, boites):
+                self.assertTrue(any(mots.startswith(boite) for mots in connues), f"{langue}: {boite}")
+
     def test_every_choice_and_button_of_the_main_window_is_told(self):
         """What is pressed or chosen, by the control's name: a new one needs its words."""
         for langue, fichier in (("fr", "FR.txt"), ("en", "EN.txt")):
