@@ -1,7 +1,7 @@
 # Everyday commands. The programs land in build/bin.
 .NOTPARALLEL:
 .DEFAULT_GOAL := build
-.PHONY: deps build run test lint test-sanitize bench fuzz donnees-carte clean
+.PHONY: deps build run test lint test-sanitize bench fuzz donnees-carte guide images-guide clean
 
 SHELL := /bin/bash
 SUDO := $(shell [ "$$(id -u)" = 0 ] || echo sudo)
@@ -31,7 +31,7 @@ build:
 # Builds the programs alone: who only wants to sail needs no tests.
 run: deps
 	cmake --preset release
-	cmake --build --preset release --target velmaris velmaris-calcul donnees
+	cmake --build --preset release --target velmaris velmaris-calcul donnees guide
 	tools/demarre
 
 test: deps build
@@ -68,6 +68,18 @@ donnees-carte:
 	  $(APT) install -y --no-install-recommends $$voulus || \
 	  { $(APT) update && $(APT) install -y --no-install-recommends $$voulus; }
 	/usr/bin/python3 -B tools/donnees_carte --travail build/donnees_carte
+
+# The user's guide alone: HTML pages and help files in build/bin.
+guide: deps
+	cmake --preset release
+	cmake --build --preset release --target guide
+
+# Takes the guide's pictures again, from the program on a virtual screen.
+images-guide: deps build
+	for langue in fr en; do \
+	  xvfb-run -a -s "-screen 0 1100x768x24" docs/guide/images.sh build/bin/velmaris build/pictures/guide-$$langue $$langue \
+	    docs/guide/$$langue/images data/exemples || exit 1; \
+	done
 
 clean:
 	rm -rf build

@@ -7,17 +7,12 @@ PROGRAMME=$1 IMAGES=$2 LANGUE=$3 EXEMPLES=$4
 openbox 2>/dev/null &
 sleep 0.5
 TAILLE=$(xdpyinfo | awk '/dimensions/ {print $2}' | cut -dx -f1)
-NOM=astres-$LANGUE-$TAILLE CHARGE="^(Charger un|Load a) "
+NOM=astres-$LANGUE-$TAILLE
 stocke() { [ "$(reglage "$1")" = "$2" ]; }
 
 # Opens a sample sight by its path and stores it in a line.
 ouvre() {
-  clic 1100 500
-  attends boite_ouverte "$CHARGE"
-  sleep 0.3
-  tape "$EXEMPLES/$1"
-  touche Return
-  attends boite_fermee "$CHARGE"; reprend "$CHARGE"
+  ouvre_visee "$EXEMPLES/$1"
   image "$NOM-$3"
   touche "$2"
 }

@@ -9,8 +9,7 @@ sleep 0.5
 TAILLE=$(xdpyinfo | awk '/dimensions/ {print $2}' | cut -dx -f1)
 NOM=carte-$LANGUE-$TAILLE
 
-# Goes to a place of the window in 1/1440 inch, and presses the right button there.
-va() { xdotool mousemove --window "$FENETRE" $(($1 / 15)) $(($2 / 15)); sleep 0.2; }
+# Presses the right button at a place of the window in 1/1440 inch.
 point() { va "$1" "$2"; xdotool click 3; sleep 0.2; }
 # Dark pixels of a result's well in the panel of the sight.
 chiffres() { convert "$IMAGES/$1.png" -crop 180x30+10+590 +repage -threshold 40% -negate -format '%[fx:int(mean*w*h+0.5)]' info:; }

@@ -8,7 +8,7 @@ openbox 2>/dev/null &
 sleep 0.5
 TAILLE=$(xdpyinfo | awk '/dimensions/ {print $2}' | cut -dx -f1)
 NOM=droites-$LANGUE-$TAILLE
-SAUVE="^(Sauvegarder le|Save the) " CHARGE="^(Charger un|Load a) "
+SAUVE="^(Sauvegarder le|Save the) "
 export HOME=$(mktemp -d)
 
 stocke() { [ "$(reglage "$1")" = "$2" ]; }

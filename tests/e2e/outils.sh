@@ -66,6 +66,8 @@ demarre_apres_boite() {
 
 # Clicks at a place of the window in 1/1440 inch, as the table of controls counts.
 clic() { xdotool mousemove --window "$FENETRE" $(($1 / 15)) $(($2 / 15)) click 1; sleep 0.15; }
+# Goes to a place of the window, as the table counts, and presses nothing.
+va() { xdotool mousemove --window "$FENETRE" $(($1 / 15)) $(($2 / 15)); sleep 0.2; }
 touche() { xdotool key --clearmodifiers --delay 30 "$@"; }
 tape() { xdotool type --delay 15 -- "$1"; }
 # Types into the field that has the focus and goes on to the next.
@@ -102,6 +104,17 @@ visee_suivante() {
 MODE_ENREGISTRE=3255 MODE_AFFICHE=3540 MODE_EFFACE=3825 MODE_CENTRE=4110 MODE_RETIRE=4395 MODE_DROITE=4770
 MODE_ESTIME=5145
 mode() { clic 3200 "$1"; }
+
+# Opens a saved sight by its path.
+CHARGE="^(Charger un|Load a) "
+ouvre_visee() {
+  clic 1100 500
+  attends boite_ouverte "$CHARGE"
+  sleep 0.3
+  tape "$1"
+  touche Return
+  reprend "$CHARGE"
+}
 
 # A whole sight of the Sun by keyboard alone, from the day's field on: Brittany, shortly before noon.
 visee_bretagne() {
