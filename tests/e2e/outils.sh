@@ -38,24 +38,31 @@ reprend() {
   sleep 0.2
 }
 
+# Gives another window the keyboard again, once a box over it has gone.
+revient() {
+  attends boite_fermee "$1"
+  xdotool windowfocus "$(xdotool search --onlyvisible --name "$2" | head -n 1)"
+  sleep 0.3
+}
 # Finds the program's main window, whose title ends with the file's name once the clock has ticked.
 fenetre_principale() {
   FENETRE=$(xdotool search --onlyvisible --pid "$PID" --name 'GMT|Velmaris 2009' 2>/dev/null | head -n 1)
   [ -n "$FENETRE" ]
 }
 
-# Starts the program and waits for its window: sets PID and FENETRE.
+# Starts the program, with arguments or without, and waits for its window: sets PID and FENETRE.
 demarre() {
-  "$PROGRAMME" 2>"$XDG_DATA_HOME/erreurs.txt" &
+  "$PROGRAMME" "$@" 2>"$XDG_DATA_HOME/erreurs.txt" &
   PID=$!
   attends fenetre_principale
   xdotool windowfocus --sync "$FENETRE"
   sleep 0.4
 }
 
-# Starts the program where it has something to tell first: a picture of the box, then Return.
+# Starts the program where it has something to tell first: a picture of the box, then Return. Arguments follow the
+# picture's name.
 demarre_apres_boite() {
-  "$PROGRAMME" 2>"$XDG_DATA_HOME/erreurs.txt" &
+  "$PROGRAMME" "${@:2}" 2>"$XDG_DATA_HOME/erreurs.txt" &
   PID=$!
   attends boite_ouverte "$TOLD_BOX"
   image "$1"

@@ -1,17 +1,12 @@
 #!/usr/bin/env bash
-# The print page, from two lines and the chart to a PDF file of one sheet, and by night; the guide and the about box on
-# a desktop that opens nothing.
+# The print page, from two lines and the chart to a PDF file of one sheet, and by night.
 # Usage: page.sh PROGRAMME IMAGES fr|en
 PROGRAMME=$1 IMAGES=$2 LANGUE=$3
 . "$(dirname "$0")/outils.sh"
 
-# No printer, and a desktop that opens nothing.
-export HOME="$XDG_DATA_HOME/maison" CUPS_SERVER=/nulle/part
-mkdir -p "$HOME/bin"
-printf '#!/bin/sh\necho "$1" >>"$HOME/ouvert.txt"\nexit 3\n' >"$HOME/bin/xdg-open"
-chmod +x "$HOME/bin/xdg-open"
-export PATH="$HOME/bin:$PATH"
-[ "$LANGUE" = en ] && DIALOGUE='^Print$' APROPOS='^About$' || DIALOGUE='^Imprimer$' APROPOS='^A propos$'
+export HOME="$XDG_DATA_HOME/maison" CUPS_SERVER=/nulle/part # no printer
+mkdir -p "$HOME"
+[ "$LANGUE" = en ] && DIALOGUE='^Print$' || DIALOGUE='^Imprimer$'
 
 demarre
 [ "$LANGUE" = en ] && clic 14700 520
@@ -44,12 +39,6 @@ done
 cp "$HOME/deux droites.pdf" "$IMAGES/page-$LANGUE.pdf"
 pdftoppm -r 96 -png -singlefile "$HOME/deux droites.pdf" "$IMAGES/page-$LANGUE-papier"
 
-# Gives another window the keyboard again, once a box over it has gone.
-revient() {
-  attends boite_fermee "$1"
-  xdotool windowfocus "$(xdotool search --onlyvisible --name "$2" | head -n 1)"
-  sleep 0.3
-}
 revient "$DIALOGUE" '^Impression$'
 
 # A click puts the page away; by night it is red, and printed as by day.
@@ -68,22 +57,4 @@ touche Escape
 reprend '^Impression$'
 touche ctrl+n
 
-# The guide and the links, on a desktop where nothing opens them: the address is shown.
-touche F1
-attends boite_ouverte "$TOLD_BOX"
-image "page-$LANGUE-aide"
-repond "$TOLD_BOX" Return
-reprend "$TOLD_BOX"
-clic 9000 6000
-touche Up Up Up Return
-attends boite_ouverte "$APROPOS"
-image "page-$LANGUE-apropos"
-touche space
-attends boite_ouverte "$TOLD_BOX"
-image "page-$LANGUE-adresse"
-repond "$TOLD_BOX" Return
-revient "$TOLD_BOX" "$APROPOS"
-touche Escape
-reprend "$APROPOS"
-attendu "adresse demandée" "$(tail -n 1 "$HOME/ouvert.txt")" https://www.velmaris.org/
 quitte "page-$LANGUE-quitter"
