@@ -32,6 +32,7 @@ namespace velmaris::qt {
 namespace {
 
 constexpr int kHautTitre = 20;      ///< pixels of a module's title band
+constexpr double kPlusPetite = 7.0; ///< points of a caption that stands out
 constexpr double kInterligne = 1.3; ///< lines of a caption that share a place
 
 QString Texte(const std::string &texte) { return QString::fromStdString(texte); }
@@ -172,11 +173,16 @@ void PoseCouleur(QWidget &widget, const Controle &c) {
   widget.setPalette(palette);
 }
 
+/// The font of a control; a caption that stands out takes no more room than its place has.
 void PosePolice(QWidget &widget, const Controle &c) {
   QFont font = widget.font();
   font.setPointSizeF(c.taille);
   font.setBold(c.gras || c.accent);
   font.setUnderline(c.accent);
+  const double place = widget.width() - LargeurMarque(widget);
+  while (c.accent && font.pointSizeF() > kPlusPetite && QFontMetricsF(font).horizontalAdvance(Legende(c)) > place) {
+    font.setPointSizeF(font.pointSizeF() - 0.5);
+  }
   widget.setFont(font);
 }
 
@@ -340,7 +346,8 @@ QWidget *CreeWidget(Bureau &bureau, const Controle &c, QWidget *parent) {
 namespace {
 
 void AccordePolice(QWidget &widget, const Controle &c, const Controle &vu, bool tout) {
-  if (tout || c.taille != vu.taille || c.gras != vu.gras || c.accent != vu.accent) {
+  if (tout || c.taille != vu.taille || c.gras != vu.gras || c.accent != vu.accent ||
+      (c.accent && c.legende != vu.legende)) {
     PosePolice(widget, c);
   }
   if ((tout || c.image != vu.image) && (!c.image.empty() || !vu.image.empty())) {
