@@ -1,7 +1,7 @@
 # Everyday commands. The programs land in build/bin.
 .NOTPARALLEL:
 .DEFAULT_GOAL := build
-.PHONY: deps build run test lint test-sanitize bench fuzz donnees-carte clean
+.PHONY: deps build run test lint test-sanitize bench fuzz paquet essai-paquet donnees-carte clean
 
 SHELL := /bin/bash
 SUDO := $(shell [ "$$(id -u)" = 0 ] || echo sudo)
@@ -60,6 +60,16 @@ fuzz: deps
 	  UBSAN_OPTIONS=halt_on_error=1:print_stacktrace=1 build/fuzz/bin/$$cible -max_total_time=$(DUREE) -print_final_stats=1 -artifact_prefix=build/fuzz/$$cible- \
 	    build/fuzz/corpus/$$cible tests/fuzz/corpus/$$cible || exit 1; \
 	done
+
+# The Debian package, build/velmaris_*.deb, and the checks of it.
+paquet: deps build
+	rm -rf build/velmaris_*.deb build/_CPack_Packages
+	cd build && cpack
+	packaging/verifie-paquet.sh build/velmaris_*.deb
+
+# Installs that package into a bare Debian and tries it there; needs root and a mirror.
+essai-paquet: paquet
+	packaging/essai-paquet.sh build/velmaris_*.deb
 
 # Makes the world chart's data again, from GSHHG and GeoNames, into data/.
 donnees-carte:
