@@ -1,7 +1,7 @@
 # Everyday commands. The programs land in build/bin.
 .NOTPARALLEL:
 .DEFAULT_GOAL := build
-.PHONY: deps build run test lint test-sanitize bench fuzz paquet essai-paquet donnees-carte clean
+.PHONY: deps build run test lint test-sanitize bench fuzz paquet essai-paquet essai-source donnees-carte clean
 
 SHELL := /bin/bash
 SUDO := $(shell [ "$$(id -u)" = 0 ] || echo sudo)
@@ -70,6 +70,10 @@ paquet: deps build
 # Installs that package into a bare Debian and tries it there; needs root and a mirror.
 essai-paquet: paquet
 	packaging/essai-paquet.sh build/velmaris_*.deb
+
+# Builds the last commit in a bare Debian, with what it asks for itself; needs root, a mirror and half an hour.
+essai-source: deps
+	packaging/essai-source.sh
 
 # Makes the world chart's data again, from GSHHG and GeoNames, into data/.
 donnees-carte:
