@@ -118,7 +118,7 @@ dans apt-get install -y -qq --no-install-recommends shared-mime-info desktop-fil
   hicolor-icon-theme man-db >"$racine/apt.log" 2>&1 || { cat "$racine/apt.log" >&2; rate "apt-get install"; }
 cp "$racine$visee" "$racine/home/marin/été à Brest.LoP"
 cp "$racine$visee" "$racine/home/marin/EN-MER.LOP"
-chown marin: "$racine/home/marin"/*.L*
+dans sh -c 'chown marin: /home/marin/*.L*'
 for fichier in "été à Brest.LoP" EN-MER.LOP; do
   genre=$(en_marin gio info -a standard::content-type "/home/marin/$fichier" | sed -n 's/.*content-type: //p')
   echo "$fichier: $genre"
