@@ -124,8 +124,9 @@ for fichier in "été à Brest.LoP" EN-MER.LOP; do
   echo "$fichier: $genre"
   [ "$genre" = application/vnd.velmaris.lop ] || rate "the type of a sight is $genre"
 done
-en_marin gio mime application/vnd.velmaris.lop
-en_marin gio mime application/vnd.velmaris.lop | grep -q "$id.desktop" || rate "a sight isn't opened with the program"
+programmes=$(en_marin gio mime application/vnd.velmaris.lop)
+echo "$programmes"
+grep -q "$id.desktop" <<<"$programmes" || rate "a sight isn't opened with the program"
 desktop-file-validate "$racine/usr/share/applications/$id.desktop"
 # A bare root leaves manual pages out only where its dpkg is told so.
 for langue in C.UTF-8 fr; do
