@@ -128,11 +128,9 @@ programmes=$(en_marin gio mime application/vnd.velmaris.lop)
 echo "$programmes"
 grep -q "$id.desktop" <<<"$programmes" || rate "a sight isn't opened with the program"
 desktop-file-validate "$racine/usr/share/applications/$id.desktop"
-# A bare root leaves manual pages out only where its dpkg is told so.
-for langue in C.UTF-8 fr; do
+for dossier in man man/fr; do
   for page in velmaris velmaris-calcul; do
-    dossier=$racine/usr/share/man/$([ "$langue" = fr ] && echo fr/)man1
-    dans man -l "${dossier#"$racine"}/$page.1.gz" | sed -n 3,4p
+    dans man -l "/usr/share/$dossier/man1/$page.1.gz" | sed -n 3,4p
   done
 done
 

@@ -30,6 +30,7 @@ nettoie_racine() {
   fi
 }
 trap nettoie_racine EXIT
+trap 'echo "$0, line $LINENO: $BASH_COMMAND" >&2' ERR
 trap 'exit 130' INT TERM
 
 # The first Debian mirror that this machine's apt uses, in either form of its lists.

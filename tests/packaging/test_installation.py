@@ -1,6 +1,7 @@
 """What `cmake --install` leaves: every file in its place, and what they tell agreeing with each other."""
 
 import configparser
+import os
 import re
 import struct
 import subprocess
@@ -32,7 +33,8 @@ def lance(programme, *arguments):
     """Runs an installed program in an empty home and off the screen."""
     maison = Path(dossier.name) / "maison"
     maison.mkdir(exist_ok=True)
-    environnement = {"HOME": str(maison), "LANG": "C.UTF-8", "QT_QPA_PLATFORM": "offscreen"}
+    environnement = {cle: valeur for cle, valeur in os.environ.items() if not cle.startswith("XDG_")}
+    environnement |= {"HOME": str(maison), "LANG": "C.UTF-8", "QT_QPA_PLATFORM": "offscreen"}
     return subprocess.run([prefixe / "bin" / programme, *arguments], env=environnement, cwd=maison, text=True,
                           capture_output=True, timeout=20)
 
