@@ -82,7 +82,7 @@ purge() {
   restes=$(find "$racine" -mindepth 1 -xdev -iname '*velmaris*' -not -path "$racine/home/*" -not -path "$racine/tmp/*" \
     -not -name velmaris.log)
   [ -z "$restes" ] || rate "left: $restes"
-  [ -z "$(dans dpkg -l velmaris 2>/dev/null | grep '^[^nu]. *velmaris')" ] || rate "dpkg still knows the package"
+  ! dans dpkg -s velmaris >/dev/null 2>&1 || rate "dpkg still knows the package"
   echo "nothing is left but the user's data:"
   (cd "$racine/home/marin" && find . -type f | sort)
 }

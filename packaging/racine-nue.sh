@@ -1,3 +1,4 @@
+# shellcheck shell=bash
 # Sourced by the trials: makes a bare Debian 12 in a folder of its own, $racine, which goes with the script. Everything is
 # mounted in a name space of the script's own, so that no mount can outlive it.
 
