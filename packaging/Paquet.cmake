@@ -30,10 +30,10 @@ set(CPACK_DEBIAN_PACKAGE_PRIORITY optional)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 set(CPACK_DEBIAN_COMPRESSION_TYPE xz)
 # Loaded while running, and so unseen by shlibdeps: the type family, without which captions are wider than their room,
-# and the toolkit's own words in French.
+# the toolkit's own words in French, the desktop's opener of the guide and of addresses, a reader of help files.
 set(CPACK_DEBIAN_PACKAGE_DEPENDS "fonts-liberation2 | fonts-liberation")
-set(CPACK_DEBIAN_PACKAGE_RECOMMENDS qt6-translations-l10n)
-set(CPACK_DEBIAN_PACKAGE_SUGGESTS qt6-wayland)
+set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "qt6-translations-l10n, xdg-utils")
+set(CPACK_DEBIAN_PACKAGE_SUGGESTS "qt6-wayland, xchm | kchmviewer")
 
 # What the Debian package alone has is added to its tree right before it is packed.
 configure_file(Debian.cmake.in ${CMAKE_CURRENT_BINARY_DIR}/Debian.cmake @ONLY)
