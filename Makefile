@@ -1,7 +1,7 @@
 # Everyday commands. The programs land in build/bin.
 .NOTPARALLEL:
 .DEFAULT_GOAL := build
-.PHONY: deps build run test lint test-sanitize bench fuzz paquet essai-paquet essai-source donnees-carte clean
+.PHONY: deps build run test lint test-sanitize bench fuzz donnees-carte clean
 
 SHELL := /bin/bash
 SUDO := $(shell [ "$$(id -u)" = 0 ] || echo sudo)
@@ -60,6 +60,8 @@ fuzz: deps
 	  UBSAN_OPTIONS=halt_on_error=1:print_stacktrace=1 build/fuzz/bin/$$cible -max_total_time=$(DUREE) -print_final_stats=1 -artifact_prefix=build/fuzz/$$cible- \
 	    build/fuzz/corpus/$$cible tests/fuzz/corpus/$$cible || exit 1; \
 	done
+
+.PHONY: paquet essai-paquet essai-source
 
 # The Debian package, build/velmaris_*.deb, and the checks of it.
 paquet: deps build
