@@ -41,6 +41,15 @@ void LitHorloge(Horloge &horloge) {
   horloge.AnGMT = Format(t.annee, "00");
 }
 
+double MomentUTC(const TempsSysteme &t) {
+  using namespace std::chrono;
+  const year_month_day date(year(t.annee), month(t.mois), day(t.jour));
+  const milliseconds depuisMinuit =
+      hours(t.heure) + minutes(t.minute) + seconds(t.seconde) + milliseconds(t.millisecondes);
+  return static_cast<double>(sys_days(date).time_since_epoch().count()) +
+         duration<double, days::period>(depuisMinuit).count();
+}
+
 float FractionJourUTC(Horloge &horloge) {
   horloge.temps = horloge.source();
   const TempsSysteme &t = horloge.temps;

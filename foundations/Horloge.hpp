@@ -40,6 +40,9 @@ struct Horloge {
 /// Reads UTC into the clock's record and refreshes its four texts.
 void LitHorloge(Horloge &horloge);
 
+/// A moment as a count of days since 1970, with its milliseconds.
+double MomentUTC(const TempsSysteme &temps);
+
 /// Reads UTC into the clock's record, leaving the texts.
 /// @return the fraction of the day, in 32 bits; the milliseconds are ignored
 float FractionJourUTC(Horloge &horloge);

@@ -20,6 +20,7 @@ inline constexpr Couleur kRouge = 0x0000FF;
 inline constexpr Couleur kBleu = 0xFF0000;
 inline constexpr Couleur kMagenta = 0xFF00FF;
 inline constexpr Couleur kGris = Rvb(128, 128, 128);
+inline constexpr Couleur kLien = Rvb(31, 95, 158);
 
 /// A point of a surface, in 1/1440 inch, y growing downward.
 struct Point {

@@ -306,6 +306,12 @@ std::string Gauche(std::string_view texte, std::size_t nombre) {
   return std::string(texte.substr(0, DebutCaractere(texte, nombre)));
 }
 
+std::string SansExtension(std::string_view nom) {
+  constexpr std::size_t kExtension = 4;
+  const std::size_t longueur = NombreCaracteres(nom);
+  return Gauche(nom, longueur > kExtension ? longueur - kExtension : 0);
+}
+
 std::string Droite(std::string_view texte, std::size_t nombre) {
   const std::size_t total = NombreCaracteres(texte);
   return std::string(texte.substr(DebutCaractere(texte, total > nombre ? total - nombre : 0)));

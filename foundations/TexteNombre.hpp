@@ -56,6 +56,10 @@ std::size_t NombreCaracteres(std::string_view texte);
 /// The first characters of a UTF-8 text.
 std::string Gauche(std::string_view texte, std::size_t nombre);
 
+/// A file's name without its last four characters, those of a three-letter extension and its point.
+/// @return empty for a name of four characters or fewer
+std::string SansExtension(std::string_view nom);
+
 /// The last characters of a UTF-8 text.
 std::string Droite(std::string_view texte, std::size_t nombre);
 

@@ -13,6 +13,7 @@ Bureau::Bureau() {
   InitialiseImpression(impression);
   InitialiseUtilisateur(utilisateur);
   InitialiseCiel(ciel);
+  InitialiseApropos(apropos);
 }
 
 Bureau::~Bureau() = default;
@@ -30,19 +31,25 @@ ListeControles ControlesDe(Bureau &bureau, std::string_view fenetre) {
   if (fenetre == kFenetreCiel) {
     return Liste(bureau.ciel);
   }
+  if (fenetre == kFenetreApropos) {
+    return Liste(bureau.apropos);
+  }
   return fenetre == kFenetreImpression ? Liste(bureau.impression) : ListeControles();
 }
 
-std::vector<CadreFenetre *> FenetresLibres(Bureau &bureau) { return {&bureau.utilisateur.cadre, &bureau.ciel.cadre}; }
+std::vector<CadreFenetre *> FenetresLibres(Bureau &bureau) {
+  return {&bureau.utilisateur.cadre, &bureau.ciel.cadre, &bureau.impression.cadre};
+}
 
 Surface *SurfaceDe(Bureau &bureau, const Controle &controle) {
-  const std::array<std::pair<const Controle *, Surface *>, 6> surfaces = {
+  const std::array<std::pair<const Controle *, Surface *>, 7> surfaces = {
       {{&bureau.donnees.Image1, &bureau.image1},
        {&bureau.donnees.PicAZ, &bureau.picAZ},
        {&bureau.donnees.PicHE, &bureau.picHE},
        {&bureau.ciel.Picture1, &bureau.ciel.picture1},
        {&bureau.ciel.PicAZ, &bureau.ciel.picAZ},
-       {&bureau.ciel.PicHE, &bureau.ciel.picHE}}};
+       {&bureau.ciel.PicHE, &bureau.ciel.picHE},
+       {&bureau.impression.Image1, &bureau.impression.image}}};
   for (const auto &[porte, surface] : surfaces) {
     if (porte == &controle) {
       return surface;

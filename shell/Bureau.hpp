@@ -10,6 +10,7 @@
 #include "lines/Feuille.hpp"
 #include "lines/FichierLoP.hpp"
 #include "lines/Transport.hpp"
+#include "shell/Apropos.hpp"
 #include "shell/Ciel.hpp"
 #include "shell/Donnees.hpp"
 #include "shell/FSelect.hpp"
@@ -67,6 +68,7 @@ struct Bureau {
   Impression impression;
   Utilisateur utilisateur;
   Ciel ciel;
+  Apropos apropos;
   Ecran ecran;                         ///< that it has started on
   double largeurFenetre = 0.0;         ///< of the main window, 1/1440 inch
   double hauteurFenetre = 0.0;         ///< of the main window, 1/1440 inch

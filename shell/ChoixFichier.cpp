@@ -13,7 +13,6 @@ namespace {
 namespace fs = std::filesystem;
 
 constexpr const char *kCleDossier = "Dossier"; ///< setting: the folder that a file was last chosen in
-constexpr std::size_t kExtension = 4;          ///< characters of a three-letter extension and its point
 
 /// A text in small letters, the accented ones of Latin-1 included.
 std::string Minuscules(std::string_view texte) {
@@ -207,8 +206,7 @@ void Accepte(Bureau &bureau) {
   Rafraichit(f);
   f.cadre.visible = false;
   f.accepte = true;
-  const std::size_t longueur = NombreCaracteres(f.FName.texte);
-  bureau.TitreFichier = Gauche(f.FName.texte, longueur > kExtension ? longueur - kExtension : 0);
+  bureau.TitreFichier = SansExtension(f.FName.texte);
   EcritReglage(bureau, kCleDossier, f.dossier.string());
 }
 

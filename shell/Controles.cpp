@@ -8,8 +8,7 @@ void PoseTraits(Controle &c, const Traits &traits) {
   c.image = traits.image;
   c.visible = traits.visible;
   c.choisi = traits.choisi;
-  c.aVenir = traits.aVenir;
-  c.actif = !traits.aVenir;
+  c.peint = traits.peint;
   c.titre = traits.titre;
   c.gras = traits.titre;
   c.cadre = traits.cadre;

@@ -65,7 +65,7 @@ struct Controle {
   Place place;
   bool visible = true;
   bool actif = true;
-  bool aVenir = false;       ///< disabled because what it does is not there yet, which its tool tip says
+  bool peint = false;        ///< painted by its window, without a widget of its own
   bool choisi = false;       ///< of an option
   bool accent = false;       ///< the caption stands out
   bool cadre = false;        ///< drawn as a light well, for results
@@ -107,7 +107,7 @@ struct CadreFenetre {
 struct Traits {
   bool visible = true;
   bool choisi = false;
-  bool aVenir = false;
+  bool peint = false;
   bool titre = false;
   bool cadre = false;
   bool renvoi = false;

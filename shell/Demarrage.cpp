@@ -2,6 +2,7 @@
 
 #include "foundations/TexteNombre.hpp"
 #include "lines/FichierLoP.hpp"
+#include "shell/Aide.hpp"
 #include "shell/Carte.hpp"
 #include "shell/Disposition.hpp"
 #include "shell/Droites.hpp"
@@ -13,6 +14,7 @@
 #include "shell/ModesDroite.hpp"
 #include "shell/Nuit.hpp"
 #include "shell/Objets.hpp"
+#include "shell/PageImprimee.hpp"
 #include "shell/PanneauDirect.hpp"
 #include "shell/Saisie.hpp"
 #include "shell/Valeurs.hpp"
@@ -146,6 +148,7 @@ void Timer1_Tick(Bureau &bureau) {
 }
 
 bool Donnees_KeyDown(Bureau &bureau, int code) {
+  constexpr int kF1 = 112;
   constexpr int kF2 = 113;
   constexpr int kF3 = 114;
   constexpr int kF4 = 115;
@@ -160,6 +163,9 @@ bool Donnees_KeyDown(Bureau &bureau, int code) {
     }
   };
   switch (code) {
+  case kF1:
+    OuvreAide(bureau);
+    return true;
   case kF2:
     Sortie_Click(bureau, -1);
     return true;
@@ -195,8 +201,10 @@ void Sortie_Click(Bureau &bureau, int /*indice*/) {
   }
   bureau.valeurs->Ensemble([&] { GardeReglages(bureau); });
   SignaleMagasin(bureau);
+  bureau.apropos.cadre.visible = false;
   Ciel_Ferme(bureau);
   bureau.fselect.cadre.visible = false;
+  Impression_Ferme(bureau);
   QuitteObjets(bureau);
   bureau.termine = true;
 }

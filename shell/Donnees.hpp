@@ -77,7 +77,8 @@ struct Donnees {
   Controle Label55, Text21, Label57, Command10, Label58, Text24, Label71, Label73, Text23, Label74;
 
   // Words that no control shows: boxes and tool tips.
-  Controle TexteAVenir, TexteOui, TexteNon, TexteOk, TexteErreur, TexteSecours, TexteMagasinAbime;
+  Controle TexteAdresse, TexteCopier, TexteSansAide, TexteOui, TexteNon, TexteOk, TexteErreur, TexteSecours,
+      TexteMagasinAbime;
   Controle TexteMagasinMuet, TexteSansSecours, TexteAttention, TexteTitreErreur, TexteTempsRoute, TexteSauve;
   Controle TexteCharge, TexteNonEcrit, TexteNonLu, TexteJournalMuet, TexteSansAstre;
 };

@@ -1,5 +1,6 @@
 #include "shell/Evenements.hpp"
 
+#include "shell/Aide.hpp"
 #include "shell/Astres.hpp"
 #include "shell/Carte.hpp"
 #include "shell/ChoixFichier.hpp"
@@ -11,6 +12,8 @@
 #include "shell/Modules.hpp"
 #include "shell/Nuit.hpp"
 #include "shell/Objets.hpp"
+#include "shell/PageImprimee.hpp"
+#include "shell/Presentation.hpp"
 #include "shell/Route.hpp"
 #include "shell/Saisie.hpp"
 #include "shell/Souris.hpp"
@@ -70,6 +73,19 @@ constexpr Abonnement kCiel[] = {
 };
 
 // NOLINTNEXTLINE(cppcoreguidelines-avoid-c-arrays,modernize-avoid-c-arrays)
+constexpr Abonnement kImpression[] = {
+    {"Image1", Evenement::Clic, impression::Image1_Click},
+    {"Command1", Evenement::Clic, impression::Command1_Click},
+};
+
+// NOLINTNEXTLINE(cppcoreguidelines-avoid-c-arrays,modernize-avoid-c-arrays)
+constexpr Abonnement kApropos[] = {
+    {"Image1", Evenement::Survol, apropos::Image1_MouseMove}, {"Label3", Evenement::Clic, apropos::Label3_Click},
+    {"Label4", Evenement::Clic, apropos::Label4_Click},       {"Label5", Evenement::Clic, apropos::Label5_Click},
+    {"Command1", Evenement::Clic, apropos::Command1_Click},
+};
+
+// NOLINTNEXTLINE(cppcoreguidelines-avoid-c-arrays,modernize-avoid-c-arrays)
 constexpr Abonnement kDonnees[] = {
     {"TDate", Evenement::Quitte, TDate_Quitte},
     {"TDate", Evenement::Change, TDate_Change},
@@ -97,6 +113,7 @@ constexpr Abonnement kDonnees[] = {
     {"Command26", Evenement::Clic, Command26_Click},
     {"Command3", Evenement::Clic, Command3_Click},
     {"Command4", Evenement::Clic, Command4_Click},
+    {"Command5", Evenement::Clic, Command5_Click},
     {"Command6", Evenement::Clic, Command6_Click},
     {"Command8", Evenement::Clic, Command8_Click},
     {"Droite", Evenement::Clic, Droite_Click},
@@ -109,6 +126,7 @@ constexpr Abonnement kDonnees[] = {
     {"LabLatEst", Evenement::Clic, PositionEstimee_Click},
     {"LabLonEst", Evenement::Clic, PositionEstimee_Click},
     {"Command10", Evenement::Clic, Command10_Click},
+    {"Command11", Evenement::Clic, Command11_Click},
     {"Command12", Evenement::Clic, Grille_Click},
     {"Command14", Evenement::Clic, Grille_Click},
     {"HScroll1", Evenement::Change, HScroll1_Change},
@@ -158,6 +176,7 @@ constexpr Abonnement kDonnees[] = {
     {"PU_E", Evenement::Clic, Command22_Click},
     {"PU_Caps", Evenement::Clic, Command9_Click},
     {"PU_Clear", Evenement::Clic, PU_Clear_Click},
+    {"PU_Apropos", Evenement::Clic, PU_Apropos_Click},
     {"PU_Nuit", Evenement::Clic, PU_Nuit_Click},
     {"PU_Quitter", Evenement::Clic, Sortie_Click},
 };
@@ -171,6 +190,12 @@ std::span<const Abonnement> AbonnementsDe(std::string_view fenetre) {
   }
   if (fenetre == kFenetreCiel) {
     return kCiel;
+  }
+  if (fenetre == kFenetreImpression) {
+    return kImpression;
+  }
+  if (fenetre == kFenetreApropos) {
+    return kApropos;
   }
   return fenetre == kFenetreFSelect ? std::span<const Abonnement>(kFSelect) : std::span<const Abonnement>();
 }
@@ -244,6 +269,14 @@ void ClicControle(Bureau &bureau, Controle &controle) {
 void ActiveFenetre(Bureau &bureau, std::string_view fenetre) {
   if (fenetre == kFenetreFSelect) {
     FSelect_Activate(bureau);
+  } else if (fenetre == kFenetreImpression) {
+    Impression_Activate(bureau);
+  }
+}
+
+void SurvoleControle(Bureau &bureau, Controle &controle) {
+  if (Utilisable(controle)) {
+    Declenche(bureau, controle, Evenement::Survol);
   }
 }
 

@@ -17,7 +17,8 @@ enum class Evenement : std::uint8_t {
   Relache,    ///< a choice made by the user, once mouse or key is released
   Change,     ///< its text or value has changed, by the user or by code
   Entre,      ///< a field takes the focus
-  Quitte      ///< a field loses it
+  Quitte,     ///< a field loses it
+  Survol      ///< the mouse moves over a picture
 };
 
 /// Whether anything happens at that event of that control.
@@ -52,6 +53,8 @@ void PoseValeur(Bureau &bureau, Controle &controle, int valeur);
 
 /// Presses a command, a picture or a module.
 void ClicControle(Bureau &bureau, Controle &controle);
+/// Moves the mouse over a picture.
+void SurvoleControle(Bureau &bureau, Controle &controle);
 /// Brings a window to the front.
 /// @param fenetre  its name
 void ActiveFenetre(Bureau &bureau, std::string_view fenetre);

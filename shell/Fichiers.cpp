@@ -2,6 +2,7 @@
 
 #include "foundations/Erreur.hpp"
 #include "foundations/Fichiers.hpp"
+#include "foundations/TexteNombre.hpp"
 #include "lines/FichierLoP.hpp"
 #include "shell/Astres.hpp"
 #include "shell/ChoixFichier.hpp"
@@ -35,14 +36,17 @@ void RemetFeuille(Bureau &bureau) {
   OublieFeuille(bureau);
 }
 
+void DitNonLu(Bureau &bureau, const std::filesystem::path &chemin) {
+  bureau.ports.boite({.texte = bureau.donnees.TexteNonLu.legende + "\n" + chemin.string(), .icone = Icone::Attention});
+}
+
 /// Reads a file's lines into the table. Past a table that is full the read fails without taking its line, so that the
 /// end of the file never comes: the program lives on beside it, until it is left.
 /// @return false when there is nothing to apply: the file can't be read, which the user is told, or the program ends
 bool LitLignes(Bureau &bureau, const std::filesystem::path &chemin) {
   std::optional<std::string> octets;
   if (!Passe([&] { octets = LitFichier(chemin); })) {
-    bureau.ports.boite(
-        {.texte = bureau.donnees.TexteNonLu.legende + "\n" + chemin.string(), .icone = Icone::Attention});
+    DitNonLu(bureau, chemin);
     return false;
   }
   try {
@@ -108,9 +112,20 @@ void Command4_Click(Bureau &bureau, int /*indice*/) {
   }
 }
 
-void ChargeVisee(Bureau &bureau, const std::filesystem::path &chemin) {
-  if (!LitLignes(bureau, chemin)) {
+void OuvreVisee(Bureau &bureau, const std::filesystem::path &chemin) {
+  if (!Passe([&] { LitFichier(chemin); })) {
+    DitNonLu(bureau, chemin);
     return;
+  }
+  RemetFeuille(bureau);
+  if (ChargeVisee(bureau, chemin)) {
+    bureau.TitreFichier = SansExtension(chemin.filename().string());
+  }
+}
+
+bool ChargeVisee(Bureau &bureau, const std::filesystem::path &chemin) {
+  if (!LitLignes(bureau, chemin)) {
+    return false;
   }
   bureau.image1.police = {"ms sans serif", 9.0, true};
   AppliqueAuPanneau(bureau);
@@ -123,6 +138,7 @@ void ChargeVisee(Bureau &bureau, const std::filesystem::path &chemin) {
   PoseMode(bureau, ModeDroite::Enregistre);
   MontreDroitesMultiples(bureau);
   RetraceCarte(bureau);
+  return true;
 }
 
 } // namespace velmaris

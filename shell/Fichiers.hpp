@@ -11,9 +11,14 @@ void Command3_Click(Bureau &bureau, int indice);
 /// "Ouvre": takes the sheet's state back, asks for a file and loads it.
 void Command4_Click(Bureau &bureau, int indice);
 
+/// Opens a file that is named from outside, as "Ouvre" does with the one that the user chooses; the window's title
+/// bears its name. A file that can't be read is told, and nothing else changes.
+void OuvreVisee(Bureau &bureau, const std::filesystem::path &chemin);
+
 /// Loads a sight from a file into the panel, reduces it and draws its sheet; it is in none of the lines, and the next
 /// click on one stores it. What the file says wrongly is passed over. A file of over 31 lines never finishes loading:
 /// the program lives on until it is left. A file that can't be read is told, and the panel stays.
-void ChargeVisee(Bureau &bureau, const std::filesystem::path &chemin);
+/// @return whether it was loaded
+bool ChargeVisee(Bureau &bureau, const std::filesystem::path &chemin);
 
 } // namespace velmaris

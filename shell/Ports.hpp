@@ -20,9 +20,11 @@ struct Boite {
   Icone icone = Icone::Aucune;
   bool question = false;
   bool nonParDefaut = false;
+  std::string adresse = {}; ///< shown under the text, to be copied
 };
 
 struct CadreFenetre;
+struct Impression;
 
 /// What the core asks of the outside.
 struct Ports {
@@ -44,6 +46,15 @@ struct Ports {
     std::error_code refus;
     return std::filesystem::remove(fichier, refus);
   };
+  /// Prints the page without its button, once the user has chosen where; giving up is no failure.
+  /// @return false when it failed
+  std::function<bool(const Impression &)> imprime = [](const Impression &) { return false; };
+  /// Opens a web or mail address, or the path of a file, by the desktop's program for it; the second argument is
+  /// called when there is none, perhaps later.
+  std::function<void(const std::string &, const std::function<void()> &)> ouvre =
+      [](const std::string &, const std::function<void()> &sansProgramme) { sansProgramme(); };
+  /// Whether the desktop has a program for files of a media type.
+  std::function<bool(const std::string &)> lecteur = [](const std::string &) { return false; };
   /// Name of a date's weekday in the system's language, in lower case.
   std::function<std::string(const ValeurDate &)> nomJour = [](const ValeurDate &) { return std::string(); };
   /// Name of a date's month in the system's language.

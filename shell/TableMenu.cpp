@@ -29,7 +29,7 @@ constexpr LigneDonnees kMenu[] = {
     {SEUL(PU_Clear), Genre::Entree, "PopUp", {}, "Retirer tous les modules"},
     {RANG(PU_Trait, 3), Genre::Separateur, "PopUp", {}},
     {SEUL(PU_Exit), Genre::Entree, "PopUp", {}, "Exit (ne rien faire et retourner sur la carte)"},
-    {SEUL(PU_Apropos), Genre::Entree, "PopUp", {}, "A propos", "", {.aVenir = true}},
+    {SEUL(PU_Apropos), Genre::Entree, "PopUp", {}, "A propos"},
     {SEUL(PU_Nuit), Genre::Entree, "PopUp", {}, "Vue de nuit (rouge)", "Ctrl+N"},
     {RANG(PU_Trait, 4), Genre::Separateur, "PopUp", {}},
     {SEUL(PU_Quitter), Genre::Entree, "PopUp", {}, "Quitter"},

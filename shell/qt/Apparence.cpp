@@ -1,14 +1,20 @@
 #include "shell/qt/Apparence.hpp"
 
+#include "shell/Identite.hpp"
 #include "shell/qt/Nuit.hpp"
 
 #include <QApplication>
 #include <QFont>
+#include <QLibraryInfo>
+#include <QTranslator>
 
 namespace velmaris::qt {
 namespace {
 
 constexpr double kTaillePolice = 9.0; ///< points
+constexpr const char *kTraducteur = "traducteur";
+
+QString Texte(std::string_view texte) { return QString::fromUtf8(texte.data(), static_cast<qsizetype>(texte.size())); }
 
 } // namespace
 
@@ -20,6 +26,23 @@ void PoseApparence() {
   police.setPointSizeF(kTaillePolice);
   QApplication::setFont(police);
   QApplication::setApplicationName("velmaris");
+  QApplication::setApplicationVersion(Texte(TexteVersion()));
+  QGuiApplication::setDesktopFileName(Texte(Identifiant()));
+}
+
+void AccordeLangue(bool francais) {
+  auto *pose = QApplication::instance()->findChild<QTranslator *>(kTraducteur);
+  if (francais == (pose != nullptr)) {
+    return;
+  }
+  delete pose; // English is the toolkit's own
+  if (francais) {
+    auto *traducteur = new QTranslator(QApplication::instance());
+    traducteur->setObjectName(kTraducteur);
+    if (traducteur->load("qtbase_fr", QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
+      QApplication::installTranslator(traducteur);
+    }
+  }
 }
 
 } // namespace velmaris::qt

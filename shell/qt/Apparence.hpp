@@ -6,4 +6,8 @@ namespace velmaris::qt {
 /// The application must be there.
 void PoseApparence();
 
+/// Has the toolkit's own words, those of its dialogs and menus, in the program's language.
+/// @param francais  else English
+void AccordeLangue(bool francais);
+
 } // namespace velmaris::qt

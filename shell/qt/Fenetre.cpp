@@ -1,5 +1,6 @@
 #include "shell/qt/Fenetre.hpp"
 
+#include "shell/Aide.hpp"
 #include "shell/Demarrage.hpp"
 #include "shell/Droites.hpp"
 #include "shell/Nuit.hpp"
@@ -157,6 +158,10 @@ bool Fenetre::eventFilter(QObject *objet, QEvent *event) {
   const auto &appui = *static_cast<QKeyEvent *>(event);
   if (appui.key() == Qt::Key_N && appui.modifiers() == Qt::ControlModifier) {
     scene_.Joue([this] { PU_Nuit_Click(bureau_, -1); });
+    return true;
+  }
+  if (appui.key() == Qt::Key_F1) { // in every window
+    scene_.Joue([this] { OuvreAide(bureau_); });
     return true;
   }
   return Touche(objet, appui.key());

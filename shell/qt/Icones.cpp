@@ -1,6 +1,7 @@
 #include "shell/qt/Icones.hpp"
 
 #include "shell/qt/Nuit.hpp"
+#include "shell/qt/Vignettes.hpp"
 
 #include <QIconEngine>
 #include <QPainter>
@@ -278,7 +279,9 @@ constexpr Dessin kDessins[] = {{"sauve", Sauve},
                                {"top", Top},
                                {"calcul", Calcul},
                                {"drapeau-fr", DrapeauFr},
-                               {"drapeau-en", DrapeauEn}};
+                               {"drapeau-en", DrapeauEn},
+                               {"velmaris-jour", VignetteJour},
+                               {"velmaris-nuit", VignetteNuit}};
 
 /// A picture by day.
 void Peint(QPainter &painter, const QRect &rect, QIcon::Mode mode, void (*trace)(QPainter &)) {

@@ -2,10 +2,24 @@
 
 #include "shell/qt/Dialogue.hpp"
 #include "shell/qt/FenetreCiel.hpp"
+#include "shell/qt/FenetreImpression.hpp"
 
 #include <utility>
 
 namespace velmaris::qt {
+namespace {
+
+Dialogue *Cree(Scene &scene, CadreFenetre &cadre, QWidget &principale) {
+  if (cadre.nom == kFenetreCiel) {
+    return new FenetreCiel(scene, &principale);
+  }
+  if (cadre.nom == kFenetreImpression) {
+    return new FenetreImpression(scene, &principale);
+  }
+  return new Dialogue(scene, cadre, &principale);
+}
+
+} // namespace
 
 void Libres::Accorde() {
   Bureau &bureau = scene_.bureau();
@@ -18,8 +32,7 @@ void Libres::Accorde() {
       fenetre->hide();
       fenetre->deleteLater();
     } else if (cadre->visible && fenetre == nullptr && !bureau.termine) {
-      fenetre = cadre->nom == kFenetreCiel ? new FenetreCiel(scene_, &principale_)
-                                           : new Dialogue(scene_, *cadre, &principale_);
+      fenetre = Cree(scene_, *cadre, principale_);
       ouvertes_.insert(cadre, fenetre);
       fenetre->MontreACote();
     }

@@ -25,7 +25,7 @@ void Remplit(QMenu &qt, QWidget &parent, Scene &scene, const ListeControles &con
       entree->setEnabled(c->actif);
       entree->setCheckable(c->valeur != 0);
       entree->setChecked(c->valeur != 0);
-      entree->setToolTip(QString::fromStdString(c->aVenir ? scene.bureau().donnees.TexteAVenir.legende : c->infobulle));
+      entree->setToolTip(QString::fromStdString(c->infobulle));
       // Once the menu has gone: a drawing lets the interface live, which would take the menu away under its own entry.
       QObject::connect(
           entree, &QAction::triggered, &parent,

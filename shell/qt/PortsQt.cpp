@@ -1,9 +1,12 @@
 #include "shell/qt/PortsQt.hpp"
 
 #include "shell/qt/Dialogue.hpp"
+#include "shell/qt/Imprimante.hpp"
+#include "shell/qt/Liens.hpp"
 #include "shell/qt/Nuit.hpp"
 
 #include <QApplication>
+#include <QClipboard>
 #include <QDate>
 #include <QEventLoop>
 #include <QFile>
@@ -46,6 +49,13 @@ QMessageBox::Icon IconeQt(Icone icone) {
   }
 }
 
+/// Puts an address into a box, to be selected or copied by the button given back.
+QAbstractButton *MontreAdresse(QMessageBox &qt, const Donnees &d, const QString &adresse) {
+  qt.setInformativeText(adresse);
+  qt.setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+  return qt.addButton(QString::fromStdString(d.TexteCopier.legende), QMessageBox::ActionRole);
+}
+
 bool MontreBoite(const Bureau &bureau, const Boite &boite, QWidget *parent) {
   const Donnees &d = bureau.donnees;
   AccordeNuit(bureau.nuit);
@@ -54,9 +64,14 @@ bool MontreBoite(const Bureau &bureau, const Boite &boite, QWidget *parent) {
   qt.setTextFormat(Qt::PlainText);
   qt.setText(QString::fromStdString(boite.texte));
   qt.setIcon(IconeQt(boite.icone));
+  const QAbstractButton *copier =
+      boite.adresse.empty() ? nullptr : MontreAdresse(qt, d, QString::fromStdString(boite.adresse));
   if (!boite.question) {
     qt.addButton(QString::fromStdString(d.TexteOk.legende), QMessageBox::AcceptRole);
     qt.exec();
+    if (copier != nullptr && qt.clickedButton() == copier) {
+      QGuiApplication::clipboard()->setText(QString::fromStdString(boite.adresse));
+    }
     return true;
   }
   const auto *oui = qt.addButton(QString::fromStdString(d.TexteOui.legende), QMessageBox::YesRole);
@@ -115,6 +130,15 @@ void Boites::Ouvre(Scene &scene, QWidget &fenetre) {
     scene.AccordePointeur();
     QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
   };
+  bureau_.ports.imprime = [this, &scene](const Impression &page) {
+    QApplication::restoreOverrideCursor();
+    scene.Accorde(); // the page stands as it will be printed while the printer is chosen
+    return Imprime(page, QApplication::activeWindow());
+  };
+  bureau_.ports.ouvre = [&scene, &fenetre](const std::string &adresse, const std::function<void()> &sansProgramme) {
+    OuvreLien(fenetre, adresse, [&scene, sansProgramme] { scene.Joue(sansProgramme); });
+  };
+  bureau_.ports.lecteur = AUnLecteur;
   for (const Boite &boite : std::exchange(attente_, {})) {
     MontreBoite(bureau_, boite, fenetre_);
   }

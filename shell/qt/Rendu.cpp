@@ -35,6 +35,9 @@ Rendu::~Rendu() { scene_.Retire(*this); }
 void Rendu::CreeWidgets(const ListeControles &controles) {
   QWidget *precedent = nullptr;
   for (Controle *c : controles) {
+    if (c->peint) {
+      continue;
+    }
     const Lien *parent = Trouve(c->parent, -1);
     if (auto *ciel = dynamic_cast<ToileCiel *>(parent == nullptr ? nullptr : parent->widget)) {
       ciel->Ajoute(*c);
@@ -65,6 +68,8 @@ void Rendu::Branche(QWidget *widget, Controle &c) {
       carte->raise();
       clic();
     };
+  } else if (auto *figure = dynamic_cast<Figure *>(widget)) {
+    figure->auSurvol = [this, &c] { Joue([this, &c] { SurvoleControle(bureau_, c); }); };
   } else if (auto *renvoi = dynamic_cast<Renvoi *>(widget)) {
     renvoi->auClic = clic;
   } else if (auto *champ = qobject_cast<QLineEdit *>(widget)) {
@@ -161,7 +166,7 @@ void Rendu::AccordeWidget(Lien &lien, bool tout) {
     }
   }
   Controle &c = *lien.controle;
-  qt::AccordeWidget(*lien.widget, c, lien.vu, tout, QString::fromStdString(bureau_.donnees.TexteAVenir.legende));
+  qt::AccordeWidget(*lien.widget, c, lien.vu, tout);
   const QString nom = NomLisible(c);
   if (lien.widget->focusPolicy() != Qt::NoFocus && lien.widget->accessibleName() != nom) {
     lien.widget->setAccessibleName(nom);

@@ -1,6 +1,7 @@
 #include "shell/qt/Scene.hpp"
 
 #include "shell/Demarrage.hpp"
+#include "shell/qt/Apparence.hpp"
 #include "shell/qt/Nuit.hpp"
 #include "shell/qt/Rendu.hpp"
 
@@ -42,6 +43,7 @@ void Scene::Accorde() {
   while (encore_) {
     encore_ = false;
     AccordeNuit(bureau_.nuit);
+    AccordeLangue(bureau_.FichierLangue == "\\FR.txt");
     const std::vector<Rendu *> rendus = rendus_;
     for (Rendu *rendu : rendus) {
       rendu->Accorde();

@@ -19,8 +19,8 @@ constexpr double kTwipsParPouce = 1440.0;
 constexpr double kPasVisible = 0.25; ///< pixels under which two points of a line are one
 constexpr double kPortee = 1e8;      ///< 1/1440 inch from the surface's corner
 
-QPen PlumeQt(const Plume &plume, const QColor &couleur) {
-  QPen pen(couleur, plume.largeur);
+QPen PlumeQt(const Plume &plume, const QColor &couleur, double pixel) {
+  QPen pen(couleur, plume.largeur * pixel);
   pen.setCapStyle(Qt::FlatCap);
   switch (plume.style) {
   case Style::Tirets:
@@ -56,14 +56,16 @@ struct Peintre {
   QColor fond;
   std::vector<QRectF> &figures;
   bool nuit = false;
-  double bas = kPortee; ///< pixel that no text goes under
+  double pixel = 1.0;
+  double bas = kPortee; ///< unit that no text goes under
 
   QColor Encre(Couleur couleur) const { return nuit ? EncreDeNuit(CouleurQt(couleur), fond) : CouleurQt(couleur); }
   QPointF Place(Point p) const { return {p.x * facteur, p.y * facteur}; }
 
   /// The points of a line that can be told apart. One that never leaves its first point is only that.
   QPolygonF Amincit(const Polyligne &ligne) const {
-    const double seuil = kPasVisible / facteur * kPasVisible / facteur;
+    const double pas = kPasVisible * pixel / facteur;
+    const double seuil = pas * pas;
     const auto distinct = [&](Point a, Point b) {
       return (a.x - b.x) * (a.x - b.x) + (a.y - b.y) * (a.y - b.y) >= seuil;
     };
@@ -88,7 +90,7 @@ struct Peintre {
     if (points.size() < 2) {
       return;
     }
-    painter.setPen(PlumeQt(ligne.plume, Encre(ligne.plume.couleur)));
+    painter.setPen(PlumeQt(ligne.plume, Encre(ligne.plume.couleur), pixel));
     // A single line along an axis is sharp only without smoothing.
     const bool droite =
         ligne.points.size() == 2 && (ligne.points[0].x == ligne.points[1].x || ligne.points[0].y == ligne.points[1].y);
@@ -96,17 +98,17 @@ struct Peintre {
     QPen pen = painter.pen();
     const bool faible = FautLisere(CouleurQt(ligne.plume.couleur), fond);
     if (faible && nuit) {
-      pen.setWidthF(pen.widthF() + 1);
+      pen.setWidthF(pen.widthF() + pixel);
       painter.setPen(pen);
     } else if (faible) {
-      painter.setPen(QPen(kLisere, pen.widthF() + 2));
+      painter.setPen(QPen(kLisere, pen.widthF() + 2 * pixel));
       painter.drawPolyline(points);
-      painter.setPen(QPen(pen.color(), pen.widthF() + 0.5));
+      painter.setPen(QPen(pen.color(), pen.widthF() + pixel / 2));
     }
     painter.drawPolyline(points);
   }
   void operator()(const CercleTrace &cercle) const {
-    painter.setPen(PlumeQt(cercle.plume, Encre(cercle.plume.couleur)));
+    painter.setPen(PlumeQt(cercle.plume, Encre(cercle.plume.couleur), pixel));
     painter.setRenderHint(QPainter::Antialiasing);
     painter.drawEllipse(Place(cercle.centre), cercle.rayon * facteur, cercle.rayon * facteur);
   }
@@ -117,8 +119,8 @@ struct Peintre {
     if (place.y() < bas) {
       place.setY(std::min(place.y(), bas - metrique.ascent()));
     }
-    return {place,
-            QSizeF(metrique.horizontalAdvance(QString::fromStdString(texte.texte)) + kEcartFigures, metrique.ascent())};
+    return {place, QSizeF(metrique.horizontalAdvance(QString::fromStdString(texte.texte)) + kEcartFigures * pixel,
+                          metrique.ascent())};
   }
 
   void operator()(const TexteTrace &texte) const {
@@ -169,8 +171,8 @@ QColor CouleurQt(Couleur couleur) {
 
 void PeintTraces(QPainter &painter, const Surface &surface, double facteur, std::size_t premier,
                  std::vector<QRectF> &figures, Maniere maniere) {
-  const Peintre peintre{painter, facteur,      CouleurQt(surface.fond),
-                        figures, maniere.nuit, maniere.textesEntiers ? surface.hauteur * facteur : kPortee};
+  const double bas = maniere.textesEntiers ? surface.hauteur * facteur : kPortee;
+  const Peintre peintre{painter, facteur, CouleurQt(surface.fond), figures, maniere.nuit, maniere.pixel, bas};
   for (std::size_t i = premier; i < surface.traces.size(); ++i) {
     const auto *texte = std::get_if<TexteTrace>(&surface.traces[i]);
     if (texte != nullptr && texte->insistant && Visible{}(*texte)) {

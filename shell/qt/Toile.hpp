@@ -27,13 +27,14 @@ QColor CouleurQt(Couleur couleur);
 struct Maniere {
   bool nuit = false;          ///< in red on black
   bool textesEntiers = false; ///< a text that the lower edge would cut is moved up
+  double pixel = 1.0;         ///< painter's units that a line of width 1 takes
 };
 
 /// Paints part of what is recorded on a surface, lines first and texts over them. A coloured text that would
 /// overprint one before it, or one that insists, is left out: so the figures of a fine grid and the names of cities
 /// stay readable.
-/// @param painter    scaled to the toolkit's pixels
-/// @param facteur    pixels per 1/1440 inch
+/// @param painter    its unit is the toolkit's pixel, or a printer's
+/// @param facteur    units per 1/1440 inch
 /// @param premier    first recorded trace to paint
 /// @param maniere    how, beyond what is recorded
 /// @param figures    places of the coloured figures on the image, of this call and those before

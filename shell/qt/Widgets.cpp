@@ -90,7 +90,7 @@ QWidget *CreeImage(const Controle &c, QWidget *parent) {
     bouton->setFocusPolicy(Qt::TabFocus);
     return bouton;
   }
-  return new QLabel(parent);
+  return Ecoute(c, Evenement::Survol) ? new Figure(parent) : new QLabel(parent);
 }
 
 /// A list that chooses nothing by itself when the keyboard comes to it.
@@ -290,6 +290,10 @@ void Renvoi::paintEvent(QPaintEvent *event) {
   }
 }
 
+Figure::Figure(QWidget *parent) : QLabel(parent) { setMouseTracking(true); }
+
+void Figure::mouseMoveEvent(QMouseEvent * /*event*/) { auSurvol(); }
+
 QWidget *CreeWidget(Bureau &bureau, const Controle &c, QWidget *parent) {
   switch (c.genre) {
   case Genre::Surface:
@@ -346,7 +350,7 @@ void AccordePolice(QWidget &widget, const Controle &c, const Controle &vu, bool 
 
 } // namespace
 
-void AccordeWidget(QWidget &widget, const Controle &c, const Controle &vu, bool tout, const QString &aVenir) {
+void AccordeWidget(QWidget &widget, const Controle &c, const Controle &vu, bool tout) {
   if (tout || c.place != vu.place) {
     widget.setGeometry(PlaceQt(c.place, widget));
   }
@@ -358,10 +362,8 @@ void AccordeWidget(QWidget &widget, const Controle &c, const Controle &vu, bool 
     PoseCouleur(widget, c);
   }
   PoseContenu(widget, c, vu, tout);
-  const bool attend = c.aVenir && !c.actif;
-  const QString infobulle = attend ? aVenir : Texte(c.infobulle);
-  if (widget.toolTip() != infobulle) {
-    widget.setToolTip(infobulle);
+  if (widget.toolTip() != Texte(c.infobulle)) {
+    widget.setToolTip(Texte(c.infobulle));
   }
   PosePointeur(widget, c, vu);
   if (tout || c.actif != vu.actif) {

@@ -37,14 +37,23 @@ protected:
   void paintEvent(QPaintEvent *event) override;
 };
 
+/// A picture that tells when the mouse moves over it.
+class Figure : public QLabel {
+public:
+  explicit Figure(QWidget *parent);
+  std::function<void()> auSurvol;
+
+protected:
+  void mouseMoveEvent(QMouseEvent *event) override;
+};
+
 /// Makes the widget that shows a control; it bears the control's name and index as its object name.
 /// @return null for words that no control shows, and for menus and their entries
 QWidget *CreeWidget(Bureau &bureau, const Controle &controle, QWidget *parent);
 
 /// Brings a widget in line with its control.
-/// @param vu      the control as the widget showed it last
-/// @param aVenir  tool tip of a control that has nothing to do yet
-void AccordeWidget(QWidget &widget, const Controle &controle, const Controle &vu, bool tout, const QString &aVenir);
+/// @param vu  the control as the widget showed it last
+void AccordeWidget(QWidget &widget, const Controle &controle, const Controle &vu, bool tout);
 
 /// Brings the colours and the picture of a widget in line with the day or the night.
 void AccordeTeintes(QWidget &widget, const Controle &controle);

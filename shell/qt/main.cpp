@@ -1,5 +1,7 @@
 #include "shell/Demarrage.hpp"
+#include "shell/Fichiers.hpp"
 #include "shell/qt/Apparence.hpp"
+#include "shell/qt/Commande.hpp"
 #include "shell/qt/Fenetre.hpp"
 #include "shell/qt/PortsQt.hpp"
 
@@ -7,12 +9,13 @@
 #include <QScreen>
 #include <QTimer>
 
+#include <cstdio>
 #include <exception>
-#include <memory>
 
 namespace {
 
 constexpr double kTwipsParPouce = 1440.0;
+constexpr int kCommandeInconnue = 2; ///< status of a command line that isn't understood
 
 velmaris::Ecran EcranPrincipal() {
   const QScreen &ecran = *QGuiApplication::primaryScreen();
@@ -23,7 +26,16 @@ velmaris::Ecran EcranPrincipal() {
 } // namespace
 
 int main(int argc, char **argv) {
+  if (const auto reponse = velmaris::qt::ReponseSansFenetre({argv + 1, argv + argc})) {
+    std::fputs(reponse->c_str(), stdout);
+    return 0;
+  }
   const QApplication application(argc, argv);
+  const velmaris::qt::Commande commande = velmaris::qt::LitCommande({argv + 1, argv + argc});
+  if (!commande.inconnue.empty()) {
+    std::fprintf(stderr, "velmaris: unknown option %s (see velmaris --help)\n", commande.inconnue.c_str());
+    return kCommandeInconnue;
+  }
   velmaris::qt::PoseApparence();
 
   velmaris::Bureau bureau;
@@ -38,6 +50,11 @@ int main(int argc, char **argv) {
   velmaris::qt::Scene scene(bureau);
   velmaris::qt::Fenetre fenetre(scene);
   fenetre.show();
-  QTimer::singleShot(0, &fenetre, [&] { boites.Ouvre(scene, fenetre); });
+  QTimer::singleShot(0, &fenetre, [&] {
+    boites.Ouvre(scene, fenetre);
+    if (!commande.fichier.empty()) {
+      scene.Joue([&] { velmaris::OuvreVisee(bureau, commande.fichier); });
+    }
+  });
   return QApplication::exec();
 }

@@ -62,7 +62,7 @@ TEST_F(CarteOuverte, TheLeftButtonOpensTheMenuAtThePointer) {
   EXPECT_TRUE(Menu()->isVisible());
   EXPECT_TRUE(Entree("PU_D")->isChecked()) << "the module of the sight shows";
   EXPECT_FALSE(Entree("PU_C")->isChecked());
-  EXPECT_FALSE(Entree("PU_Apropos")->isEnabled());
+  EXPECT_TRUE(Entree("PU_Apropos")->isEnabled());
   Image("menu-carte");
   Entree("PU_C")->trigger();
   QApplication::processEvents();

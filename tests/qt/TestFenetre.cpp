@@ -164,10 +164,8 @@ TEST_F(FenetreOuverte, ACloseRequestAsksAndStaysRefusedOnNo) {
   EXPECT_TRUE(bureau.termine);
 }
 
-TEST_F(FenetreOuverte, WhatIsNotThereYetSaysSoInItsToolTip) {
+TEST_F(FenetreOuverte, ToolTipsAreInTheLanguageOfTheWindow) {
   Ouvre(kPetitEcran, true);
-  EXPECT_EQ(Trouve<QWidget>("Command11")->toolTip(), "Not yet available in this version");
-  EXPECT_FALSE(Trouve<QWidget>("Command11")->isEnabled());
   EXPECT_EQ(Trouve<QWidget>("Command6")->toolTip(), "Clears the screen");
 }
 

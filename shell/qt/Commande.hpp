@@ -1,0 +1,25 @@
+#pragma once
+
+#include <filesystem>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace velmaris::qt {
+
+/// The answer to "--help" and "--version", which needs no window.
+/// @param arguments  of the command line, without the program's name
+/// @return nothing when neither is asked
+std::optional<std::string> ReponseSansFenetre(const std::vector<std::string> &arguments);
+
+/// What a command line asks of the program once the toolkit has taken its own options out.
+struct Commande {
+  std::filesystem::path fichier; ///< of the sight to load, absolute; empty for none
+  std::string inconnue;          ///< an option that nobody knows, empty for none
+};
+
+/// Reads a command line: the first argument that is no option names a file, and so does all that follows "--".
+/// @param arguments  without the program's name
+Commande LitCommande(const std::vector<std::string> &arguments);
+
+} // namespace velmaris::qt

@@ -1,0 +1,31 @@
+#pragma once
+
+#include "shell/qt/Dialogue.hpp"
+
+#include <vector>
+
+namespace velmaris::qt {
+
+/// The print page: painted as it will be printed, with its button over it. A click, Escape and the close button put it
+/// away.
+class FenetreImpression : public Dialogue {
+public:
+  FenetreImpression(Scene &scene, QWidget *parent);
+
+  void reject() override;
+
+protected:
+  void AccordeFenetre() override;
+  void changeEvent(QEvent *event) override;
+  void mouseReleaseEvent(QMouseEvent *event) override;
+  void paintEvent(QPaintEvent *event) override;
+
+private:
+  Impression &page_;
+  std::vector<Controle> peints_; ///< the controls as they are painted now
+  unsigned prise_ = 0;           ///< the picture that is painted now
+  bool nuit_ = false;            ///< it is painted by night
+  bool sousBoite_ = false;       ///< a box or a dialog has come over it
+};
+
+} // namespace velmaris::qt

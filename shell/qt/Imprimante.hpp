@@ -1,0 +1,28 @@
+#pragma once
+
+#include "shell/Impression.hpp"
+
+#include <QPageLayout>
+
+#include <filesystem>
+
+class QPagedPaintDevice;
+class QWidget;
+
+namespace velmaris::qt {
+
+/// Lets the user choose a printer or a PDF file, and prints the page there.
+/// @param parent  window that the dialog lies over
+/// @return false when it failed; true also when the user gave up
+bool Imprime(const Impression &page, QWidget *parent);
+
+/// Writes the page as a PDF file of one landscape sheet; an old file of that name is replaced once it is whole.
+/// @param feuille  size and margins of the sheet
+/// @return false when it can't be written
+bool EcritPdf(const Impression &page, const std::filesystem::path &fichier, QPageLayout feuille);
+
+/// Paints the page on the sheet of a printer, at its full size and in the middle; smaller when the sheet is too small.
+/// @return false when the printer fails
+bool PeintFeuille(const Impression &page, QPagedPaintDevice &imprimante);
+
+} // namespace velmaris::qt
