@@ -61,6 +61,22 @@ fuzz: deps
 	    build/fuzz/corpus/$$cible tests/fuzz/corpus/$$cible || exit 1; \
 	done
 
+.PHONY: paquet essai-paquet essai-source
+
+# The Debian package, build/velmaris_*.deb, and the checks of it.
+paquet: deps build
+	rm -rf build/velmaris_*.deb build/_CPack_Packages
+	cd build && cpack
+	packaging/verifie-paquet.sh build/velmaris_*.deb
+
+# Installs that package into a bare Debian and tries it there; needs root and a mirror.
+essai-paquet: paquet
+	packaging/essai-paquet.sh build/velmaris_*.deb
+
+# Builds the last commit in a bare Debian, with what it asks for itself; needs root, a mirror and half an hour.
+essai-source: deps
+	packaging/essai-source.sh
+
 # Makes the world chart's data again, from GSHHG and GeoNames, into data/.
 donnees-carte:
 	@voulus="$(PAQUETS_CARTE) $$(command -v npm >/dev/null || echo nodejs npm)"; \
