@@ -1,7 +1,8 @@
 # Everyday commands. The programs land in build/bin.
 .NOTPARALLEL:
 .DEFAULT_GOAL := build
-.PHONY: deps build run test lint test-sanitize bench fuzz donnees-carte guide images-guide clean
+.PHONY: deps build run test lint test-sanitize bench fuzz donnees-carte guide images-guide \
+  paquet essai-paquet essai-source clean
 
 SHELL := /bin/bash
 SUDO := $(shell [ "$$(id -u)" = 0 ] || echo sudo)
@@ -61,7 +62,6 @@ fuzz: deps
 	    build/fuzz/corpus/$$cible tests/fuzz/corpus/$$cible || exit 1; \
 	done
 
-.PHONY: paquet essai-paquet essai-source
 
 # The Debian package, build/velmaris_*.deb, and the checks of it.
 paquet: deps build
