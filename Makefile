@@ -49,9 +49,7 @@ test-sanitize: deps
 	UBSAN_OPTIONS=print_stacktrace=1 LSAN_OPTIONS=suppressions=$(CURDIR)/tests/lsan.supp ctest --preset sanitize -j$(TACHES)
 
 bench: deps build
-	build/bin/velmaris-bench
-	build/bin/velmaris-bench-ecran
-	tests/bench/debit.sh build/bin/velmaris-calcul
+	tests/bench/tout.sh build/bin docs/PERFORMANCE.md
 
 fuzz: deps
 	cmake --preset fuzz
