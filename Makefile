@@ -1,7 +1,8 @@
 # Everyday commands. The programs land in build/bin.
 .NOTPARALLEL:
 .DEFAULT_GOAL := build
-.PHONY: deps build run test lint test-sanitize bench fuzz donnees-carte guide images-guide clean
+.PHONY: deps build run test lint test-sanitize bench fuzz donnees-carte guide images-guide \
+  paquet essai-paquet essai-source clean
 
 SHELL := /bin/bash
 SUDO := $(shell [ "$$(id -u)" = 0 ] || echo sudo)
@@ -48,9 +49,7 @@ test-sanitize: deps
 	UBSAN_OPTIONS=print_stacktrace=1 LSAN_OPTIONS=suppressions=$(CURDIR)/tests/lsan.supp ctest --preset sanitize -j$(TACHES)
 
 bench: deps build
-	build/bin/velmaris-bench
-	build/bin/velmaris-bench-ecran
-	tests/bench/debit.sh build/bin/velmaris-calcul
+	tests/bench/tout.sh build/bin docs/PERFORMANCE.md
 
 fuzz: deps
 	cmake --preset fuzz
@@ -61,7 +60,6 @@ fuzz: deps
 	    build/fuzz/corpus/$$cible tests/fuzz/corpus/$$cible || exit 1; \
 	done
 
-.PHONY: paquet essai-paquet essai-source
 
 # The Debian package, build/velmaris_*.deb, and the checks of it.
 paquet: deps build
