@@ -35,12 +35,13 @@ ouvre_ecran() {
   mount --bind /tmp/.X11-unix "$racine/tmp/.X11-unix"
 }
 
-# Opens the program's window as a plain user, looks at it and closes it. $1: the picture; then the arguments
+# Opens the program's window as a plain user, looks at it and closes it. $1: the picture; $2: what its title tells before
+# long; then the arguments
 montre() {
-  titre=''
-  local image=$1 programme fenetre='' couleurs
-  shift
-  en_marin DISPLAY="$DISPLAY" velmaris "$@" >"$racine/velmaris.log" 2>&1 &
+  local image=$1 attendu=$2 programme fenetre='' titre='' couleurs
+  shift 2
+  # No function here: its shell would be what is ended below, and the program would live on.
+  "${marin[@]}" DISPLAY="$DISPLAY" velmaris "$@" >"$racine/velmaris.log" 2>&1 &
   programme=$!
   for _ in $(seq 300); do
     fenetre=$(xdotool search --onlyvisible --class "^$classe\$" 2>/dev/null | head -n 1) || true
@@ -49,9 +50,14 @@ montre() {
     sleep 0.1
   done
   [ -n "$fenetre" ] || { cat "$racine/velmaris.log" >&2; kill "$programme" 2>/dev/null; rate "the window doesn't appear"; }
-  sleep 2
-  titre=$(xprop -id "$fenetre" WM_CLASS _NET_WM_NAME)
+  for _ in $(seq 600); do
+    titre=$(xprop -id "$fenetre" WM_CLASS _NET_WM_NAME)
+    grep -qF "$attendu" <<<"$titre" && break
+    sleep 0.1
+  done
   echo "$titre"
+  grep -qF "$attendu" <<<"$titre" || { import -window root "$image"; kill "$programme"; rate "its title never tells $attendu"; }
+  sleep 2
   import -window root "$image"
   kill "$programme"
   wait "$programme" 2>/dev/null || true
@@ -95,7 +101,7 @@ ouvre_ecran
 etape "what the package depends on, and no more"
 installe --no-install-recommends
 en_marin velmaris-calcul --version
-montre "$images/paquet-nu.png"
+montre "$images/paquet-nu.png" "GMT"
 purge
 dans apt-get autoremove -y -qq --purge >/dev/null 2>&1
 
@@ -112,8 +118,7 @@ etape "the program tells its version"
 en_marin timeout 10 velmaris --help
 
 etape "its window, with a saved sight"
-montre "$images/paquet.png" "$visee"
-grep -qF "$(basename "$visee" .LoP)" <<<"$titre" || rate "the sight isn't open"
+montre "$images/paquet.png" "$(basename "$visee" .LoP)" "$visee"
 
 etape "on what a desktop has: menu, file types, icons, manual pages"
 dans apt-get install -y -qq --no-install-recommends shared-mime-info desktop-file-utils libglib2.0-bin \

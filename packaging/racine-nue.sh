@@ -43,10 +43,9 @@ miroir() {
 
 # Runs a command in the root: as root, or as a plain user of its own.
 dans() { chroot "$racine" env -i HOME=/root LANG=C.UTF-8 PATH=/usr/sbin:/usr/bin:/sbin:/bin DEBIAN_FRONTEND=noninteractive "$@"; }
-en_marin() {
-  chroot --userspec=marin:marin "$racine" env -i HOME=/home/marin XDG_RUNTIME_DIR=/run/user/marin LANG=C.UTF-8 PATH=/usr/bin:/bin \
-    "$@"
-}
+marin=(chroot --userspec=marin:marin "$racine" env -i HOME=/home/marin XDG_RUNTIME_DIR=/run/user/marin LANG=C.UTF-8
+  PATH=/usr/bin:/bin)
+en_marin() { "${marin[@]}" "$@"; }
 
 prepare_racine() {
   local source
