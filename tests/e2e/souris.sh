@@ -84,20 +84,22 @@ xdotool mousemove_relative 60 40 click 1; sleep 0.5
 image souris-5-centre
 clic 6200 520; droite 1
 
-# The sky: Dubhe, which never sets here, taken for a sight.
+# The sky: Capella, which never sets here, taken for a sight.
 clic 12400 520
 attends fenetre_ciel
 sleep 0.5
 mesure_ciel
-place=$("$(dirname "$PROGRAMME")/velmaris-calcul" horizon "$(date -u +%d/%m/%Y)" "$(date -u +%H:%M:%S)" 166.35 61.61 47.667 -5.167)
-horizon "$(sed 's/.*"azimut":\([0-9.]*\).*/\1/' <<<"$place")" "$(sed 's/.*"hauteur":\([0-9.]*\).*/\1/' <<<"$place")"
+place=$("$(dirname "$PROGRAMME")/velmaris-calcul" horizon "$(date -u +%d/%m/%Y)" "$(date -u +%H:%M:%S)" 79.68 46.02 47.667 -5.167 |
+  sed 's/.*"texte":"\([^"]*\)".*/\1/')
+horizon "${place%X*}" "${place#*X}"
 image souris-6-ciel
 xdotool click 1; sleep 0.7
+mode $MODE_ENREGISTRE; droite 3
+attends stocke 'Nom(3)' Capella
+image souris-6-astre
+clic 12400 520; sleep 0.5 # the sky comes to the front again, and is closed
 bas 11900 370
 attends boite_fermee "$TITRE"
-mode $MODE_ENREGISTRE; droite 3
-attends stocke 'Nom(3)' Dubhe
-image souris-6-astre
 
 clic 1900 520
 attends boite_ouverte '^Impression$'
