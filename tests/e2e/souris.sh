@@ -94,6 +94,7 @@ place=$("$(dirname "$PROGRAMME")/velmaris-calcul" horizon "$(date -u +%d/%m/%Y)"
 horizon "${place%X*}" "${place#*X}"
 image souris-6-ciel
 xdotool click 1; sleep 0.7
+clic 700 8165; sleep 0.3 # "Calcul"
 mode $MODE_ENREGISTRE; droite 3
 attends stocke 'Nom(3)' Capella
 image souris-6-astre
