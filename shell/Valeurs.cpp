@@ -4,8 +4,11 @@
 #include "foundations/TexteNombre.hpp"
 
 #include <array>
+#include <fcntl.h>
 #include <sqlite3.h>
+#include <sys/file.h>
 #include <system_error>
+#include <unistd.h>
 #include <utility>
 #include <vector>
 
@@ -47,19 +50,53 @@ private:
   sqlite3_stmt *instruction_ = nullptr;
 };
 
+/// Whether a refusal can come from the file's own bytes, not from the disk, a permission or another program.
+bool VientDesOctets(int code) { return code == SQLITE_CORRUPT || code == SQLITE_NOTADB || code == SQLITE_ERROR; }
+
+/// The columns of the store with their ranks in its key: a view, or a table that would keep a key twice, has others.
+constexpr const char *kForme = "SELECT group_concat(name || pk) FROM pragma_table_info('valeurs')";
+constexpr std::string_view kFormeAttendue = "application1,section2,cle3,valeur0";
+
 bool EstAbime(sqlite3 *base) {
-  Instruction controle(base, "PRAGMA quick_check(1)");
+  // The quick check would pass over keys out of their order, which are then no longer found.
+  Instruction controle(base, "PRAGMA integrity_check(1)");
   const int code = controle.Avance();
-  if (code == SQLITE_BUSY || code == SQLITE_IOERR) {
-    return false;
+  if (code != SQLITE_ROW) {
+    return VientDesOctets(code);
   }
-  if (code != SQLITE_ROW || controle.Colonne(0) != "ok") {
+  if (controle.Colonne(0) != "ok") {
+    return true;
+  }
+  Instruction forme(base, kForme);
+  if (forme.Avance() == SQLITE_ROW && forme.Colonne(0) != kFormeAttendue) {
     return true;
   }
   Instruction lecture(base, kLecture);
-  const int lu = lecture.Avance();
-  return lu != SQLITE_DONE && lu != SQLITE_BUSY;
+  return VientDesOctets(lecture.Avance());
 }
+
+/// Holds a folder against another program that waits for the same, until its scope ends.
+class VerrouDossier {
+public:
+  explicit VerrouDossier(const std::filesystem::path &dossier)
+      : numero_(::open(dossier.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC)) {
+    if (numero_ >= 0) {
+      ::flock(numero_, LOCK_EX);
+    }
+  }
+  ~VerrouDossier() {
+    if (numero_ >= 0) {
+      ::close(numero_);
+    }
+  }
+  VerrouDossier(const VerrouDossier &) = delete;
+  VerrouDossier &operator=(const VerrouDossier &) = delete;
+  VerrouDossier(VerrouDossier &&) = delete;
+  VerrouDossier &operator=(VerrouDossier &&) = delete;
+
+private:
+  int numero_;
+};
 
 } // namespace
 
@@ -71,11 +108,17 @@ Valeurs::Valeurs(std::filesystem::path fichier) : fichier_(std::move(fichier)) {
   if (!fichier_.empty()) {
     std::filesystem::create_directories(fichier_.parent_path(), refus);
   }
+  if (Ouvre()) {
+    return;
+  }
+  // Of two programs that find the damage at once, the second must not set the first one's new file aside.
+  const VerrouDossier verrou(fichier_.parent_path());
+  if (Ouvre()) {
+    return;
+  }
+  MetDeCote();
   if (!Ouvre()) {
-    MetDeCote();
-    if (!Ouvre()) {
-      PasseEnMemoire();
-    }
+    PasseEnMemoire();
   }
 }
 
