@@ -16,11 +16,13 @@ namespace velmaris {
 namespace {
 
 constexpr int kAttenteMs = 5000; ///< for another program that is writing
-constexpr const char *kPreparation = "PRAGMA synchronous=EXTRA;"
-                                     "CREATE TABLE IF NOT EXISTS valeurs("
-                                     " application TEXT NOT NULL, section TEXT NOT NULL,"
-                                     " cle TEXT NOT NULL COLLATE NOCASE, valeur TEXT NOT NULL,"
-                                     " PRIMARY KEY(application, section, cle)) WITHOUT ROWID";
+constexpr std::string_view kCreation = "CREATE TABLE ";
+/// The text of the table, as every user's file keeps it: a table of any other text is no store.
+constexpr std::string_view kTable = "CREATE TABLE valeurs("
+                                    " application TEXT NOT NULL, section TEXT NOT NULL,"
+                                    " cle TEXT NOT NULL COLLATE NOCASE, valeur TEXT NOT NULL,"
+                                    " PRIMARY KEY(application, section, cle)) WITHOUT ROWID";
+constexpr const char *kForme = "SELECT sql FROM sqlite_schema WHERE type='table' AND name='valeurs'";
 constexpr const char *kLecture = "SELECT valeur FROM valeurs WHERE application=?1 AND section=?2 AND cle=?3";
 constexpr const char *kEcriture =
     "INSERT INTO valeurs VALUES(?1,?2,?3,?4) ON CONFLICT DO UPDATE SET cle=excluded.cle, valeur=excluded.valeur";
@@ -53,9 +55,12 @@ private:
 /// Whether a refusal can come from the file's own bytes, not from the disk, a permission or another program.
 bool VientDesOctets(int code) { return code == SQLITE_CORRUPT || code == SQLITE_NOTADB || code == SQLITE_ERROR; }
 
-/// The columns of the store with their ranks in its key: a view, or a table that would keep a key twice, has others.
-constexpr const char *kForme = "SELECT group_concat(name || pk) FROM pragma_table_info('valeurs')";
-constexpr std::string_view kFormeAttendue = "application1,section2,cle3,valeur0";
+/// Makes the table where there is none.
+int Prepare(sqlite3 *base) {
+  const std::string instructions =
+      "PRAGMA synchronous=EXTRA; CREATE TABLE IF NOT EXISTS " + std::string(kTable.substr(kCreation.size()));
+  return sqlite3_exec(base, instructions.c_str(), nullptr, nullptr, nullptr);
+}
 
 bool EstAbime(sqlite3 *base) {
   // The quick check would pass over keys out of their order, which are then no longer found.
@@ -68,7 +73,11 @@ bool EstAbime(sqlite3 *base) {
     return true;
   }
   Instruction forme(base, kForme);
-  if (forme.Avance() == SQLITE_ROW && forme.Colonne(0) != kFormeAttendue) {
+  const int trouvee = forme.Avance();
+  if (trouvee != SQLITE_ROW) {
+    return trouvee == SQLITE_DONE || VientDesOctets(trouvee);
+  }
+  if (forme.Colonne(0) != kTable) {
     return true;
   }
   Instruction lecture(base, kLecture);
@@ -137,7 +146,7 @@ bool Valeurs::Ouvre() {
     return true;
   }
   sqlite3_busy_timeout(base, kAttenteMs);
-  const int preparation = sqlite3_exec(base, kPreparation, nullptr, nullptr, nullptr);
+  const int preparation = Prepare(base);
   if (preparation == SQLITE_NOTADB || preparation == SQLITE_CORRUPT) {
     return false;
   }
@@ -173,7 +182,7 @@ void Valeurs::PasseEnMemoire() {
   }
   sqlite3 *memoire = nullptr;
   sqlite3_open(":memory:", &memoire);
-  sqlite3_exec(memoire, kPreparation, nullptr, nullptr, nullptr);
+  Prepare(memoire);
   lecture_.reset();
   base_.reset(memoire);
   etat_ = EtatMagasin::SansTrace;

@@ -179,9 +179,25 @@ TEST_F(Magasin, AKeyOutOfItsOrderWhichIsNoLongerFoundIsADamage) {
   EXPECT_EQ(Valeurs(fichier).etat(), EtatMagasin::Abime);
 }
 
-TEST_F(Magasin, ATableThatWouldKeepAKeyTwiceOrAViewIsNoStore) {
+TEST_F(Magasin, TheStoreThatAnEarlierVersionMadeIsSound) {
+  std::filesystem::create_directories(fichier.parent_path());
+  ASSERT_EQ(
+      std::system(("sqlite3 '" + fichier.string() +
+                   "' \"CREATE TABLE IF NOT EXISTS valeurs( application TEXT NOT NULL, section TEXT NOT NULL, cle "
+                   "TEXT NOT NULL COLLATE NOCASE, valeur TEXT NOT NULL, PRIMARY KEY(application, section, cle)) "
+                   "WITHOUT ROWID; INSERT INTO valeurs VALUES('Velmaris', 'Valeurs', 'T6', '05')\"")
+                      .c_str()),
+      0);
+  const Valeurs v(fichier);
+  EXPECT_EQ(v.etat(), EtatMagasin::Sain);
+  EXPECT_EQ(v.GetSetting(kA, kS, "T6"), "05");
+}
+
+TEST_F(Magasin, ATableOfAnotherFormOrAViewIsNoStore) {
   { Valeurs v(fichier); }
   for (const char *forme : {"CREATE TABLE valeurs(application, section, cle, valeur)",
+                            "CREATE TABLE valeurs(application TEXT NOT NULL, section TEXT NOT NULL, cle TEXT NOT NULL, "
+                            "valeur TEXT NOT NULL, PRIMARY KEY(application, section, cle)) WITHOUT ROWID",
                             "CREATE TABLE valeurs(application, section, cle PRIMARY KEY, valeur)",
                             "CREATE VIEW valeurs AS SELECT 1 application, 2 section, 3 cle, 4 valeur"}) {
     ASSERT_EQ(std::system(("sqlite3 '" + fichier.string() + "' 'DROP TABLE valeurs; " + forme + "'").c_str()), 0);
