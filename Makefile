@@ -12,7 +12,7 @@ TACHES := 2
 DUREE := 60
 # What the chart's data are made from; a build needs none of it.
 PAQUETS_CARTE := gmt gmt-gshhg-high libgeonames-common python3 python3-numpy
-CIBLES_FUZZ := fuzz-lop fuzz-langue fuzz-nombre fuzz-polygone fuzz-lieux
+CIBLES_FUZZ := fuzz-lop fuzz-langue fuzz-nombre fuzz-polygone fuzz-lieux fuzz-objets fuzz-magasin
 SOURCES := (foundations|ephemerides|sights|lines|chart|sky|shell|calcul)/.*\.cpp$$
 
 # Installs what is missing; touches no network when nothing is.
@@ -56,7 +56,7 @@ fuzz: deps
 	cmake --build --preset fuzz --target $(CIBLES_FUZZ)
 	for cible in $(CIBLES_FUZZ); do \
 	  mkdir -p build/fuzz/corpus/$$cible && \
-	  UBSAN_OPTIONS=halt_on_error=1:print_stacktrace=1 build/fuzz/bin/$$cible -max_total_time=$(DUREE) -print_final_stats=1 -artifact_prefix=build/fuzz/$$cible- \
+	  UBSAN_OPTIONS=halt_on_error=1:print_stacktrace=1 build/fuzz/bin/$$cible -max_total_time=$(DUREE) -timeout=20 -print_final_stats=1 -artifact_prefix=build/fuzz/$$cible- \
 	    build/fuzz/corpus/$$cible tests/fuzz/corpus/$$cible || exit 1; \
 	done
 

@@ -13,7 +13,8 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr std::string_view kSupprime = "PlusRien"; ///< name of a deleted entry
+constexpr std::string_view kSupprime = "PlusRien";         ///< name of a deleted entry
+constexpr std::string_view kMarqueOctets = "\xEF\xBB\xBF"; ///< what another program's file may begin with
 constexpr int kSansChamp = 5;
 constexpr int kHorsTable = 9;
 constexpr int kFichierAbsent = 53;
@@ -112,8 +113,10 @@ Objet ObjetDeLigne(std::string_view ligne) {
 
 bool SeRelit(const Objet &objet) {
   Objet relu;
-  return Passe([&] { relu = ObjetDeLigne(LigneObjet(objet)); }) && Val(relu.Latitude) == Val(objet.Latitude) &&
-         Val(relu.Longitude) == Val(objet.Longitude) && relu.Rayon == objet.Rayon && relu.Nom == objet.Nom;
+  // As a file's first line it would lose a byte order mark, and with it be another place.
+  return !objet.Latitude.starts_with(kMarqueOctets) && Passe([&] { relu = ObjetDeLigne(LigneObjet(objet)); }) &&
+         Val(relu.Latitude) == Val(objet.Latitude) && Val(relu.Longitude) == Val(objet.Longitude) &&
+         relu.Rayon == objet.Rayon && relu.Nom == objet.Nom;
 }
 
 std::string TexteObjets(const Utilisateur &fenetre) {

@@ -14,8 +14,8 @@ std::string LigneObjet(const Objet &objet);
 /// @throws Erreur 5 when a field can't be found, 6 when the radius leaves 16 bits
 Objet ObjetDeLigne(std::string_view ligne);
 
-/// Whether an entry's own line is read back as that entry; fields are found by place, so a latitude that is too short
-/// would cut the longitude.
+/// Whether an entry's own line is read back as that entry, wherever it stands in the file; fields are found by place,
+/// so a latitude that is too short would cut the longitude.
 bool SeRelit(const Objet &objet);
 
 /// The tables as the file holds them. A deleted entry is left out; one without a latitude ends the text.

@@ -4,8 +4,11 @@
 #include "foundations/TexteNombre.hpp"
 
 #include <array>
+#include <fcntl.h>
 #include <sqlite3.h>
+#include <sys/file.h>
 #include <system_error>
+#include <unistd.h>
 #include <utility>
 #include <vector>
 
@@ -13,11 +16,13 @@ namespace velmaris {
 namespace {
 
 constexpr int kAttenteMs = 5000; ///< for another program that is writing
-constexpr const char *kPreparation = "PRAGMA synchronous=EXTRA;"
-                                     "CREATE TABLE IF NOT EXISTS valeurs("
-                                     " application TEXT NOT NULL, section TEXT NOT NULL,"
-                                     " cle TEXT NOT NULL COLLATE NOCASE, valeur TEXT NOT NULL,"
-                                     " PRIMARY KEY(application, section, cle)) WITHOUT ROWID";
+constexpr std::string_view kCreation = "CREATE TABLE ";
+/// The text of the table, as every user's file keeps it: a table of any other text is no store.
+constexpr std::string_view kTable = "CREATE TABLE valeurs("
+                                    " application TEXT NOT NULL, section TEXT NOT NULL,"
+                                    " cle TEXT NOT NULL COLLATE NOCASE, valeur TEXT NOT NULL,"
+                                    " PRIMARY KEY(application, section, cle)) WITHOUT ROWID";
+constexpr const char *kForme = "SELECT sql FROM sqlite_schema WHERE type='table' AND name='valeurs'";
 constexpr const char *kLecture = "SELECT valeur FROM valeurs WHERE application=?1 AND section=?2 AND cle=?3";
 constexpr const char *kEcriture =
     "INSERT INTO valeurs VALUES(?1,?2,?3,?4) ON CONFLICT DO UPDATE SET cle=excluded.cle, valeur=excluded.valeur";
@@ -47,19 +52,60 @@ private:
   sqlite3_stmt *instruction_ = nullptr;
 };
 
+/// Whether a refusal can come from the file's own bytes, not from the disk, a permission or another program.
+bool VientDesOctets(int code) { return code == SQLITE_CORRUPT || code == SQLITE_NOTADB || code == SQLITE_ERROR; }
+
+/// Makes the table where there is none.
+int Prepare(sqlite3 *base) {
+  const std::string instructions =
+      "PRAGMA synchronous=EXTRA; CREATE TABLE IF NOT EXISTS " + std::string(kTable.substr(kCreation.size()));
+  return sqlite3_exec(base, instructions.c_str(), nullptr, nullptr, nullptr);
+}
+
 bool EstAbime(sqlite3 *base) {
-  Instruction controle(base, "PRAGMA quick_check(1)");
+  // The quick check would pass over keys out of their order, which are then no longer found.
+  Instruction controle(base, "PRAGMA integrity_check(1)");
   const int code = controle.Avance();
-  if (code == SQLITE_BUSY || code == SQLITE_IOERR) {
-    return false;
+  if (code != SQLITE_ROW) {
+    return VientDesOctets(code);
   }
-  if (code != SQLITE_ROW || controle.Colonne(0) != "ok") {
+  if (controle.Colonne(0) != "ok") {
+    return true;
+  }
+  Instruction forme(base, kForme);
+  const int trouvee = forme.Avance();
+  if (trouvee != SQLITE_ROW) {
+    return trouvee == SQLITE_DONE || VientDesOctets(trouvee);
+  }
+  if (forme.Colonne(0) != kTable) {
     return true;
   }
   Instruction lecture(base, kLecture);
-  const int lu = lecture.Avance();
-  return lu != SQLITE_DONE && lu != SQLITE_BUSY;
+  return VientDesOctets(lecture.Avance());
 }
+
+/// Holds a folder against another program that waits for the same, until its scope ends.
+class VerrouDossier {
+public:
+  explicit VerrouDossier(const std::filesystem::path &dossier)
+      : numero_(::open(dossier.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC)) {
+    if (numero_ >= 0) {
+      ::flock(numero_, LOCK_EX);
+    }
+  }
+  ~VerrouDossier() {
+    if (numero_ >= 0) {
+      ::close(numero_);
+    }
+  }
+  VerrouDossier(const VerrouDossier &) = delete;
+  VerrouDossier &operator=(const VerrouDossier &) = delete;
+  VerrouDossier(VerrouDossier &&) = delete;
+  VerrouDossier &operator=(VerrouDossier &&) = delete;
+
+private:
+  int numero_;
+};
 
 } // namespace
 
@@ -71,11 +117,17 @@ Valeurs::Valeurs(std::filesystem::path fichier) : fichier_(std::move(fichier)) {
   if (!fichier_.empty()) {
     std::filesystem::create_directories(fichier_.parent_path(), refus);
   }
+  if (Ouvre()) {
+    return;
+  }
+  // Of two programs that find the damage at once, the second must not set the first one's new file aside.
+  const VerrouDossier verrou(fichier_.parent_path());
+  if (Ouvre()) {
+    return;
+  }
+  MetDeCote();
   if (!Ouvre()) {
-    MetDeCote();
-    if (!Ouvre()) {
-      PasseEnMemoire();
-    }
+    PasseEnMemoire();
   }
 }
 
@@ -94,7 +146,7 @@ bool Valeurs::Ouvre() {
     return true;
   }
   sqlite3_busy_timeout(base, kAttenteMs);
-  const int preparation = sqlite3_exec(base, kPreparation, nullptr, nullptr, nullptr);
+  const int preparation = Prepare(base);
   if (preparation == SQLITE_NOTADB || preparation == SQLITE_CORRUPT) {
     return false;
   }
@@ -130,7 +182,7 @@ void Valeurs::PasseEnMemoire() {
   }
   sqlite3 *memoire = nullptr;
   sqlite3_open(":memory:", &memoire);
-  sqlite3_exec(memoire, kPreparation, nullptr, nullptr, nullptr);
+  Prepare(memoire);
   lecture_.reset();
   base_.reset(memoire);
   etat_ = EtatMagasin::SansTrace;

@@ -43,20 +43,25 @@ public:
                    std::string_view valeur);
 
   /// Runs a group of SaveSetting as one: after a crash either all of them stand or none. When the disk refuses the
-  /// group, none stands on it and the store goes on in memory.
+  /// group, none stands on it and the store goes on in memory with all of them.
+  /// @param ecritures  run a second time after such a refusal, which has undone what it had written
   template <class Ecritures> void Ensemble(Ecritures &&ecritures) {
-    if (!Execute("BEGIN IMMEDIATE")) {
+    if (Execute("BEGIN IMMEDIATE")) {
+      const EtatMagasin avant = etat_;
+      try {
+        ecritures();
+      } catch (...) {
+        Execute("ROLLBACK");
+        throw;
+      }
+      if (etat_ == avant && Execute("COMMIT")) {
+        return;
+      }
+    }
+    if (etat_ != EtatMagasin::SansTrace) {
       PasseEnMemoire();
     }
-    try {
-      ecritures();
-    } catch (...) {
-      Execute("ROLLBACK");
-      throw;
-    }
-    if (!Execute("COMMIT") && etat_ != EtatMagasin::SansTrace) {
-      PasseEnMemoire();
-    }
+    ecritures();
   }
 
   /// Runs a group of GetSetting on one state of the store, whatever another program writes meanwhile.

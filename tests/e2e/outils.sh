@@ -46,7 +46,7 @@ revient() {
 }
 # Finds the program's main window, whose title ends with the file's name once the clock has ticked.
 fenetre_principale() {
-  FENETRE=$(xdotool search --onlyvisible --pid "$PID" --name 'GMT|Velmaris 2009' 2>/dev/null | head -n 1)
+  FENETRE=$(xdotool search --all --onlyvisible --pid "$PID" --name 'GMT|Velmaris 2009' 2>/dev/null | head -n 1)
   [ -n "$FENETRE" ]
 }
 

@@ -1,4 +1,5 @@
 #include "Attend.hpp"
+#include "shell/Donnees.hpp"
 #include "shell/Langage.hpp"
 #include "shell/Messages.hpp"
 

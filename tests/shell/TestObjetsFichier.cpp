@@ -96,6 +96,16 @@ TEST_F(FichierObjets, ALineWhoseFieldsCantBeFoundEndsTheReadingAndIsTold) {
   }
 }
 
+TEST_F(FichierObjets, AByteOrderMarkWithinTheFileMovesNoPlaceSilently) {
+  const std::string ancien = "; deux fichiers mis bout a bout\n\xEF\xBB\xBF+43.50 -005.00 2 Est\n";
+  OuvreSur(ancien);
+  IllisibleALaLigne(2);
+  EXPECT_THAT(u.List1.liste, IsEmpty()) << "its latitude would read as 0, and as 43.5 once it is the first line";
+  Nouveau("A");
+  Ferme();
+  EXPECT_EQ(Contenu(fichier.parent_path() / "Utilisateur.ancien.txt"), ancien);
+}
+
 TEST_F(FichierObjets, TheFirstWriteSetsAsideWhatWasNotReadWholeAndLaterOnesDont) {
   const std::string ancien = std::string(kBonne) + "illisible\n+01.00 +001.00 2 Perdu\n";
   OuvreSur(ancien);

@@ -166,6 +166,72 @@ TEST_F(Magasin, AnotherProgramsBaseIsSetAsideAndNotWrittenInto) {
   EXPECT_EQ(Valeurs(fichier).etat(), EtatMagasin::Abime);
 }
 
+TEST_F(Magasin, AKeyOutOfItsOrderWhichIsNoLongerFoundIsADamage) {
+  {
+    Valeurs v(fichier);
+    for (const char *cle : {"aaaa", "bbbb", "cccc"}) {
+      v.SaveSetting(kA, kS, cle, "5");
+    }
+  }
+  std::string octets = LitFichier(fichier);
+  octets.at(octets.find("bbbb")) ^= 0x10; // "rbbb"
+  Pose(fichier, octets);
+  EXPECT_EQ(Valeurs(fichier).etat(), EtatMagasin::Abime);
+}
+
+TEST_F(Magasin, TheStoreThatAnEarlierVersionMadeIsSound) {
+  std::filesystem::create_directories(fichier.parent_path());
+  ASSERT_EQ(
+      std::system(("sqlite3 '" + fichier.string() +
+                   "' \"CREATE TABLE IF NOT EXISTS valeurs( application TEXT NOT NULL, section TEXT NOT NULL, cle "
+                   "TEXT NOT NULL COLLATE NOCASE, valeur TEXT NOT NULL, PRIMARY KEY(application, section, cle)) "
+                   "WITHOUT ROWID; INSERT INTO valeurs VALUES('Velmaris', 'Valeurs', 'T6', '05')\"")
+                      .c_str()),
+      0);
+  const Valeurs v(fichier);
+  EXPECT_EQ(v.etat(), EtatMagasin::Sain);
+  EXPECT_EQ(v.GetSetting(kA, kS, "T6"), "05");
+}
+
+TEST_F(Magasin, ATableOfAnotherFormOrAViewIsNoStore) {
+  { Valeurs v(fichier); }
+  for (const char *forme : {"CREATE TABLE valeurs(application, section, cle, valeur)",
+                            "CREATE TABLE valeurs(application TEXT NOT NULL, section TEXT NOT NULL, cle TEXT NOT NULL, "
+                            "valeur TEXT NOT NULL, PRIMARY KEY(application, section, cle)) WITHOUT ROWID",
+                            "CREATE TABLE valeurs(application, section, cle PRIMARY KEY, valeur)",
+                            "CREATE VIEW valeurs AS SELECT 1 application, 2 section, 3 cle, 4 valeur"}) {
+    ASSERT_EQ(std::system(("sqlite3 '" + fichier.string() + "' 'DROP TABLE valeurs; " + forme + "'").c_str()), 0);
+    EXPECT_EQ(Valeurs(fichier).etat(), EtatMagasin::Abime) << forme;
+    EXPECT_EQ(Valeurs(fichier).etat(), EtatMagasin::Sain);
+  }
+}
+
+TEST_F(Magasin, TwoProgramsThatFindADamageAtOnceSetOneFileAsideAndLoseNoKey) {
+  const std::string bruit(5000, '\x7f');
+  for (int tour = 0; tour < 20; ++tour) {
+    std::filesystem::remove_all(fichier.parent_path());
+    std::filesystem::create_directories(fichier.parent_path());
+    Pose(fichier, bruit);
+    const auto ecrit = [&](const std::string &cle) {
+      Valeurs v(fichier);
+      v.SaveSetting(kA, kS, cle, "5");
+    };
+    std::thread autre(ecrit, "x");
+    ecrit("y");
+    autre.join();
+    const Valeurs v(fichier);
+    EXPECT_EQ(v.GetSetting(kA, kS, "x") + v.GetSetting(kA, kS, "y"), "55") << tour;
+    std::size_t deCote = 0;
+    for (const auto &f : std::filesystem::directory_iterator(fichier.parent_path())) {
+      if (f.path().filename().string().find(".abime-") != std::string::npos) {
+        EXPECT_EQ(LitFichier(f.path()), bruit);
+        ++deCote;
+      }
+    }
+    EXPECT_EQ(deCote, 1U) << tour;
+  }
+}
+
 TEST_F(Magasin, AnEmptyFileIsAnEmptyStore) {
   std::filesystem::create_directories(fichier.parent_path());
   Pose(fichier, "");
