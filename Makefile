@@ -1,7 +1,8 @@
 # Everyday commands. The programs land in build/bin.
 .NOTPARALLEL:
 .DEFAULT_GOAL := build
-.PHONY: deps build run test lint test-sanitize bench fuzz donnees-carte guide images-guide clean
+.PHONY: deps build run test lint test-sanitize bench fuzz donnees-carte guide images-guide \
+  paquet essai-paquet essai-source clean
 
 SHELL := /bin/bash
 SUDO := $(shell [ "$$(id -u)" = 0 ] || echo sudo)
@@ -48,9 +49,7 @@ test-sanitize: deps
 	UBSAN_OPTIONS=print_stacktrace=1 LSAN_OPTIONS=suppressions=$(CURDIR)/tests/lsan.supp ctest --preset sanitize -j$(TACHES)
 
 bench: deps build
-	build/bin/velmaris-bench
-	build/bin/velmaris-bench-ecran
-	tests/bench/debit.sh build/bin/velmaris-calcul
+	tests/bench/tout.sh build/bin docs/PERFORMANCE.md
 
 fuzz: deps
 	cmake --preset fuzz
@@ -60,6 +59,21 @@ fuzz: deps
 	  UBSAN_OPTIONS=halt_on_error=1:print_stacktrace=1 build/fuzz/bin/$$cible -max_total_time=$(DUREE) -timeout=20 -print_final_stats=1 -artifact_prefix=build/fuzz/$$cible- \
 	    build/fuzz/corpus/$$cible tests/fuzz/corpus/$$cible || exit 1; \
 	done
+
+
+# The Debian package, build/velmaris_*.deb, and the checks of it.
+paquet: deps build
+	rm -rf build/velmaris_*.deb build/_CPack_Packages
+	cd build && cpack
+	packaging/verifie-paquet.sh build/velmaris_*.deb
+
+# Installs that package into a bare Debian and tries it there; needs root and a mirror.
+essai-paquet: paquet
+	packaging/essai-paquet.sh build/velmaris_*.deb
+
+# Builds the last commit in a bare Debian, with what it asks for itself; needs root, a mirror and half an hour.
+essai-source: deps
+	packaging/essai-source.sh
 
 # Makes the world chart's data again, from GSHHG and GeoNames, into data/.
 donnees-carte:

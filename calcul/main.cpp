@@ -6,6 +6,7 @@
 #include "ephemerides/TableEtoiles.hpp"
 #include "foundations/Erreur.hpp"
 #include "shell/Messages.hpp"
+#include "shell/Ports.hpp"
 
 #include <CLI/CLI.hpp>
 
@@ -59,7 +60,7 @@ TexteMsg MessagesDeLangue(const std::string &langue, const std::filesystem::path
   }
   const std::string nom = langue == "en" ? "EN.txt" : "FR.txt";
   if (!Passe([&] { ChargeMessages(dossier / nom, messages); })) {
-    Passe([&] { ChargeMessages(std::filesystem::path(VELMARIS_PARTAGE) / nom, messages); });
+    Passe([&] { ChargeMessages(DossierPartage(dossier) / nom, messages); });
   }
   return messages;
 }

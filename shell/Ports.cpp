@@ -37,8 +37,14 @@ void AjouteDossiers(const std::filesystem::path &racine, std::vector<std::filesy
 
 } // namespace
 
+std::filesystem::path DossierPartage(const std::filesystem::path &programme) {
+  std::error_code inconnu;
+  const std::filesystem::path voisin = (programme / VELMARIS_PARTAGE_RELATIF).lexically_normal();
+  return std::filesystem::is_directory(voisin, inconnu) ? voisin : VELMARIS_PARTAGE;
+}
+
 Dossiers TrouveDossiers(const std::filesystem::path &programme) {
-  return {DossierUtilisateur(), programme, VELMARIS_PARTAGE, Accueil()};
+  return {DossierUtilisateur(), programme, DossierPartage(programme), Accueil()};
 }
 
 std::vector<std::filesystem::path> Volumes(const std::filesystem::path &accueil) {

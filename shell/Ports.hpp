@@ -69,6 +69,10 @@ struct Dossiers {
   std::filesystem::path accueil; ///< the user's own folder, where a dialog starts at first
 };
 
+/// The installed share folder: where it lies from the program, else where the build meant to install it.
+/// @param programme  folder of the executable
+std::filesystem::path DossierPartage(const std::filesystem::path &programme);
+
 /// The folders of this run: the user's data folder, the program's own, the installed share folder, the user's own.
 /// @param programme  folder of the executable
 Dossiers TrouveDossiers(const std::filesystem::path &programme);

@@ -1,6 +1,7 @@
 #include "shell/qt/Apparence.hpp"
 
 #include "shell/Identite.hpp"
+#include "shell/qt/Icones.hpp"
 #include "shell/qt/Nuit.hpp"
 
 #include <QApplication>
@@ -28,6 +29,7 @@ void PoseApparence() {
   QApplication::setApplicationName("velmaris");
   QApplication::setApplicationVersion(Texte(TexteVersion()));
   QGuiApplication::setDesktopFileName(Texte(Identifiant()));
+  QApplication::setWindowIcon(QIcon::fromTheme(Texte(Identifiant()), Icone("velmaris-jour")));
 }
 
 void AccordeLangue(bool francais) {

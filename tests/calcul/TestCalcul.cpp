@@ -109,7 +109,7 @@ TEST(CalculHorizon, AnAngleBeyondReasonIsToldAndDoesNotHang) {
 TEST(CalculCommande, TellsItsVersion) {
   const Passage p = Lance({"--version"});
   EXPECT_EQ(p.etat, 0);
-  EXPECT_EQ(p.sortie, "velmaris-calcul 0.1.0\n");
+  EXPECT_EQ(p.sortie, "velmaris-calcul " VELMARIS_VERSION "\n");
   EXPECT_THAT(p.erreurs, IsEmpty());
 }
 

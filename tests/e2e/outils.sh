@@ -98,8 +98,8 @@ attend_pixels() {
 
 # Another sight of the Sun, of the same day and sides: hour, minute, second; latitude; longitude; degrees, minutes,
 # seconds read.
-visee_suivante() {
-  clic 300 2850
+visee_suivante() { clic 300 2850; tape_suivante "$@"; }
+tape_suivante() {
   for texte in 21 06 2026 "$1" "$2" "$3"; do champ "$texte"; done
   touche Tab # past "Top"
   champ "$4"; champ "$5"; touche Tab
@@ -123,9 +123,27 @@ ouvre_visee() {
   reprend "$CHARGE"
 }
 
-# A whole sight of the Sun by keyboard alone, from the day's field on: Brittany, shortly before noon.
-visee_bretagne() {
-  clic 300 2850
+# Three stars of one evening off Brittany, each on a line some miles from the estimated position, as files in a folder.
+# The companion beside the program tells what reading that takes.
+vise_etoile() {
+  local fichier=$1 rang=$2 minute=$3 seconde=$4 milles=$5 lecture=2700 intercept
+  for _ in 1 2 3 4; do
+    awk -v l="$lecture" -v rang="$rang" -v m="$minute" -v s="$seconde" 'BEGIN {
+      d = int(l / 60); split("22|" m "|" s "|12|08|2026|05|10|47|40|2,5|-1,0|" sprintf("%02d|%02d", l - 60 * d, d) "|Nord|Ouest|" \
+        sprintf("%02d", (l - int(l)) * 60) "| 3 |NATU| 2 |0| " rang " ", champ, "|")
+      for (i = 1; i <= 22; ++i) printf "%s\r\n", champ[i] }' >"$fichier"
+    intercept=$("$(dirname "$PROGRAMME")/velmaris-calcul" reduit "$fichier" | sed -n 's/.*"intercept":\([-0-9.e]*\).*/\1/p')
+    lecture=$(awk -v l="$lecture" -v v="$milles" -v i="$intercept" 'BEGIN { print l + v - i }')
+  done
+}
+vise_etoiles() {
+  vise_etoile "$1/1 Altair.LoP" 28 40 00 4.2
+  vise_etoile "$1/2 Dubhe.LoP" 59 45 30 -3.1
+  vise_etoile "$1/3 Arcturus.LoP" 33 51 10 2.4
+}
+
+# A whole sight of the Sun from the day's field on, which has the keyboard: Brittany, shortly before noon.
+tape_bretagne() {
   for texte in 21 06 2026 12 05 30; do champ "$texte"; done
   touche Tab # past "Top"
   champ 47; champ 30
@@ -136,6 +154,7 @@ visee_bretagne() {
   touche Tab Tab Tab # seconds, lower limb, natural horizon
   champ -1.0; champ 2.5
 }
+visee_bretagne() { clic 300 2850; tape_bretagne; }
 
 # Leaves by F2 and Yes, and waits for the end.
 quitte() {

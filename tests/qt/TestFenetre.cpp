@@ -164,6 +164,22 @@ TEST_F(FenetreOuverte, ACloseRequestAsksAndStaysRefusedOnNo) {
   EXPECT_TRUE(bureau.termine);
 }
 
+TEST_F(FenetreOuverte, TheLitLimbStandsOutWithinItsPlaceInBothLanguages) {
+  for (const bool anglais : {false, true}) {
+    Ouvre(kPetitEcran, anglais);
+    for (const std::size_t bord : {0U, 1U}) {
+      Joue([&] { d.Option6[bord].accent = true; });
+      const auto *option = Trouve<QAbstractButton>(bord == 0 ? "Option60" : "Option61");
+      EXPECT_TRUE(option->font().bold());
+      EXPECT_LE(QFontMetricsF(option->font()).horizontalAdvance(option->text()) + qt::LargeurMarque(*option),
+                option->width())
+          << option->text().toStdString();
+      Joue([&] { d.Option6[bord].accent = false; });
+    }
+    fenetre.reset();
+  }
+}
+
 TEST_F(FenetreOuverte, ToolTipsAreInTheLanguageOfTheWindow) {
   Ouvre(kPetitEcran, true);
   EXPECT_EQ(Trouve<QWidget>("Command6")->toolTip(), "Clears the screen");
