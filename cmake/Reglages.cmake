@@ -6,7 +6,7 @@ target_compile_options(velmaris_reglages INTERFACE
   # g++ 12 sees an overlap in the library's own text additions, where there is none.
   $<$<CXX_COMPILER_ID:GNU>:-Wno-restrict>)
 # What is handed out is hardened as Debian hardens its own; none of these flags touches arithmetic.
-if(NOT VELMARIS_SANITIZE AND NOT VELMARIS_FUZZ)
+if(NOT VELMARIS_SANITIZE AND NOT VELMARIS_FUZZ AND NOT VELMARIS_COVERAGE)
   target_compile_options(velmaris_reglages INTERFACE
     $<$<CONFIG:Release>:-fPIE -fstack-protector-strong -fstack-clash-protection -U_FORTIFY_SOURCE -D_FORTIFY_SOURCE=2>)
   target_link_options(velmaris_reglages INTERFACE $<$<CONFIG:Release>:-pie -Wl,-z,relro,-z,now>)
@@ -21,4 +21,9 @@ endif()
 if(VELMARIS_FUZZ)
   target_compile_options(velmaris_reglages INTERFACE -fsanitize=fuzzer-no-link,address,undefined)
   target_link_options(velmaris_reglages INTERFACE -fsanitize=address,undefined)
+endif()
+# Lines are counted as they are written: nothing inlined, nothing reordered.
+if(VELMARIS_COVERAGE)
+  target_compile_options(velmaris_reglages INTERFACE --coverage -fprofile-abs-path -O0 -g0)
+  target_link_options(velmaris_reglages INTERFACE --coverage)
 endif()

@@ -14,6 +14,7 @@ inline constexpr std::string_view kFenetreImpression = "Impression";
 
 /// Headings of a row, one over the other.
 inline constexpr std::size_t kEntetesRangee = 5;
+inline constexpr std::size_t kEtiquettesRangee = 3 * kEntetesRangee; ///< values, headings and signs
 
 /// The print page: a picture of the drawing surface with one row a line of position under it. The rows fill as lines
 /// are reduced, whether or not the page shows. Its language is French alone.
@@ -55,6 +56,6 @@ template <class Fonction> void PourChaque(Impression &page, Fonction &&fonction)
 
 /// The headings, signs and values of a row.
 /// @param rangee  0 to 3
-std::array<const Controle *, 3 * kEntetesRangee> EtiquettesDe(const Impression &page, std::size_t rangee);
+std::array<const Controle *, kEtiquettesRangee> EtiquettesDe(const Impression &page, std::size_t rangee);
 
 } // namespace velmaris

@@ -101,7 +101,10 @@ const Controle &MarqueDe(const Ciel &c, const Controle &astre) {
   if (astre.nom == "Laet") {
     return c.Shet[rang];
   }
-  return astre.nom == "LaP" ? c.Shapla[rang] : astre;
+  if (astre.nom == "LaP") {
+    return c.Shapla[rang];
+  }
+  return astre;
 }
 
 /// The bodies on show within the chart, each by the control that is pressed to choose it.

@@ -89,8 +89,8 @@ void InitialiseImpression(Impression &page) {
   PourChaque(page, [](const LigneImpression &ligne, Controle &c) { c = ControleNeuf(ligne, kFenetreImpression); });
 }
 
-std::array<const Controle *, 3 * kEntetesRangee> EtiquettesDe(const Impression &page, std::size_t rangee) {
-  std::array<const Controle *, 3 *kEntetesRangee> etiquettes = {&page.Label32.at(rangee), &page.Label33.at(rangee),
+std::array<const Controle *, kEtiquettesRangee> EtiquettesDe(const Impression &page, std::size_t rangee) {
+  std::array<const Controle *, kEtiquettesRangee> etiquettes = {&page.Label32.at(rangee), &page.Label33.at(rangee),
                                                                 &page.Label34.at(rangee), &page.Label35.at(rangee),
                                                                 &page.Label36.at(rangee)};
   for (std::size_t i = 0; i < kEntetesRangee; ++i) {
