@@ -72,8 +72,10 @@ void Dialogue::reject() {
   QDialog::reject();
 }
 
+bool Dialogue::VientDevant() { return isActiveWindow(); }
+
 void Dialogue::changeEvent(QEvent *event) {
-  if (event->type() == QEvent::ActivationChange && isActiveWindow()) {
+  if (event->type() == QEvent::ActivationChange && VientDevant()) {
     scene_.Joue([this] { ActiveFenetre(scene_.bureau(), cadre_.nom); });
   }
   QDialog::changeEvent(event);

@@ -27,6 +27,8 @@ protected:
   const Rendu &rendu() const { return rendu_; }
   /// Brings in line what the window has beside its controls.
   virtual void AccordeFenetre();
+  /// Whether a change of the active window is this one's coming to the front.
+  virtual bool VientDevant();
   void changeEvent(QEvent *event) override;
   void keyPressEvent(QKeyEvent *event) override;
   void paintEvent(QPaintEvent *event) override;

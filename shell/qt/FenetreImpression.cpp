@@ -53,16 +53,12 @@ void FenetreImpression::AccordeFenetre() {
 }
 
 /// A box that goes, or the dialog that chooses the printer, doesn't bring the page to the front: it was there.
-void FenetreImpression::changeEvent(QEvent *event) {
-  if (event->type() == QEvent::ActivationChange) {
-    if (!isActiveWindow()) {
-      sousBoite_ = QApplication::activeModalWidget() != nullptr;
-    } else if (std::exchange(sousBoite_, false)) {
-      QDialog::changeEvent(event);
-      return;
-    }
+bool FenetreImpression::VientDevant() {
+  if (!isActiveWindow()) {
+    sousBoite_ = QApplication::activeModalWidget() != nullptr;
+    return false;
   }
-  Dialogue::changeEvent(event);
+  return !std::exchange(sousBoite_, false);
 }
 
 void FenetreImpression::mouseReleaseEvent(QMouseEvent *event) {

@@ -16,7 +16,7 @@ public:
 
 protected:
   void AccordeFenetre() override;
-  void changeEvent(QEvent *event) override;
+  bool VientDevant() override;
   void mouseReleaseEvent(QMouseEvent *event) override;
   void paintEvent(QPaintEvent *event) override;
 

@@ -1,6 +1,7 @@
 #include "shell/qt/Rendu.hpp"
 
 #include "shell/Evenements.hpp"
+#include "shell/qt/Elements.hpp"
 #include "shell/qt/Nuit.hpp"
 #include "shell/qt/Toile.hpp"
 #include "shell/qt/ToileCiel.hpp"

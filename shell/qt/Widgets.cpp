@@ -1,6 +1,7 @@
 #include "shell/qt/Widgets.hpp"
 
 #include "shell/Evenements.hpp"
+#include "shell/qt/Elements.hpp"
 #include "shell/qt/Icones.hpp"
 #include "shell/qt/Nuit.hpp"
 #include "shell/qt/Toile.hpp"
@@ -12,17 +13,14 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QGroupBox>
-#include <QKeyEvent>
 #include <QLineEdit>
 #include <QListWidget>
-#include <QMouseEvent>
 #include <QPaintEvent>
 #include <QPainter>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QSlider>
 #include <QStyle>
-#include <QStyleOptionFocusRect>
 #include <QToolButton>
 
 #include <algorithm>
@@ -31,9 +29,7 @@
 namespace velmaris::qt {
 namespace {
 
-constexpr int kHautTitre = 20;      ///< pixels of a module's title band
 constexpr double kPlusPetite = 7.0; ///< points of a caption that stands out
-constexpr double kInterligne = 1.3; ///< lines of a caption that share a place
 
 QString Texte(const std::string &texte) { return QString::fromStdString(texte); }
 
@@ -245,60 +241,6 @@ void PoseContenu(QWidget &widget, const Controle &c, const Controle &vu, bool to
 }
 
 } // namespace
-
-Carte::Carte(bool titre, QWidget *parent) : QFrame(parent), titre_(titre) {}
-
-void Carte::paintEvent(QPaintEvent * /*event*/) {
-  QPainter p(this);
-  const Teintes &teintes = TeintesDe(EstNuit());
-  p.fillRect(rect(), teintes.carte);
-  if (titre_) {
-    p.fillRect(QRect(0, 0, width(), kHautTitre), teintes.bande);
-  }
-  p.setPen(teintes.bord);
-  p.drawRect(rect().adjusted(0, 0, -1, -1));
-}
-
-void Carte::mousePressEvent(QMouseEvent *event) {
-  if (event->button() == Qt::LeftButton && auClic) {
-    auClic();
-  }
-}
-
-Renvoi::Renvoi(QWidget *parent) : QLabel(parent) {
-  setFocusPolicy(Qt::TabFocus);
-  setCursor(Qt::PointingHandCursor);
-}
-
-void Renvoi::mousePressEvent(QMouseEvent *event) {
-  if (event->button() == Qt::LeftButton && auClic) {
-    auClic();
-  }
-}
-
-void Renvoi::keyPressEvent(QKeyEvent *event) {
-  const int touche = event->key();
-  if ((touche == Qt::Key_Return || touche == Qt::Key_Enter || touche == Qt::Key_Space) && auClic) {
-    auClic();
-  } else {
-    QLabel::keyPressEvent(event);
-  }
-}
-
-void Renvoi::paintEvent(QPaintEvent *event) {
-  QLabel::paintEvent(event);
-  if (hasFocus()) {
-    QPainter p(this);
-    QStyleOptionFocusRect option;
-    option.initFrom(this);
-    option.rect = rect().adjusted(1, 1, -1, -1);
-    style()->drawPrimitive(QStyle::PE_FrameFocusRect, &option, &p, this);
-  }
-}
-
-Figure::Figure(QWidget *parent) : QLabel(parent) { setMouseTracking(true); }
-
-void Figure::mouseMoveEvent(QMouseEvent * /*event*/) { auSurvol(); }
 
 QWidget *CreeWidget(Bureau &bureau, const Controle &c, QWidget *parent) {
   switch (c.genre) {

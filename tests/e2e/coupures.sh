@@ -29,13 +29,13 @@ geste() {
   touche F5; sleep 0.2
   avant=$(journal)
   clic 700 8300
-  for _ in $(seq 30); do croit "$avant" && break; sleep 0.05; done
+  attends croit "$avant"
   clic 400 500
-  for _ in $(seq 30); do boite_ouverte "$SAUVE" && break; sleep 0.05; done
-  sleep 0.2
-  tape "$FICHIER"; touche Return; sleep 0.3
+  attends boite_ouverte "$SAUVE"; sleep 0.2
+  tape "$FICHIER"; touche Return
+  attends boite_fermee "$SAUVE"; sleep 0.1
   touche F2
-  for _ in $(seq 30); do boite_ouverte "$EXIT_BOX" && break; sleep 0.05; done
+  attends boite_ouverte "$EXIT_BOX"
   touche Return
 }
 
