@@ -167,6 +167,14 @@ TEST(MoonsSiderealTime, ManyTurnsGoAsOneByOne) {
   }
 }
 
+TEST(MoonsSiderealTime, AtNoonOfTheFirstDayOf2000ItStandsWithinItsTurnAlready) {
+  Lune lune = LuneA(2000, 1, 1, 12);
+  EXPECT_EQ(SideralALaMain(lune.LuneJD, 0), 280.46061837);
+  const TopoALaMain main(lune, 10.0F, 0.0F);
+  Observe(lune, 10.0F, 0.0F);
+  EXPECT_EQ(lune.LuneAzimut, main.azimut);
+}
+
 TEST(MoonsTexts, BearTheSignOfTheWholeAndSecondsToTheHundredth) {
   Lune lune = LuneA(2026, 6, 21, 12, 5, 30.25F);
   TopoLune(lune, lune.LuneAD, lune.LuneDecl, 47.5F, -5.17F, "Asc. droite : ");

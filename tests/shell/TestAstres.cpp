@@ -306,6 +306,22 @@ TEST_F(Astres, WithoutAStarOrAPlanetAPlainBoxSaysSoAndTheSheetIsDrawnWithTheSigh
   }
 }
 
+TEST_F(Astres, WithoutAnyKindOfBodyNothingIsReducedAndTheSheetIsDrawnWithTheSightBefore) {
+  Calcule();
+  const AffichageDroite avant = bureau.affichage;
+  const float intercept = bureau.visee.Intercept;
+  for (Controle &corps : d.Option7) {
+    corps.choisi = false;
+  }
+  bureau.image1.traces.clear();
+  Calcule();
+  EXPECT_TRUE(boites.empty());
+  ToutEstMontre(avant);
+  EXPECT_EQ(bureau.visee.Intercept, intercept);
+  EXPECT_FALSE(bureau.image1.traces.empty());
+  EXPECT_EQ(LignesDuJournal(), 2U);
+}
+
 TEST_F(Astres, AnEmptyEyeHeightOfAStarOrAPlanetReachesTheEdgeAndOfTheMoonDoesNot) {
   ClicOption(bureau, d.Option7[1]);
   Tape(d.Text10, "");

@@ -115,6 +115,27 @@ TEST_F(ListesDuDialogue, AFolderThatVanishesWithinTheRunGivesWayToTheUsersOwn) {
   EXPECT_TRUE(boites.empty());
 }
 
+TEST_F(ListesDuDialogue, WithoutEvenTheUsersOwnTheRootIsOnShow) {
+  fs::remove_all(lieu);
+  Demande([&] { EXPECT_EQ(f.dossier, "/"); });
+  EXPECT_TRUE(boites.empty());
+}
+
+TEST_F(ListesDuDialogue, AFolderThatVanishesUnderTheDialogGivesWayToTheUsersOwnAsItComesToTheFront) {
+  Dossier("a");
+  Fichiers({"x.LoP"});
+  Demande([&] {
+    TapeNom("a/");
+    Ok();
+    ASSERT_EQ(f.dossier, lieu / "a");
+    fs::remove(lieu / "a");
+    ActiveFenetre(bureau, "FSelect");
+    EXPECT_EQ(f.dossier, lieu);
+    EXPECT_THAT(f.File1.liste, ElementsAre("x.LoP"));
+  });
+  EXPECT_TRUE(boites.empty());
+}
+
 TEST_F(ListesDuDialogue, TheListOfFoldersGoesFromTheRootToTheOnesWithinAStepFurtherInEach) {
   Dossier("zéro");
   Dossier("Bis");

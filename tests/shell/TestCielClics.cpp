@@ -179,6 +179,32 @@ TEST_F(ClicsCiel, AnArrowGoesTheWayItPoints) {
   EXPECT_EQ(va(Direction::Bas), "Castor");
 }
 
+TEST_F(ClicsCiel, TheKeyboardTellsAPlanetTheSunAndTheMoonAsTheMouseDoes) {
+  for (std::size_t i = 1; i <= 246; ++i) {
+    c.Shet[i].place.haut = H() + 5000;
+  }
+  for (Controle *x : {&c.LaP[0], &c.LaP[1], &c.LaP[3]}) {
+    x->visible = false;
+  }
+  const auto met = [&](Controle &corps, double x) {
+    corps.visible = true;
+    corps.place.gauche = x - corps.place.largeur / 2;
+    corps.place.haut = H() / 2 - corps.place.hauteur / 2;
+  };
+  c.LaP[2].visible = true;
+  met(c.Shapla[2], W() / 2);
+  met(c.SOL, W() / 2 + 900);
+  met(c.Lune, W() / 2 - 700);
+  ciel::DeplaceAstre(bureau, Direction::Droite);
+  EXPECT_EQ(c.Label2.legende, "Jupiter");
+  ciel::DeplaceAstre(bureau, Direction::Droite);
+  EXPECT_EQ(c.Label2.legende, "Soleil");
+  ciel::DeplaceAstre(bureau, Direction::Gauche);
+  EXPECT_EQ(c.Label2.legende, "Jupiter");
+  ciel::DeplaceAstre(bureau, Direction::Gauche);
+  EXPECT_EQ(c.Label2.legende, "Lune");
+}
+
 TEST_F(ClicsCiel, TheKeyboardReachesSunMoonAndPlanetsThatAreShownAndNothingElse) {
   Equatoriale();
   for (const Direction direction : {Direction::Droite, Direction::Bas, Direction::Gauche, Direction::Haut}) {

@@ -141,6 +141,12 @@ TEST_F(PageImprimee, ItIsNotTranslated) {
   EXPECT_EQ(page.Entete[0].legende, "heure");
 }
 
+TEST_F(PageImprimee, ItsControlsAreListedByItsNameAndAnUnknownWindowHasNone) {
+  const ListeControles controles = ControlesDe(bureau, kFenetreImpression);
+  EXPECT_TRUE(std::find(controles.begin(), controles.end(), &page.Command1) != controles.end());
+  EXPECT_TRUE(ControlesDe(bureau, "Impression2").empty());
+}
+
 TEST_F(PageImprimee, LeavingTheProgramClosesIt) {
   Montre();
   reponse = true;

@@ -173,6 +173,15 @@ TEST_F(Objets, AClickInTheListShowsTheEntry) {
   EXPECT_EQ(u.Modifie, 0) << "looking changes nothing";
 }
 
+TEST_F(Objets, AChoiceThatIsTakenBackLeavesTheFieldsAsTheyAre) {
+  OuvreSur(kTrois);
+  Choisit(2);
+  ChoisitLigne(bureau, u.List1, -1);
+  EXPECT_EQ(u.List1.rang, -1);
+  EXPECT_EQ(u.Text4.texte, "Cap");
+  EXPECT_EQ(u.etiquetteCommand3, "2");
+}
+
 TEST_F(Objets, FiveDegreesEastIsStoredWithAMinusAndShownAsEast) {
   Ouvre();
   Saisit("E", "2", "0", "1", 'N', "5", "0", 'E');

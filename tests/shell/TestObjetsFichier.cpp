@@ -200,6 +200,25 @@ TEST_F(FichierObjets, ADirectoryInItsPlaceIsToldAndSetAside) {
   EXPECT_EQ(Contenu(fichier.parent_path() / "Utilisateur.ancien.txt" / "dedans"), "gardé");
 }
 
+TEST_F(FichierObjets, ADirectoryInItsPlaceThatCantBeSetAsideStays) {
+  fs::create_directories(fichier);
+  Pose(fichier / "dedans", "gardé");
+  fs::permissions(dossier.chemin(), fs::perms::all);
+  Ouvre();
+  Nouveau("A");
+  {
+    const UtilisateurSansDroit autre;
+    if (!autre.reussi) {
+      GTEST_SKIP() << "no other user here";
+    }
+    Ferme();
+  }
+  EXPECT_EQ(boites.size(), 2U) << "the reading and the writing";
+  EXPECT_TRUE(u.cadre.visible);
+  EXPECT_EQ(Contenu(fichier / "dedans"), "gardé");
+  EXPECT_THAT(Autres(), IsEmpty());
+}
+
 TEST_F(FichierObjets, AFileWithoutPermissionIsToldAndSetAside) {
   Pose(fichier, kBonne);
   fs::permissions(dossier.chemin(), fs::perms::all);

@@ -129,6 +129,13 @@ TEST_F(Programme, AWeekdayThatOpensWithAnAccentTakesItsCapital) {
   EXPECT_EQ(d.Label1.legende, "Éday :");
 }
 
+TEST_F(Programme, AWeekdayThatTheSystemCannotNameLeavesTheColonAlone) {
+  DemarreSansCarte();
+  bureau.ports.nomJour = [](const ValeurDate &) { return std::string(); };
+  SaisitTexte(bureau, d.TDate[0], "23");
+  EXPECT_EQ(d.Label1.legende, " :");
+}
+
 TEST_F(Programme, SecondsAndHundredthsChangeTheMarksOfTheReadingAndAreKeptAtOnce) {
   DemarreSansCarte();
   EXPECT_TRUE(d.Label9.visible);

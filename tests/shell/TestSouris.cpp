@@ -194,6 +194,15 @@ TEST_F(Souris, BeforeAFirstDrawingThereAreNoCoordinatesAndNoLegs) {
   EXPECT_TRUE(neuf.image1.traces.empty());
 }
 
+TEST_F(Souris, ASurfaceWithoutWidthHasNoSideForTheCoordinates) {
+  ClicControle(bureau, d.PU_Coord);
+  const double gauche = d.LabC.place.gauche;
+  bureau.image1.largeur = 0;
+  Image1_MouseMove(bureau, false, W / 4, 3000);
+  EXPECT_EQ(d.LabC.place.gauche, gauche);
+  EXPECT_EQ(d.LabC.legende, "");
+}
+
 TEST_F(Souris, TheFirstRightClickSetsTheStartAndNoLineOfTheListArises) {
   ClicControle(bureau, d.PU_Distance);
   const std::size_t avant = bureau.image1.traces.size();
