@@ -76,7 +76,7 @@ def detail(benchmark):
     words = []
     for name, value in (part.split(":") for part in parts):
         if name == "grille":
-            words.append("with the grid" if value == "1" else "without the grid")
+            words.append("with the grid" if value == "0" else "without the grid")
         else:
             words.append("the whole world" if value == "0" else f"{value} miles high")
     return ", ".join(words)
@@ -121,8 +121,8 @@ def page(bench, screen, throughput, start):
     """The whole page."""
     parts = [
         "# Performance",
-        "Made by `make bench`, in one run. Each ratio is the program's time over that of an outside bound measured right "
-        "beside it, the best of several rounds of each: on another or a busier machine the times change, the ratios "
+        "Made by `make bench`, in one run. Each ratio is the program's time over that of an outside bound measured right\n"
+        "beside it, the best of several rounds of each: on another or a busier machine the times change, the ratios\n"
         "hardly.",
     ]
     for heading, rows in benchmark_rows([bench, screen]).items():
