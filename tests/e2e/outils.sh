@@ -10,9 +10,9 @@ mkdir -p "$IMAGES" "$XDG_DATA_HOME"
 
 echoue() { echo "ÉCHEC : $*" >&2; exit 1; }
 
-# Waits up to ten seconds for a command to succeed.
+# Waits up to twenty seconds for a command to succeed: a busy machine takes its time.
 attends() {
-  for _ in $(seq 100); do
+  for _ in $(seq 200); do
     "$@" && return 0
     sleep 0.1
   done
