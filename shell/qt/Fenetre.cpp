@@ -160,8 +160,10 @@ bool Fenetre::eventFilter(QObject *objet, QEvent *event) {
     scene_.Joue([this] { PU_Nuit_Click(bureau_, -1); });
     return true;
   }
-  if (appui.key() == Qt::Key_F1) { // in every window
-    scene_.Joue([this] { OuvreAide(bureau_); });
+  if (appui.key() == Qt::Key_F1) { // in every window; a key held down opens the guide once
+    if (!appui.isAutoRepeat()) {
+      scene_.Joue([this] { OuvreAide(bureau_); });
+    }
     return true;
   }
   return Touche(objet, appui.key());

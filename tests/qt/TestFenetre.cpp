@@ -185,6 +185,15 @@ TEST_F(FenetreOuverte, ToolTipsAreInTheLanguageOfTheWindow) {
   EXPECT_EQ(Trouve<QWidget>("Command6")->toolTip(), "Clears the screen");
 }
 
+TEST_F(FenetreOuverte, TheGuidesKeyHeldDownOpensItOnce) {
+  Ouvre(kPetitEcran);
+  for (const bool repete : {false, true, true}) {
+    QKeyEvent appui(QEvent::KeyPress, Qt::Key_F1, Qt::NoModifier, {}, repete);
+    QApplication::sendEvent(Trouve<QWidget>("Text13"), &appui);
+  }
+  EXPECT_EQ(boites.size(), 1U) << "no guide lies beside the tests, which is told";
+}
+
 TEST_F(FenetreOuverte, AHeldModuleFollowsTheMouseOverTheSurface) {
   Ouvre(kPetitEcran);
   const auto presse = [](QWidget *widget, QEvent::Type type, QPointF place) {
