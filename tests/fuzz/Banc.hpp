@@ -1,14 +1,16 @@
 #pragma once
 
+#include "tests/OutilsTests.hpp"
+
 #include <cstdlib>
 #include <filesystem>
-#include <fstream>
-#include <iterator>
 #include <string>
-#include <string_view>
 #include <system_error>
 
 namespace velmaris {
+
+using essais::Contenu;
+using essais::Pose;
 
 /// A scratch folder in memory that goes with the run, for the targets that read real files.
 class Banc {
@@ -45,15 +47,5 @@ public:
 private:
   std::filesystem::path chemin_;
 };
-
-inline void Pose(const std::filesystem::path &chemin, std::string_view octets) {
-  std::ofstream fichier(chemin, std::ios::binary);
-  fichier.write(octets.data(), static_cast<std::streamsize>(octets.size()));
-}
-
-inline std::string Contenu(const std::filesystem::path &chemin) {
-  std::ifstream fichier(chemin, std::ios::binary);
-  return {std::istreambuf_iterator<char>(fichier), {}};
-}
 
 } // namespace velmaris
