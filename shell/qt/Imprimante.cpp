@@ -3,6 +3,7 @@
 #include "foundations/Erreur.hpp"
 #include "foundations/Fichiers.hpp"
 #include "shell/qt/PageQt.hpp"
+#include "shell/qt/Toile.hpp"
 
 #include <QBuffer>
 #include <QDir>
@@ -18,7 +19,6 @@
 namespace velmaris::qt {
 namespace {
 
-constexpr double kTwipsParPouce = 1440.0;
 constexpr int kResolutionPdf = 1200; ///< points an inch
 
 QPageLayout::Orientation Orientation(const Impression &page) {

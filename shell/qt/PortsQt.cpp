@@ -4,6 +4,7 @@
 #include "shell/qt/Imprimante.hpp"
 #include "shell/qt/Liens.hpp"
 #include "shell/qt/Nuit.hpp"
+#include "shell/qt/Toile.hpp"
 
 #include <QApplication>
 #include <QClipboard>
@@ -22,8 +23,6 @@
 
 namespace velmaris::qt {
 namespace {
-
-constexpr double kTwipsParPouce = 1440.0;
 
 QLocale Langue(const Bureau &bureau) {
   const QLocale systeme = QLocale::system();

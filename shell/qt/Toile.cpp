@@ -15,7 +15,6 @@
 namespace velmaris::qt {
 namespace {
 
-constexpr double kTwipsParPouce = 1440.0;
 constexpr double kPasVisible = 0.25; ///< pixels under which two points of a line are one
 constexpr double kPortee = 1e8;      ///< 1/1440 inch from the surface's corner
 

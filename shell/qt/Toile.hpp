@@ -14,6 +14,9 @@ class QPainter;
 
 namespace velmaris::qt {
 
+/// The unit of all places: 1440 to the inch.
+inline constexpr double kTwipsParPouce = 1440.0;
+
 /// Pixels of the toolkit per 1/1440 inch on a widget's screen.
 double PixelsParTwip(const QWidget &widget);
 

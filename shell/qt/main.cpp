@@ -4,6 +4,7 @@
 #include "shell/qt/Commande.hpp"
 #include "shell/qt/Fenetre.hpp"
 #include "shell/qt/PortsQt.hpp"
+#include "shell/qt/Toile.hpp"
 
 #include <QApplication>
 #include <QScreen>
@@ -14,12 +15,11 @@
 
 namespace {
 
-constexpr double kTwipsParPouce = 1440.0;
 constexpr int kCommandeInconnue = 2; ///< status of a command line that isn't understood
 
 velmaris::Ecran EcranPrincipal() {
   const QScreen &ecran = *QGuiApplication::primaryScreen();
-  const double twips = kTwipsParPouce / ecran.logicalDotsPerInch();
+  const double twips = velmaris::qt::kTwipsParPouce / ecran.logicalDotsPerInch();
   return {ecran.geometry().width() * twips, ecran.geometry().height() * twips, ecran.geometry().height()};
 }
 
