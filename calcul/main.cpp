@@ -5,8 +5,8 @@
 #include "calcul/Reduit.hpp"
 #include "ephemerides/TableEtoiles.hpp"
 #include "foundations/Erreur.hpp"
-#include "shell/Messages.hpp"
-#include "shell/Ports.hpp"
+#include "shell/bureau/Messages.hpp"
+#include "shell/bureau/Ports.hpp"
 
 #include <CLI/CLI.hpp>
 

@@ -1,7 +1,7 @@
 #include "shell/Aide.hpp"
 
 #include "shell/Demarrage.hpp"
-#include "shell/Presentation.hpp"
+#include "shell/ecran/Presentation.hpp"
 
 #include <filesystem>
 #include <system_error>

@@ -1,34 +1,29 @@
 #include "shell/Demarrage.hpp"
 
 #include "foundations/TexteNombre.hpp"
-#include "lines/FichierLoP.hpp"
 #include "shell/Aide.hpp"
-#include "shell/Carte.hpp"
-#include "shell/Disposition.hpp"
-#include "shell/Droites.hpp"
-#include "shell/EcranCiel.hpp"
-#include "shell/Evenements.hpp"
-#include "shell/FichierObjets.hpp"
-#include "shell/Langage.hpp"
-#include "shell/MemoireDroites.hpp"
-#include "shell/ModesDroite.hpp"
-#include "shell/Nuit.hpp"
-#include "shell/Objets.hpp"
-#include "shell/PageImprimee.hpp"
-#include "shell/PanneauDirect.hpp"
-#include "shell/Saisie.hpp"
-#include "shell/Valeurs.hpp"
+#include "shell/Sortie.hpp"
+#include "shell/bureau/Evenements.hpp"
+#include "shell/bureau/Langage.hpp"
+#include "shell/bureau/Valeurs.hpp"
+#include "shell/carte/Carte.hpp"
+#include "shell/ciel/EcranCiel.hpp"
+#include "shell/droites/Droites.hpp"
+#include "shell/droites/MemoireDroites.hpp"
+#include "shell/droites/ModesDroite.hpp"
+#include "shell/ecran/Disposition.hpp"
+#include "shell/ecran/Nuit.hpp"
+#include "shell/visee/PanneauDirect.hpp"
+#include "shell/visee/Saisie.hpp"
 
 #include <algorithm>
 #include <array>
-#include <system_error>
 
 namespace velmaris {
 namespace {
 
-constexpr int kZoomInitial = 2000;          ///< of the slider
-constexpr std::size_t kLegendeQuitter = 14; ///< caption under "Quitter"
-constexpr int kPasTouches = 2000;           ///< of F9 and F10, on the slider
+constexpr int kZoomInitial = 2000; ///< of the slider
+constexpr int kPasTouches = 2000;  ///< of F9 and F10, on the slider
 
 bool EstVrai(const std::string &texte) { return texte == "True" || Val(texte) != 0; }
 
@@ -71,28 +66,6 @@ void LitPosition(Bureau &bureau) {
   PoseTexte(bureau, d.Text11, LitReglage(bureau, "T11"));
   PoseOption(bureau, d.OptN[LitReglage(bureau, "Hem") == "Nord" ? 0 : 1]);
   PoseOption(bureau, d.OptE[LitReglage(bureau, "Lon") == "Est" ? 0 : 1]);
-}
-
-void GardeReglages(Bureau &bureau) {
-  const Donnees &d = bureau.donnees;
-  const auto garde = [&](const std::string &cle, std::string_view valeur) {
-    bureau.valeurs->SaveSetting(kApplication, kSection, cle, valeur);
-  };
-  const auto booleen = [](bool vrai) { return vrai ? "True" : "False"; };
-  garde("T6", d.Text6.texte);
-  garde("T7", d.Text7.texte);
-  garde("T8", d.Text8.texte);
-  garde("T9", d.Text9.texte);
-  garde("Hem", d.OptN[0].choisi ? "Nord" : "Sud");
-  garde("Lon", d.OptE[0].choisi ? "Est" : "Ouest");
-  garde("T10", d.Text10.texte);
-  garde("T11", d.Text11.texte);
-  garde("C2", std::to_string(d.Check2.valeur));
-  garde("opCarte0", booleen(d.OpCarte[0].choisi));
-  garde("opCarte1", booleen(d.OpCarte[1].choisi));
-  for (std::size_t i = 0; i < d.Check1.size(); ++i) {
-    garde("C1 " + std::to_string(i), std::to_string(d.Check1[i].valeur));
-  }
 }
 
 } // namespace
@@ -192,23 +165,6 @@ bool Donnees_KeyDown(Bureau &bureau, int code) {
   }
 }
 
-void Sortie_Click(Bureau &bureau, int /*indice*/) {
-  // The title tells what is asked, also while no language file has filled the messages.
-  const std::string titre = "Velmaris - " + bureau.donnees.Label50[kLegendeQuitter].legende;
-  if (!bureau.ports.boite({.texte = bureau.messages[6], .titre = titre, .icone = Icone::Question, .question = true})) {
-    bureau.QuitterRefuse = -1;
-    return;
-  }
-  bureau.valeurs->Ensemble([&] { GardeReglages(bureau); });
-  SignaleMagasin(bureau);
-  bureau.apropos.cadre.visible = false;
-  Ciel_Ferme(bureau);
-  bureau.fselect.cadre.visible = false;
-  Impression_Ferme(bureau);
-  QuitteObjets(bureau);
-  bureau.termine = true;
-}
-
 void Image10_Click(Bureau &bureau, int indice) {
   bureau.FichierLangue = indice == 1 ? "\\EN.txt" : "\\FR.txt";
   Donnees &d = bureau.donnees;
@@ -226,27 +182,6 @@ void Image10_Click(Bureau &bureau, int indice) {
   d.Image10[0].visible = indice != 0;
   d.Image10[1].visible = indice == 0;
   EcritReglage(bureau, "Langue", std::to_string(indice));
-}
-
-void Secours(Bureau &bureau, const std::exception &erreur) {
-  const Donnees &d = bureau.donnees;
-  const auto *numerotee = dynamic_cast<const Erreur *>(&erreur);
-  std::string texte = d.TexteErreur.legende;
-  if (numerotee != nullptr) {
-    texte += " " + std::to_string(numerotee->numero);
-  }
-  texte += "\n" + std::string(erreur.what()) + "\n\n";
-  const auto fichier = bureau.dossiers.utilisateur / "secours.LoP";
-  const bool conservee = Passe([&] {
-    std::error_code refus;
-    std::filesystem::create_directories(fichier.parent_path(), refus);
-    SauveLoP(fichier, LitPanneau(d));
-  });
-  if (bureau.utilisateur.Modifie != 0) {
-    Passe([&] { EcritFichier(bureau); });
-  }
-  texte += conservee ? d.TexteSecours.legende + "\n" + fichier.string() : d.TexteSansSecours.legende;
-  bureau.ports.boite({.texte = texte, .icone = Icone::Erreur});
 }
 
 } // namespace velmaris

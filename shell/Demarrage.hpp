@@ -1,10 +1,6 @@
 #pragma once
 
-#include "foundations/Erreur.hpp"
-#include "shell/Bureau.hpp"
-
-#include <exception>
-#include <string>
+#include "shell/bureau/Bureau.hpp"
 
 namespace velmaris {
 
@@ -24,16 +20,7 @@ inline constexpr int kPeriodeTimer1 = 1400;
 /// @return whether the key does something here
 bool Donnees_KeyDown(Bureau &bureau, int code);
 
-/// The exit sequence: one question, then position and chart options are kept and the program ends.
-void Sortie_Click(Bureau &bureau, int indice);
-
 /// The choice of the language: 0 French, 1 English. The flag that stays is the one that can be chosen.
 void Image10_Click(Bureau &bureau, int indice);
-
-/// What is left to do when a failure reaches the program's edge: the sight of the panel goes to "secours.LoP" in the
-/// user's data folder, a changed list of objects to its file, and one box tells the failure and the place. The caller
-/// ends the program.
-/// @param erreur  the failure
-void Secours(Bureau &bureau, const std::exception &erreur);
 
 } // namespace velmaris

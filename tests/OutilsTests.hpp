@@ -11,6 +11,7 @@
 #include <stdexcept>
 #include <string>
 #include <string_view>
+#include <unistd.h>
 #include <variant>
 #include <vector>
 
@@ -112,5 +113,20 @@ template <class Genre> std::vector<Genre> TracesDe(const Surface &surface) {
 
 inline std::vector<TexteTrace> Textes(const Surface &surface) { return TracesDe<TexteTrace>(surface); }
 inline std::vector<CercleTrace> Cercles(const Surface &surface) { return TracesDe<CercleTrace>(surface); }
+
+/// Another user than the superuser, who may read and write everything, for the life of the scope.
+struct UtilisateurSansDroit {
+  UtilisateurSansDroit() : reussi(::geteuid() != 0 || ::seteuid(65534) == 0) {}
+  ~UtilisateurSansDroit() {
+    if (::geteuid() != ::getuid() && ::seteuid(::getuid()) != 0) {
+      std::abort();
+    }
+  }
+  UtilisateurSansDroit(const UtilisateurSansDroit &) = delete;
+  UtilisateurSansDroit &operator=(const UtilisateurSansDroit &) = delete;
+  UtilisateurSansDroit(UtilisateurSansDroit &&) = delete;
+  UtilisateurSansDroit &operator=(UtilisateurSansDroit &&) = delete;
+  bool reussi;
+};
 
 } // namespace velmaris::essais

@@ -1,6 +1,6 @@
 #include "shell/qt/Apparence.hpp"
 
-#include "shell/Identite.hpp"
+#include "shell/bureau/Identite.hpp"
 #include "shell/qt/Icones.hpp"
 #include "shell/qt/Nuit.hpp"
 

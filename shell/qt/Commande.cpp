@@ -1,6 +1,6 @@
 #include "shell/qt/Commande.hpp"
 
-#include "shell/Identite.hpp"
+#include "shell/bureau/Identite.hpp"
 
 #include <algorithm>
 #include <string_view>

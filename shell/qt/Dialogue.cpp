@@ -1,6 +1,6 @@
 #include "shell/qt/Dialogue.hpp"
 
-#include "shell/Evenements.hpp"
+#include "shell/bureau/Evenements.hpp"
 #include "shell/qt/Nuit.hpp"
 #include "shell/qt/Toile.hpp"
 #include "shell/qt/Widgets.hpp"

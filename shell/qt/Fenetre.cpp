@@ -2,9 +2,10 @@
 
 #include "shell/Aide.hpp"
 #include "shell/Demarrage.hpp"
-#include "shell/Droites.hpp"
-#include "shell/Nuit.hpp"
-#include "shell/Souris.hpp"
+#include "shell/Sortie.hpp"
+#include "shell/carte/Souris.hpp"
+#include "shell/droites/Droites.hpp"
+#include "shell/ecran/Nuit.hpp"
 #include "shell/qt/MenuCarte.hpp"
 #include "shell/qt/Nuit.hpp"
 #include "shell/qt/Toile.hpp"

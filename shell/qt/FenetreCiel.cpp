@@ -1,7 +1,7 @@
 #include "shell/qt/FenetreCiel.hpp"
 
-#include "shell/EcranCiel.hpp"
-#include "shell/Evenements.hpp"
+#include "shell/bureau/Evenements.hpp"
+#include "shell/ciel/EcranCiel.hpp"
 #include "shell/qt/ToileCiel.hpp"
 
 #include <QResizeEvent>

@@ -1,6 +1,6 @@
 #include "shell/qt/FenetreImpression.hpp"
 
-#include "shell/Evenements.hpp"
+#include "shell/bureau/Evenements.hpp"
 #include "shell/qt/Nuit.hpp"
 #include "shell/qt/PageQt.hpp"
 #include "shell/qt/Toile.hpp"

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "shell/Impression.hpp"
+#include "shell/fenetres/Impression.hpp"
 
 #include <QPageLayout>
 

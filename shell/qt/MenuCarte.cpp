@@ -1,6 +1,6 @@
 #include "shell/qt/MenuCarte.hpp"
 
-#include "shell/Evenements.hpp"
+#include "shell/bureau/Evenements.hpp"
 
 #include <QMenu>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "shell/Bureau.hpp"
+#include "shell/bureau/Bureau.hpp"
 
 #include <vector>
 

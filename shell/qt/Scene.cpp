@@ -1,6 +1,6 @@
 #include "shell/qt/Scene.hpp"
 
-#include "shell/Demarrage.hpp"
+#include "shell/Sortie.hpp"
 #include "shell/qt/Apparence.hpp"
 #include "shell/qt/Nuit.hpp"
 #include "shell/qt/Rendu.hpp"

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "shell/Ciel.hpp"
+#include "shell/fenetres/Ciel.hpp"
 #include "shell/qt/Toile.hpp"
 
 #include <vector>

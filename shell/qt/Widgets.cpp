@@ -1,6 +1,6 @@
 #include "shell/qt/Widgets.hpp"
 
-#include "shell/Evenements.hpp"
+#include "shell/bureau/Evenements.hpp"
 #include "shell/qt/Elements.hpp"
 #include "shell/qt/Icones.hpp"
 #include "shell/qt/Nuit.hpp"

@@ -1,9 +1,9 @@
 #include "Mesure.hpp"
 #include "chart/Polygones.hpp"
 #include "foundations/Fichiers.hpp"
-#include "shell/Carte.hpp"
 #include "shell/Demarrage.hpp"
-#include "shell/Valeurs.hpp"
+#include "shell/bureau/Valeurs.hpp"
+#include "shell/carte/Carte.hpp"
 
 #include <charconv>
 #include <cstdlib>

@@ -2,9 +2,9 @@
 #include "ephemerides/pLANETE.hpp"
 #include "foundations/CelHor.hpp"
 #include "shell/Demarrage.hpp"
-#include "shell/EcranCiel.hpp"
-#include "shell/PanneauDirect.hpp"
-#include "shell/Valeurs.hpp"
+#include "shell/bureau/Valeurs.hpp"
+#include "shell/ciel/EcranCiel.hpp"
+#include "shell/visee/PanneauDirect.hpp"
 #include "sky/AstresCiel.hpp"
 
 #include <cstdlib>

@@ -1,10 +1,10 @@
 #include "Mesure.hpp"
-#include "shell/ChoixFichier.hpp"
 #include "shell/Demarrage.hpp"
-#include "shell/Droites.hpp"
-#include "shell/Evenements.hpp"
-#include "shell/ModesDroite.hpp"
-#include "shell/Valeurs.hpp"
+#include "shell/bureau/Evenements.hpp"
+#include "shell/bureau/Valeurs.hpp"
+#include "shell/droites/Droites.hpp"
+#include "shell/droites/ModesDroite.hpp"
+#include "shell/ecran/ChoixFichier.hpp"
 
 #include <cstdlib>
 #include <fcntl.h>

@@ -1,6 +1,6 @@
 #include "chart/FichierLieux.hpp"
 
-#include "../OutilsTests.hpp"
+#include "tests/OutilsTests.hpp"
 
 #include <gtest/gtest.h>
 

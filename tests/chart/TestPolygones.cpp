@@ -3,7 +3,7 @@
 #include "foundations/Erreur.hpp"
 #include "foundations/TexteNombre.hpp"
 
-#include "../OutilsTests.hpp"
+#include "tests/OutilsTests.hpp"
 
 #include <gtest/gtest.h>
 

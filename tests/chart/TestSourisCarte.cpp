@@ -1,6 +1,6 @@
 #include "chart/SourisCarte.hpp"
 
-#include "../OutilsTests.hpp"
+#include "tests/OutilsTests.hpp"
 
 #include <gtest/gtest.h>
 

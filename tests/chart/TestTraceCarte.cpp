@@ -2,7 +2,7 @@
 
 #include "chart/Projection.hpp"
 
-#include "../OutilsTests.hpp"
+#include "tests/OutilsTests.hpp"
 
 #include <gtest/gtest.h>
 

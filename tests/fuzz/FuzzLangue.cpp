@@ -1,7 +1,7 @@
 #include "Attend.hpp"
-#include "shell/Donnees.hpp"
-#include "shell/Langage.hpp"
-#include "shell/Messages.hpp"
+#include "shell/bureau/Langage.hpp"
+#include "shell/bureau/Messages.hpp"
+#include "shell/fenetres/Donnees.hpp"
 
 using namespace velmaris;
 

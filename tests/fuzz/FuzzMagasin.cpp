@@ -1,8 +1,8 @@
 #include "Attend.hpp"
 #include "Banc.hpp"
-#include "shell/Bureau.hpp"
 #include "shell/Demarrage.hpp"
-#include "shell/Valeurs.hpp"
+#include "shell/bureau/Bureau.hpp"
+#include "shell/bureau/Valeurs.hpp"
 
 #include <exception>
 

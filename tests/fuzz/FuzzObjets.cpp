@@ -1,6 +1,6 @@
 #include "Attend.hpp"
 #include "Banc.hpp"
-#include "shell/FichierObjets.hpp"
+#include "shell/carte/FichierObjets.hpp"
 
 #include <algorithm>
 #include <string>

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "OutilsBureau.hpp"
 #include "shell/qt/Fenetre.hpp"
 #include "shell/qt/Widgets.hpp"
+#include "tests/shell/bureau/OutilsBureau.hpp"
 
 #include <QAbstractButton>
 #include <QApplication>

@@ -1,6 +1,6 @@
 #include "OutilsFenetre.hpp"
 
-#include "shell/EcranCiel.hpp"
+#include "shell/ciel/EcranCiel.hpp"
 #include "shell/qt/FenetreCiel.hpp"
 #include "shell/qt/Nuit.hpp"
 #include "shell/qt/PortsQt.hpp"

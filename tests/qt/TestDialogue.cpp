@@ -1,7 +1,7 @@
 #include "OutilsFenetre.hpp"
 
-#include "shell/ChoixFichier.hpp"
-#include "shell/Fichiers.hpp"
+#include "shell/droites/Fichiers.hpp"
+#include "shell/ecran/ChoixFichier.hpp"
 #include "shell/qt/Dialogue.hpp"
 #include "shell/qt/PortsQt.hpp"
 

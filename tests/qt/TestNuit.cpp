@@ -1,6 +1,6 @@
 #include "OutilsFenetre.hpp"
 
-#include "shell/ChoixFichier.hpp"
+#include "shell/ecran/ChoixFichier.hpp"
 #include "shell/qt/Dialogue.hpp"
 #include "shell/qt/Nuit.hpp"
 #include "shell/qt/PortsQt.hpp"

@@ -1,6 +1,6 @@
 #include "OutilsFenetre.hpp"
 
-#include "shell/Identite.hpp"
+#include "shell/bureau/Identite.hpp"
 #include "shell/qt/Commande.hpp"
 #include "shell/qt/Dialogue.hpp"
 #include "shell/qt/Liens.hpp"

@@ -1,6 +1,6 @@
 #include "OutilsFenetre.hpp"
 
-#include "shell/Objets.hpp"
+#include "shell/carte/Objets.hpp"
 #include "shell/qt/Dialogue.hpp"
 #include "shell/qt/PortsQt.hpp"
 #include "shell/qt/Widgets.hpp"

@@ -1,8 +1,8 @@
-#include "OutilsBureau.hpp"
+#include "tests/shell/bureau/OutilsBureau.hpp"
 
 #include "foundations/Fichiers.hpp"
 #include "lines/FichierLoP.hpp"
-#include "shell/Disposition.hpp"
+#include "shell/ecran/Disposition.hpp"
 
 namespace velmaris::essais {
 namespace {
@@ -80,17 +80,6 @@ TEST_F(Programme, PositionAndOptionsComeBackAfterAConfirmedExit) {
   EXPECT_EQ(s.Check2.valeur, 0);
   EXPECT_TRUE(s.Option4[1].choisi);
   EXPECT_EQ(suite.FichierLangue, "\\EN.txt");
-}
-
-TEST_F(Programme, NoAtTheExitQuestionKeepsNothingAndAsksAgainNextTime) {
-  Demarre();
-  TapeVisee();
-  ClicControle(bureau, d.Sortie);
-  ClicControle(bureau, d.Sortie);
-  EXPECT_EQ(boites.size(), 2U);
-  EXPECT_EQ(bureau.QuitterRefuse, -1);
-  EXPECT_FALSE(bureau.termine);
-  EXPECT_EQ(Reglage("T8"), "absent");
 }
 
 TEST_F(Programme, LoadedChartBoxesWinOverWhatTheChartKindSets) {
@@ -191,25 +180,6 @@ TEST_F(Programme, ALowScreenTakesTheCompactLayout) {
 TEST_F(Programme, ScreensFromSevenHundredPixelsKeepTheFullLayout) {
   Demarre({15360, 10500, 700});
   EXPECT_FALSE(d.Label72.visible);
-}
-
-TEST_F(Programme, AFailureAtTheEdgeKeepsTheSightAndTellsWhere) {
-  Demarre();
-  TapeVisee();
-  Secours(bureau, Erreur(13));
-  const auto fichier = dossier.chemin() / "utilisateur" / "secours.LoP";
-  ASSERT_EQ(boites.size(), 1U);
-  EXPECT_NE(boites[0].texte.find("13"), std::string::npos);
-  EXPECT_NE(boites[0].texte.find(fichier.string()), std::string::npos);
-  EXPECT_EQ(LitFichier(fichier), EnWindows1252(EcritLoP(LitPanneau(d))));
-}
-
-TEST_F(Programme, AFailureWithoutAPlaceToWriteIsStillTold) {
-  Demarre();
-  bureau.dossiers.utilisateur = "/proc/velmaris";
-  Secours(bureau, Erreur(6));
-  ASSERT_EQ(boites.size(), 1U);
-  EXPECT_NE(boites[0].texte.find(d.TexteSansSecours.legende), std::string::npos);
 }
 
 } // namespace

@@ -1,8 +1,8 @@
-#include "OutilsFichierVisee.hpp"
+#include "tests/shell/droites/OutilsFichierVisee.hpp"
 
-#include "shell/FichierObjets.hpp"
-#include "shell/Journal.hpp"
-#include "shell/Objets.hpp"
+#include "shell/carte/FichierObjets.hpp"
+#include "shell/carte/Objets.hpp"
+#include "shell/visee/Journal.hpp"
 
 #include <gmock/gmock.h>
 

@@ -1,10 +1,10 @@
-#include "OutilsDroites.hpp"
+#include "tests/shell/droites/OutilsDroites.hpp"
 
 #include "foundations/Fichiers.hpp"
-#include "shell/FichierObjets.hpp"
-#include "shell/Fichiers.hpp"
-#include "shell/Journal.hpp"
-#include "shell/Objets.hpp"
+#include "shell/carte/FichierObjets.hpp"
+#include "shell/carte/Objets.hpp"
+#include "shell/droites/Fichiers.hpp"
+#include "shell/visee/Journal.hpp"
 
 #include <algorithm>
 #include <atomic>

@@ -1,4 +1,4 @@
-#include "OutilsDroites.hpp"
+#include "tests/shell/droites/OutilsDroites.hpp"
 
 namespace velmaris::essais {
 namespace {

@@ -1,0 +1,233 @@
+/// The program's table of events: which function answers which event of which control. The one place of the core that
+/// knows all rooms of the shell.
+
+#include "shell/Aide.hpp"
+#include "shell/Demarrage.hpp"
+#include "shell/Sortie.hpp"
+#include "shell/bureau/Evenements.hpp"
+#include "shell/carte/Carte.hpp"
+#include "shell/carte/Objets.hpp"
+#include "shell/carte/Souris.hpp"
+#include "shell/ciel/EcranCiel.hpp"
+#include "shell/droites/Droites.hpp"
+#include "shell/droites/Fichiers.hpp"
+#include "shell/droites/ModesDroite.hpp"
+#include "shell/droites/Route.hpp"
+#include "shell/ecran/ChoixFichier.hpp"
+#include "shell/ecran/Modules.hpp"
+#include "shell/ecran/Nuit.hpp"
+#include "shell/ecran/PageImprimee.hpp"
+#include "shell/ecran/Presentation.hpp"
+#include "shell/visee/Astres.hpp"
+#include "shell/visee/Saisie.hpp"
+
+#include <span>
+#include <string_view>
+
+namespace velmaris {
+namespace {
+
+using Fonction = void (*)(Bureau &, int);
+
+/// One function an event; the index is that of the control in its group.
+struct Abonnement {
+  std::string_view nom;
+  Evenement evenement;
+  Fonction fonction;
+};
+
+// NOLINTNEXTLINE(cppcoreguidelines-avoid-c-arrays,modernize-avoid-c-arrays)
+constexpr Abonnement kFSelect[] = {
+    {"FName", Evenement::Change, FName_Change},
+    {"File1", Evenement::Clic, File1_Click},
+    {"File1", Evenement::DoubleClic, File1_DblClick},
+    {"File1", Evenement::Entre, File1_Entre},
+    {"Dir1", Evenement::DoubleClic, Dir1_DblClick},
+    {"Drive1", Evenement::Clic, Drive1_Click},
+    {"OK", Evenement::Clic, OK_Click},
+    {"Quitter", Evenement::Clic, Quitter_Click},
+    {"Command1", Evenement::Clic, Supprime_Click},
+};
+
+// NOLINTNEXTLINE(cppcoreguidelines-avoid-c-arrays,modernize-avoid-c-arrays)
+constexpr Abonnement kUtilisateur[] = {
+    {"List1", Evenement::Clic, objets::List1_Click},       {"Text3", Evenement::Change, objets::Champ_Change},
+    {"Text4", Evenement::Change, objets::Champ_Change},    {"Text6", Evenement::Change, objets::Champ_Change},
+    {"Text7", Evenement::Change, objets::Champ_Change},    {"Text8", Evenement::Change, objets::Champ_Change},
+    {"Text9", Evenement::Change, objets::Champ_Change},    {"OptN", Evenement::Clic, objets::Champ_Change},
+    {"OptE", Evenement::Clic, objets::Champ_Change},       {"Option1", Evenement::Clic, objets::Option1_Click},
+    {"Command1", Evenement::Clic, objets::Command1_Click}, {"Command2", Evenement::Clic, objets::Command2_Click},
+    {"Command3", Evenement::Clic, objets::Command3_Click}, {"Command4", Evenement::Clic, objets::Command4_Click},
+};
+
+// NOLINTNEXTLINE(cppcoreguidelines-avoid-c-arrays,modernize-avoid-c-arrays)
+constexpr Abonnement kCiel[] = {
+    {"HScroll1", Evenement::Change, ciel::HScroll1_Change},
+    {"Check2", Evenement::Clic, ciel::Check2_Click},
+    {"Command1", Evenement::Clic, ciel::Command1_Click},
+    {"Command4", Evenement::Clic, ciel::Command4_Click},
+    {"Option1", Evenement::Clic, ciel::Option1_Click},
+    {"List1", Evenement::Clic, ciel::List1_Click},
+    {"SOL", Evenement::Clic, ciel::SOL_Click},
+    {"Lune", Evenement::Clic, ciel::Lune_Click},
+    {"LaP", Evenement::Clic, ciel::LaP_Click},
+    {"Laet", Evenement::Clic, ciel::Laet_Click},
+};
+
+// NOLINTNEXTLINE(cppcoreguidelines-avoid-c-arrays,modernize-avoid-c-arrays)
+constexpr Abonnement kImpression[] = {
+    {"Image1", Evenement::Clic, impression::Image1_Click},
+    {"Command1", Evenement::Clic, impression::Command1_Click},
+};
+
+// NOLINTNEXTLINE(cppcoreguidelines-avoid-c-arrays,modernize-avoid-c-arrays)
+constexpr Abonnement kApropos[] = {
+    {"Image1", Evenement::Survol, apropos::Image1_MouseMove}, {"Label3", Evenement::Clic, apropos::Label3_Click},
+    {"Label4", Evenement::Clic, apropos::Label4_Click},       {"Label5", Evenement::Clic, apropos::Label5_Click},
+    {"Command1", Evenement::Clic, apropos::Command1_Click},
+};
+
+// NOLINTNEXTLINE(cppcoreguidelines-avoid-c-arrays,modernize-avoid-c-arrays)
+constexpr Abonnement kDonnees[] = {
+    {"TDate", Evenement::Quitte, TDate_Quitte},
+    {"TDate", Evenement::Change, TDate_Change},
+    {"Text3", Evenement::Quitte, Text3_Quitte},
+    {"Text4", Evenement::Quitte, QuitteMinutes<&Donnees::Text4>},
+    {"Text5", Evenement::Quitte, QuitteMinutes<&Donnees::Text5>},
+    {"Text6", Evenement::Quitte, QuitteDegres<&Donnees::Text6>},
+    {"Text7", Evenement::Quitte, QuitteMinutes<&Donnees::Text7>},
+    {"Text8", Evenement::Quitte, QuitteDegres<&Donnees::Text8>},
+    {"Text9", Evenement::Quitte, QuitteMinutes<&Donnees::Text9>},
+    {"Text10", Evenement::Quitte, Text10_Quitte},
+    {"Text11", Evenement::Quitte, Text11_Quitte},
+    {"Text12", Evenement::Quitte, QuitteMinutes<&Donnees::Text12>},
+    {"Text13", Evenement::Quitte, Text13_Quitte},
+    {"Text25", Evenement::Change, Text25_Change},
+    {"Option4", Evenement::Clic, Option4_Click},
+    {"Option5", Evenement::Relache, Option5_Relache},
+    {"Option7", Evenement::Relache, SelAstre},
+    {"Check3", Evenement::Clic, Check3_Click},
+    {"Combo6", Evenement::Clic, Combo6_Click},
+    {"Combo7", Evenement::Clic, Combo7_Click},
+    {"Combo8", Evenement::Clic, Combo8_Click},
+    {"Command1", Evenement::Clic, Command1_Click},
+    {"Command2", Evenement::Clic, Command2_Click},
+    {"Command26", Evenement::Clic, Command26_Click},
+    {"Command3", Evenement::Clic, Command3_Click},
+    {"Command4", Evenement::Clic, Command4_Click},
+    {"Command5", Evenement::Clic, Command5_Click},
+    {"Command6", Evenement::Clic, Command6_Click},
+    {"Command8", Evenement::Clic, Command8_Click},
+    {"Droite", Evenement::Clic, Droite_Click},
+    {"Option1", Evenement::Clic, Option1_Click},
+    {"Text2", Evenement::Entre, Text2_Entre},
+    {"Text2", Evenement::Change, CalculEstime},
+    {"Text15", Evenement::Entre, Text15_Entre},
+    {"Text15", Evenement::Change, CalculEstime},
+    {"Command15", Evenement::Clic, CalculEstime},
+    {"LabLatEst", Evenement::Clic, PositionEstimee_Click},
+    {"LabLonEst", Evenement::Clic, PositionEstimee_Click},
+    {"Command10", Evenement::Clic, Command10_Click},
+    {"Command11", Evenement::Clic, Command11_Click},
+    {"Command12", Evenement::Clic, Grille_Click},
+    {"Command14", Evenement::Clic, Grille_Click},
+    {"HScroll1", Evenement::Change, HScroll1_Change},
+    {"Command23", Evenement::Clic, Command23_Click},
+    {"Command18", Evenement::Clic, Command18_Click},
+    {"Command20", Evenement::Clic, Command20_Click},
+    {"Command7", Evenement::Clic, Command7_Click},
+    {"Command21", Evenement::Clic, Command21_Click},
+    {"Command22", Evenement::Clic, Command22_Click},
+    {"Command9", Evenement::Clic, Command9_Click},
+    {"Command13", Evenement::Clic, Command13_Click},
+    {"Sortie", Evenement::Clic, Sortie_Click},
+    {"Image10", Evenement::Clic, Image10_Click},
+    {"OpCarte", Evenement::Clic, OpCarte_Click},
+    {"Image2", Evenement::Clic, FermeModule<10>},
+    {"Image3", Evenement::Clic, FermeModule<2>},
+    {"Image4", Evenement::Clic, FermeModule<1>},
+    {"Image5", Evenement::Clic, FermeModule<4>},
+    {"Image6", Evenement::Clic, FermeModule<7>},
+    {"Image7", Evenement::Clic, FermeModule<9>},
+    {"Image8", Evenement::Clic, FermeModule<8>},
+    {"Image9", Evenement::Clic, FermeModule<3>},
+    {"Frame1", Evenement::Clic, SaisitModule<1>},
+    {"Frame2", Evenement::Clic, SaisitModule<2>},
+    {"Frame9", Evenement::Clic, SaisitModule<3>},
+    {"Label70", Evenement::Clic, SaisitModule<3>},
+    {"Frame4", Evenement::Clic, SaisitModule<4>},
+    {"Frame7", Evenement::Clic, SaisitModule<7>},
+    {"Frame8", Evenement::Clic, SaisitModule<8>},
+    {"PicAZ", Evenement::Clic, SaisitModule<8>},
+    {"PicHE", Evenement::Clic, SaisitModule<8>},
+    {"FOptionCarte", Evenement::Clic, SaisitModule<9>},
+    {"Frame10", Evenement::Clic, SaisitModule<10>},
+    {"Command17", Evenement::Clic, Command17_Click},
+    {"Command16", Evenement::Clic, Command16_Click},
+    {"Command24", Evenement::Clic, PU_Distance_Click},
+    {"Command25", Evenement::Clic, PU_Coord_Click},
+    {"Command19", Evenement::Clic, Command19_Click},
+    {"PU_Carte", Evenement::Clic, Command17_Click},
+    {"PU_Centre", Evenement::Clic, PU_Centre_Click},
+    {"PU_Distance", Evenement::Clic, PU_Distance_Click},
+    {"PU_Coord", Evenement::Clic, PU_Coord_Click},
+    {"PU_DM", Evenement::Clic, Command23_Click},
+    {"PU_D", Evenement::Clic, Command20_Click},
+    {"PU_S", Evenement::Clic, Command7_Click},
+    {"PU_C", Evenement::Clic, Command21_Click},
+    {"PU_E", Evenement::Clic, Command22_Click},
+    {"PU_Caps", Evenement::Clic, Command9_Click},
+    {"PU_Clear", Evenement::Clic, PU_Clear_Click},
+    {"PU_Apropos", Evenement::Clic, PU_Apropos_Click},
+    {"PU_Nuit", Evenement::Clic, PU_Nuit_Click},
+    {"PU_Quitter", Evenement::Clic, Sortie_Click},
+};
+
+std::span<const Abonnement> AbonnementsDe(std::string_view fenetre) {
+  if (fenetre == kFenetreDonnees) {
+    return kDonnees;
+  }
+  if (fenetre == kFenetreUtilisateur) {
+    return kUtilisateur;
+  }
+  if (fenetre == kFenetreCiel) {
+    return kCiel;
+  }
+  if (fenetre == kFenetreImpression) {
+    return kImpression;
+  }
+  if (fenetre == kFenetreApropos) {
+    return kApropos;
+  }
+  return fenetre == kFenetreFSelect ? std::span<const Abonnement>(kFSelect) : std::span<const Abonnement>();
+}
+
+/// @return null when nothing happens at that event
+const Abonnement *Trouve(const Controle &controle, Evenement evenement) {
+  for (const Abonnement &a : AbonnementsDe(controle.fenetre)) {
+    if (a.evenement == evenement && a.nom == controle.nom) {
+      return &a;
+    }
+  }
+  return nullptr;
+}
+
+} // namespace
+
+bool Ecoute(const Controle &controle, Evenement evenement) { return Trouve(controle, evenement) != nullptr; }
+
+void Declenche(Bureau &bureau, Controle &controle, Evenement evenement) {
+  if (const Abonnement *a = Trouve(controle, evenement)) {
+    a->fonction(bureau, controle.indice);
+  }
+}
+
+void ActiveFenetre(Bureau &bureau, std::string_view fenetre) {
+  if (fenetre == kFenetreFSelect) {
+    FSelect_Activate(bureau);
+  } else if (fenetre == kFenetreImpression) {
+    Impression_Activate(bureau);
+  }
+}
+
+} // namespace velmaris

@@ -1,0 +1,84 @@
+#include "shell/Sortie.hpp"
+
+#include "foundations/Erreur.hpp"
+#include "lines/FichierLoP.hpp"
+#include "shell/bureau/Valeurs.hpp"
+#include "shell/carte/FichierObjets.hpp"
+#include "shell/carte/Objets.hpp"
+#include "shell/ciel/EcranCiel.hpp"
+#include "shell/ecran/PageImprimee.hpp"
+#include "shell/visee/Saisie.hpp"
+
+#include <filesystem>
+#include <string>
+#include <string_view>
+#include <system_error>
+
+namespace velmaris {
+namespace {
+
+constexpr std::size_t kLegendeQuitter = 14; ///< caption under "Quitter"
+
+void GardeReglages(Bureau &bureau) {
+  const Donnees &d = bureau.donnees;
+  const auto garde = [&](const std::string &cle, std::string_view valeur) {
+    bureau.valeurs->SaveSetting(kApplication, kSection, cle, valeur);
+  };
+  const auto booleen = [](bool vrai) { return vrai ? "True" : "False"; };
+  garde("T6", d.Text6.texte);
+  garde("T7", d.Text7.texte);
+  garde("T8", d.Text8.texte);
+  garde("T9", d.Text9.texte);
+  garde("Hem", d.OptN[0].choisi ? "Nord" : "Sud");
+  garde("Lon", d.OptE[0].choisi ? "Est" : "Ouest");
+  garde("T10", d.Text10.texte);
+  garde("T11", d.Text11.texte);
+  garde("C2", std::to_string(d.Check2.valeur));
+  garde("opCarte0", booleen(d.OpCarte[0].choisi));
+  garde("opCarte1", booleen(d.OpCarte[1].choisi));
+  for (std::size_t i = 0; i < d.Check1.size(); ++i) {
+    garde("C1 " + std::to_string(i), std::to_string(d.Check1[i].valeur));
+  }
+}
+
+} // namespace
+
+void Sortie_Click(Bureau &bureau, int /*indice*/) {
+  // The title tells what is asked, also while no language file has filled the messages.
+  const std::string titre = "Velmaris - " + bureau.donnees.Label50[kLegendeQuitter].legende;
+  if (!bureau.ports.boite({.texte = bureau.messages[6], .titre = titre, .icone = Icone::Question, .question = true})) {
+    bureau.QuitterRefuse = -1;
+    return;
+  }
+  bureau.valeurs->Ensemble([&] { GardeReglages(bureau); });
+  SignaleMagasin(bureau);
+  bureau.apropos.cadre.visible = false;
+  Ciel_Ferme(bureau);
+  bureau.fselect.cadre.visible = false;
+  Impression_Ferme(bureau);
+  QuitteObjets(bureau);
+  bureau.termine = true;
+}
+
+void Secours(Bureau &bureau, const std::exception &erreur) {
+  const Donnees &d = bureau.donnees;
+  const auto *numerotee = dynamic_cast<const Erreur *>(&erreur);
+  std::string texte = d.TexteErreur.legende;
+  if (numerotee != nullptr) {
+    texte += " " + std::to_string(numerotee->numero);
+  }
+  texte += "\n" + std::string(erreur.what()) + "\n\n";
+  const auto fichier = bureau.dossiers.utilisateur / "secours.LoP";
+  const bool conservee = Passe([&] {
+    std::error_code refus;
+    std::filesystem::create_directories(fichier.parent_path(), refus);
+    SauveLoP(fichier, LitPanneau(d));
+  });
+  if (bureau.utilisateur.Modifie != 0) {
+    Passe([&] { EcritFichier(bureau); });
+  }
+  texte += conservee ? d.TexteSecours.legende + "\n" + fichier.string() : d.TexteSansSecours.legende;
+  bureau.ports.boite({.texte = texte, .icone = Icone::Erreur});
+}
+
+} // namespace velmaris

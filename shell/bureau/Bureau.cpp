@@ -1,0 +1,86 @@
+#include "shell/bureau/Bureau.hpp"
+
+#include "shell/bureau/Valeurs.hpp"
+
+#include <array>
+#include <utility>
+
+namespace velmaris {
+
+Bureau::Bureau() {
+  InitialiseDonnees(donnees);
+  InitialiseFSelect(fselect);
+  InitialiseImpression(impression);
+  InitialiseUtilisateur(utilisateur);
+  InitialiseCiel(ciel);
+  InitialiseApropos(apropos);
+}
+
+Bureau::~Bureau() = default;
+
+ListeControles ControlesDe(Bureau &bureau, std::string_view fenetre) {
+  if (fenetre == kFenetreDonnees) {
+    return Liste(bureau.donnees);
+  }
+  if (fenetre == kFenetreFSelect) {
+    return Liste(bureau.fselect);
+  }
+  if (fenetre == kFenetreUtilisateur) {
+    return Liste(bureau.utilisateur);
+  }
+  if (fenetre == kFenetreCiel) {
+    return Liste(bureau.ciel);
+  }
+  if (fenetre == kFenetreApropos) {
+    return Liste(bureau.apropos);
+  }
+  return fenetre == kFenetreImpression ? Liste(bureau.impression) : ListeControles();
+}
+
+std::vector<CadreFenetre *> FenetresLibres(Bureau &bureau) {
+  return {&bureau.utilisateur.cadre, &bureau.ciel.cadre, &bureau.impression.cadre};
+}
+
+Surface *SurfaceDe(Bureau &bureau, const Controle &controle) {
+  const std::array<std::pair<const Controle *, Surface *>, 7> surfaces = {
+      {{&bureau.donnees.Image1, &bureau.image1},
+       {&bureau.donnees.PicAZ, &bureau.picAZ},
+       {&bureau.donnees.PicHE, &bureau.picHE},
+       {&bureau.ciel.Picture1, &bureau.ciel.picture1},
+       {&bureau.ciel.PicAZ, &bureau.ciel.picAZ},
+       {&bureau.ciel.PicHE, &bureau.ciel.picHE},
+       {&bureau.impression.Image1, &bureau.impression.image}}};
+  for (const auto &[porte, surface] : surfaces) {
+    if (porte == &controle) {
+      return surface;
+    }
+  }
+  return nullptr;
+}
+
+std::string LitReglage(const Bureau &bureau, std::string_view cle, std::string_view defaut) {
+  return bureau.valeurs->GetSetting(kApplication, kSection, cle, defaut);
+}
+
+void EcritReglage(Bureau &bureau, std::string_view cle, std::string_view valeur) {
+  // Showing a line chooses its kind of fraction, which keeps it: a redraw would wait for the disk at each line.
+  const std::string absente = std::string(valeur) + "?";
+  if (LitReglage(bureau, cle, absente) == valeur) {
+    return;
+  }
+  bureau.valeurs->SaveSetting(kApplication, kSection, cle, valeur);
+  SignaleMagasin(bureau);
+}
+
+void SignaleMagasin(Bureau &bureau) {
+  const EtatMagasin etat = bureau.valeurs->etat();
+  if (etat == EtatMagasin::Sain || etat == bureau.magasinSignale) {
+    return;
+  }
+  bureau.magasinSignale = etat;
+  const Donnees &d = bureau.donnees;
+  const std::string &texte = etat == EtatMagasin::Abime ? d.TexteMagasinAbime.legende : d.TexteMagasinMuet.legende;
+  bureau.ports.boite({.texte = texte + "\n" + bureau.valeurs->fichierEnCause().string(), .icone = Icone::Attention});
+}
+
+} // namespace velmaris

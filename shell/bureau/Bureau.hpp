@@ -1,0 +1,137 @@
+#pragma once
+
+#include "chart/Polygones.hpp"
+#include "chart/SourisCarte.hpp"
+#include "ephemerides/Etoiles.hpp"
+#include "ephemerides/ModulePosLune.hpp"
+#include "foundations/Horloge.hpp"
+#include "foundations/Messages.hpp"
+#include "foundations/Surface.hpp"
+#include "lines/Feuille.hpp"
+#include "lines/FichierLoP.hpp"
+#include "lines/Transport.hpp"
+#include "shell/bureau/Ports.hpp"
+#include "shell/fenetres/Apropos.hpp"
+#include "shell/fenetres/Ciel.hpp"
+#include "shell/fenetres/Donnees.hpp"
+#include "shell/fenetres/FSelect.hpp"
+#include "shell/fenetres/Impression.hpp"
+#include "shell/fenetres/Utilisateur.hpp"
+#include "sights/Affichage.hpp"
+#include "sights/Observation.hpp"
+#include "sights/PositionDirecte.hpp"
+
+#include <cstddef>
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace velmaris {
+
+class Valeurs;
+enum class EtatMagasin : std::uint8_t;
+
+/// The screen that the program starts on.
+struct Ecran {
+  double largeur = 28800.0; ///< 1/1440 inch
+  double hauteur = 16200.0; ///< 1/1440 inch
+  int pixelsHaut = 1080;
+};
+
+/// One drawing of the chart in the surface's list.
+struct DernierDessin {
+  std::size_t debut = 0;
+  std::size_t fin = 0;
+  std::uint64_t effacements = 0; ///< of the surface when it was drawn
+};
+
+/// What the drawings of the chart share.
+struct CarteOuverte {
+  Polygone polygone;         ///< the outlines of one file after the other
+  bool fichierReste = false; ///< a file was opened and not read to its end: no other can be opened
+  DernierDessin dernier;
+};
+
+/// The whole program: its windows and what they share. Event functions take it; nothing below the shell knows it.
+struct Bureau {
+  Bureau();
+  ~Bureau();
+  Bureau(const Bureau &) = delete;
+  Bureau &operator=(const Bureau &) = delete;
+  Bureau(Bureau &&) = delete;
+  Bureau &operator=(Bureau &&) = delete;
+
+  Donnees donnees;
+  FSelect fselect;
+  Impression impression;
+  Utilisateur utilisateur;
+  Ciel ciel;
+  Apropos apropos;
+  Ecran ecran;                         ///< that it has started on
+  double largeurFenetre = 0.0;         ///< of the main window, 1/1440 inch
+  double hauteurFenetre = 0.0;         ///< of the main window, 1/1440 inch
+  std::string titre = "Velmaris 2009"; ///< of the main window
+  const Controle *focus = nullptr;     ///< control that asks for the focus
+  const Controle *menu = nullptr;      ///< menu that asks to be opened at the pointer
+  bool nuit = false;                   ///< everything is painted in red on black
+  bool pointeurOccupe = false;         ///< the pointer tells that the program works
+  bool termine = false;                ///< the exit sequence has run
+  std::string_view premierPlan;        ///< name of the window that asks to come to the front
+  bool horlogeArretee = false;         ///< the main window's clock stands still
+
+  Surface image1; ///< the drawing surface of the main window
+  Surface picAZ;  ///< the azimuth dial
+  Surface picHE;  ///< the height dial
+
+  TexteMsg messages;
+  std::string FichierLangue = "\\FR.txt"; ///< current language file, with its leading backslash
+  std::string TitreHorloge;               ///< local date and time, rebuilt at each tick
+  std::string TitreFichier;               ///< last part of the window's title
+  std::int16_t ModuleDeplace = 0;         ///< number of the module held by the mouse, 0 for none
+  std::int16_t QuitterRefuse = 0;         ///< -1 once the exit question was answered No
+
+  ValeursVisee visee;
+  AffichageDroite affichage;
+  Feuille feuille;
+  PointSolaire soleil;
+  Lune lune;
+  Etoiles etoiles;
+  Horloge horloge;
+  Transports transports;
+  CarteOuverte carte;
+  SourisCarte souris;
+  TableLoP lignesLoP;        ///< lines of the sight's file read last
+  bool sansQuestion = false; ///< lines are erased without asking for each, while all four are
+  std::string NomAstre;      ///< name of the body of the last reduced line
+
+  Ports ports;
+  Dossiers dossiers;
+  std::unique_ptr<Valeurs> valeurs; ///< the settings store
+  EtatMagasin magasinSignale{};     ///< the trouble that has been told, none at first
+  bool journalSignale = false;      ///< that the journal can't be written has been told
+};
+
+/// The controls of one of the program's windows.
+/// @param fenetre  the window's name
+/// @return an empty list for an unknown window
+ListeControles ControlesDe(Bureau &bureau, std::string_view fenetre);
+
+/// The frames of the windows that live beside the main one; each is on show while it is visible.
+std::vector<CadreFenetre *> FenetresLibres(Bureau &bureau);
+
+/// The surface that a control of that kind shows.
+/// @return null for another control
+Surface *SurfaceDe(Bureau &bureau, const Controle &controle);
+
+/// A setting of the program.
+std::string LitReglage(const Bureau &bureau, std::string_view cle, std::string_view defaut = {});
+
+/// Keeps a setting, unless the store holds that value already; tells the user once when the store can't.
+void EcritReglage(Bureau &bureau, std::string_view cle, std::string_view valeur);
+
+/// Tells the user that the store was damaged or can't be written, once each.
+void SignaleMagasin(Bureau &bureau);
+
+} // namespace velmaris

@@ -1,0 +1,107 @@
+#include "shell/bureau/Evenements.hpp"
+
+#include <algorithm>
+#include <utility>
+
+namespace velmaris {
+namespace {
+
+bool Utilisable(const Controle &controle) { return controle.actif && controle.visible; }
+
+} // namespace
+
+void PoseTexte(Bureau &bureau, Controle &controle, std::string texte) {
+  if (controle.genre == Genre::Liste) {
+    const auto ligne = std::find(controle.liste.begin(), controle.liste.end(), texte);
+    controle.rang = ligne == controle.liste.end() ? -1 : static_cast<int>(ligne - controle.liste.begin());
+  }
+  if (controle.texte != texte) {
+    controle.texte = std::move(texte);
+    Declenche(bureau, controle, Evenement::Change);
+  }
+}
+
+void PoseRang(Bureau &bureau, Controle &controle, int rang, int nombre) {
+  if (rang < -1 || rang >= nombre) {
+    return;
+  }
+  const auto ligne = static_cast<std::size_t>(rang);
+  controle.rang = rang;
+  controle.texte = rang >= 0 && ligne < controle.liste.size() ? controle.liste[ligne] : std::string();
+  Declenche(bureau, controle, Evenement::Clic);
+}
+
+void PoseOption(Bureau &bureau, Controle &controle) {
+  for (Controle *autre : ControlesDe(bureau, controle.fenetre)) {
+    if (autre->genre == Genre::Option && autre->groupe == controle.groupe) {
+      autre->choisi = false;
+    }
+  }
+  controle.choisi = true;
+  Declenche(bureau, controle, Evenement::Clic);
+}
+
+void PoseValeur(Bureau &bureau, Controle &controle, int valeur) {
+  if (controle.valeur != valeur) {
+    controle.valeur = valeur;
+    Declenche(bureau, controle, controle.genre == Genre::Case ? Evenement::Clic : Evenement::Change);
+  }
+}
+
+void ClicControle(Bureau &bureau, Controle &controle) {
+  if (Utilisable(controle)) {
+    Declenche(bureau, controle, Evenement::Clic);
+  }
+}
+
+void SurvoleControle(Bureau &bureau, Controle &controle) {
+  if (Utilisable(controle)) {
+    Declenche(bureau, controle, Evenement::Survol);
+  }
+}
+
+void DoubleClicControle(Bureau &bureau, Controle &controle) {
+  if (Utilisable(controle)) {
+    Declenche(bureau, controle, Evenement::DoubleClic);
+  }
+}
+
+void ClicOption(Bureau &bureau, Controle &controle) {
+  if (Utilisable(controle)) {
+    PoseOption(bureau, controle);
+    Declenche(bureau, controle, Evenement::Relache);
+  }
+}
+
+void ClicCase(Bureau &bureau, Controle &controle) {
+  if (Utilisable(controle)) {
+    PoseValeur(bureau, controle, controle.valeur == 0 ? 1 : 0);
+  }
+}
+
+void BougeCurseur(Bureau &bureau, Controle &controle, int valeur) {
+  if (Utilisable(controle)) {
+    PoseValeur(bureau, controle, std::clamp(valeur, controle.minimum, controle.maximum));
+  }
+}
+
+void EntreChamp(Bureau &bureau, Controle &controle) {
+  controle.toutSelectionne = true;
+  Declenche(bureau, controle, Evenement::Entre);
+}
+
+void QuitteChamp(Bureau &bureau, Controle &controle) { Declenche(bureau, controle, Evenement::Quitte); }
+
+void SaisitTexte(Bureau &bureau, Controle &controle, std::string texte) {
+  if (Utilisable(controle) && !controle.lectureSeule) {
+    PoseTexte(bureau, controle, std::move(texte));
+  }
+}
+
+void ChoisitLigne(Bureau &bureau, Controle &controle, int rang) {
+  if (Utilisable(controle)) {
+    PoseRang(bureau, controle, rang, static_cast<int>(controle.liste.size()));
+  }
+}
+
+} // namespace velmaris

@@ -1,0 +1,101 @@
+#include "shell/bureau/Langage.hpp"
+
+#include "foundations/Erreur.hpp"
+#include "foundations/Fichiers.hpp"
+#include "foundations/TexteNombre.hpp"
+#include "shell/bureau/Bureau.hpp"
+#include "shell/bureau/Messages.hpp"
+
+#include <optional>
+#include <span>
+
+namespace velmaris {
+namespace {
+
+enum Champ : std::size_t { kNom = 0, kLegende = 1, kTexte = 2, kInfobulle = 3, kIndice = 4 };
+
+bool AUneLegende(Genre genre) {
+  switch (genre) {
+  case Genre::Surface:
+  case Genre::Champ:
+  case Genre::Liste:
+  case Genre::ListeBoite:
+  case Genre::Curseur:
+  case Genre::Image:
+  case Genre::Separateur:
+  case Genre::Marque:
+    return false;
+  default:
+    return true;
+  }
+}
+
+bool AUnTexte(Genre genre) { return genre == Genre::Champ || genre == Genre::Liste || genre == Genre::ListeBoite; }
+
+bool AUneInfobulle(Genre genre) { return genre != Genre::Texte; }
+
+void AppliqueControle(std::span<const std::string_view> champs, const ListeControles &controles) {
+  const std::string_view indice = champs.size() > kIndice ? SansBlancs(champs[kIndice]) : std::string_view();
+  for (Controle *c : controles) {
+    if (c->nom != champs[kNom] || (!indice.empty() && c->indice != Val(indice))) {
+      continue;
+    }
+    if (champs.size() > kLegende && AUneLegende(c->genre)) {
+      c->legende = champs[kLegende];
+    }
+    if (champs.size() > kTexte && AUnTexte(c->genre)) {
+      c->texte = champs[kTexte];
+    }
+    if (champs.size() > kInfobulle && AUneInfobulle(c->genre)) {
+      c->infobulle = champs[kInfobulle];
+    }
+  }
+}
+
+} // namespace
+
+void AppliqueLangue(std::string_view texte, std::string_view fenetre, const ListeControles &controles,
+                    TexteMsg &messages) {
+  PourChaqueLigneDe(texte, fenetre, [&](auto champs) {
+    if (!LitMessage(champs, messages)) {
+      AppliqueControle(champs, controles);
+    }
+  });
+}
+
+void ChargeLangue(Bureau &bureau, std::string_view fenetre) {
+  std::optional<std::string> texte;
+  Passe([&] { texte = LitFichier(TrouveFichier(bureau.dossiers, bureau.FichierLangue.substr(1))); });
+  Controle &jour = bureau.donnees.Label1;
+  if (texte && fenetre == kFenetreDonnees) {
+    // The plain caption gives way to weekdays; it is kept as the label's own text.
+    jour.legende = jour.texte;
+    AppliqueLangue(*texte, fenetre, ControlesDe(bureau, fenetre), bureau.messages);
+    jour.texte = jour.legende;
+  } else if (texte) {
+    if (fenetre == kFenetreCiel && texte->find("Form=" + std::string(kFenetreCiel)) != std::string::npos) {
+      bureau.ciel.marqueLangue = "Lang";
+    }
+    AppliqueLangue(*texte, fenetre, ControlesDe(bureau, fenetre), bureau.messages);
+  } else if (fenetre == kFenetreDonnees) {
+    bureau.ports.boite({.texte = "Fichier absent.", .icone = Icone::Attention});
+  }
+  jour.infobulle = jour.legende;
+}
+
+std::string ModeleLangue(const ListeControles &controles) {
+  std::string texte;
+  for (const Controle *c : controles) {
+    texte += c->nom + '\\' + (AUneLegende(c->genre) ? c->legende : "") + '\\' + (AUnTexte(c->genre) ? c->texte : "") +
+             '\\' + (AUneInfobulle(c->genre) ? c->infobulle : "") + '\\' +
+             (c->indice < 0 ? "" : std::to_string(c->indice)) + "\r\n";
+  }
+  return texte;
+}
+
+void EcritLangue(Bureau &bureau, std::string_view fenetre) {
+  EcritFichier(bureau.dossiers.utilisateur / ("lang" + std::string(fenetre) + ".txt"),
+               ModeleLangue(ControlesDe(bureau, fenetre)));
+}
+
+} // namespace velmaris

@@ -1,0 +1,136 @@
+#include "shell/carte/Carte.hpp"
+
+#include "chart/Lieux.hpp"
+#include "chart/Projection.hpp"
+#include "chart/TraceCarte.hpp"
+#include "foundations/Erreur.hpp"
+#include "foundations/Fichiers.hpp"
+#include "foundations/TexteNombre.hpp"
+#include "shell/droites/Droites.hpp"
+
+#include <array>
+#include <string>
+
+namespace velmaris {
+namespace {
+
+constexpr int kFichierOuvert = 55;
+constexpr std::size_t kIles = 3; ///< boxes of the module, by what they show
+constexpr std::size_t kEaux = 2;
+constexpr std::size_t kObjets = 1;
+constexpr std::size_t kVilles = 0;
+
+/// A polygon file and what shows it.
+struct Couche {
+  std::string_view fichier;
+  Couleur couleur;
+  bool (*demandee)(const Donnees &);
+};
+
+bool EauxDemandees(const Donnees &d) { return d.Check1[kEaux].valeur == 1; }
+
+/// In the order in which they are drawn.
+constexpr std::array<Couche, 5> kCouches = {
+    {{"Contours.Asc", Rvb(100, 100, 100), [](const Donnees &d) { return d.OpCarte[1].choisi; }},
+     {"Totale.asc", kNoir, [](const Donnees &d) { return d.OpCarte[0].choisi; }},
+     {"Iles.Asc", Rvb(130, 150, 130), [](const Donnees &d) { return d.Check1[kIles].valeur == 1; }},
+     {"Rivieres.Asc", Rvb(0, 150, 180), EauxDemandees},
+     {"Lacs.Asc", kBleu, EauxDemandees}}};
+
+/// The local time of day, a fraction of the day in whole seconds.
+double HeureDuJour(const Bureau &bureau) {
+  const ValeurDate date = bureau.horloge.locale();
+  return ((date.heure * 60.0 + date.minute) * 60.0 + date.seconde) / 86400.0;
+}
+
+std::string LitDonnees(const Bureau &bureau, std::string_view nom) {
+  return LitFichier(TrouveFichier(bureau.dossiers, std::string(nom)));
+}
+
+/// Cities or user's objects; what can't be read is told, and the chart stays as drawn.
+void ChargeLieux(Bureau &bureau, std::string_view nom, std::size_t message,
+                 void (*trace)(const Feuille &, Surface &, std::string_view)) {
+  try {
+    trace(bureau.feuille, bureau.image1, LitDonnees(bureau, nom));
+  } catch (const Erreur &) {
+    bureau.ports.boite({.texte = bureau.messages[message]});
+  }
+}
+
+} // namespace
+
+void OuvreCartes(Bureau &bureau) {
+  Donnees &d = bureau.donnees;
+  Surface &surface = bureau.image1;
+  const std::size_t debut = surface.traces.size();
+  surface.plumeLevee = true;
+  bureau.pointeurOccupe = true;
+  const double notee = HeureDuJour(bureau);
+  d.Label51.legende.clear();
+  d.Label51.infobulle = "Polygones chargés";
+  for (const Couche &couche : kCouches) {
+    if (couche.demandee(d)) {
+      ChargePolygone(bureau, couche.fichier, couche.couleur);
+    }
+  }
+  if (d.Check1[kVilles].valeur == 1) {
+    ChargeLieux(bureau, "Villes.txt", 1, TraceVilles);
+  }
+  if (d.Check1[kObjets].valeur == 1) {
+    ChargeLieux(bureau, "Utilisateur.txt", 2, TraceObjets);
+  }
+  const double secondes = Int((HeureDuJour(bureau) - notee) * 24 * 60 * 60);
+  if (secondes > 1) {
+    d.Label51.legende = bureau.messages[26] + TexteGeneral(secondes) + bureau.messages[27];
+  }
+  bureau.pointeurOccupe = false;
+  // A chart that is drawn again in the same place leaves nothing to see: steps of the zoom without a sheet.
+  const DernierDessin &dernier = bureau.carte.dernier;
+  if (dernier.effacements != surface.effacements || dernier.fin != debut ||
+      !RetireRepetition(surface, dernier.debut, debut)) {
+    bureau.carte.dernier = {debut, surface.traces.size(), surface.effacements};
+  }
+  surface.plumeLevee = true;
+}
+
+void ChargePolygone(Bureau &bureau, std::string_view nom, Couleur couleur) {
+  CarteOuverte &carte = bureau.carte;
+  try {
+    Vide(carte.polygone);
+    if (carte.fichierReste) {
+      throw Erreur(kFichierOuvert);
+    }
+    const std::string octets = LitDonnees(bureau, nom);
+    carte.fichierReste = true; // until it is read to its end
+    const std::size_t n = LitPolygone(carte.polygone, octets);
+    bureau.donnees.Label51.infobulle += " + " + std::to_string(n);
+    carte.fichierReste = false;
+    bureau.ports.respire();
+    Affiche(carte.polygone, bureau.feuille, bureau.image1, couleur, bureau.ports.respire);
+  } catch (const Erreur &) {
+    bureau.ports.boite({.texte = bureau.messages[3] + std::string(nom)});
+  }
+}
+
+void Command17_Click(Bureau &bureau, int /*indice*/) { OuvreCartes(bureau); }
+
+void Command16_Click(Bureau &bureau, int /*indice*/) {
+  Efface(bureau.image1);
+  RetraceDroites(bureau);
+}
+
+void PU_Centre_Click(Bureau &bureau, int /*indice*/) {
+  Feuille &feuille = bureau.feuille;
+  const SourisCarte &souris = bureau.souris;
+  // Before a first drawing there is no scale to measure the move with: the whole world is drawn.
+  if (feuille.EchelleX != 0.0F && feuille.EchelleY != 0.0F) {
+    Origine centre = feuille.OrigineFeuille;
+    centre.latitude = Simple(centre.latitude - ((souris.ClicY - feuille.CentreY) / double(feuille.EchelleY)) / 60);
+    centre.longitude = Simple(centre.longitude - ((souris.ClicX - feuille.CentreX) / double(feuille.EchelleX)) / 60);
+    feuille.OrigineFeuille = Enroule(centre);
+  }
+  Efface(bureau.image1);
+  OuvreCartes(bureau);
+}
+
+} // namespace velmaris

@@ -1,0 +1,27 @@
+#pragma once
+
+#include "shell/bureau/Bureau.hpp"
+
+#include <string_view>
+
+namespace velmaris {
+
+/// Draws the chart over what the surface holds: the outlines that the options ask for, cities, user's objects. Every
+/// file is read again; one that can't be read is told and left out. The title of the module then tells how long it took
+/// when that is over a second, and its tool tip how many points each file had.
+void OuvreCartes(Bureau &bureau);
+
+/// Reads one polygon file and draws it. A file that can't be read, or that has more points than the table, is told in a
+/// box and not drawn; one that was opened and not read to its end stays open, and no other can be opened until the next
+/// start.
+/// @param nom  of the file
+void ChargePolygone(Bureau &bureau, std::string_view nom, Couleur couleur);
+
+/// Buttons of the module "Carte:" and entries of the menu.
+/// @{
+void Command17_Click(Bureau &bureau, int indice); ///< "Affiche": OuvreCartes
+void Command16_Click(Bureau &bureau, int indice); ///< "Efface": the chart goes, the lines are drawn again
+void PU_Centre_Click(Bureau &bureau, int indice); ///< the chart alone, around the place where the menu was opened
+/// @}
+
+} // namespace velmaris

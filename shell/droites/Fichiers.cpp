@@ -1,0 +1,144 @@
+#include "shell/droites/Fichiers.hpp"
+
+#include "foundations/Erreur.hpp"
+#include "foundations/Fichiers.hpp"
+#include "foundations/TexteNombre.hpp"
+#include "lines/FichierLoP.hpp"
+#include "shell/bureau/Evenements.hpp"
+#include "shell/droites/Droites.hpp"
+#include "shell/droites/MemoireDroites.hpp"
+#include "shell/droites/ModesDroite.hpp"
+#include "shell/ecran/ChoixFichier.hpp"
+#include "shell/ecran/Modules.hpp"
+#include "shell/visee/Astres.hpp"
+#include "shell/visee/Reduction.hpp"
+#include "shell/visee/Saisie.hpp"
+
+#include <optional>
+
+namespace velmaris {
+namespace {
+
+constexpr const char *kMotif = "*LoP";
+constexpr std::size_t kLigneHorizon = 18; ///< the one entry of the table that a load empties
+constexpr int kTropDeLignes = 9;
+
+/// The sheet is forgotten before the user has chosen: giving up leaves its picture and no sheet.
+void RemetFeuille(Bureau &bureau) {
+  Donnees &d = bureau.donnees;
+  PoseValeur(bureau, d.Check3, 0);
+  d.Combo6.visible = true;
+  d.Combo8.visible = false;
+  bureau.lignesLoP[kLigneHorizon].clear();
+  bureau.feuille.LabLon.clear();
+  bureau.feuille.LabLat.clear();
+  MontreTitresFeuille(bureau);
+  OublieFeuille(bureau);
+}
+
+void DitNonLu(Bureau &bureau, const std::filesystem::path &chemin) {
+  bureau.ports.boite({.texte = bureau.donnees.TexteNonLu.legende + "\n" + chemin.string(), .icone = Icone::Attention});
+}
+
+/// Reads a file's lines into the table. Past a table that is full the read fails without taking its line, so that the
+/// end of the file never comes: the program lives on beside it, until it is left.
+/// @return false when there is nothing to apply: the file can't be read, which the user is told, or the program ends
+bool LitLignes(Bureau &bureau, const std::filesystem::path &chemin) {
+  std::optional<std::string> octets;
+  if (!Passe([&] { octets = LitFichier(chemin); })) {
+    DitNonLu(bureau, chemin);
+    return false;
+  }
+  try {
+    LitLignesLoP(*octets, bureau.lignesLoP);
+  } catch (const Erreur &erreur) {
+    if (erreur.numero != kTropDeLignes) {
+      throw;
+    }
+    while (!bureau.termine) {
+      bureau.ports.attend();
+    }
+    return false;
+  }
+  return true;
+}
+
+/// Pours the table of lines into the panel, in its order.
+void AppliqueAuPanneau(Bureau &bureau) {
+  Donnees &d = bureau.donnees;
+  Observation observation = LitPanneau(d);
+  AppliqueTextesLoP(bureau.lignesLoP, observation);
+  PoseChamps(bureau, observation);
+  const ChoixLoP choix = LitChoixLoP(bureau.lignesLoP);
+  const int corps = choix.corps.value_or(0);
+  PoseChoix(bureau, d.Option7, choix.corps.value_or(-1));
+  SelAstre(bureau, corps);
+  if (choix.horizon) {
+    PoseOption(bureau, d.Option5[static_cast<std::size_t>(*choix.horizon)]);
+  }
+  if (choix.horizonEcrit) {
+    Option5_Relache(bureau, -1);
+  }
+  PoseChoix(bureau, d.Option6, choix.bord.value_or(-1));
+  PoseChoix(bureau, d.Option4, choix.fraction.value_or(-1));
+  if (choix.rang) {
+    PoseListeDuCorps(bureau, corps, *choix.rang);
+  }
+}
+
+} // namespace
+
+void Command3_Click(Bureau &bureau, int /*indice*/) {
+  const Donnees &d = bureau.donnees;
+  const std::filesystem::path chemin =
+      ChoisitFichier(bureau, d.TexteSauve.legende, NomProposeLoP(LitPanneau(d)), kMotif);
+  if (chemin.empty()) {
+    return;
+  }
+  try {
+    SauveLoP(chemin, LitPanneau(d));
+  } catch (const Erreur &erreur) {
+    bureau.ports.boite({.texte = d.TexteErreur.legende + " " + std::to_string(erreur.numero) + "\n" + erreur.what() +
+                                 "\n\n" + d.TexteNonEcrit.legende + "\n" + chemin.string(),
+                        .icone = Icone::Erreur});
+  }
+}
+
+void Command4_Click(Bureau &bureau, int /*indice*/) {
+  RemetFeuille(bureau);
+  const std::filesystem::path chemin = ChoisitFichier(bureau, bureau.donnees.TexteCharge.legende, kMotif, kMotif);
+  if (!chemin.empty()) {
+    ChargeVisee(bureau, chemin);
+  }
+}
+
+void OuvreVisee(Bureau &bureau, const std::filesystem::path &chemin) {
+  if (!Passe([&] { LitFichier(chemin); })) {
+    DitNonLu(bureau, chemin);
+    return;
+  }
+  RemetFeuille(bureau);
+  if (ChargeVisee(bureau, chemin)) {
+    bureau.TitreFichier = SansExtension(chemin.filename().string());
+  }
+}
+
+bool ChargeVisee(Bureau &bureau, const std::filesystem::path &chemin) {
+  if (!LitLignes(bureau, chemin)) {
+    return false;
+  }
+  bureau.image1.police = {"ms sans serif", 9.0, true};
+  AppliqueAuPanneau(bureau);
+  Observation observation = LitPanneau(bureau.donnees);
+  PrepareVisee(bureau, observation);
+  Passe([&] { ReduitVisee(bureau, observation); });
+  TraceDroites(bureau.feuille, bureau.image1, observation, bureau.visee);
+  MontreTitresFeuille(bureau);
+  PublieLigneImpression(bureau, 1, 0);
+  PoseMode(bureau, ModeDroite::Enregistre);
+  MontreDroitesMultiples(bureau);
+  RetraceCarte(bureau);
+  return true;
+}
+
+} // namespace velmaris

@@ -1,0 +1,45 @@
+#pragma once
+
+#include "shell/bureau/Bureau.hpp"
+
+namespace velmaris {
+
+/// The panel of a module by its number: 1 to 4 and 7 to 10.
+/// @return null for another number
+Controle *Module(Donnees &donnees, int numero);
+
+/// Takes a module with the mouse, or lets go of the one that is held.
+void SaisitModule(Bureau &bureau, int numero);
+template <int Numero> void SaisitModule(Bureau &bureau, int /*indice*/) { SaisitModule(bureau, Numero); }
+
+/// The close picture of a module: hides it and what goes with it.
+void FermeModule(Bureau &bureau, int numero);
+template <int Numero> void FermeModule(Bureau &bureau, int /*indice*/) { FermeModule(bureau, Numero); }
+
+/// The held module, if any, goes to a place with its help label.
+/// @param x, y  1/1440 inch, on the drawing surface
+void DeplaceModule(Bureau &bureau, double x, double y);
+
+/// Module buttons of the toolbar.
+/// @{
+void Command23_Click(Bureau &bureau, int indice); ///< " multiples": module 10, with "Mémoire"
+void Command20_Click(Bureau &bureau, int indice); ///< "simples": module 7, and module 3 hides with it
+void Command7_Click(Bureau &bureau, int indice);  ///< " Soleil": module 8
+void Command21_Click(Bureau &bureau, int indice); ///< " Carte": module 9, under module 8
+void Command22_Click(Bureau &bureau, int indice); ///< "Estime": module 4, with module 10 over it
+void Command9_Click(Bureau &bureau, int indice);  ///< "Cap": module 2, with module 10 beside it
+/// @}
+
+/// "Détails": module 3, aligned with the foot of module 7; nothing before a first reduction.
+void Command26_Click(Bureau &bureau, int indice);
+
+/// Shows module 10 with "Mémoire", at the end of a load; beside module 7 where the two would overlap.
+void MontreDroitesMultiples(Bureau &bureau);
+
+/// Puts all modules away, and ends the measuring of legs.
+void PU_Clear_Click(Bureau &bureau, int indice);
+
+/// "Carte globale" greys islands and lakes, "Contours précis" ticks them.
+void OpCarte_Click(Bureau &bureau, int indice);
+
+} // namespace velmaris

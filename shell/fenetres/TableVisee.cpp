@@ -1,0 +1,105 @@
+#include "shell/fenetres/Acces.hpp"
+#include "shell/fenetres/Donnees.hpp"
+
+namespace velmaris {
+namespace {
+
+using Fenetre = Donnees;
+
+// One control a line.
+// clang-format off
+// NOLINTNEXTLINE(cppcoreguidelines-avoid-c-arrays,modernize-avoid-c-arrays)
+constexpr LigneDonnees kVisee[] = {
+    // Module 7, "Données": the sight.
+    {SEUL(Frame7), Genre::Cadre, "", {0, 1050, 3030, 9615}, "", "", {.titre = true}},
+    {SEUL(Label63), Genre::Etiquette, "Frame7", {60, 30, 2600, 255}, "Données", "", {.titre = true}},
+    {SEUL(Image6), Genre::Image, "Frame7", {2715, 30, 255, 255}, "", "Ferme le module", {.image = "ferme"}},
+    {RANG(Option7, 0), Genre::Option, "Frame7", {90, 345, 1110, 255}, "Soleil", "", {.choisi = true, .groupe = 7}},
+    {RANG(Option7, 1), Genre::Option, "Frame7", {1215, 345, 1110, 255}, "Lune", "", {.groupe = 7}},
+    {RANG(Option7, 2), Genre::Option, "Frame7", {90, 615, 1110, 255}, "Planètes", "", {.groupe = 7}},
+    {RANG(Option7, 3), Genre::Option, "Frame7", {1215, 615, 1110, 255}, "Etoiles", "", {.groupe = 7}},
+    {RANG(ImAstre, 0), Genre::Image, "Frame7", {2400, 345, 510, 510}, "", "", {.image = "soleil"}},
+    {RANG(ImAstre, 1), Genre::Image, "Frame7", {2400, 345, 510, 510}, "", "", {.visible = false, .image = "lune"}},
+    {RANG(ImAstre, 2), Genre::Image, "Frame7", {2400, 345, 510, 510}, "", "", {.visible = false, .image = "planete"}},
+    {RANG(ImAstre, 3), Genre::Image, "Frame7", {2400, 345, 510, 510}, "", "", {.visible = false, .image = "etoile"}},
+    {SEUL(Combo7), Genre::Liste, "Frame7", {90, 900, 1900, 300}, "", "", {.visible = false, .par = "Option7", .parIndice = 2}},
+    {SEUL(Combo6), Genre::Liste, "Frame7", {90, 900, 1900, 300}, "", "", {.visible = false, .par = "Option7", .parIndice = 3}},
+    {SEUL(Combo8), Genre::Liste, "Frame7", {90, 900, 1900, 300}, "", "", {.visible = false, .par = "Option7", .parIndice = 3}},
+    {SEUL(Check3), Genre::Case, "Frame7", {2040, 915, 945, 270}, "Visible", "", {.visible = false}},
+    {SEUL(Bayer1), Genre::Etiquette, "Frame7", {90, 1200, 300, 240}},
+    {SEUL(Bayer2), Genre::Etiquette, "Frame7", {390, 1200, 1500, 240}},
+    {SEUL(Label1), Genre::Etiquette, "Frame7", {90, 1440, 1260, 225}, "Jour :", "Jour :"},
+    {SEUL(Label2), Genre::Etiquette, "Frame7", {1380, 1440, 690, 225}, "Mois :"},
+    {SEUL(Label3), Genre::Etiquette, "Frame7", {2100, 1440, 870, 225}, "Année :"},
+    {RANG(TDate, 0), Genre::Champ, "Frame7", {90, 1665, 480, 300}, "", "", {.par = "Label1"}},
+    {RANG(TDate, 1), Genre::Champ, "Frame7", {1380, 1665, 480, 300}, "", "", {.par = "Label2"}},
+    {RANG(TDate, 2), Genre::Champ, "Frame7", {2100, 1665, 660, 300}, "", "", {.par = "Label3"}},
+    {SEUL(Label4), Genre::Etiquette, "Frame7", {90, 2055, 1050, 255}, "Heure GMT:"},
+    {SEUL(Text3), Genre::Champ, "Frame7", {1155, 2025, 420, 300}, "", "", {.par = "Label4"}},
+    {SEUL(Label5), Genre::Etiquette, "Frame7", {1590, 2055, 180, 240}, "h"},
+    {SEUL(Text4), Genre::Champ, "Frame7", {1770, 2025, 420, 300}, "", "", {.par = "Label4"}},
+    {SEUL(Label6), Genre::Etiquette, "Frame7", {2205, 2055, 180, 240}, "m"},
+    {SEUL(Text5), Genre::Champ, "Frame7", {2385, 2025, 420, 300}, "", "", {.par = "Label4"}},
+    {SEUL(Label7), Genre::Etiquette, "Frame7", {2820, 2055, 180, 240}, "s"},
+    {SEUL(Command1), Genre::Bouton, "Frame7", {90, 2400, 2850, 390}, "Top", "Prend l'heure GMT présente (F3)", {.image = "top"}},
+    {SEUL(Label8), Genre::Etiquette, "Frame7", {90, 2850, 2850, 225}, "Latitude  estimée :"},
+    {SEUL(Text8), Genre::Champ, "Frame7", {90, 3075, 510, 300}, "", "", {.par = "Label8"}},
+    {SEUL(Label10), Genre::Etiquette, "Frame7", {615, 3105, 165, 240}, " °"},
+    {SEUL(Text9), Genre::Champ, "Frame7", {795, 3075, 420, 300}, "", "", {.par = "Label8"}},
+    {SEUL(Label11), Genre::Etiquette, "Frame7", {1230, 3105, 135, 240}, " '"},
+    {RANG(OptN, 0), Genre::Option, "Frame7", {1380, 3090, 795, 270}, "Nord", "", {.choisi = true, .groupe = 20}},
+    {RANG(OptN, 1), Genre::Option, "Frame7", {2175, 3090, 825, 270}, "Sud", "", {.groupe = 20}},
+    {SEUL(Label12), Genre::Etiquette, "Frame7", {90, 3435, 2850, 225}, "Longitude  estimée :"},
+    {SEUL(Text6), Genre::Champ, "Frame7", {90, 3660, 510, 300}, "", "", {.par = "Label12"}},
+    {SEUL(Label13), Genre::Etiquette, "Frame7", {615, 3690, 165, 240}, " °"},
+    {SEUL(Text7), Genre::Champ, "Frame7", {795, 3660, 420, 300}, "", "", {.par = "Label12"}},
+    {SEUL(Label16), Genre::Etiquette, "Frame7", {1230, 3690, 135, 240}, " '"},
+    {RANG(OptE, 0), Genre::Option, "Frame7", {1380, 3675, 795, 270}, "Est", "", {.groupe = 21}},
+    {RANG(OptE, 1), Genre::Option, "Frame7", {2175, 3675, 825, 270}, "Ouest", "", {.choisi = true, .groupe = 21}},
+    {SEUL(Frame17), Genre::Groupe, "Frame7", {30, 4080, 2970, 1740}},
+    {SEUL(Label14), Genre::Etiquette, "Frame17", {60, 30, 2800, 225}, "Hauteur lue"},
+    {SEUL(Text13), Genre::Champ, "Frame17", {60, 255, 480, 300}, "", "", {.par = "Label14"}},
+    {SEUL(Label19), Genre::Etiquette, "Frame17", {555, 285, 165, 240}, " °"},
+    {SEUL(Text12), Genre::Champ, "Frame17", {735, 255, 420, 300}, "", "", {.par = "Label14"}},
+    {SEUL(Label9), Genre::Etiquette, "Frame17", {1170, 285, 135, 240}, "'"},
+    {SEUL(Label69), Genre::Etiquette, "Frame17", {1185, 315, 135, 240}, ".", "", {.visible = false}},
+    {SEUL(Text25), Genre::Champ, "Frame17", {1320, 255, 420, 300}, "", "", {.par = "Label14"}},
+    {SEUL(Label68), Genre::Etiquette, "Frame17", {1755, 285, 180, 240}, "''"},
+    {RANG(Option4, 0), Genre::Option, "Frame17", {60, 600, 1350, 270}, "Secondes", "", {.groupe = 4}},
+    {RANG(Option4, 1), Genre::Option, "Frame17", {1410, 600, 1350, 270}, "1/100", "", {.groupe = 4}},
+    {RANG(Option6, 0), Genre::Option, "Frame17", {60, 915, 1215, 270}, "Bord Sup", "", {.groupe = 6}},
+    {RANG(Option6, 1), Genre::Option, "Frame17", {60, 1185, 1215, 270}, "Bord Inf", "", {.choisi = true, .groupe = 6}},
+    {RANG(Option6, 2), Genre::Option, "Frame17", {60, 1455, 1215, 270}, "Centre", "", {.groupe = 6}},
+    {RANG(Option5, 0), Genre::Option, "Frame17", {1290, 915, 1680, 270}, "Horizon Normal", "", {.choisi = true, .groupe = 5}},
+    {RANG(Option5, 1), Genre::Option, "Frame17", {1290, 1185, 1680, 270}, "Horizon Artificiel", "", {.groupe = 5}},
+    {SEUL(Frame6), Genre::Groupe, "Frame7", {30, 5910, 2970, 780}},
+    {SEUL(Label21), Genre::Etiquette, "Frame6", {60, 75, 2130, 240}, "Collimation (Minutes)"},
+    {SEUL(Text11), Genre::Champ, "Frame6", {2190, 45, 690, 300}, "", "", {.par = "Label21"}},
+    {SEUL(Label22), Genre::Etiquette, "Frame6", {60, 435, 2130, 240}, "Hauteur oeil (Mètres)"},
+    {SEUL(Text10), Genre::Champ, "Frame6", {2190, 405, 690, 300}, "", "", {.par = "Label22"}},
+    {SEUL(Command2), Genre::Bouton, "Frame7", {90, 6810, 1740, 480}, "Calcul", "Réduit la visée et trace la droite", {.image = "calcul"}},
+    {SEUL(Command26), Genre::Bouton, "Frame7", {1890, 6810, 1050, 480}, "Détails", "Affiche ou efface les détails du calcul"},
+    {SEUL(Label18), Genre::Etiquette, "Frame7", {90, 7470, 2850, 240}, " Intercept en milles :"},
+    {SEUL(Affichage_Intercept), Genre::Etiquette, "Frame7", {90, 7725, 2850, 510}, "", "", {.cadre = true, .taille = 18, .cote = Cote::Centre}},
+    {SEUL(Label20), Genre::Etiquette, "Frame7", {90, 8415, 2850, 240}, " Azimut en degrés :"},
+    {SEUL(Affichage_Azimuth), Genre::Etiquette, "Frame7", {90, 8670, 2850, 510}, "", "", {.cadre = true, .taille = 18, .cote = Cote::Centre}},
+    {SEUL(Label72), Genre::Etiquette, "Frame7", {60, 7000, 300, 600}, "", "", {.visible = false}},
+    // Module 3: the eight detail lines of a sight.
+    {SEUL(Frame9), Genre::Cadre, "", {9270, 8310, 2610, 1890}, "", "", {.visible = false}},
+    {SEUL(Image9), Genre::Image, "Frame9", {2325, 30, 255, 255}, "", "Ferme le module", {.image = "ferme"}},
+    {RANG(Label70, 0), Genre::Etiquette, "Frame9", {60, 30, 2250, 225}},
+    {RANG(Label70, 1), Genre::Etiquette, "Frame9", {60, 258, 2250, 225}},
+    {RANG(Label70, 2), Genre::Etiquette, "Frame9", {60, 486, 2490, 225}},
+    {RANG(Label70, 3), Genre::Etiquette, "Frame9", {60, 714, 2490, 225}},
+    {RANG(Label70, 4), Genre::Etiquette, "Frame9", {60, 942, 2490, 225}},
+    {RANG(Label70, 5), Genre::Etiquette, "Frame9", {60, 1170, 2490, 225}},
+    {RANG(Label70, 6), Genre::Etiquette, "Frame9", {60, 1398, 2490, 225}},
+    {RANG(Label70, 7), Genre::Etiquette, "Frame9", {60, 1626, 2490, 225}},
+};
+// clang-format on
+
+} // namespace
+
+std::span<const LigneDonnees> TableVisee() { return kVisee; }
+
+} // namespace velmaris

@@ -1,0 +1,19 @@
+#pragma once
+
+#include "shell/visee/Reduction.hpp"
+
+namespace velmaris {
+
+/// The journal's first line: the names of its columns.
+extern const std::string_view kTitresJournal;
+
+/// One line of the journal: UTC of now, body and its name, the fields as they stand, observed and computed height in
+/// degrees, intercept in miles and azimuth in degrees. Commas separate; a text that holds one stands in quotes.
+std::string LigneJournal(const Bureau &bureau, const Hauteurs &hauteurs);
+
+/// Appends the sight of the panel to "journal.csv" in the user's data folder, flushed to the disk. What is there is
+/// never rewritten; a line that an earlier end of the program cut short is closed first. Tells the user once when it
+/// can't be written.
+void Journalise(Bureau &bureau, const Hauteurs &hauteurs);
+
+} // namespace velmaris

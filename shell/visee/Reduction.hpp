@@ -1,0 +1,23 @@
+#pragma once
+
+#include "shell/bureau/Bureau.hpp"
+
+#include <optional>
+
+namespace velmaris {
+
+/// The two heights that an intercept was formed from, degrees.
+struct Hauteurs {
+  double Ho = 0.0;
+  double Hc = 0.0;
+};
+
+/// Forms the GMT and the estimated position of a sight, for its reduction.
+void PrepareVisee(Bureau &bureau, const Observation &observation);
+
+/// Reduces a sight by its kind of body, shows the result and puts back the fields that a reduction writes.
+/// Azimuth and intercept are left in `bureau.visee`, the body's name in `bureau.NomAstre`.
+/// @return nothing when the reading was 0 or no body is chosen, and nothing has changed
+std::optional<Hauteurs> ReduitVisee(Bureau &bureau, Observation &observation);
+
+} // namespace velmaris

@@ -1,0 +1,202 @@
+#include "shell/visee/Saisie.hpp"
+
+#include "foundations/Erreur.hpp"
+#include "foundations/TexteNombre.hpp"
+#include "shell/bureau/Evenements.hpp"
+#include "shell/visee/Astres.hpp"
+
+#include <algorithm>
+#include <limits>
+
+namespace velmaris {
+namespace {
+
+constexpr double kAnneeMax = 5000;
+
+/// Leaves a field: a value outside its limits empties it, else the text takes its form.
+void Quitte(Bureau &bureau, Controle &champ, double minimum, double maximum, std::string_view masque,
+            char signeDecimal = '.') {
+  const double valeur = Val(champ.texte);
+  const bool accepte = valeur >= minimum && valeur <= maximum;
+  PoseTexte(bureau, champ, accepte ? Format(champ.texte, masque, signeDecimal) : std::string());
+}
+
+/// Leaves a field that holds a decimal comma.
+void QuitteVirgule(Bureau &bureau, Controle &champ, double minimum, double maximum) {
+  std::replace(champ.texte.begin(), champ.texte.end(), '.', ',');
+  Quitte(bureau, champ, minimum, maximum, "#0.0", ',');
+}
+
+int Choisie(const auto &options) {
+  const auto trouve = std::find_if(options.begin(), options.end(), [](const Controle &o) { return o.choisi; });
+  return static_cast<int>(trouve - options.begin());
+}
+
+/// A first letter in capitals, the accented ones of Latin-1 included.
+std::string PremiereMajuscule(std::string texte) {
+  if (texte.empty()) {
+    return texte;
+  }
+  const auto premier = static_cast<unsigned char>(texte[0]);
+  if (premier >= 'a' && premier <= 'z') {
+    texte[0] = static_cast<char>(premier - 0x20);
+  } else if (premier == 0xC3 && texte.size() > 1 && static_cast<unsigned char>(texte[1]) >= 0xA0) {
+    texte[1] = static_cast<char>(static_cast<unsigned char>(texte[1]) - 0x20);
+  }
+  return texte;
+}
+
+} // namespace
+
+Observation LitPanneau(const Donnees &d) {
+  Observation o;
+  o.jour = d.TDate[0].texte;
+  o.mois = d.TDate[1].texte;
+  o.annee = d.TDate[2].texte;
+  o.heure = d.Text3.texte;
+  o.minute = d.Text4.texte;
+  o.seconde = d.Text5.texte;
+  o.longitudeDegres = d.Text6.texte;
+  o.longitudeMinutes = d.Text7.texte;
+  o.latitudeDegres = d.Text8.texte;
+  o.latitudeMinutes = d.Text9.texte;
+  o.hauteurOeil = d.Text10.texte;
+  o.collimation = d.Text11.texte;
+  o.lectureMinutes = d.Text12.texte;
+  o.lectureDegres = d.Text13.texte;
+  o.lectureFraction = d.Text25.texte;
+  o.couleurFraction = d.Text25.couleur;
+  o.sud = d.OptN[1].choisi;
+  o.est = d.OptE[0].choisi;
+  o.fraction = d.Option4[0].choisi ? Fraction::Secondes : Fraction::Centiemes;
+  o.bord = static_cast<Bord>(Choisie(d.Option6));
+  o.horizon = static_cast<Horizon>(Choisie(d.Option5));
+  o.corps = static_cast<Corps>(Choisie(d.Option7));
+  o.planete = d.Combo7.rang;
+  o.etoile = d.Combo6.rang;
+  return o;
+}
+
+void PoseChamps(Bureau &bureau, const Observation &o) {
+  Donnees &d = bureau.donnees;
+  const auto pose = [&](Controle &champ, const std::string &texte) { PoseTexte(bureau, champ, texte); };
+  pose(d.Text3, o.heure);
+  pose(d.Text4, o.minute);
+  pose(d.Text5, o.seconde);
+  pose(d.TDate[0], o.jour);
+  pose(d.TDate[1], o.mois);
+  pose(d.TDate[2], o.annee);
+  pose(d.Text6, o.longitudeDegres);
+  pose(d.Text7, o.longitudeMinutes);
+  pose(d.Text8, o.latitudeDegres);
+  pose(d.Text9, o.latitudeMinutes);
+  pose(d.Text10, o.hauteurOeil);
+  pose(d.Text11, o.collimation);
+  pose(d.Text12, o.lectureMinutes);
+  pose(d.Text13, o.lectureDegres);
+  pose(d.Text25, o.lectureFraction);
+  PoseOption(bureau, d.OptN[o.sud ? 1 : 0]);
+  PoseOption(bureau, d.OptE[o.est ? 0 : 1]);
+}
+
+void PoseListeDuCorps(Bureau &bureau, int corps, int rang) {
+  if (corps == static_cast<int>(Corps::Etoiles)) {
+    PoseRang(bureau, bureau.donnees.Combo6, rang, kNombreEtoiles);
+  } else if (corps == static_cast<int>(Corps::Planetes)) {
+    PoseRang(bureau, bureau.donnees.Combo7, rang, kNombrePlanetes);
+  }
+}
+
+void PoseReduction(Bureau &bureau, const Observation &observation) {
+  Donnees &d = bureau.donnees;
+  PoseTexte(bureau, d.Text10, observation.hauteurOeil);
+  PoseTexte(bureau, d.Text11, observation.collimation);
+  PoseTexte(bureau, d.Text12, observation.lectureMinutes);
+  PoseTexte(bureau, d.Text13, observation.lectureDegres);
+  PoseTexte(bureau, d.Text25, observation.lectureFraction);
+  d.Text25.couleur = observation.couleurFraction;
+}
+
+void TDate_Quitte(Bureau &bureau, int indice) {
+  Controle &champ = bureau.donnees.TDate.at(static_cast<std::size_t>(indice));
+  const double maximum = indice == 0 ? 31 : indice == 1 ? 12 : kAnneeMax;
+  std::string texte;
+  const double valeur = Val(champ.texte);
+  if (valeur >= 0 && valeur <= maximum) {
+    const bool annee = indice == 2;
+    texte = Format(annee && valeur < 100 ? valeur + 2000.0 : valeur, annee ? "0000" : "00");
+  }
+  PoseTexte(bureau, champ, texte);
+}
+
+void Text3_Quitte(Bureau &bureau, int /*indice*/) {
+  QuitteMinutes(bureau, bureau.donnees.Text3);
+  ConseilBordLune(bureau);
+}
+
+void QuitteMinutes(Bureau &bureau, Controle &champ) { Quitte(bureau, champ, 0, 60, "00"); }
+
+void QuitteDegres(Bureau &bureau, Controle &champ) { Quitte(bureau, champ, 0, 180, "#00"); }
+
+void Text10_Quitte(Bureau &bureau, int /*indice*/) {
+  QuitteVirgule(bureau, bureau.donnees.Text10, 0, std::numeric_limits<double>::infinity());
+}
+
+void Text11_Quitte(Bureau &bureau, int /*indice*/) { QuitteVirgule(bureau, bureau.donnees.Text11, -60, 60); }
+
+void Text13_Quitte(Bureau &bureau, int /*indice*/) {
+  Quitte(bureau, bureau.donnees.Text13, 0, bureau.donnees.Option5[0].choisi ? 90 : 180, "00");
+}
+
+void TDate_Change(Bureau &bureau, int /*indice*/) {
+  Donnees &d = bureau.donnees;
+  d.Label1.legende = d.Label1.texte;
+  Passe([&] {
+    const ValeurDate date = LitDate(d.TDate[0].texte + "/" + d.TDate[1].texte + "/" + d.TDate[2].texte);
+    d.Label1.legende = PremiereMajuscule(bureau.ports.nomJour(date)) + " :";
+    ConseilBordLune(bureau);
+  });
+}
+
+void Text25_Change(Bureau &bureau, int /*indice*/) {
+  std::string &texte = bureau.donnees.Text25.texte;
+  texte = Gauche(texte, 2);
+}
+
+void Option4_Click(Bureau &bureau, int indice) {
+  Donnees &d = bureau.donnees;
+  const bool secondes = indice == 0;
+  d.Label9.visible = secondes;
+  d.Label68.legende = secondes ? "''" : "'";
+  d.Label69.visible = !d.Label9.visible;
+  EcritReglage(bureau, "Prec", std::to_string(indice));
+}
+
+void Option5_Relache(Bureau &bureau, int /*indice*/) {
+  Donnees &d = bureau.donnees;
+  const bool artificiel = d.Option5[1].choisi;
+  PoseOption(bureau, d.Option6[artificiel ? 2 : 1]);
+  PermetBords(d, !artificiel);
+  for (Controle *champ : {&d.Text12, &d.Text13, &d.Text25}) {
+    champ->couleur = artificiel ? kRouge : kNoir;
+  }
+}
+
+void PoseHeureGMT(Bureau &bureau) {
+  const Horloge &h = bureau.horloge;
+  Donnees &d = bureau.donnees;
+  PoseTexte(bureau, d.Text3, Format(h.HeureGMT.substr(0, 2), "00"));
+  PoseTexte(bureau, d.Text4, Format(h.HeureGMT.substr(3, 2), "00"));
+  PoseTexte(bureau, d.Text5, Format(h.HeureGMT.substr(6, 2), "00"));
+  PoseTexte(bureau, d.TDate[0], h.JourGMT);
+  PoseTexte(bureau, d.TDate[1], h.MoisGMT);
+  PoseTexte(bureau, d.TDate[2], h.AnGMT);
+}
+
+void Command1_Click(Bureau &bureau, int /*indice*/) {
+  LitHorloge(bureau.horloge);
+  PoseHeureGMT(bureau);
+  bureau.focus = &bureau.donnees.Text13;
+}
+
+} // namespace velmaris

@@ -1,0 +1,108 @@
+#include "tests/shell/droites/OutilsFichierVisee.hpp"
+
+#include "foundations/Fichiers.hpp"
+
+#include <gmock/gmock.h>
+
+#include <memory>
+
+/// The end of the program, asked for or by a failure that nothing passes over: nothing is lost by it.
+namespace velmaris::essais {
+namespace {
+
+namespace fs = std::filesystem;
+using testing::HasSubstr;
+using testing::IsEmpty;
+
+constexpr int kSansValeur = 13;
+
+TEST_F(Programme, NoAtTheExitQuestionKeepsNothingAndAsksAgainNextTime) {
+  Demarre();
+  TapeVisee();
+  ClicControle(bureau, d.Sortie);
+  ClicControle(bureau, d.Sortie);
+  EXPECT_EQ(boites.size(), 2U);
+  EXPECT_EQ(bureau.QuitterRefuse, -1);
+  EXPECT_FALSE(bureau.termine);
+  EXPECT_EQ(Reglage("T8"), "absent");
+}
+
+TEST_F(Programme, AFailureAtTheEdgeKeepsTheSightAndTellsWhere) {
+  Demarre();
+  TapeVisee();
+  Secours(bureau, Erreur(kSansValeur));
+  const auto fichier = dossier.chemin() / "utilisateur" / "secours.LoP";
+  ASSERT_EQ(boites.size(), 1U);
+  EXPECT_NE(boites[0].texte.find("13"), std::string::npos);
+  EXPECT_NE(boites[0].texte.find(fichier.string()), std::string::npos);
+  EXPECT_EQ(LitFichier(fichier), EnWindows1252(EcritLoP(LitPanneau(d))));
+}
+
+TEST_F(Programme, AFailureWithoutAPlaceToWriteIsStillTold) {
+  Demarre();
+  bureau.dossiers.utilisateur = "/proc/velmaris";
+  Secours(bureau, Erreur(6));
+  ASSERT_EQ(boites.size(), 1U);
+  EXPECT_NE(boites[0].texte.find(d.TexteSansSecours.legende), std::string::npos);
+}
+
+/// A planet's or a star's sight of which a field was left empty: the reduction ends the program.
+class FinSurChampVide : public AvecFichiers, public ::testing::WithParamInterface<int> {
+protected:
+  void Choisit() {
+    ClicOption(bureau, d.Option7[static_cast<std::size_t>(GetParam())]);
+    if (GetParam() == static_cast<int>(Corps::Planetes)) {
+      ChoisitLigne(bureau, d.Combo7, 1);
+    } else {
+      ClicCase(bureau, d.Check3); // from the whole list
+      ChoisitLigne(bureau, d.Combo6, 40);
+    }
+  }
+
+  fs::path donnees = bureau.dossiers.utilisateur;
+};
+
+TEST_P(FinSurChampVide, KeepsTheSightAndARestartHasAllThatWasStored) {
+  reponse = true;
+  TapeVisee();
+  Choisit();
+  Calcule();
+  Garde(0);
+  ClicControle(bureau, d.Sortie); // the settings of a first exit
+  bureau.termine = false;
+  const std::string droite = Panneau();
+  const std::string journal = Contenu(donnees / "journal.csv");
+  ASSERT_NE(journal, "");
+  for (Controle *champ : {&d.Text3, &d.TDate[2], &d.Text10}) {
+    boites.clear();
+    TapeVisee();
+    Choisit();
+    SaisitTexte(bureau, *champ, "");
+    ASSERT_EQ(NumeroErreur([&] { Calcule(); }), kSansValeur) << champ->nom;
+    Secours(bureau, Erreur(kSansValeur));
+    ASSERT_EQ(boites.size(), 1U);
+    EXPECT_THAT(boites[0].texte, HasSubstr((donnees / "secours.LoP").string()));
+    EXPECT_EQ(LitFichier(donnees / "secours.LoP"), EnWindows1252(Panneau()));
+
+    boites.clear();
+    Bureau suivant;
+    Branche(suivant);
+    Donnees_Charge(suivant, {});
+    Donnees &n = suivant.donnees;
+    n.Check2.valeur = 0;
+    EXPECT_THAT(boites, IsEmpty());
+    EXPECT_EQ(n.Text8.texte + n.Text9.texte + n.Text11.texte, "4730-1,0") << "as at the last exit";
+    EXPECT_EQ(Contenu(donnees / "journal.csv"), journal) << "no line for a sight that wasn't reduced";
+    ClicControle(suivant, n.Droite[0]);
+    EXPECT_EQ(EcritLoP(LitPanneau(n)), droite) << "the stored line";
+    OuvreVisee(suivant, donnees / "secours.LoP");
+    EXPECT_EQ(EcritLoP(LitPanneau(n)), Panneau()) << "the sight goes on where it ended";
+    EXPECT_THAT(boites, IsEmpty());
+  }
+}
+
+INSTANTIATE_TEST_SUITE_P(Corps, FinSurChampVide,
+                         ::testing::Values(static_cast<int>(Corps::Planetes), static_cast<int>(Corps::Etoiles)));
+
+} // namespace
+} // namespace velmaris::essais

@@ -1,0 +1,89 @@
+#include "shell/bureau/Ports.hpp"
+
+#include "tests/OutilsTests.hpp"
+
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <optional>
+#include <string>
+
+namespace velmaris::essais {
+namespace {
+
+namespace fs = std::filesystem;
+
+/// A variable of the environment, which takes its own value back with its scope.
+class Variable {
+public:
+  Variable(const char *nom, const char *valeur) : nom_(nom) {
+    if (const char *avant = std::getenv(nom)) {
+      avant_ = avant;
+    }
+    ::setenv(nom, valeur, 1);
+  }
+  ~Variable() {
+    if (avant_) {
+      ::setenv(nom_, avant_->c_str(), 1);
+    } else {
+      ::unsetenv(nom_);
+    }
+  }
+  Variable(const Variable &) = delete;
+  Variable &operator=(const Variable &) = delete;
+  Variable(Variable &&) = delete;
+  Variable &operator=(Variable &&) = delete;
+
+private:
+  const char *nom_;
+  std::optional<std::string> avant_;
+};
+
+TEST(DossiersDuProgramme, TheShareFolderLiesBesideTheProgramsOnceInstalled) {
+  const DossierTemporaire prefixe;
+  fs::create_directories(prefixe / "share/velmaris");
+  const Dossiers dossiers = TrouveDossiers(prefixe / "bin");
+  EXPECT_EQ(dossiers.programme, prefixe / "bin");
+  EXPECT_EQ(dossiers.partage, prefixe / "share/velmaris");
+}
+
+TEST(DossiersDuProgramme, WithoutItTheOneOfTheBuildsPrefixStands) {
+  const DossierTemporaire prefixe;
+  fs::create_directories(prefixe / "share");
+  Pose(prefixe / "share/velmaris", "a file, no folder");
+  EXPECT_EQ(DossierPartage(prefixe / "bin"), VELMARIS_PARTAGE);
+}
+
+TEST(DossiersDuProgramme, TheUsersOwnIsWhereTheDesktopSaysOrElseUnderTheHome) {
+  const Variable maison("HOME", "/home/marin/");
+  {
+    const Variable xdg("XDG_DATA_HOME", "/donnees");
+    EXPECT_EQ(TrouveDossiers("/bin").utilisateur, "/donnees/velmaris");
+  }
+  for (const char *aucun : {"", "relatif/donnees"}) {
+    const Variable xdg("XDG_DATA_HOME", aucun);
+    EXPECT_EQ(TrouveDossiers("/bin").utilisateur, "/home/marin/.local/share/velmaris");
+    EXPECT_EQ(TrouveDossiers("/bin").accueil, "/home/marin");
+  }
+}
+
+TEST(DossiersDuProgramme, WithoutAHomeTheUsersOwnIsTheTemporaryFolder) {
+  const Variable xdg("XDG_DATA_HOME", "");
+  const Variable maison("HOME", "");
+  EXPECT_EQ(TrouveDossiers("/bin").accueil, "/tmp");
+  EXPECT_EQ(TrouveDossiers("/bin").utilisateur, "/tmp/.local/share/velmaris");
+}
+
+TEST(DossiersDuProgramme, AFileIsTakenFromTheUserThenFromTheProgramThenFromTheShareFolder) {
+  const DossierTemporaire racine;
+  Dossiers dossiers = {racine / "utilisateur", racine / "bin", racine / "share/velmaris", racine.chemin()};
+  EXPECT_EQ(TrouveFichier(dossiers, "FR.txt"), dossiers.partage / "FR.txt");
+  for (const fs::path &dossier : {dossiers.partage, dossiers.programme, dossiers.utilisateur}) {
+    fs::create_directories(dossier);
+    Pose(dossier / "FR.txt", "");
+    EXPECT_EQ(TrouveFichier(dossiers, "FR.txt"), dossier / "FR.txt");
+  }
+}
+
+} // namespace
+} // namespace velmaris::essais

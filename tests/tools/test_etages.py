@@ -1,0 +1,64 @@
+"""The floors of the house: what a folder's files may include."""
+import re
+import unittest
+from pathlib import Path
+
+RACINE = Path(__file__).resolve().parents[2]
+
+# From the ground up; rooms of one line are neighbours that don't know each other.
+ETAGES = (
+    ("foundations",),
+    ("ephemerides",),
+    ("sights",),
+    ("lines", "sky"),
+    ("chart",),
+    ("shell/fenetres",),
+    ("shell/bureau",),
+    ("shell/visee",),
+    ("shell/ecran", "shell/ciel"),
+    ("shell/droites",),
+    ("shell/carte",),
+    ("shell",),
+    ("calcul", "shell/qt"),
+)
+HAUTEUR = {salle: etage for etage, salles in enumerate(ETAGES) for salle in salles}
+PASSAGE = re.compile(r'^\s*#\s*include\s*([<"])([^>"]+)[>"]', re.MULTILINE)
+
+
+def sources():
+    """Each source of the house with its room, and what it includes: a mark, < or ", and a path."""
+    for salle in HAUTEUR:
+        for source in sorted((RACINE / salle).glob("*.[ch]pp")):
+            yield salle, source, PASSAGE.findall(source.read_text(encoding="utf-8"))
+
+
+class Etages(unittest.TestCase):
+    def test_every_folder_with_sources_is_a_known_room(self):
+        maison = {salle.split("/")[0] for salle in HAUTEUR}
+        salles = {str(f.parent.relative_to(RACINE)) for dossier in maison for f in (RACINE / dossier).rglob("*.[ch]pp")}
+        self.assertEqual(salles, set(HAUTEUR))
+
+    def test_a_room_includes_itself_and_lower_floors_alone(self):
+        for salle, source, inclus in sources():
+            for marque, chemin in inclus:
+                if marque == '"':
+                    autre = str(Path(chemin).parent)
+                    with self.subTest(source=str(source.relative_to(RACINE)), inclus=chemin):
+                        self.assertIn(autre, HAUTEUR)
+                        self.assertTrue(autre == salle or HAUTEUR[autre] < HAUTEUR[salle])
+
+    def test_the_renderer_alone_knows_the_toolkit(self):
+        for salle, source, inclus in sources():
+            if salle != "shell/qt":
+                with self.subTest(source=str(source.relative_to(RACINE))):
+                    self.assertEqual([chemin for _, chemin in inclus if re.match(r"Q[A-Z]|Qt", chemin)], [])
+
+    def test_the_companion_knows_no_window(self):
+        for salle, source, inclus in sources():
+            if salle == "calcul":
+                with self.subTest(source=str(source.relative_to(RACINE))):
+                    self.assertEqual([c for _, c in inclus if c.startswith("shell/") and not c.startswith("shell/bureau/")], [])
+
+
+if __name__ == "__main__":
+    unittest.main()
