@@ -2,7 +2,6 @@
 
 #include "calcul/Json.hpp"
 #include "ephemerides/Etoiles.hpp"
-#include "foundations/Erreur.hpp"
 #include "foundations/TexteNombre.hpp"
 
 namespace velmaris {
@@ -11,21 +10,12 @@ bool EcritEtoile(const DemandeEtoile &demande, std::string &sortie) {
   Etoiles etoiles;
   std::vector<std::string> liste;
   ChargeEtoiles(etoiles, liste);
-  bool reussi = false;
-  sortie += '{';
-  try {
+  return EcritTexte(sortie, [&] {
     const std::string jour = TexteGeneral(demande.jour);
     const std::string mois = TexteGeneral(demande.mois);
     const std::string an = TexteGeneral(demande.an);
-    const std::string texte = CoordEtoile(etoiles, static_cast<std::int16_t>(demande.rang), -1, {jour, mois, an});
-    AjouteCle(sortie, "texte");
-    AjouteTexte(sortie, texte);
-    reussi = true;
-  } catch (const Erreur &erreur) {
-    AjouteErreur(sortie, erreur.numero, SensErreur(erreur.numero));
-  }
-  sortie += "}\n";
-  return reussi;
+    return CoordEtoile(etoiles, static_cast<std::int16_t>(demande.rang), -1, {jour, mois, an});
+  });
 }
 
 } // namespace velmaris

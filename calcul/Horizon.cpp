@@ -23,21 +23,12 @@ double Angle(double degres) {
 } // namespace
 
 bool EcritHorizon(const DemandeHorizon &demande, std::string &sortie) {
-  bool reussi = false;
-  sortie += '{';
-  try {
+  return EcritTexte(sortie, [&] {
     const ValeurDate date = LitDateHeure(demande.date + " " + demande.heure);
     double dec = Angle(demande.Dec);
     double latitude = Angle(demande.latitude);
-    const std::string texte = CelesteVersHorizon(date, Angle(demande.AD), dec, latitude, Angle(demande.lonEst));
-    AjouteCle(sortie, "texte");
-    AjouteTexte(sortie, texte);
-    reussi = true;
-  } catch (const Erreur &erreur) {
-    AjouteErreur(sortie, erreur.numero, SensErreur(erreur.numero));
-  }
-  sortie += "}\n";
-  return reussi;
+    return CelesteVersHorizon(date, Angle(demande.AD), dec, latitude, Angle(demande.lonEst));
+  });
 }
 
 bool LitNombre(std::string_view texte, double &valeur) {

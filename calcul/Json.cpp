@@ -39,6 +39,21 @@ void AjouteNombre(std::string &sortie, double valeur) { AjoutePlusCourt(sortie, 
 
 void AjouteNombre(std::string &sortie, float valeur) { AjoutePlusCourt(sortie, valeur); }
 
+void AjouteMembre(std::string &sortie, std::string_view cle, std::string_view texte) {
+  AjouteCle(sortie, cle);
+  AjouteTexte(sortie, texte);
+}
+
+void AjouteMembre(std::string &sortie, std::string_view cle, double valeur) {
+  AjouteCle(sortie, cle);
+  AjouteNombre(sortie, valeur);
+}
+
+void AjouteMembre(std::string &sortie, std::string_view cle, float valeur) {
+  AjouteCle(sortie, cle);
+  AjouteNombre(sortie, valeur);
+}
+
 void AjouteErreur(std::string &sortie, int numero, std::string_view texte) {
   AjouteCle(sortie, "erreur");
   sortie += '{';

@@ -7,16 +7,6 @@
 namespace velmaris {
 namespace {
 
-template <class Nombre> void AjouteMembre(std::string &sortie, std::string_view cle, Nombre valeur) {
-  AjouteCle(sortie, cle);
-  AjouteNombre(sortie, valeur);
-}
-
-void AjouteMembre(std::string &sortie, std::string_view cle, const std::string &texte) {
-  AjouteCle(sortie, cle);
-  AjouteTexte(sortie, texte);
-}
-
 Lune LuneDeDemande(const DemandeLune &demande) {
   Lune lune;
   lune.LuneAn = demande.an;
@@ -51,21 +41,14 @@ void AjouteLune(std::string &sortie, const Lune &lune, double ad, double decl) {
 } // namespace
 
 bool EcritLune(const DemandeLune &demande, std::string_view labelAD, std::string &sortie) {
-  bool reussi = false;
-  sortie += '{';
-  try {
+  return EcritObjet(sortie, [&] {
     Lune lune = LuneDeDemande(demande);
     CalculLune(lune);
     const double ad = lune.LuneAD;
     const double decl = lune.LuneDecl;
     TopoLune(lune, lune.LuneAD, lune.LuneDecl, Simple(demande.latitude), Simple(demande.lonEst), labelAD);
     AjouteLune(sortie, lune, ad, decl);
-    reussi = true;
-  } catch (const Erreur &erreur) {
-    AjouteErreur(sortie, erreur.numero, SensErreur(erreur.numero));
-  }
-  sortie += "}\n";
-  return reussi;
+  });
 }
 
 } // namespace velmaris

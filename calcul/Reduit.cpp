@@ -98,16 +98,11 @@ void AjouteResultat(std::string &sortie, const ViseeReduite &visee) {
   } else {
     AjouteNombre(sortie, static_cast<float>(visee.Hc));
   }
-  AjouteCle(sortie, "azimut");
-  AjouteNombre(sortie, visee.valeurs.Azimut);
-  AjouteCle(sortie, "intercept");
-  AjouteNombre(sortie, visee.valeurs.Intercept);
-  AjouteCle(sortie, "affiche_intercept");
-  AjouteTexte(sortie, visee.affichage.intercept);
-  AjouteCle(sortie, "affiche_azimut");
-  AjouteTexte(sortie, visee.affichage.azimut);
-  AjouteCle(sortie, "infobulle");
-  AjouteTexte(sortie, visee.affichage.infobulle);
+  AjouteMembre(sortie, "azimut", visee.valeurs.Azimut);
+  AjouteMembre(sortie, "intercept", visee.valeurs.Intercept);
+  AjouteMembre(sortie, "affiche_intercept", visee.affichage.intercept);
+  AjouteMembre(sortie, "affiche_azimut", visee.affichage.azimut);
+  AjouteMembre(sortie, "infobulle", visee.affichage.infobulle);
   AjouteCle(sortie, "details");
   char separateur = '[';
   for (const std::string &detail : visee.affichage.details) {
@@ -121,8 +116,7 @@ void AjouteResultat(std::string &sortie, const ViseeReduite &visee) {
 void AjouteVisee(std::string &sortie, const ViseeReduite &visee) {
   AjouteCle(sortie, "corps");
   sortie += std::to_string(static_cast<int>(visee.observation.corps));
-  AjouteCle(sortie, "nom");
-  AjouteTexte(sortie, NomAstre(visee.observation));
+  AjouteMembre(sortie, "nom", NomAstre(visee.observation));
   AjouteCle(sortie, "reduit");
   sortie += visee.faite ? "true" : "false";
   if (visee.faite) {
@@ -131,25 +125,24 @@ void AjouteVisee(std::string &sortie, const ViseeReduite &visee) {
 }
 
 /// Reduces a file's sight and appends its members.
-bool AjouteReduction(std::string &sortie, const std::string &fichier, const TexteMsg &messages) {
+void AjouteReduction(std::string &sortie, const std::string &fichier, const TexteMsg &messages) {
   ViseeReduite visee;
   ChargeLoP(fichier, visee.observation);
   visee.valeurs.HeureDecimale = HeureDesChamps(visee.observation);
   LitEstime(visee.observation, visee.valeurs);
   ReduitVisee(visee, messages);
   AjouteVisee(sortie, visee);
-  return true;
 }
 
 } // namespace
 
 bool ReduitFichier(const std::string &fichier, const TexteMsg &messages, std::string &sortie) {
   sortie += '{';
-  AjouteCle(sortie, "fichier");
-  AjouteTexte(sortie, fichier);
+  AjouteMembre(sortie, "fichier", fichier);
   bool reussi = false;
   try {
-    reussi = AjouteReduction(sortie, fichier, messages);
+    AjouteReduction(sortie, fichier, messages);
+    reussi = true;
   } catch (const Erreur &erreur) {
     AjouteErreur(sortie, erreur.numero, SensErreur(erreur.numero));
   } catch (const std::bad_alloc &) {
