@@ -1,4 +1,4 @@
-#include "Passage.hpp"
+#include "OutilsReduit.hpp"
 #include "foundations/Fichiers.hpp"
 #include "lines/FichierLoP.hpp"
 #include "sights/DroiteSOL.hpp"
@@ -8,10 +8,8 @@
 #include <cmath>
 #include <cstdlib>
 #include <filesystem>
-#include <fstream>
 #include <gmock/gmock.h>
 #include <set>
-#include <unistd.h>
 
 namespace velmaris {
 namespace {
@@ -20,8 +18,6 @@ namespace fs = std::filesystem;
 using nlohmann::ordered_json;
 using testing::ElementsAre;
 using testing::HasSubstr;
-using testing::IsEmpty;
-using testing::Not;
 using testing::SizeIs;
 using testing::StartsWith;
 
@@ -31,60 +27,9 @@ std::string TexteFigure(const std::string &ligne, const std::string &cle) {
   return ligne.substr(debut, ligne.find_first_of(",}", debut) - debut);
 }
 
-/// The 21 lines of an ordinary sight of the Sun.
-std::vector<std::string> LignesSoleil() {
-  return {"12",  "05", "30", "21",   "06",    "2026", "05",  "10",   "47",  "30", "2,5",
-          "0,0", "34", "65", "Nord", "Ouest", "38",   " 0 ", "NATU", " 1 ", "0"};
-}
-
-std::string Assemble(const std::vector<std::string> &lignes, const std::string &fin) {
-  std::string texte;
-  for (const std::string &ligne : lignes) {
-    texte += ligne + fin;
-  }
-  return texte;
-}
-
-/// A folder for each test, removed after it.
-class Calcul : public testing::Test {
-protected:
-  void SetUp() override {
-    std::string modele = (fs::temp_directory_path() / "velmaris-calcul-XXXXXX").string();
-    ASSERT_NE(mkdtemp(modele.data()), nullptr);
-    dossier_ = modele;
-  }
-  void TearDown() override { fs::remove_all(dossier_); }
-
-  std::string Ecrit(const std::string &nom, const std::string &octets) const {
-    std::ofstream(dossier_ / nom, std::ios::binary) << octets;
-    return (dossier_ / nom).string();
-  }
-  std::string EcritVisee(const std::string &nom, const std::vector<std::string> &lignes) const {
-    return Ecrit(nom, Assemble(lignes, "\r\n"));
-  }
-  static ordered_json ReduitUn(const std::string &fichier, int etat = 0) {
-    const Passage p = Lance({"reduit", "--langue", "aucune", fichier});
-    EXPECT_EQ(p.etat, etat) << p.sortie << p.erreurs;
-    EXPECT_THAT(p.erreurs, IsEmpty());
-    const auto objets = Objets(p.sortie);
-    EXPECT_THAT(objets, SizeIs(1));
-    return objets.empty() ? ordered_json() : objets.front();
-  }
-  void AttendErreur(const std::string &fichier, int numero) const {
-    const ordered_json o = ReduitUn(fichier, 1);
-    EXPECT_THAT(Cles(o), ElementsAre("fichier", "erreur"));
-    EXPECT_THAT(Cles(o["erreur"]), ElementsAre("numero", "texte"));
-    EXPECT_EQ(o["fichier"], fichier);
-    EXPECT_EQ(o["erreur"]["numero"], numero);
-    EXPECT_THAT(o["erreur"]["texte"].get<std::string>(), Not(IsEmpty()));
-  }
-
-  fs::path dossier_;
-};
-
 // ---------------------------------------------------------------- reduit: the object
 
-TEST_F(Calcul, AReducedSightTellsItsMembersInOrder) {
+TEST_F(Reduit, AReducedSightTellsItsMembersInOrder) {
   const std::string fichier = EcritVisee("a.LoP", LignesSoleil());
   const ordered_json o = ReduitUn(fichier);
   EXPECT_THAT(Cles(o), ElementsAre("fichier", "corps", "nom", "reduit", "ho", "hc", "azimut", "intercept",
@@ -97,7 +42,7 @@ TEST_F(Calcul, AReducedSightTellsItsMembersInOrder) {
   EXPECT_THAT(o["infobulle"].get<std::string>(), StartsWith("He =  "));
 }
 
-TEST_F(Calcul, TheFiguresAreThoseOfTheReduction) {
+TEST_F(Reduit, TheFiguresAreThoseOfTheReduction) {
   const std::string fichier = EcritVisee("a.LoP", LignesSoleil());
   Observation observation;
   ChargeLoP(fichier, observation);
@@ -117,7 +62,7 @@ TEST_F(Calcul, TheFiguresAreThoseOfTheReduction) {
             std::vector<std::string>(affichage.details.begin(), affichage.details.end()));
 }
 
-TEST_F(Calcul, ThirtyTwoBitFiguresReadBackAndNoShorterTextDoes) {
+TEST_F(Reduit, ThirtyTwoBitFiguresReadBackAndNoShorterTextDoes) {
   for (int minute = 0; minute < 60; minute += 7) {
     auto lignes = LignesSoleil();
     lignes[1] = std::to_string(minute);
@@ -145,7 +90,7 @@ TEST_F(Calcul, ThirtyTwoBitFiguresReadBackAndNoShorterTextDoes) {
   }
 }
 
-TEST_F(Calcul, FilesAreReducedInTheOrderGiven) {
+TEST_F(Reduit, FilesAreReducedInTheOrderGiven) {
   const std::string a = EcritVisee("a.LoP", LignesSoleil());
   const std::string b = EcritVisee("b b.LoP", LignesSoleil());
   const Passage p = Lance({"reduit", "--langue", "aucune", b, a, b});
@@ -157,7 +102,7 @@ TEST_F(Calcul, FilesAreReducedInTheOrderGiven) {
   EXPECT_EQ(objets[2]["fichier"], b);
 }
 
-TEST_F(Calcul, NothingOfASightReachesTheNext) {
+TEST_F(Reduit, NothingOfASightReachesTheNext) {
   const std::string entier = EcritVisee("a.LoP", LignesSoleil());
   auto artificiel = LignesSoleil();
   artificiel[18] = "ARTI";
@@ -170,7 +115,7 @@ TEST_F(Calcul, NothingOfASightReachesTheNext) {
   EXPECT_EQ(seul.at(0), suite[2]);
 }
 
-TEST_F(Calcul, AReadingOfZeroIsNotReduced) {
+TEST_F(Reduit, AReadingOfZeroIsNotReduced) {
   auto lignes = LignesSoleil();
   lignes[12] = lignes[13] = lignes[16] = "00";
   const ordered_json o = ReduitUn(EcritVisee("zero.LoP", lignes));
@@ -179,7 +124,7 @@ TEST_F(Calcul, AReadingOfZeroIsNotReduced) {
   EXPECT_EQ(o["corps"], 0);
 }
 
-TEST_F(Calcul, AFractionOfOneDigitIsTakenAsItStands) {
+TEST_F(Reduit, AFractionOfOneDigitIsTakenAsItStands) {
   auto lignes = LignesSoleil();
   lignes[16] = "5";
   lignes[20] = "1";
@@ -188,7 +133,7 @@ TEST_F(Calcul, AFractionOfOneDigitIsTakenAsItStands) {
   EXPECT_EQ(cinq, ReduitUn(EcritVisee("a.LoP", lignes))["ho"].get<double>());
 }
 
-TEST_F(Calcul, EveryBodyIsReducedUnderItsNumberAndName) {
+TEST_F(Reduit, EveryBodyIsReducedUnderItsNumberAndName) {
   constexpr std::array<const char *, 3> kNoms = {"Lune", "Mars", "Achenar"};
   for (int corps = 1; corps <= 3; ++corps) {
     auto lignes = LignesSoleil();
@@ -202,7 +147,7 @@ TEST_F(Calcul, EveryBodyIsReducedUnderItsNumberAndName) {
   }
 }
 
-TEST_F(Calcul, AStarOrAPlanetThatIsNotChosenIsAnInvalidArgument) {
+TEST_F(Reduit, AStarOrAPlanetThatIsNotChosenIsAnInvalidArgument) {
   for (const char *corps : {" 2 ", " 3 "}) {
     auto lignes = LignesSoleil();
     lignes[17] = corps;
@@ -211,7 +156,7 @@ TEST_F(Calcul, AStarOrAPlanetThatIsNotChosenIsAnInvalidArgument) {
   }
 }
 
-TEST_F(Calcul, AnEmptyEyeHeightFailsForAStarAndNotForTheMoon) {
+TEST_F(Reduit, AnEmptyEyeHeightFailsForAStarAndNotForTheMoon) {
   auto lignes = LignesSoleil();
   lignes[10] = "";
   lignes[17] = " 3 ";
@@ -221,7 +166,7 @@ TEST_F(Calcul, AnEmptyEyeHeightFailsForAStarAndNotForTheMoon) {
   EXPECT_EQ(ReduitUn(EcritVisee("b.LoP", lignes))["reduit"], true);
 }
 
-TEST_F(Calcul, ABodyThatDoesNotExistLeavesTheSun) {
+TEST_F(Reduit, ABodyThatDoesNotExistLeavesTheSun) {
   auto lignes = LignesSoleil();
   lignes[17] = " 7 ";
   EXPECT_EQ(ReduitUn(EcritVisee("a.LoP", lignes))["corps"], 0);
@@ -230,7 +175,7 @@ TEST_F(Calcul, ABodyThatDoesNotExistLeavesTheSun) {
 // ---------------------------------------------------------------- reduit: languages
 
 /// A copy of the program in a folder of its own, with language files beside it.
-class CalculLangue : public Calcul {
+class ReduitLangue : public Reduit {
 protected:
   void SetUp() override {
     Calcul::SetUp();
@@ -251,7 +196,7 @@ protected:
   std::string visee_;
 };
 
-TEST_F(CalculLangue, TextsComeFromTheFileBesideTheProgram) {
+TEST_F(ReduitLangue, TextsComeFromTheFileBesideTheProgram) {
   Ecrit("bin/FR.txt", "MSG\\avant\\14\r\nForm=Donn\xE9"
                       "es\r\nMSG\\D\xE9pression : \\14\r\nMSG\\hors\\101\r\n"
                       "MSG\\moins\\-1\r\nMSG\\sans\r\nLabel1\\x\\\\\\\r\nForm=Ciel\r\nMSG\\ciel\\14\r\n");
@@ -263,121 +208,18 @@ TEST_F(CalculLangue, TextsComeFromTheFileBesideTheProgram) {
   EXPECT_THAT(Detail({"--langue=en"}, 0), StartsWith("Dip: 0"));
 }
 
-TEST_F(CalculLangue, AMissingOrUnreadableLanguageFileLeavesTheFigures) {
+TEST_F(ReduitLangue, AMissingOrUnreadableLanguageFileLeavesTheFigures) {
   const std::string figure = Detail({"--langue", "aucune"}, 1);
   EXPECT_THAT(Detail({"--langue", "en"}, 1), testing::EndsWith(figure));
   fs::create_directory(dossier_ / "bin/FR.txt");
   EXPECT_THAT(Detail({}, 1), testing::EndsWith(figure));
 }
 
-TEST_F(CalculLangue, TheProgramsOwnFolderIsFoundThroughALink) {
+TEST_F(ReduitLangue, TheProgramsOwnFolderIsFoundThroughALink) {
   Ecrit("bin/FR.txt", "Form=Données\nMSG\\Ici \\14\n");
   fs::create_symlink(programme_, dossier_ / "lien");
   const Passage p = Lance({"reduit", visee_}, (dossier_ / "lien").string());
   EXPECT_THAT(p.sortie, HasSubstr("\"Ici 0"));
-}
-
-// ---------------------------------------------------------------- reduit: bad files
-
-TEST_F(Calcul, AMissingFileIsToldAndTheOthersAreReduced) {
-  const std::string a = EcritVisee("a.LoP", LignesSoleil());
-  const Passage p = Lance({"reduit", "--langue", "aucune", a, (dossier_ / "rien.LoP").string(), a});
-  EXPECT_EQ(p.etat, 1);
-  EXPECT_THAT(p.erreurs, IsEmpty());
-  const auto objets = Objets(p.sortie);
-  ASSERT_THAT(objets, SizeIs(3));
-  EXPECT_EQ(objets[0]["reduit"], true);
-  EXPECT_THAT(Cles(objets[1]), ElementsAre("fichier", "erreur"));
-  EXPECT_EQ(objets[1]["erreur"]["numero"], 53);
-  EXPECT_EQ(objets[1]["erreur"]["texte"], "Fichier introuvable");
-  EXPECT_EQ(objets[2]["reduit"], true);
-}
-
-TEST_F(Calcul, ADirectoryCannotBeRead) { AttendErreur(dossier_.string(), 75); }
-
-TEST_F(Calcul, AnEmptyNameIsAMissingFile) { AttendErreur("", 53); }
-
-TEST_F(Calcul, AFileWithoutPermissionCannotBeRead) {
-  if (geteuid() == 0) {
-    GTEST_SKIP() << "root reads every file";
-  }
-  const std::string fichier = EcritVisee("a.LoP", LignesSoleil());
-  fs::permissions(fichier, fs::perms::none);
-  AttendErreur(fichier, 75);
-}
-
-TEST_F(Calcul, AnEmptyFileIsAReadingOfZero) { EXPECT_EQ(ReduitUn(Ecrit("vide.LoP", ""))["reduit"], false); }
-
-TEST_F(Calcul, BinaryNoiseIsReadOrToldButNeverCrashes) {
-  std::uint32_t graine = 12345;
-  for (int essai = 0; essai < 20; ++essai) {
-    std::string octets;
-    for (int i = 0; i < 300; ++i) {
-      graine = graine * 1664525U + 1013904223U;
-      octets += static_cast<char>(graine >> 24U);
-    }
-    const Passage p = Lance({"reduit", Ecrit("bruit.LoP", octets)});
-    EXPECT_LE(p.etat, 1) << p.erreurs;
-    EXPECT_THAT(Objets(p.sortie), SizeIs(1));
-  }
-}
-
-TEST_F(Calcul, ThirtyOneLinesAreReadAndThirtyTwoAreNot) {
-  auto lignes = LignesSoleil();
-  lignes.resize(31);
-  EXPECT_EQ(ReduitUn(EcritVisee("31.LoP", lignes))["reduit"], true);
-  lignes.resize(32);
-  AttendErreur(EcritVisee("32.LoP", lignes), 9);
-}
-
-TEST_F(Calcul, TenMegabytesAreToldAtOnce) {
-  std::string longue = Assemble(LignesSoleil(), "\r\n");
-  longue.append(10U << 20U, 'x');
-  EXPECT_EQ(ReduitUn(Ecrit("longue.LoP", longue))["reduit"], true);
-  std::string lignes;
-  while (lignes.size() < (10U << 20U)) {
-    lignes += "12\r\n";
-  }
-  AttendErreur(Ecrit("lignes.LoP", lignes), 9);
-}
-
-TEST_F(Calcul, EveryEndOfLineIsRead) {
-  const ordered_json crlf = ReduitUn(Ecrit("a.LoP", Assemble(LignesSoleil(), "\r\n")));
-  for (const char *fin : {"\n", "\r"}) {
-    EXPECT_EQ(ReduitUn(Ecrit("a.LoP", Assemble(LignesSoleil(), fin))), crlf);
-  }
-  const std::string texte = Assemble(LignesSoleil(), "\r\n");
-  EXPECT_EQ(ReduitUn(Ecrit("a.LoP", texte.substr(0, texte.size() - 2))), crlf);
-}
-
-TEST_F(Calcul, TextInANumericLineReadsAsZero) {
-  auto lignes = LignesSoleil();
-  lignes[0] = "douze";
-  const ordered_json texte = ReduitUn(EcritVisee("a.LoP", lignes));
-  lignes[0] = "0";
-  EXPECT_EQ(ReduitUn(EcritVisee("a.LoP", lignes)), texte);
-}
-
-TEST_F(Calcul, APositionOutOfRangeIsToldAsAnOverflow) {
-  auto lignes = LignesSoleil();
-  lignes[6] = "1E300";
-  AttendErreur(EcritVisee("a.LoP", lignes), 6);
-}
-
-TEST_F(Calcul, ANameThatIsNotUtf8StillMakesValidOutput) {
-  const std::string fichier = EcritVisee("no\xEBl\"\\\t.LoP", LignesSoleil());
-  const Passage p = Lance({"reduit", "--langue", "aucune", fichier});
-  EXPECT_EQ(p.etat, 0);
-  EXPECT_THAT(Objets(p.sortie).at(0)["fichier"].get<std::string>(), HasSubstr("no\xEF\xBF\xBDl\"\\\t.LoP"));
-}
-
-TEST_F(Calcul, ManyFilesComeOutWhole) {
-  const std::string fichier = EcritVisee("a.LoP", LignesSoleil());
-  std::vector<std::string> arguments{"reduit"};
-  arguments.insert(arguments.end(), 5000, fichier);
-  const Passage p = Lance(arguments);
-  EXPECT_EQ(p.etat, 0);
-  EXPECT_THAT(Objets(p.sortie), SizeIs(5000));
 }
 
 // ---------------------------------------------------------------- the sample sights
@@ -392,7 +234,7 @@ std::vector<fs::path> Exemples() {
   return fichiers;
 }
 
-TEST_F(Calcul, TheSampleSightsGiveInterceptsOfAFewMiles) {
+TEST_F(Reduit, TheSampleSightsGiveInterceptsOfAFewMiles) {
   std::set<std::string> vus;
   for (const fs::path &fichier : Exemples()) {
     const ordered_json o = ReduitUn(fichier.string());
@@ -418,7 +260,7 @@ TEST_F(Calcul, TheSampleSightsGiveInterceptsOfAFewMiles) {
   }
 }
 
-TEST_F(Calcul, TheSampleSightsAreWrittenAsTheProgramWritesThem) {
+TEST_F(Reduit, TheSampleSightsAreWrittenAsTheProgramWritesThem) {
   for (const fs::path &fichier : Exemples()) {
     Observation observation;
     ChargeLoP(fichier, observation);

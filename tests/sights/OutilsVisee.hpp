@@ -41,6 +41,14 @@ struct Epreuve {
     }
   }
 
+  /// Reading and corrections are those worked by hand; the parallax is in none of these bodies' corrections.
+  void LectureEst(const LectureALaMain &lue) const {
+    EXPECT_EQ(reduction.lue.H, lue.H);
+    EXPECT_EQ(reduction.lue.Depression, lue.Depression);
+    EXPECT_EQ(reduction.lue.Refraction, lue.Refraction);
+    EXPECT_EQ(reduction.lue.Parallaxe, 0.0);
+  }
+
   Observation observation;
   ValeursVisee valeurs;
   AffichageDroite affichage;

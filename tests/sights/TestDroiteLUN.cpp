@@ -62,10 +62,7 @@ void Compare(const ViseeAstre &v) {
   const double Ho = HoALaMain(v, lue, lune.LuneDemiDiametre);
   Visee s(v);
   ASSERT_EQ(s.Reduit(), EtatReduction::Faite);
-  EXPECT_EQ(s.reduction.lue.H, lue.H);
-  EXPECT_EQ(s.reduction.lue.Depression, lue.Depression);
-  EXPECT_EQ(s.reduction.lue.Refraction, lue.Refraction);
-  EXPECT_EQ(s.reduction.lue.Parallaxe, 0.0);
+  s.LectureEst(lue);
   EXPECT_EQ(s.reduction.lue.Ho, Ho);
   EXPECT_EQ(s.valeurs.Azimut, lune.LuneAzimut);
   EXPECT_EQ(s.valeurs.HauteurCalculee, lune.LuneHauteur);

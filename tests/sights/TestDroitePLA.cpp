@@ -2,7 +2,7 @@
 
 #include "ephemerides/pLANETE.hpp"
 #include "foundations/Angles.hpp"
-#include "tests/sights/OutilsVisee.hpp"
+#include "tests/sights/OutilsAstres.hpp"
 
 #include <erfa.h>
 #include <erfam.h>
@@ -20,18 +20,7 @@ using essais::LectureALaMain;
 using essais::NumeroErreur;
 using essais::ViseeAstre;
 
-struct Visee : essais::Epreuve {
-  explicit Visee(const ViseeAstre &v) : Epreuve(v, Corps::Planetes) {}
-
-  EtatReduction Reduit() {
-    reduction = Calcul_DroitePLA(observation, valeurs, affichage, essais::MessagesNumerotes());
-    return reduction.etat;
-  }
-
-  int Echoue() {
-    return NumeroErreur([this] { Reduit(); });
-  }
-};
+using Visee = essais::ViseePlanete;
 
 constexpr std::array<const char *, 4> kNoms = {"VENUS", "MARS", "JUPITER", "SATURNE"};
 
@@ -67,9 +56,7 @@ void Compare(const ViseeAstre &v) {
   const HorizonALaMain32 ciel = PlaneteALaMain(v, PlaceALaMain(LigneDe(v)));
   Visee s(v);
   ASSERT_EQ(s.Reduit(), EtatReduction::Faite);
-  EXPECT_EQ(s.reduction.lue.H, lue.H);
-  EXPECT_EQ(s.reduction.lue.Depression, lue.Depression);
-  EXPECT_EQ(s.reduction.lue.Refraction, lue.Refraction);
+  s.LectureEst(lue);
   EXPECT_EQ(s.reduction.lue.Ho, lue.Ho(v)) << "no parallax, no limb";
   EXPECT_EQ(s.valeurs.Azimut, ciel.azimut);
   EXPECT_EQ(s.valeurs.HauteurCalculee, ciel.hauteur);
@@ -203,40 +190,6 @@ TEST(PlanetSight, APlacePastTheEndOfTheListIsASubscriptError) {
   EXPECT_EQ(Visee(v).Echoue(), 9);
 }
 
-TEST(PlanetSight, WithoutAPlanetNothingChanges) {
-  Visee s{ViseeAstre{}};
-  s.observation.planete = -1;
-  s.observation.etoile = 3;
-  s.observation.hauteurOeil = "";
-  s.observation.jour = "31";
-  s.observation.lectureFraction = "";
-  EXPECT_EQ(s.Reduit(), EtatReduction::SansAstre);
-  s.RienNAChange();
-  EXPECT_EQ(s.observation.lectureFraction, "");
-}
-
-TEST(PlanetSight, AReadingOfZeroChangesNothing) {
-  for (const char *zero : {"", "0", "00", "abc"}) {
-    Visee s{ViseeAstre{}};
-    s.observation.lectureDegres = s.observation.lectureMinutes = s.observation.lectureFraction = zero;
-    s.observation.hauteurOeil = s.observation.collimation = s.observation.jour = "";
-    EXPECT_EQ(s.Reduit(), EtatReduction::SansLecture) << zero;
-    s.RienNAChange();
-  }
-}
-
-TEST(PlanetSight, AFieldThatMakesNoNumberOrNoMomentIsATypeMismatch) {
-  for (const essais::CasChamp &cas : essais::kChampsRefuses) {
-    Visee s{ViseeAstre{}};
-    s.observation.*cas.champ = cas.texte;
-    EXPECT_EQ(s.Echoue(), 13) << cas.texte;
-    EXPECT_EQ(s.valeurs.Azimut, 12.0F) << cas.texte;
-    EXPECT_EQ(s.valeurs.Intercept, 56.0F) << cas.texte;
-    EXPECT_EQ(s.affichage.intercept, "before") << cas.texte;
-    EXPECT_EQ(s.affichage.details[2], "before") << cas.texte;
-  }
-}
-
 TEST(PlanetSight, AYearOfTwoDigitsStandsFor1930To2029) {
   for (const auto &[court, entier] : {std::pair{9, 2009}, {26, 2026}, {29, 2029}, {30, 1930}, {99, 1999}}) {
     ViseeAstre v;
@@ -296,15 +249,6 @@ TEST(PlanetSight, WhatWasWrittenBeforeAFailureStays) {
   EXPECT_EQ(s.observation.lectureFraction, "00");
   EXPECT_EQ(s.affichage.details[0], "M14 03.05 '");
   EXPECT_EQ(s.affichage.details[2], "before");
-}
-
-TEST(PlanetSight, EyeAndCollimationKeepTheirTexts) {
-  Visee s{ViseeAstre{}};
-  s.observation.hauteurOeil = " 02,50 ";
-  s.observation.collimation = "-1,123456789";
-  ASSERT_EQ(s.Reduit(), EtatReduction::Faite);
-  EXPECT_EQ(s.observation.hauteurOeil, " 02,50 ");
-  EXPECT_EQ(s.observation.collimation, "-1,123456789");
 }
 
 } // namespace

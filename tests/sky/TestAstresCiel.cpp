@@ -1,6 +1,6 @@
 #include "sky/AstresCiel.hpp"
 
-#include "../OutilsTests.hpp"
+#include "tests/OutilsTests.hpp"
 
 #include "ephemerides/pLANETE.hpp"
 #include "foundations/CelHor.hpp"

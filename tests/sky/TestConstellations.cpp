@@ -1,6 +1,6 @@
 #include "sky/Constellations.hpp"
 
-#include "../OutilsTests.hpp"
+#include "tests/OutilsTests.hpp"
 
 #include "ephemerides/Etoiles.hpp"
 

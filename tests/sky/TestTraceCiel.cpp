@@ -1,6 +1,6 @@
 #include "sky/TraceCiel.hpp"
 
-#include "../OutilsTests.hpp"
+#include "tests/OutilsTests.hpp"
 
 #include "foundations/TexteNombre.hpp"
 
