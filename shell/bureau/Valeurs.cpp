@@ -84,13 +84,13 @@ bool EstAbime(sqlite3 *base) {
   return VientDesOctets(lecture.Avance());
 }
 
-/// Holds a folder against another program that waits for the same, until its scope ends.
+/// Holds a folder until its scope ends: shared with others that hold it shared, or alone.
 class VerrouDossier {
 public:
-  explicit VerrouDossier(const std::filesystem::path &dossier)
+  VerrouDossier(const std::filesystem::path &dossier, bool seul)
       : numero_(::open(dossier.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC)) {
     if (numero_ >= 0) {
-      ::flock(numero_, LOCK_EX);
+      ::flock(numero_, seul ? LOCK_EX : LOCK_SH);
     }
   }
   ~VerrouDossier() {
@@ -117,11 +117,17 @@ Valeurs::Valeurs(std::filesystem::path fichier) : fichier_(std::move(fichier)) {
   if (!fichier_.empty()) {
     std::filesystem::create_directories(fichier_.parent_path(), refus);
   }
-  if (Ouvre()) {
-    return;
+  // Nobody may set the file aside while another program has it open to look at it: the base would take the journal of
+  // the new file for its own, and roll the damaged one back with it.
+  {
+    const VerrouDossier verrou(fichier_.parent_path(), false);
+    if (Ouvre()) {
+      return;
+    }
+    base_.reset();
   }
   // Of two programs that find the damage at once, the second must not set the first one's new file aside.
-  const VerrouDossier verrou(fichier_.parent_path());
+  const VerrouDossier verrou(fichier_.parent_path(), true);
   if (Ouvre()) {
     return;
   }
