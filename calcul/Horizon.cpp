@@ -4,7 +4,6 @@
 #include "foundations/CelHor.hpp"
 #include "foundations/Erreur.hpp"
 
-#include <charconv>
 #include <cmath>
 
 namespace velmaris {
@@ -12,7 +11,7 @@ namespace {
 
 constexpr double kAngleMax = 1.0E6; ///< degrees past which an angle is a mistake
 
-/// An angle that the reduction to one turn can work with.
+/// An angle that somebody can have meant.
 double Angle(double degres) {
   if (std::fabs(degres) > kAngleMax) {
     throw Erreur(5);
@@ -29,19 +28,6 @@ bool EcritHorizon(const DemandeHorizon &demande, std::string &sortie) {
     double latitude = Angle(demande.latitude);
     return CelesteVersHorizon(date, Angle(demande.AD), dec, latitude, Angle(demande.lonEst));
   });
-}
-
-bool LitNombre(std::string_view texte, double &valeur) {
-  if (texte.starts_with('+') && !texte.starts_with("+-")) {
-    texte.remove_prefix(1);
-  }
-  double lu = 0.0;
-  const auto [fin, code] = std::from_chars(texte.data(), texte.data() + texte.size(), lu);
-  if (code != std::errc() || fin != texte.data() + texte.size() || !std::isfinite(lu)) {
-    return false;
-  }
-  valeur = lu;
-  return true;
 }
 
 } // namespace velmaris

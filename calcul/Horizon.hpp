@@ -1,7 +1,6 @@
 #pragma once
 
 #include <string>
-#include <string_view>
 
 namespace velmaris {
 
@@ -19,9 +18,5 @@ struct DemandeHorizon {
 /// @param sortie  the line is appended to it
 /// @return false when the object holds an error: an impossible date or time, or a place without an azimuth
 bool EcritHorizon(const DemandeHorizon &demande, std::string &sortie);
-
-/// A whole text as a number, "." being the decimal point; an infinity is none.
-/// @param valeur  left alone when the text is not a number
-bool LitNombre(std::string_view texte, double &valeur);
 
 } // namespace velmaris

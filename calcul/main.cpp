@@ -10,6 +10,8 @@
 
 #include <CLI/CLI.hpp>
 
+#include <charconv>
+#include <cmath>
 #include <cstdio>
 #include <filesystem>
 #include <iostream>
@@ -108,13 +110,28 @@ int Planete(const Demande &demande, EcritPlanete ecrit) {
   return Vide(sortie) && reussi ? kReussi : kEchec;
 }
 
+/// A whole argument as a number, "." being the decimal point; an infinity is none.
+/// @param valeur  left alone when the argument is not a number
+bool LitFigure(std::string_view texte, double &valeur) {
+  if (texte.starts_with('+') && !texte.starts_with("+-")) {
+    texte.remove_prefix(1);
+  }
+  double lu = 0.0;
+  const auto [fin, code] = std::from_chars(texte.data(), texte.data() + texte.size(), lu);
+  if (code != std::errc() || fin != texte.data() + texte.size() || !std::isfinite(lu)) {
+    return false;
+  }
+  valeur = lu;
+  return true;
+}
+
 /// A positional argument that must be a number.
 void AjouteNombreLu(CLI::App &verbe, const std::string &nom, double &valeur, const std::string &aide) {
   verbe
       .add_option_function<std::string>(
           nom,
           [&valeur, nom](const std::string &texte) {
-            if (!LitNombre(texte, valeur)) {
+            if (!LitFigure(texte, valeur)) {
               throw CLI::ValidationError(nom, texte + " n'est pas un nombre");
             }
           },

@@ -56,8 +56,7 @@ void PourChaqueLieu(const Feuille &feuille, Surface &surface, std::string_view o
         std::fabs(longitude - cadre.reference.longitude) > cadre.demiLongitude) {
       continue;
     }
-    surface.position = {feuille.CentreX + (cadre.reference.longitude - longitude) * feuille.EchelleX * 60,
-                        feuille.CentreY + (cadre.reference.latitude - latitude) * feuille.EchelleY * 60};
+    surface.position = PointAutour(feuille, cadre.reference.latitude, cadre.reference.longitude, latitude, longitude);
     trace(ligne, position.blanc);
   }
 }

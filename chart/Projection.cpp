@@ -48,8 +48,7 @@ PlaceCarte PlaceSousPoint(const Feuille &feuille, Point point) {
 
 Point PointDePlace(const Feuille &feuille, double latitude, double longitude) {
   const PlaceCarte reference = ReferenceCarte(feuille);
-  return {feuille.CentreX + (reference.longitude - longitude) * feuille.EchelleX * 60,
-          feuille.CentreY + (reference.latitude - latitude) * feuille.EchelleY * 60};
+  return PointAutour(feuille, reference.latitude, reference.longitude, latitude, longitude);
 }
 
 Origine Enroule(Origine centre) {

@@ -1,5 +1,6 @@
 #include "chart/SourisCarte.hpp"
 
+#include "foundations/Angles.hpp"
 #include "foundations/Erreur.hpp"
 #include "foundations/TexteNombre.hpp"
 
@@ -11,10 +12,6 @@ namespace {
 
 constexpr double kPiBranche = 3.141592653589;
 constexpr double kRayonCroix = 80.0; ///< of the mark at the start of a leg, 1/1440 inch
-
-std::string DegresMinutes(double angle) {
-  return Format(std::fabs(Fix(angle)), "00") + "." + Format(std::fabs(angle - Fix(angle)) * 60, "00");
-}
 
 /// Draws by a function, and notes what it has left in the surface's list.
 template <class Dessin> void Note(SourisCarte &souris, Surface &surface, Dessin &&dessin) {
@@ -34,8 +31,8 @@ template <class Dessin> void Note(SourisCarte &souris, Surface &surface, Dessin 
 } // namespace
 
 std::string TexteCoordonnees(const PlaceCarte &place) {
-  return (place.latitude > 0 ? "N" : "S") + DegresMinutes(place.latitude) + "   " + (place.longitude > 0 ? "W" : "E") +
-         DegresMinutes(place.longitude);
+  return (place.latitude > 0 ? "N" : "S") + DegresPointMinutes(place.latitude) + "   " +
+         (place.longitude > 0 ? "W" : "E") + DegresPointMinutes(place.longitude);
 }
 
 std::int16_t DistanceBranche(Point debut, Point fin, float EchelleY) {

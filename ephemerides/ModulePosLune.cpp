@@ -1,6 +1,7 @@
 #include "ephemerides/ModulePosLune.hpp"
 
 #include "ephemerides/Nutation.hpp"
+#include "foundations/Angles.hpp"
 #include "foundations/Erreur.hpp"
 #include "foundations/TexteNombre.hpp"
 
@@ -96,7 +97,7 @@ void PlaceEquatoriale(Lune &lune) {
 /// @return radians
 double AnglePhase(const Lune &lune, double M, double Ms) {
   const double c = std::cos(lune.LuneLatitude) * std::cos(lune.LuneLongitude - lune.LuneLongSoleil);
-  double e = std::atan(Divise(-c, Racine(-c * c + 1))) + 2 * std::atan(1.0);
+  double e = ArcCosinus(c);
   if (e < 0) {
     e = e + kPiCourt;
   }

@@ -61,14 +61,6 @@ std::string TextePlanete(const SeriesPlanete &series, double JD) {
   return TexteGeneral(LongitudeDeSomme(somme)) + "|" + TexteGeneral(EnDegres(B)) + "|" + TexteGeneral(R);
 }
 
-std::string EnCapitales(std::string_view texte) {
-  std::string capitales(texte);
-  for (char &c : capitales) {
-    c = c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c;
-  }
-  return capitales;
-}
-
 /// Place of the first bar at or after a character, counted from 1; 0 when there is none.
 std::size_t PlaceBarre(std::string_view texte, std::size_t depart) {
   const std::size_t barre = texte.find('|', depart - 1);

@@ -1,5 +1,6 @@
 #include "ephemerides/ModulePosLune.hpp"
 
+#include "foundations/Angles.hpp"
 #include "foundations/Erreur.hpp"
 #include "foundations/TexteNombre.hpp"
 
@@ -13,19 +14,6 @@ static_assert(kRadLong == kPiCourt / 180);
 
 /// Half the Moon's disc in units of its horizontal parallax.
 constexpr double kDemiDiametreParParallaxe = 0.2725;
-
-/// Degrees brought into one turn, as by adding 360 while negative, then taking it off while above 360: exactly 360
-/// stays 360. Whole turns go in one exact step, for a century of days makes 36000 of them.
-double UnTourDegres(double s) {
-  if (s >= 0 && s <= 360) {
-    return s;
-  }
-  const double reste = std::fmod(s, 360.0);
-  if (reste == 0) {
-    return s > 0 ? 360 : 0;
-  }
-  return reste < 0 ? reste + 360 : reste;
-}
 
 /// Local sidereal time of the Julian day.
 /// @param longitude  degrees, east positive

@@ -113,7 +113,7 @@ constexpr LignePhotometrie kPhotometrie[] = {
 /// Angle at the planet between the Sun and the Earth, degrees.
 double AnglePhase(const Geocentre &g, double d) {
   const double c = Divise((g.r * g.r + d * d) - g.R0 * g.R0, (2 * g.r) * d);
-  return EnDegres(std::atan(Divise(-c, Racine(-c * c + 1))) + (std::atan(1.0) + std::atan(1.0)));
+  return EnDegres(ArcCosinus(c));
 }
 
 std::string TexteAngle(double degres, std::string genre, bool montrePlus) {

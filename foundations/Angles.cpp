@@ -3,7 +3,6 @@
 #include "foundations/Erreur.hpp"
 #include "foundations/TexteNombre.hpp"
 
-#include <cctype>
 #include <cmath>
 
 namespace velmaris {
@@ -35,6 +34,17 @@ Champs Decoupe(double x) {
 
 } // namespace
 
+double UnTourDegres(double degres) {
+  if (degres >= 0 && degres <= 360) {
+    return degres;
+  }
+  const double reste = std::fmod(degres, 360.0);
+  if (reste == 0) {
+    return degres > 0 ? 360 : 0;
+  }
+  return reste < 0 ? reste + 360 : reste;
+}
+
 double ReduitDeuxPi(float x) {
   const double q = double{x} / kDeuxPiCourt;
   return double{x} - Int(q) * kDeuxPiCourt;
@@ -51,9 +61,11 @@ double ArcTanQuadrant(double y, double x) {
   return a;
 }
 
+double ArcCosinus(double x) { return std::atan(Divise(-x, Racine(-x * x + 1))) + 2 * std::atan(1.0); }
+
 double ArcCosDouble(double x) {
   double resultat = 999.0;
-  Passe([&] { resultat = std::atan(Divise(-x, Racine(-x * x + 1))) + 2 * std::atan(1.0); });
+  Passe([&] { resultat = ArcCosinus(x); });
   return resultat;
 }
 
@@ -86,13 +98,14 @@ std::string HeuresEnTexte(double &x) {
   return Format(c.entier, "00") + "h" + Format(c.minutes, "00") + "m" + Format(c.secondes, "00") + "s";
 }
 
+std::string DegresPointMinutes(double x) {
+  return Format(std::fabs(Fix(x)), "00") + "." + Format(std::fabs(x - Fix(x)) * 60, "00");
+}
+
 std::string FormatAngle(double valeur, std::string &genre, bool montrePlus) {
   const std::string signe = valeur >= 0 ? (montrePlus ? "+" : "") : "-";
   const double x = std::fabs(valeur);
-  genre = SansBlancs(genre);
-  for (char &c : genre) {
-    c = static_cast<char>(std::toupper(static_cast<unsigned char>(c)));
-  }
+  genre = EnCapitales(SansBlancs(genre));
   const bool degres = genre == "DMS";
   double t = x * (degres ? 3600 : 240);
   double a = Int(t / 3600);

@@ -14,6 +14,13 @@ inline constexpr double kRadCourt = 0.017453292;
 /// Kilometres in an astronomical unit, as a whole number.
 inline constexpr double kUniteAstronomique = 149597870.0;
 
+/// Degrees as radians by the short pi, in the order of the sheet's figures: the product comes before the quotient.
+constexpr double EnRadiansCourt(double degres) { return degres * kPiCourt / 180; }
+
+/// Degrees brought into one turn, as by adding 360 while negative, then taking it off while above 360: exactly 360
+/// stays 360. Whole turns go in one exact step, for a century of days makes 36000 of them.
+double UnTourDegres(double degres);
+
 /// Brings an angle into one turn.
 /// @param x  radians; the 32-bit rounding of the caller's value stays in the result
 /// @return radians in [0, 6.283185307178), as far as rounding allows
@@ -25,6 +32,11 @@ double ReduitDeuxPi(float x);
 double ArcTanQuadrant(double y, double x);
 
 /// Arc cosine through the arctangent.
+/// @return radians
+/// @throws Erreur 11 when |x| = 1, 5 when |x| > 1
+double ArcCosinus(double x);
+
+/// Arc cosine that never fails.
 /// @return radians, or exactly 999 when |x| >= 1: the sentinel that callers take for an angle
 double ArcCosDouble(double x);
 
@@ -56,6 +68,9 @@ std::string DegresEnTexte(double x);
 /// Degrees as 00h00m00s, with the signs and the rounding of DegresEnTexte.
 /// @param x  degrees; left in hours
 std::string HeuresEnTexte(double &x);
+
+/// Degrees as 00.00, whole degrees and minutes, without a sign.
+std::string DegresPointMinutes(double x);
 
 /// Angle in sixteen columns, right-justified; a longer text loses its left end.
 /// @param valeur   degrees

@@ -37,18 +37,8 @@ double TempsSideralLocal(const ValeurDate &date, double longitude) {
   const double n =
       (((b + c) + e) - 730550.5) + date.jour + ((date.heure + date.minute / 60.0) + date.seconde / 3600.0) / 24.0;
   const double t = n / 36525;
-  double s = ((280.46061837 + 360.98564736629 * n) + (0.000387933 * t) * t) - ((t * t) * t) / 38710000;
-  s = s + longitude;
-  // Whole turns go in one exact step, so that a longitude of any size ends; 360 itself stays.
-  if (s > 360) {
-    s = std::fmod(s, 360.0);
-    return s == 0 ? 360 : s;
-  }
-  if (s < 0) {
-    s = std::fmod(s, 360.0);
-    return s == 0 ? 0 : s + 360;
-  }
-  return s;
+  const double s = ((280.46061837 + 360.98564736629 * n) + (0.000387933 * t) * t) - ((t * t) * t) / 38710000;
+  return UnTourDegres(s + longitude);
 }
 
 std::string CelesteVersHorizon(const ValeurDate &date, double ra, double &dec, double &lat, double lon) {

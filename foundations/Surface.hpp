@@ -18,6 +18,7 @@ inline constexpr Couleur kNoir = 0x000000;
 inline constexpr Couleur kBlanc = 0xFFFFFF;
 inline constexpr Couleur kRouge = 0x0000FF;
 inline constexpr Couleur kBleu = 0xFF0000;
+inline constexpr Couleur kJaune = 0x00FFFF;
 inline constexpr Couleur kMagenta = 0xFF00FF;
 inline constexpr Couleur kGris = Rvb(128, 128, 128);
 inline constexpr Couleur kLien = Rvb(31, 95, 158);
@@ -29,6 +30,7 @@ struct Point {
   bool operator==(const Point &) const = default;
 };
 
+/// Style of a line.
 enum class Style : std::uint8_t { Plein = 0, Tirets = 1, Points = 2, TiretPoint = 3 };
 
 /// How a line is drawn: its width is in points of the screen.
@@ -39,6 +41,7 @@ struct Plume {
   bool operator==(const Plume &) const = default;
 };
 
+/// Font of a text.
 struct Police {
   std::string famille = "sans-serif";
   double taille = 9.0; ///< points
@@ -53,6 +56,7 @@ struct Polyligne {
   bool operator==(const Polyligne &) const = default;
 };
 
+/// A circle in one pen, not filled.
 struct CercleTrace {
   Plume plume;
   Point centre;
@@ -60,6 +64,7 @@ struct CercleTrace {
   bool operator==(const CercleTrace &) const = default;
 };
 
+/// A text in one line.
 struct TexteTrace {
   Couleur couleur = kNoir;
   Police police;
@@ -69,6 +74,7 @@ struct TexteTrace {
   bool operator==(const TexteTrace &) const = default;
 };
 
+/// Anything drawn.
 using Trace = std::variant<Polyligne, CercleTrace, TexteTrace>;
 
 /// A drawing surface as the list of what has been drawn on it.

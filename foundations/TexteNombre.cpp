@@ -317,6 +317,14 @@ std::string Droite(std::string_view texte, std::size_t nombre) {
   return std::string(texte.substr(DebutCaractere(texte, total > nombre ? total - nombre : 0)));
 }
 
+std::string EnCapitales(std::string_view texte) {
+  std::string capitales(texte);
+  for (char &c : capitales) {
+    c = c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c;
+  }
+  return capitales;
+}
+
 std::string_view SansBlancs(std::string_view texte) {
   while (!texte.empty() && Blanc(texte.front())) {
     texte.remove_prefix(1);

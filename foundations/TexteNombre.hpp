@@ -63,6 +63,9 @@ std::string SansExtension(std::string_view nom);
 /// The last characters of a UTF-8 text.
 std::string Droite(std::string_view texte, std::size_t nombre);
 
+/// A text in capitals; letters beyond a to z stay.
+std::string EnCapitales(std::string_view texte);
+
 /// A text without its leading and trailing blanks.
 std::string_view SansBlancs(std::string_view texte);
 

@@ -9,8 +9,6 @@
 namespace velmaris {
 namespace {
 
-double EnRadians(double degres) { return degres * kPiCourt / 180; }
-
 /// Course of the mean-latitude track; the latitudes differ.
 float CapMoyen(double L1, double L2, double dG, bool ouest) {
   const double q = std::cos((L1 + L2) / 2) * dG / std::abs(L1 - L2);
@@ -32,10 +30,10 @@ PlaceRoute LitBout(const BoutRoute &bout) {
 }
 
 CapDistance CalculeCapDistance(const PlaceRoute &depart, const PlaceRoute &arrivee) {
-  const double L1 = EnRadians(depart.latitude);
-  const double G1 = EnRadians(depart.longitude);
-  const double L2 = EnRadians(arrivee.latitude);
-  const double G2 = EnRadians(arrivee.longitude);
+  const double L1 = EnRadiansCourt(depart.latitude);
+  const double G1 = EnRadiansCourt(depart.longitude);
+  const double L2 = EnRadiansCourt(arrivee.latitude);
+  const double G2 = EnRadiansCourt(arrivee.longitude);
   CapDistance resultat;
   if (L1 == L2 && G1 == G2) {
     resultat.memePoint = true;
@@ -48,7 +46,7 @@ CapDistance CalculeCapDistance(const PlaceRoute &depart, const PlaceRoute &arriv
     dG = 360 - dG; // degrees less radians: the known slip
   }
   const double k = std::cos(C1) * std::cos(C2) + std::sin(C2) * std::sin(C1) * std::cos(dG);
-  const double D = std::atan(Divise(-k, Racine(1.0 - k * k))) + 2 * std::atan(1.0);
+  const double D = ArcCosinus(k);
   const bool ouest = DirectionWest(Simple(G1), Simple(G2));
   if (L1 == L2) {
     resultat.cap = ouest ? 270.0F : 90.0F;

@@ -12,16 +12,14 @@
 namespace velmaris {
 namespace {
 
-constexpr float kJaune = 65535.0F;
+constexpr float kJauneDroite = 65535.0F;
 constexpr float kRougeDroite = 255.0F;
 constexpr int kZoomRose = 100; ///< miles under which the rose is drawn over the grid too
 constexpr Couleur kCercleRose = Rvb(220, 220, 220);
 
-double EnRadians(double degres) { return degres * kPiCourt / 180.0; }
-
 /// Scales of a new sheet, all through the intercept.
 void CalculeEchelles(Feuille &feuille, const Surface &surface, const ValeursVisee &valeurs) {
-  Passe([&] { feuille.AngleDroite = Simple(EnRadians(90.0 - valeurs.Azimut)); });
+  Passe([&] { feuille.AngleDroite = Simple(EnRadiansCourt(90.0 - valeurs.Azimut)); });
   Passe([&] { feuille.LongueurIntercept = Simple(Divise(surface.hauteur, feuille.Zoom) * valeurs.Intercept); });
   Passe([&] { feuille.EchelleY = Simple(Divise(feuille.LongueurIntercept, valeurs.Intercept)); });
   Passe([&] { feuille.EchelleX = Simple(feuille.EchelleY * std::cos(valeurs.LatEstimee * kRadCourt)); });
@@ -86,7 +84,7 @@ void TraceFleche(Feuille &feuille, Surface &surface, const ValeursVisee &valeurs
   const Point pointe{depart.x + corps.x, depart.y + corps.y};
   feuille.LongueurTete = LongueurTete(feuille.Zoom, feuille.LongueurTete);
   const auto tete = [&](double ecart) {
-    const double r = EnRadians(valeurs.Azimut - ecart);
+    const double r = EnRadiansCourt(valeurs.Azimut - ecart);
     return Point{pointe.x + feuille.LongueurTete * std::cos(r), pointe.y + feuille.LongueurTete * std::sin(r)};
   };
   surface.epaisseur = 2;
@@ -102,7 +100,7 @@ void TraceFleche(Feuille &feuille, Surface &surface, const ValeursVisee &valeurs
 void PrepareFleche(Feuille &feuille, const Surface &surface, const Observation &observation, ValeursVisee &valeurs) {
   feuille.CentreX = static_cast<float>(surface.largeur / 2);
   feuille.CentreY = static_cast<float>(surface.hauteur / 2);
-  Passe([&] { feuille.AngleDroite = Simple(EnRadians(valeurs.Azimut - 90.0)); });
+  Passe([&] { feuille.AngleDroite = Simple(EnRadiansCourt(valeurs.Azimut - 90.0)); });
   Passe([&] { LitEstime(observation, valeurs); });
 }
 
@@ -122,9 +120,14 @@ Couleur CouleurDroite(Corps corps) {
   }
 }
 
+Point PointAutour(const Feuille &feuille, double latitudeMilieu, double longitudeMilieu, double latitude,
+                  double longitude) {
+  return {feuille.CentreX + (longitudeMilieu - longitude) * feuille.EchelleX * 60,
+          feuille.CentreY + (latitudeMilieu - latitude) * feuille.EchelleY * 60};
+}
+
 Point PlaceSurFeuille(const Feuille &feuille, double latitude, double longitude) {
-  return {feuille.CentreX + (feuille.OrigineFeuille.longitude - longitude) * feuille.EchelleX * 60,
-          feuille.CentreY + (feuille.OrigineFeuille.latitude - latitude) * feuille.EchelleY * 60};
+  return PointAutour(feuille, feuille.OrigineFeuille.latitude, feuille.OrigineFeuille.longitude, latitude, longitude);
 }
 
 void TraceDroites(Feuille &feuille, Surface &surface, const Observation &observation, ValeursVisee &valeurs) {
@@ -146,7 +149,7 @@ void TraceDroites(Feuille &feuille, Surface &surface, const Observation &observa
     TraceRose(feuille, surface, observation);
   }
   std::int16_t drapeau = 0;
-  AffIntercept(feuille, surface, valeurs, feuille.CentreX, feuille.CentreY, kJaune, drapeau);
+  AffIntercept(feuille, surface, valeurs, feuille.CentreX, feuille.CentreY, kJauneDroite, drapeau);
   TraceEchelle(feuille, surface);
   PrepareFleche(feuille, surface, observation, valeurs);
   feuille.OrigineFeuille = {valeurs.LatEstimee, valeurs.LonEstimee};
@@ -162,7 +165,7 @@ void AjouDroites(Feuille &feuille, Surface &surface, const Observation &observat
   surface.style = Style::Plein;
   feuille.PasFleche = static_cast<float>(feuille.Zoom / 100.0 + 5.0);
   TraceFleche(feuille, surface, valeurs, depart);
-  Passe([&] { feuille.AngleDroite = Simple(EnRadians(90.0 - valeurs.Azimut)); });
+  Passe([&] { feuille.AngleDroite = Simple(EnRadiansCourt(90.0 - valeurs.Azimut)); });
   Passe([&] { feuille.LongueurIntercept = Simple(Divise(surface.hauteur, feuille.Zoom) * valeurs.Intercept); });
   std::int16_t drapeau = 0;
   AffIntercept(feuille, surface, valeurs, depart.x, depart.y, kRougeDroite, drapeau);

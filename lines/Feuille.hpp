@@ -53,6 +53,12 @@ void TraceDroites(Feuille &feuille, Surface &surface, const Observation &observa
 /// @param valeurs  as for TraceDroites
 void AjouDroites(Feuille &feuille, Surface &surface, const Observation &observation, ValeursVisee &valeurs);
 
+/// Point of the surface under a place, by the scales in force.
+/// @param latitudeMilieu, longitudeMilieu  place under the sheet's centre, degrees, north and west positive
+/// @param latitude, longitude              degrees, north and west positive
+Point PointAutour(const Feuille &feuille, double latitudeMilieu, double longitudeMilieu, double latitude,
+                  double longitude);
+
 /// A geographic place on the surface.
 /// @param latitude, longitude  degrees, north and west positive
 Point PlaceSurFeuille(const Feuille &feuille, double latitude, double longitude);

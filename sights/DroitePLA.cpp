@@ -17,12 +17,6 @@ constexpr double kDiametreLune = 3476; ///< km; it stands where the Earth's radi
 /// The list of planets; their names decide which of them get a diameter and a magnitude.
 constexpr std::array<const char *, kNombrePlanetes> kPlanetes = {"Venus", "Mars", "Jupiter", "Saturne"};
 
-std::string Capitales(std::string nom) {
-  std::transform(nom.begin(), nom.end(), nom.begin(),
-                 [](char c) { return c >= 'a' && c <= 'z' ? static_cast<char>(c - ('a' - 'A')) : c; });
-  return nom;
-}
-
 /// A field of the line by its number, without the blanks around it.
 std::string_view Champ(std::string_view ligne, int numero) {
   for (int i = 0; i < numero; ++i) {
@@ -89,7 +83,7 @@ Reduction Calcul_DroitePLA(Observation &observation, ValeursVisee &valeurs, Affi
   }
   CorrigeAstre(observation, r.lue, affichage, messages);
   const ValeurDate date = DateDeVisee(observation);
-  std::string nom = Capitales(NomPlanete(observation.planete));
+  std::string nom = EnCapitales(NomPlanete(observation.planete));
   const PlacePlanete place =
       LitPlacePlanete(PositionPlanete(nom, {observation.jour, observation.mois, observation.annee, observation.heure,
                                             observation.minute, observation.seconde}));

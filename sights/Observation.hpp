@@ -7,10 +7,13 @@
 
 namespace velmaris {
 
-// `Aucun` is what a search ends on when no choice of the panel is made.
+/// Kind of body, by the choices of the panel. Here and below, `Aucun` is what a search ends on when none is made.
 enum class Corps : std::uint8_t { Soleil = 0, Lune = 1, Planetes = 2, Etoiles = 3, Aucun = 4 };
+/// Limb that was brought to the horizon.
 enum class Bord : std::uint8_t { Superieur = 0, Inferieur = 1, Centre = 2, Aucun = 3 };
+/// The sea's horizon, or an artificial one, off which the double height is read.
 enum class Horizon : std::uint8_t { Naturel = 0, Artificiel = 1, Aucun = 2 };
+/// What the last field of the reading counts: seconds, or hundredths of a minute.
 enum class Fraction : std::uint8_t { Secondes = 0, Centiemes = 1 };
 
 /// Entries of the list of stars, which are the named ones, and of the list of planets.

@@ -1,5 +1,6 @@
 #include "sights/PositionDirecte.hpp"
 
+#include "foundations/Angles.hpp"
 #include "sights/TheorieSolaire.hpp"
 
 #include <cmath>
@@ -8,11 +9,6 @@ namespace velmaris {
 namespace {
 
 /// Degrees and minutes of an angle without its sign; the minutes are rounded and don't carry.
-std::string DegresPointMinutes(double angle) {
-  const double degres = std::fabs(Fix(angle));
-  return Format(degres, "00") + "." + Format(std::fabs(angle - Fix(angle)) * 60, "00");
-}
-
 } // namespace
 
 SoleilDirect CalculeSoleilDirect(const Observation &observation, Horloge &horloge) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "foundations/Angles.hpp"
 #include "sights/Corrections.hpp"
 
 #include <cmath>
@@ -113,9 +114,7 @@ template <class Reel> void CalculeHauteurAzimut(Reel Dec, Reel AHL, Reel latitud
     y = Range<Reel>(Divise(std::sin(Dec * RAD) - std::sin(latitude * RAD) * std::sin(Hc * RAD),
                            std::cos(latitude * RAD) * std::cos(Hc * RAD)));
   });
-  Passe([&] {
-    azimut = Range<Reel>((std::atan(Divise(-double{y}, Racine(1.0 - double{y} * y))) + 2.0 * std::atan(1.0)) / RAD);
-  });
+  Passe([&] { azimut = Range<Reel>(ArcCosinus(y) / RAD); });
   if (AHL < 180.0) {
     Passe([&] { azimut = Range<Reel>(360.0 - azimut); });
   }

@@ -7,8 +7,6 @@
 namespace velmaris {
 namespace {
 
-double EnRadians(double degres) { return degres * kPiCourt / 180; }
-
 Point Sur(Point centre, double rayon, double angle) {
   return {centre.x + rayon * std::cos(angle), centre.y + rayon * std::sin(angle)};
 }
@@ -39,10 +37,10 @@ void DessineCadranAzimut(Surface &cadran, float azimut) {
     TracePoint(cadran, c, k, w / 3, w / 75);
   }
   cadran.epaisseur = 2;
-  const double a = EnRadians(azimut - 90.0);
+  const double a = EnRadiansCourt(azimut - 90.0);
   const Point pointe = Sur(c, w / 3.5, a);
   Ligne(cadran, c, pointe, kNoir);
-  TraceTete(cadran, pointe, Sur(c, 200, EnRadians(azimut - 75.0)), Sur(c, 200, EnRadians(azimut - 105.0)));
+  TraceTete(cadran, pointe, Sur(c, 200, EnRadiansCourt(azimut - 75.0)), Sur(c, 200, EnRadiansCourt(azimut - 105.0)));
   Ligne(cadran, c, Sur(c, -w / 3.5, a), kNoir);
   EcritEn(cadran, {c.x - 50, 0}, "N");
   EcritEn(cadran, {c.x - 50, w - 250}, "S");
@@ -61,7 +59,7 @@ void DessineCadranHauteur(Surface &cadran, float hauteur) {
   Ligne(cadran, {500, c.y}, c, kGris);
   Ligne(cadran, {c.x, 400}, c, kGris);
   cadran.epaisseur = 2;
-  const double a = EnRadians(hauteur - 180.0);
+  const double a = EnRadiansCourt(hauteur - 180.0);
   const Point pointe = Sur(c, w / 1.7, a);
   Ligne(cadran, c, pointe, kNoir);
   TraceTete(cadran, pointe, Sur(c, 500, a - 0.15), Sur(c, 500, a + 0.15));

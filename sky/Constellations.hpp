@@ -10,9 +10,6 @@
 
 namespace velmaris {
 
-/// Colour of the lines drawn on the sky's chart.
-inline constexpr Couleur kJaune = 0x00FFFF;
-
 /// Where the stars' marks are.
 struct ReperesEtoiles {
   std::span<const Point> coins; ///< upper left corner of each mark, by the number of its star; 0 stands for nothing

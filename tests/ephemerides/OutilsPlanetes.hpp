@@ -121,11 +121,4 @@ inline constexpr double kDemiDixiemeDec = 0.05;
 /// The planets of the sky, as the panel names them.
 inline constexpr const char *kNomsPlanetes[] = {"Venus", "Mars", "Jupiter", "SATURNE"};
 
-inline std::string EnCapitales(std::string nom) {
-  for (char &c : nom) {
-    c = static_cast<char>(std::toupper(static_cast<unsigned char>(c)));
-  }
-  return nom;
-}
-
 } // namespace velmaris::essais
