@@ -9,6 +9,7 @@
 #include "shell/carte/Objets.hpp"
 #include "shell/carte/Souris.hpp"
 #include "shell/ciel/EcranCiel.hpp"
+#include "shell/ciel/SourisCiel.hpp"
 #include "shell/droites/Droites.hpp"
 #include "shell/droites/Fichiers.hpp"
 #include "shell/droites/ModesDroite.hpp"

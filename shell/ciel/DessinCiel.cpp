@@ -15,7 +15,6 @@
 namespace velmaris {
 namespace {
 
-constexpr Couleur kVert = 0x00FF00;
 constexpr double kMarqueNavigable = 200;
 constexpr double kPointsNavigable = 14;
 constexpr double kSousEtoile = 100;              ///< from a star to its label
@@ -68,11 +67,11 @@ Point Projette(const CadreCiel &cadre, const AnglesCiel &angles) {
 
 /// A star of the short list stands out. Its new size counts from the next drawing on.
 void DistingueNavigable(const Ports &ports, Controle &marque, Controle &label) {
-  marque.bordure = kVert;
+  marque.bordure = kNavigable;
   marque.place.largeur = kMarqueNavigable;
   marque.place.hauteur = kMarqueNavigable;
-  label.couleur = kVert;
-  label.etiquette = std::to_string(kVert);
+  label.couleur = kNavigable;
+  label.etiquette = std::to_string(kNavigable);
   if (!label.gras || label.taille != kPointsNavigable) {
     label.gras = true;
     label.taille = kPointsNavigable;

@@ -7,6 +7,14 @@
 
 namespace velmaris {
 
+/// Border of a star of the short list, and the colour that its label keeps in its tag.
+inline constexpr Couleur kNavigable = 0x00FF00;
+
+/// Draws the whole sky anew for the present moment and the estimated position: places, colours and names of all
+/// bodies, the list of stars, constellations and scale. A body that has no place at that moment is hidden, and the
+/// others go on.
+void TraceCiel(Bureau &bureau);
+
 /// The chart as it stands: its size, its kind and how far it is turned.
 CadreCiel CadreDe(const Ciel &ciel);
 

@@ -1,7 +1,8 @@
+#include "shell/ciel/SourisCiel.hpp"
+
 #include "foundations/TexteNombre.hpp"
 #include "shell/bureau/Evenements.hpp"
 #include "shell/ciel/DessinCiel.hpp"
-#include "shell/ciel/EcranCiel.hpp"
 #include "shell/visee/Astres.hpp"
 #include "sky/Cadrans.hpp"
 
@@ -15,7 +16,6 @@ namespace {
 
 constexpr std::size_t kMessageAzimut = 21;
 constexpr std::size_t kMessageHauteur = 22;
-constexpr Couleur kNavigable = 0x00FF00; ///< in the tag of a star of the short list
 
 Point CentreDe(const Controle &astre) {
   return {astre.place.gauche + astre.place.largeur / 2, astre.place.haut + astre.place.hauteur / 2};
@@ -135,6 +135,8 @@ std::optional<double> Eloignement(Point de, Point vers, Direction direction) {
   return avance > 0 ? std::optional(avance * avance + ecart * ecart) : std::nullopt;
 }
 
+} // namespace
+
 void Survole(Bureau &bureau, const Controle &astre) {
   if (astre.nom == "Laet") {
     Laet_MouseMove(bureau, astre.indice);
@@ -146,8 +148,6 @@ void Survole(Bureau &bureau, const Controle &astre) {
     Lune_MouseMove(bureau);
   }
 }
-
-} // namespace
 
 void Picture1_MouseMove(Bureau &bureau, double x, double y) {
   MontreNom(bureau.ciel, "");

@@ -2,6 +2,7 @@
 
 #include "shell/bureau/Evenements.hpp"
 #include "shell/ciel/EcranCiel.hpp"
+#include "shell/ciel/SourisCiel.hpp"
 #include "shell/qt/ToileCiel.hpp"
 
 #include <QResizeEvent>
@@ -49,21 +50,9 @@ void FenetreCiel::Branche() {
   toile_.auMouvement = [this](bool /*gauche*/, double x, double y) {
     scene().Joue([&] { ciel::Picture1_MouseMove(bureau_, x, y); });
   };
-  toile_.auSurvol = [this](Controle &corps) { scene().Joue([&] { Survole(corps); }); };
+  toile_.auSurvol = [this](Controle &corps) { scene().Joue([&] { ciel::Survole(bureau_, corps); }); };
   toile_.auChoix = [this](Controle &corps) { scene().Joue([&] { ClicControle(bureau_, corps); }); };
   toile_.auTouche = [this](int touche) { return Touche(touche); };
-}
-
-void FenetreCiel::Survole(const Controle &corps) {
-  if (corps.nom == "Laet") {
-    ciel::Laet_MouseMove(bureau_, corps.indice);
-  } else if (corps.nom == "LaP") {
-    ciel::LaP_MouseMove(bureau_, corps.indice);
-  } else if (&corps == &bureau_.ciel.SOL) {
-    ciel::SOL_MouseMove(bureau_);
-  } else {
-    ciel::Lune_MouseMove(bureau_);
-  }
 }
 
 bool FenetreCiel::Touche(int touche) {

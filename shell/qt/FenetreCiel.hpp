@@ -20,7 +20,6 @@ protected:
 
 private:
   void Branche();
-  void Survole(const Controle &corps);
   bool Touche(int touche);
   void Redimensionne();
 

@@ -3,6 +3,7 @@
 #include "foundations/CelHor.hpp"
 #include "shell/Demarrage.hpp"
 #include "shell/bureau/Valeurs.hpp"
+#include "shell/ciel/DessinCiel.hpp"
 #include "shell/ciel/EcranCiel.hpp"
 #include "shell/visee/PanneauDirect.hpp"
 #include "sky/AstresCiel.hpp"

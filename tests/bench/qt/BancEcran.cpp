@@ -3,6 +3,7 @@
 #include "shell/bureau/Evenements.hpp"
 #include "shell/carte/Carte.hpp"
 #include "shell/ciel/EcranCiel.hpp"
+#include "shell/ciel/SourisCiel.hpp"
 #include "shell/droites/Droites.hpp"
 #include "shell/qt/Dialogue.hpp"
 #include "shell/qt/Fenetre.hpp"

@@ -5,7 +5,9 @@
 #include "ephemerides/pLANETE.hpp"
 #include "foundations/CelHor.hpp"
 #include "foundations/TexteNombre.hpp"
+#include "shell/ciel/DessinCiel.hpp"
 #include "shell/ciel/EcranCiel.hpp"
+#include "shell/ciel/SourisCiel.hpp"
 #include "sights/DroitePLA.hpp"
 #include "sights/PositionDirecte.hpp"
 
