@@ -4,10 +4,12 @@
 #include "foundations/Fichiers.hpp"
 #include "foundations/TexteNombre.hpp"
 #include "shell/bureau/Bureau.hpp"
+#include "shell/bureau/Evenements.hpp"
 #include "shell/bureau/Messages.hpp"
 
 #include <optional>
 #include <span>
+#include <utility>
 
 namespace velmaris {
 namespace {
@@ -34,7 +36,8 @@ bool AUnTexte(Genre genre) { return genre == Genre::Champ || genre == Genre::Lis
 
 bool AUneInfobulle(Genre genre) { return genre != Genre::Texte; }
 
-void AppliqueControle(std::span<const std::string_view> champs, const ListeControles &controles) {
+void AppliqueControle(std::span<const std::string_view> champs, const ListeControles &controles,
+                      const std::function<void(Controle &, std::string)> &poseTexte) {
   const std::string_view indice = champs.size() > kIndice ? SansBlancs(champs[kIndice]) : std::string_view();
   for (Controle *c : controles) {
     if (c->nom != champs[kNom] || (!indice.empty() && c->indice != Val(indice))) {
@@ -44,7 +47,7 @@ void AppliqueControle(std::span<const std::string_view> champs, const ListeContr
       c->legende = champs[kLegende];
     }
     if (champs.size() > kTexte && AUnTexte(c->genre)) {
-      c->texte = champs[kTexte];
+      poseTexte(*c, std::string(champs[kTexte]));
     }
     if (champs.size() > kInfobulle && AUneInfobulle(c->genre)) {
       c->infobulle = champs[kInfobulle];
@@ -54,29 +57,33 @@ void AppliqueControle(std::span<const std::string_view> champs, const ListeContr
 
 } // namespace
 
-void AppliqueLangue(std::string_view texte, std::string_view fenetre, const ListeControles &controles,
-                    TexteMsg &messages) {
-  PourChaqueLigneDe(texte, fenetre, [&](auto champs) {
+void PoseSeulTexte(Controle &controle, std::string texte) { controle.texte = std::move(texte); }
+
+void AppliqueLangue(std::string_view fichier, std::string_view fenetre, const ListeControles &controles,
+                    TexteMsg &messages, const std::function<void(Controle &, std::string)> &poseTexte) {
+  PourChaqueLigneDe(fichier, fenetre, [&](auto champs) {
     if (!LitMessage(champs, messages)) {
-      AppliqueControle(champs, controles);
+      AppliqueControle(champs, controles, poseTexte);
     }
   });
 }
 
 void ChargeLangue(Bureau &bureau, std::string_view fenetre) {
-  std::optional<std::string> texte;
-  Passe([&] { texte = LitFichier(TrouveFichier(bureau.dossiers, bureau.FichierLangue.substr(1))); });
+  std::optional<std::string> fichier;
+  Passe([&] { fichier = LitFichier(TrouveFichier(bureau.dossiers, bureau.FichierLangue.substr(1))); });
+  const auto pose = [&](Controle &c, std::string mots) { PoseTexte(bureau, c, std::move(mots)); };
+  const auto applique = [&] { AppliqueLangue(*fichier, fenetre, ControlesDe(bureau, fenetre), bureau.messages, pose); };
   Controle &jour = bureau.donnees.Label1;
-  if (texte && fenetre == kFenetreDonnees) {
+  if (fichier && fenetre == kFenetreDonnees) {
     // The plain caption gives way to weekdays; it is kept as the label's own text.
     jour.legende = jour.texte;
-    AppliqueLangue(*texte, fenetre, ControlesDe(bureau, fenetre), bureau.messages);
+    applique();
     jour.texte = jour.legende;
-  } else if (texte) {
-    if (fenetre == kFenetreCiel && texte->find("Form=" + std::string(kFenetreCiel)) != std::string::npos) {
-      bureau.ciel.marqueLangue = "Lang";
+  } else if (fichier) {
+    if (fenetre == kFenetreCiel) {
+      PourChaqueLigneDe(*fichier, fenetre, [&](auto) { bureau.ciel.marqueLangue = "Lang"; });
     }
-    AppliqueLangue(*texte, fenetre, ControlesDe(bureau, fenetre), bureau.messages);
+    applique();
   } else if (fenetre == kFenetreDonnees) {
     bureau.ports.boite({.texte = "Fichier absent.", .icone = Icone::Attention});
   }

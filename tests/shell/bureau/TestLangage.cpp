@@ -5,6 +5,7 @@
 #include "shell/bureau/Langage.hpp"
 
 #include <algorithm>
+#include <gmock/gmock.h>
 #include <set>
 
 namespace velmaris::essais {
@@ -126,6 +127,26 @@ TEST_F(Langue, ChangingTheLanguageKeepsWhatWasTypedAndReduced) {
   EXPECT_EQ(d.Label14.legende, "Sextant reading");
 }
 
+TEST_F(Langue, ChangingTheLanguageKeepsTheToolTipsThatTheProgramHasWritten) {
+  Demarre(); // with the chart over the sheet
+  TapeVisee();
+  Calcule();
+  d.Command15.infobulle = "Temps route = 03:00:00";
+  const std::string polygones = d.Label51.infobulle;
+  EXPECT_THAT(polygones, testing::HasSubstr(" + "));
+  ClicControle(bureau, d.Image10[1]);
+  EXPECT_EQ(d.Label51.infobulle, polygones);
+  EXPECT_EQ(d.Command15.infobulle, "Temps route = 03:00:00");
+  EXPECT_EQ(d.Command15.legende, "Reduce");
+}
+
+TEST_F(Langue, AFieldThatAFileFillsRunsItsChangeAtOnce) {
+  std::filesystem::create_directories(dossier.chemin() / "utilisateur");
+  Pose(dossier.chemin() / "utilisateur" / "FR.txt", "Form=Données\nText25\\\\12345\\\\\n");
+  Demarre();
+  EXPECT_EQ(d.Text25.texte, "12") << "cut to two characters";
+}
+
 TEST_F(Langue, TheFirstLabelExplainsItselfAfterEveryReading) {
   Demarre();
   EXPECT_EQ(d.Label1.infobulle, "Jour :");
@@ -195,6 +216,12 @@ TEST_F(Programme, TheFrenchFileHoldsTheBuiltInCaptions) {
   AppliqueLangue(LitFichier(std::filesystem::path(VELMARIS_DONNEES) / "FR.txt"), "Données", Liste(d), bureau.messages);
   std::size_t i = 0;
   PourChaque(d, [&](const LigneDonnees &, const Controle &c) { EXPECT_EQ(c.legende, avant[i++]) << c.nom; });
+}
+
+TEST_F(Programme, TheMeaningsOfErrorsAreThoseOfTheCore) {
+  for (std::size_t i = 0; i < kErreursNommees.size(); ++i) {
+    EXPECT_EQ(d.TexteSens[i].legende, SensErreur(kErreursNommees[i]));
+  }
 }
 
 TEST_F(Programme, AChangeOfLanguageLeavesTheWeekdayOnShow) {

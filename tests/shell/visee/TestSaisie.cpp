@@ -150,6 +150,23 @@ TEST_F(Programme, SecondsAndHundredthsChangeTheMarksOfTheReadingAndAreKeptAtOnce
   EXPECT_EQ(Reglage("Prec"), "0");
 }
 
+TEST_F(Programme, HundredthsKeepTheirMarkThroughLanguagesAndAfterARestart) {
+  DemarreSansCarte();
+  ClicOption(bureau, d.Option4[1]);
+  for (const std::size_t langue : {1U, 0U}) {
+    ClicControle(bureau, d.Image10[langue]);
+    EXPECT_EQ(d.Label68.legende, "'");
+    EXPECT_FALSE(d.Label9.visible);
+    EXPECT_TRUE(d.Label69.visible);
+  }
+  Bureau suivant;
+  Branche(suivant);
+  Donnees_Charge(suivant, {});
+  EXPECT_TRUE(suivant.donnees.Option4[1].choisi);
+  EXPECT_EQ(suivant.donnees.Label68.legende, "'") << "34.56', not 34.56''";
+  EXPECT_TRUE(suivant.donnees.Label69.visible);
+}
+
 TEST_F(Programme, AnArtificialHorizonShootsTheCentreAndWarnsInRed) {
   DemarreSansCarte();
   ClicOption(bureau, d.Option5[1]);
