@@ -1,7 +1,6 @@
 #include "foundations/Erreur.hpp"
 
 #include <cmath>
-#include <limits>
 
 namespace velmaris {
 

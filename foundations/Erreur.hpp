@@ -1,13 +1,16 @@
 #pragma once
 
+#include <array>
 #include <exception>
 #include <string_view>
 
 namespace velmaris {
 
-/// A run-time error of the number contract, known by its number.
-/// 5 invalid argument, 6 overflow, 9 subscript, 11 division by zero, 13 type mismatch,
+/// Numbers of the run-time errors: 5 invalid argument, 6 overflow, 9 subscript, 11 division by zero, 13 type mismatch,
 /// 52 bad file name, 53 file not found, 75 path or file access.
+inline constexpr std::array kErreursNommees{5, 6, 9, 11, 13, 52, 53, 75};
+
+/// A run-time error of the number contract, known by its number.
 struct Erreur : std::exception {
   explicit Erreur(int n) : numero(n) {}
   /// The French meaning of the number, as plain text.

@@ -63,11 +63,8 @@ void Sortie_Click(Bureau &bureau, int /*indice*/) {
 void Secours(Bureau &bureau, const std::exception &erreur) {
   const Donnees &d = bureau.donnees;
   const auto *numerotee = dynamic_cast<const Erreur *>(&erreur);
-  std::string texte = d.TexteErreur.legende;
-  if (numerotee != nullptr) {
-    texte += " " + std::to_string(numerotee->numero);
-  }
-  texte += "\n" + std::string(erreur.what()) + "\n\n";
+  const std::string erreurDite =
+      numerotee != nullptr ? MotsErreur(d, numerotee->numero) : d.TexteErreur.legende + "\n" + erreur.what();
   const auto fichier = bureau.dossiers.utilisateur / "secours.LoP";
   const bool conservee = Passe([&] {
     std::error_code refus;
@@ -77,8 +74,8 @@ void Secours(Bureau &bureau, const std::exception &erreur) {
   if (bureau.utilisateur.Modifie != 0) {
     Passe([&] { EcritFichier(bureau); });
   }
-  texte += conservee ? d.TexteSecours.legende + "\n" + fichier.string() : d.TexteSansSecours.legende;
-  bureau.ports.boite({.texte = texte, .icone = Icone::Erreur});
+  const std::string suite = conservee ? d.TexteSecours.legende + "\n" + fichier.string() : d.TexteSansSecours.legende;
+  bureau.ports.boite({.texte = erreurDite + "\n\n" + suite, .icone = Icone::Erreur});
 }
 
 } // namespace velmaris

@@ -1,7 +1,10 @@
 #include "shell/bureau/Bureau.hpp"
 
+#include "foundations/Erreur.hpp"
+#include "foundations/TexteNombre.hpp"
 #include "shell/bureau/Valeurs.hpp"
 
+#include <algorithm>
 #include <array>
 #include <utility>
 
@@ -56,6 +59,21 @@ Surface *SurfaceDe(Bureau &bureau, const Controle &controle) {
     }
   }
   return nullptr;
+}
+
+std::string MotsErreur(const Donnees &donnees, int numero) {
+  std::string mots = donnees.TexteErreur.legende + " " + std::to_string(numero);
+  const auto nommee = std::find(kErreursNommees.begin(), kErreursNommees.end(), numero);
+  if (nommee != kErreursNommees.end()) {
+    mots += "\n" + donnees.TexteSens[static_cast<std::size_t>(nommee - kErreursNommees.begin())].legende;
+  }
+  return mots;
+}
+
+int NombreRegle(const std::string &texte) {
+  int nombre = 0;
+  Passe([&] { nombre = Entier16(Val(texte)); });
+  return nombre;
 }
 
 std::string LitReglage(const Bureau &bureau, std::string_view cle, std::string_view defaut) {

@@ -125,6 +125,12 @@ std::vector<CadreFenetre *> FenetresLibres(Bureau &bureau);
 /// @return null for another control
 Surface *SurfaceDe(Bureau &bureau, const Controle &controle);
 
+/// A run-time error in the user's language: its number, and its meaning on a line of its own.
+std::string MotsErreur(const Donnees &donnees, int numero);
+
+/// A setting's text as a 16-bit integer, 0 for what isn't one.
+int NombreRegle(const std::string &texte);
+
 /// A setting of the program.
 std::string LitReglage(const Bureau &bureau, std::string_view cle, std::string_view defaut = {});
 

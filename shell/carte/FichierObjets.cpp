@@ -29,10 +29,8 @@ struct Arret {
 
 void Signale(Bureau &bureau, const Arret &arret, const fs::path &fichier) {
   const Utilisateur &u = bureau.utilisateur;
-  std::string texte = arret.numero == kHorsTable
-                          ? bureau.donnees.TexteErreur.legende + " " + std::to_string(arret.numero) + "\n" +
-                                std::string(SensErreur(arret.numero)) + "\n\n"
-                          : bureau.messages[kMessageIllisible] + "\n";
+  std::string texte = arret.numero == kHorsTable ? MotsErreur(bureau.donnees, arret.numero) + "\n\n"
+                                                 : bureau.messages[kMessageIllisible] + "\n";
   texte += fichier.string();
   if (arret.ligne > 0) {
     texte += "\n" + u.TexteLigne.legende + " " + std::to_string(arret.ligne);

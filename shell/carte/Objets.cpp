@@ -41,9 +41,7 @@ std::string EnUneLigne(std::string_view nom) {
 /// Tells why an entry can't be taken, and leads to the field.
 void Refuse(Bureau &bureau, int numero, const Controle &champ) {
   bureau.focus = &champ;
-  bureau.ports.boite({.texte = bureau.donnees.TexteErreur.legende + " " + std::to_string(numero) + "\n" +
-                               std::string(SensErreur(numero)),
-                      .icone = Icone::Attention});
+  bureau.ports.boite({.texte = MotsErreur(bureau.donnees, numero), .icone = Icone::Attention});
 }
 
 /// Takes what a field holds, or tells why it can't be taken.

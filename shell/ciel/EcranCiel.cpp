@@ -83,9 +83,7 @@ void Ciel_EcritLangue(Bureau &bureau) {
   try {
     EcritLangue(bureau, kFenetreCiel);
   } catch (const Erreur &erreur) {
-    bureau.ports.boite({.texte = bureau.donnees.TexteErreur.legende + " " + std::to_string(erreur.numero) + "\n" +
-                                 std::string(SensErreur(erreur.numero)),
-                        .icone = Icone::Attention});
+    bureau.ports.boite({.texte = MotsErreur(bureau.donnees, erreur.numero), .icone = Icone::Attention});
   }
 }
 

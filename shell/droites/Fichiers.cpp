@@ -98,9 +98,9 @@ void Command3_Click(Bureau &bureau, int /*indice*/) {
   try {
     SauveLoP(chemin, LitPanneau(d));
   } catch (const Erreur &erreur) {
-    bureau.ports.boite({.texte = d.TexteErreur.legende + " " + std::to_string(erreur.numero) + "\n" + erreur.what() +
-                                 "\n\n" + d.TexteNonEcrit.legende + "\n" + chemin.string(),
-                        .icone = Icone::Erreur});
+    bureau.ports.boite(
+        {.texte = MotsErreur(d, erreur.numero) + "\n\n" + d.TexteNonEcrit.legende + "\n" + chemin.string(),
+         .icone = Icone::Erreur});
   }
 }
 

@@ -11,13 +11,6 @@
 namespace velmaris {
 namespace {
 
-/// A stored number as a 16-bit integer, 0 for what isn't one.
-int Nombre(const std::string &texte) {
-  int nombre = 0;
-  Passe([&] { nombre = Entier16(Val(texte)); });
-  return nombre;
-}
-
 void Garde(Bureau &bureau, const std::vector<CleValeur> &cles) {
   bureau.valeurs->Ensemble([&] {
     for (const CleValeur &c : cles) {
@@ -43,7 +36,7 @@ DroiteLue LitDroite(Bureau &bureau, int ligne) {
   lue.textes = LitPanneau(bureau.donnees);
   const auto nombre = [&](const char *champ, int absent) {
     const std::string texte = LitChampDroite(bureau, champ, ligne);
-    return texte.empty() ? absent : Nombre(texte);
+    return texte.empty() ? absent : NombreRegle(texte);
   };
   bureau.valeurs->EnsembleLu([&] {
     lue.corps = nombre("AS(", 0);

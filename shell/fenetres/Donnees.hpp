@@ -1,5 +1,6 @@
 #pragma once
 
+#include "foundations/Erreur.hpp"
 #include "shell/fenetres/Controles.hpp"
 
 #include <array>
@@ -81,6 +82,7 @@ struct Donnees {
       TexteMagasinAbime;
   Controle TexteMagasinMuet, TexteSansSecours, TexteAttention, TexteTitreErreur, TexteTempsRoute, TexteSauve;
   Controle TexteCharge, TexteNonEcrit, TexteNonLu, TexteJournalMuet, TexteSansAstre;
+  std::array<Controle, kErreursNommees.size()> TexteSens; ///< meaning of each run-time error
 };
 
 /// Name of the main window, in language files and among the windows.

@@ -104,5 +104,24 @@ TEST_P(FinSurChampVide, KeepsTheSightAndARestartHasAllThatWasStored) {
 INSTANTIATE_TEST_SUITE_P(Corps, FinSurChampVide,
                          ::testing::Values(static_cast<int>(Corps::Planetes), static_cast<int>(Corps::Etoiles)));
 
+TEST_F(Programme, TheBoxOfAFailureSpeaksTheChosenLanguage) {
+  Demarre();
+  for (const auto &[langue, debut] : {std::pair<std::size_t, const char *>{1, "Run-time error 13\nType mismatch\n"},
+                                      {0, "Erreur d'exécution 13\nIncompatibilité de type\n"}}) {
+    ClicControle(bureau, d.Image10[langue]);
+    boites.clear();
+    Secours(bureau, Erreur(kSansValeur));
+    ASSERT_EQ(boites.size(), 1U);
+    EXPECT_THAT(boites[0].texte, ::testing::StartsWith(debut));
+  }
+}
+
+TEST_F(Programme, AFailureWithoutAMeaningTellsItsNumberAlone) {
+  Demarre();
+  Secours(bureau, Erreur(1));
+  ASSERT_EQ(boites.size(), 1U);
+  EXPECT_THAT(boites[0].texte, ::testing::StartsWith("Erreur d'exécution 1\n\n"));
+}
+
 } // namespace
 } // namespace velmaris::essais
