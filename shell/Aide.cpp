@@ -9,7 +9,6 @@
 namespace velmaris {
 namespace {
 
-constexpr int kF1 = 112;
 constexpr const char *kTypeAide = "application/vnd.ms-htmlhelp";
 
 bool Existe(const std::filesystem::path &fichier) {
@@ -19,7 +18,7 @@ bool Existe(const std::filesystem::path &fichier) {
 
 } // namespace
 
-void Command5_Click(Bureau &bureau, int /*indice*/) { Donnees_KeyDown(bureau, kF1); }
+void Command5_Click(Bureau &bureau, int /*indice*/) { Donnees_KeyDown(bureau, kToucheF1); }
 
 void OuvreAide(Bureau &bureau) {
   const bool anglais = bureau.FichierLangue == "\\EN.txt";

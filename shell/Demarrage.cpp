@@ -1,5 +1,6 @@
 #include "shell/Demarrage.hpp"
 
+#include "foundations/Erreur.hpp"
 #include "foundations/TexteNombre.hpp"
 #include "shell/Aide.hpp"
 #include "shell/Sortie.hpp"
@@ -27,11 +28,9 @@ constexpr int kPasTouches = 2000;  ///< of F9 and F10, on the slider
 
 bool EstVrai(const std::string &texte) { return texte == "True" || Val(texte) != 0; }
 
-int Nombre(const std::string &texte) { return static_cast<int>(std::clamp(Val(texte), -32768.0, 32767.0)); }
-
 void LitOptionsCarte(Bureau &bureau) {
   Donnees &d = bureau.donnees;
-  PoseValeur(bureau, d.Check2, Nombre(LitReglage(bureau, "C2", "1")));
+  PoseValeur(bureau, d.Check2, NombreRegle(LitReglage(bureau, "C2", "1")));
   if (EstVrai(LitReglage(bureau, "opCarte0", "False"))) {
     PoseOption(bureau, d.OpCarte[0]);
   }
@@ -39,7 +38,7 @@ void LitOptionsCarte(Bureau &bureau) {
     PoseOption(bureau, d.OpCarte[1]);
   }
   for (std::size_t i = 0; i < d.Check1.size(); ++i) {
-    PoseValeur(bureau, d.Check1[i], Nombre(LitReglage(bureau, "c1 " + std::to_string(i), "1")));
+    PoseValeur(bureau, d.Check1[i], NombreRegle(LitReglage(bureau, "c1 " + std::to_string(i), "1")));
   }
 }
 
@@ -66,6 +65,52 @@ void LitPosition(Bureau &bureau) {
   PoseTexte(bureau, d.Text11, LitReglage(bureau, "T11"));
   PoseOption(bureau, d.OptN[LitReglage(bureau, "Hem") == "Nord" ? 0 : 1]);
   PoseOption(bureau, d.OptE[LitReglage(bureau, "Lon") == "Est" ? 0 : 1]);
+}
+
+/// Does what a key stands for.
+/// @return whether it does something here
+bool Touche(Bureau &bureau, int code) {
+  constexpr int kF2 = kToucheF1 + 1;
+  constexpr int kF3 = kToucheF1 + 2;
+  constexpr int kF4 = kToucheF1 + 3;
+  constexpr int kF5 = kToucheF1 + 4; ///< F5 to F8, the four lines
+  constexpr int kF9 = kToucheF1 + 8;
+  constexpr int kF10 = kToucheF1 + 9;
+  Controle &zoom = bureau.donnees.HScroll1;
+  const auto deplace = [&](int pas) {
+    const int valeur = zoom.valeur + pas;
+    if (valeur >= zoom.minimum && valeur <= zoom.maximum) {
+      PoseValeur(bureau, zoom, valeur);
+    }
+  };
+  switch (code) {
+  case kToucheF1:
+    OuvreAide(bureau);
+    return true;
+  case kF2:
+    Sortie_Click(bureau, -1);
+    return true;
+  case kF3:
+    Command1_Click(bureau, -1);
+    return true;
+  case kF4:
+    OuvreCartes(bureau);
+    return true;
+  case kF5:
+  case kF5 + 1:
+  case kF5 + 2:
+  case kF5 + 3:
+    Droite_Click(bureau, code - kF5);
+    return true;
+  case kF9:
+    deplace(kPasTouches);
+    return true;
+  case kF10:
+    deplace(-kPasTouches);
+    return true;
+  default:
+    return false;
+  }
 }
 
 } // namespace
@@ -121,48 +166,9 @@ void Timer1_Tick(Bureau &bureau) {
 }
 
 bool Donnees_KeyDown(Bureau &bureau, int code) {
-  constexpr int kF1 = 112;
-  constexpr int kF2 = 113;
-  constexpr int kF3 = 114;
-  constexpr int kF4 = 115;
-  constexpr int kF5 = 116; ///< F5 to F8, the four lines
-  constexpr int kF9 = 120;
-  constexpr int kF10 = 121;
-  Controle &zoom = bureau.donnees.HScroll1;
-  const auto deplace = [&](int pas) {
-    const int valeur = zoom.valeur + pas;
-    if (valeur >= zoom.minimum && valeur <= zoom.maximum) {
-      PoseValeur(bureau, zoom, valeur);
-    }
-  };
-  switch (code) {
-  case kF1:
-    OuvreAide(bureau);
-    return true;
-  case kF2:
-    Sortie_Click(bureau, -1);
-    return true;
-  case kF3:
-    Command1_Click(bureau, -1);
-    return true;
-  case kF4:
-    OuvreCartes(bureau);
-    return true;
-  case kF5:
-  case kF5 + 1:
-  case kF5 + 2:
-  case kF5 + 3:
-    Droite_Click(bureau, code - kF5);
-    return true;
-  case kF9:
-    deplace(kPasTouches);
-    return true;
-  case kF10:
-    deplace(-kPasTouches);
-    return true;
-  default:
-    return false;
-  }
+  bool connue = true;
+  Passe([&] { connue = Touche(bureau, code); });
+  return connue;
 }
 
 void Image10_Click(Bureau &bureau, int indice) {

@@ -15,7 +15,11 @@ void Timer1_Tick(Bureau &bureau);
 /// Milliseconds between two ticks.
 inline constexpr int kPeriodeTimer1 = 1400;
 
-/// A key of the window, whatever control has the focus.
+/// Code of the key F1; the other function keys follow it.
+inline constexpr int kToucheF1 = 112;
+
+/// A key of the window, whatever control has the focus. What fails under it is passed over: the same failure under a
+/// button ends the program.
 /// @param code  112 for F1 to 121 for F10
 /// @return whether the key does something here
 bool Donnees_KeyDown(Bureau &bureau, int code);

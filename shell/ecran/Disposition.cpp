@@ -17,7 +17,7 @@ void Deplace(Controle &controle, double gauche, double haut) {
 
 /// A result as one small line.
 void Rapetisse(Controle &resultat, double haut) {
-  resultat.place = {480, haut, 1350, 285};
+  resultat.place = {480, haut, 1350, 300};
   resultat.taille = 10;
 }
 

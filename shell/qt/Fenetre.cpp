@@ -27,8 +27,6 @@
 namespace velmaris::qt {
 namespace {
 
-constexpr int kCodeF1 = 112;
-
 /// The notch of the zoom that a key stands for, 0 for none.
 int CranDeZoom(int touche) {
   switch (touche) {
@@ -148,7 +146,7 @@ bool Fenetre::Touche(QObject *objet, int touche) {
     return false;
   }
   bool prise = false;
-  scene_.Joue([&] { prise = Donnees_KeyDown(bureau_, kCodeF1 + touche - Qt::Key_F1); });
+  scene_.Joue([&] { prise = Donnees_KeyDown(bureau_, kToucheF1 + touche - Qt::Key_F1); });
   return prise;
 }
 

@@ -4,6 +4,8 @@
 #include "lines/FichierLoP.hpp"
 #include "shell/ecran/Disposition.hpp"
 
+#include <gmock/gmock.h>
+
 namespace velmaris::essais {
 namespace {
 
@@ -116,6 +118,21 @@ TEST_F(Programme, FunctionKeysWorkAndTheSliderStaysWithinItsLimits) {
   EXPECT_FALSE(Donnees_KeyDown(bureau, 122)) << "F11 means nothing";
 }
 
+TEST_F(Programme, AFailureUnderAFunctionKeyIsPassedOverAndUnderAButtonIsNot) {
+  DemarreSansCarte();
+  TapeVisee();
+  ClicOption(bureau, d.Option7[2]);
+  ChoisitLigne(bureau, d.Combo7, 0);
+  Tape(d.Text10, ""); // no height of eye: a planet's sight can't be reduced
+  ClicOption(bureau, d.Option1[0]);
+  EXPECT_TRUE(Donnees_KeyDown(bureau, kToucheF1 + 4)) << "stored";
+  EXPECT_TRUE(Donnees_KeyDown(bureau, kToucheF1 + 4)) << "shown, which fails";
+  EXPECT_TRUE(Donnees_KeyDown(bureau, kToucheF1 + 8));
+  EXPECT_EQ(bureau.feuille.Zoom, 400) << "what came before the failure stands";
+  EXPECT_THAT(boites, ::testing::IsEmpty());
+  EXPECT_EQ(NumeroErreur([this] { ClicControle(bureau, d.Droite[0]); }), 13);
+}
+
 TEST_F(Programme, TheTitleTellsLocalTimeGmtAndFile) {
   Demarre();
   Timer1_Tick(bureau);
@@ -170,6 +187,7 @@ TEST_F(Programme, ALowScreenTakesTheCompactLayout) {
   EXPECT_EQ(d.Label72.legende, "In\nAz");
   EXPECT_EQ(d.Affichage_Intercept.place.haut, 7000);
   EXPECT_EQ(d.Affichage_Azimuth.place.haut, 7300);
+  EXPECT_EQ(d.Affichage_Azimuth.place.hauteur, 300);
   EXPECT_EQ(d.Affichage_Intercept.taille, 10);
   EXPECT_EQ(d.Frame6.place.haut, 5800);
   EXPECT_EQ(d.Frame17.place.haut, 4050);
