@@ -90,6 +90,13 @@ void DroiteSuivante(Bureau &bureau) {
   Observation observation = LitPanneau(bureau.donnees);
   PrepareVisee(bureau, observation);
   ReduitVisee(bureau, observation);
+  // A planet or a star gives its name also where a reading of 0 has left the reduction undone.
+  const Donnees &d = bureau.donnees;
+  if (observation.corps == Corps::Planetes) {
+    bureau.NomAstre = d.Combo7.rang < 0 ? std::string() : d.Combo7.liste.at(static_cast<std::size_t>(d.Combo7.rang));
+  } else if (observation.corps == Corps::Etoiles) {
+    bureau.NomAstre = d.Combo6.texte;
+  }
   AjouDroites(bureau.feuille, bureau.image1, observation, bureau.visee);
 }
 

@@ -112,11 +112,7 @@ void Combo8_Click(Bureau &bureau, int /*indice*/) {
   }
 }
 
-void Combo7_Click(Bureau &bureau, int /*indice*/) {
-  if (bureau.donnees.Frame8.visible) {
-    PositionPlaneteLive(bureau);
-  }
-}
+void Combo7_Click(Bureau &bureau, int /*indice*/) { PositionPlaneteLive(bureau); }
 
 void ConseilBordLune(Bureau &bureau) {
   Donnees &d = bureau.donnees;

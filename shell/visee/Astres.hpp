@@ -20,7 +20,8 @@ void Combo6_Click(Bureau &bureau, int indice);
 /// A star chosen among the visible ones: it is chosen in the whole list too, which the reduction reads.
 void Combo8_Click(Bureau &bureau, int indice);
 
-/// A planet chosen: its place while the live panel is open.
+/// A planet chosen: its place on the live panel, open or not, unlike a star's; azimuth and computed height are those of
+/// now until a sight is reduced.
 void Combo7_Click(Bureau &bureau, int indice);
 
 /// Makes the captions of the lit limb of the Moon stand out; nothing while another body is chosen. It is advice: it

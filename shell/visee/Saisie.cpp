@@ -14,11 +14,13 @@ namespace {
 constexpr double kAnneeMax = 5000;
 
 /// Leaves a field: a value outside its limits empties it, else the text takes its form.
-void Quitte(Bureau &bureau, Controle &champ, double minimum, double maximum, std::string_view masque,
+/// @return whether the value was accepted
+bool Quitte(Bureau &bureau, Controle &champ, double minimum, double maximum, std::string_view masque,
             char signeDecimal = '.') {
   const double valeur = Val(champ.texte);
   const bool accepte = valeur >= minimum && valeur <= maximum;
   PoseTexte(bureau, champ, accepte ? Format(champ.texte, masque, signeDecimal) : std::string());
+  return accepte;
 }
 
 /// Leaves a field that holds a decimal comma.
@@ -130,11 +132,12 @@ void TDate_Quitte(Bureau &bureau, int indice) {
 }
 
 void Text3_Quitte(Bureau &bureau, int /*indice*/) {
-  QuitteMinutes(bureau, bureau.donnees.Text3);
-  ConseilBordLune(bureau);
+  if (QuitteMinutes(bureau, bureau.donnees.Text3)) {
+    ConseilBordLune(bureau);
+  }
 }
 
-void QuitteMinutes(Bureau &bureau, Controle &champ) { Quitte(bureau, champ, 0, 60, "00"); }
+bool QuitteMinutes(Bureau &bureau, Controle &champ) { return Quitte(bureau, champ, 0, 60, "00"); }
 
 void QuitteDegres(Bureau &bureau, Controle &champ) { Quitte(bureau, champ, 0, 180, "#00"); }
 

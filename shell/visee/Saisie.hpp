@@ -25,7 +25,8 @@ void Text10_Quitte(Bureau &bureau, int indice);
 void Text11_Quitte(Bureau &bureau, int indice);
 void Text13_Quitte(Bureau &bureau, int indice);
 /// Minutes and seconds: 0 to 60, as "00".
-void QuitteMinutes(Bureau &bureau, Controle &champ);
+/// @return whether the value was accepted
+bool QuitteMinutes(Bureau &bureau, Controle &champ);
 /// Degrees of the position: 0 to 180 for the latitude too, as "#00".
 void QuitteDegres(Bureau &bureau, Controle &champ);
 template <Controle Donnees::*Membre> void QuitteMinutes(Bureau &bureau, int /*indice*/) {

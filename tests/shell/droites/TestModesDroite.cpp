@@ -288,5 +288,21 @@ TEST_F(Modes, EveryBodyJoinsTheSheetUnderItsName) {
   }
 }
 
+TEST_F(Modes, AStarOrAPlanetOfReadingZeroJoinsTheSheetUnderItsOwnName) {
+  EcritReglage(bureau, "Combo6(1)", "128");
+  EcritReglage(bureau, "Combo7(1)", "1");
+  for (const char *champ : {"T12(1)", "T13(1)", "T25(1)"}) {
+    EcritReglage(bureau, champ, "00");
+  }
+  Montre(0);
+  const float intercept = bureau.visee.Intercept;
+  for (const auto &[corps, nom] : {std::pair<const char *, std::string>{"2", "Mars"}, {"3", d.Combo6.liste[128]}}) {
+    EcritReglage(bureau, "AS(1)", corps);
+    Montre(1);
+    EXPECT_EQ(bureau.NomAstre, nom);
+    EXPECT_EQ(bureau.visee.Intercept, intercept) << "not reduced";
+  }
+}
+
 } // namespace
 } // namespace velmaris::essais

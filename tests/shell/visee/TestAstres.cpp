@@ -218,6 +218,23 @@ TEST_F(Astres, TheLitLimbOfTheMoonStandsOutForTheHourAndTheDateOfTheFields) {
   EXPECT_EQ(Accents(), "000");
 }
 
+TEST_F(Astres, ARefusedHourEmptiesItsFieldAndAsksForNoAdvice) {
+  ClicOption(bureau, d.Option7[1]);
+  Tape(d.Text3, "16");
+  const std::string conseil = Accents();
+  const double heure = bureau.visee.HeureDecimale;
+  const double hauteur = bureau.lune.LuneHauteur;
+  for (const char *refusee : {"61", "-1"}) {
+    Tape(d.Text3, refusee);
+    EXPECT_EQ(d.Text3.texte, "");
+    EXPECT_EQ(Accents(), conseil);
+    EXPECT_EQ(bureau.visee.HeureDecimale, heure);
+    EXPECT_EQ(bureau.lune.LuneHauteur, hauteur);
+  }
+  Tape(d.Text3, "60");
+  EXPECT_NE(bureau.visee.HeureDecimale, heure) << "hour 60 is taken";
+}
+
 TEST_F(Astres, TheMoonLeavesTheLimbAsItWasAndAllowsBoth) {
   ClicOption(bureau, d.Option7[2]);
   EXPECT_TRUE(d.Option6[2].choisi);

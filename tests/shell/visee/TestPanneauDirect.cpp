@@ -203,7 +203,7 @@ TEST_F(PanneauDirect, WithoutDrawingLabelsAndDialsStay) {
   EXPECT_TRUE(bureau.picHE.traces.empty());
 }
 
-TEST_F(PanneauDirect, ChoosingAStarOrAPlanetShowsItAtOnceWhileTheModuleIsOpen) {
+TEST_F(PanneauDirect, ChoosingAStarShowsItWhileTheModuleIsOpenAndChoosingAPlanetAlways) {
   ClicOption(bureau, d.Option7[3]);
   ClicCase(bureau, d.Check3);
   ChoisitLigne(bureau, d.Combo6, 146);
@@ -220,11 +220,14 @@ TEST_F(PanneauDirect, ChoosingAStarOrAPlanetShowsItAtOnceWhileTheModuleIsOpen) {
   d.Frame8.visible = false;
   bureau.visee.Azimut = 12;
   Marque();
-  ChoisitLigne(bureau, d.Combo7, 1);
   ClicOption(bureau, d.Option7[3]);
   ChoisitLigne(bureau, d.Combo8, 1);
   EXPECT_EQ(d.Label64.legende, "before");
   EXPECT_EQ(bureau.visee.Azimut, 12.0F);
+  ClicOption(bureau, d.Option7[2]);
+  ChoisitLigne(bureau, d.Combo7, 1);
+  EXPECT_EQ(d.Label64.legende, "Mars");
+  EXPECT_EQ(bureau.visee.Azimut, CielPlanete().azimut);
 }
 
 TEST_F(PanneauDirect, AFailureLeavesLabelsAzimutAndHeightAsTheyWere) {
