@@ -125,8 +125,8 @@ void PU_Centre_Click(Bureau &bureau, int /*indice*/) {
   // Before a first drawing there is no scale to measure the move with: the whole world is drawn.
   if (feuille.EchelleX != 0.0F && feuille.EchelleY != 0.0F) {
     Origine centre = feuille.OrigineFeuille;
-    centre.latitude = Simple(centre.latitude - ((souris.ClicY - feuille.CentreY) / double(feuille.EchelleY)) / 60);
-    centre.longitude = Simple(centre.longitude - ((souris.ClicX - feuille.CentreX) / double(feuille.EchelleX)) / 60);
+    centre.latitude = Simple(centre.latitude - ((double{souris.ClicY} - feuille.CentreY) / feuille.EchelleY) / 60);
+    centre.longitude = Simple(centre.longitude - ((double{souris.ClicX} - feuille.CentreX) / feuille.EchelleX) / 60);
     feuille.OrigineFeuille = Enroule(centre);
   }
   Efface(bureau.image1);

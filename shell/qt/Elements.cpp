@@ -15,9 +15,9 @@ constexpr int kHautTitre = 20; ///< pixels of a module's title band
 
 } // namespace
 
-Carte::Carte(bool titre, QWidget *parent) : QFrame(parent), titre_(titre) {}
+Volet::Volet(bool titre, QWidget *parent) : QFrame(parent), titre_(titre) {}
 
-void Carte::paintEvent(QPaintEvent * /*event*/) {
+void Volet::paintEvent(QPaintEvent * /*event*/) {
   QPainter p(this);
   const Teintes &teintes = TeintesDe(EstNuit());
   p.fillRect(rect(), teintes.carte);
@@ -28,7 +28,7 @@ void Carte::paintEvent(QPaintEvent * /*event*/) {
   p.drawRect(rect().adjusted(0, 0, -1, -1));
 }
 
-void Carte::mousePressEvent(QMouseEvent *event) {
+void Volet::mousePressEvent(QMouseEvent *event) {
   if (event->button() == Qt::LeftButton && auClic) {
     auClic();
   }

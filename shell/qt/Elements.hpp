@@ -7,10 +7,10 @@
 
 namespace velmaris::qt {
 
-/// A module: a light card with a title band, that can be taken with the mouse.
-class Carte : public QFrame {
+/// A module: a light panel with a title band, that can be taken with the mouse.
+class Volet : public QFrame {
 public:
-  Carte(bool titre, QWidget *parent);
+  Volet(bool titre, QWidget *parent);
   std::function<void()> auClic;
 
 protected:

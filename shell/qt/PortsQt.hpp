@@ -12,7 +12,6 @@ class Scene;
 
 /// Answers what the core asks of the outside with the toolkit's boxes, dialogs and trash, and the system's names of
 /// days and months. With a system that names no language the program's own is taken.
-/// @param bureau  its ports are set
 /// Boxes that only tell something wait until the window is there, so that the program starts at once.
 class Boites {
 public:

@@ -64,9 +64,9 @@ void Rendu::Branche(QWidget *widget, Controle &c) {
   const auto clic = [this, &c] { Joue([this, &c] { ClicControle(bureau_, c); }); };
   if (auto *toile = dynamic_cast<Toile *>(widget)) {
     toile->auClic = clic;
-  } else if (auto *carte = dynamic_cast<Carte *>(widget)) {
-    carte->auClic = [carte, clic] {
-      carte->raise();
+  } else if (auto *volet = dynamic_cast<Volet *>(widget)) {
+    volet->auClic = [volet, clic] {
+      volet->raise();
       clic();
     };
   } else if (auto *figure = dynamic_cast<Figure *>(widget)) {

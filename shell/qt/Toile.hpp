@@ -62,6 +62,7 @@ public:
   std::function<void(bool, double, double)> auMouvement;
   /// A button goes down, after a move to that place: the left one or else the right one.
   std::function<void(bool, double, double)> auPresse;
+  /// The left button comes up.
   std::function<void()> auRelache;
   /// The wheel with the control key: notches, away from the user above 0.
   std::function<void(int)> auZoom;

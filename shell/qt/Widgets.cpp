@@ -250,7 +250,7 @@ QWidget *CreeWidget(Bureau &bureau, const Controle &c, QWidget *parent) {
     }
     return new Toile(*SurfaceDe(bureau, c), parent);
   case Genre::Cadre:
-    return new Carte(c.titre, parent);
+    return new Volet(c.titre, parent);
   case Genre::Groupe:
     return c.legende.empty() ? new QWidget(parent) : new QGroupBox(parent);
   case Genre::Etiquette:

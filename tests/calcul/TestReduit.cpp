@@ -178,7 +178,6 @@ TEST_F(Reduit, ABodyThatDoesNotExistLeavesTheSun) {
 class ReduitLangue : public Reduit {
 protected:
   void SetUp() override {
-    Calcul::SetUp();
     fs::create_directory(dossier_ / "bin");
     fs::copy_file(VELMARIS_CALCUL, dossier_ / "bin/velmaris-calcul");
     programme_ = (dossier_ / "bin/velmaris-calcul").string();

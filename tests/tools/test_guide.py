@@ -174,7 +174,7 @@ class LeGuide(unittest.TestCase):
             pages = self.guides[langue]
             dites = {mots for page in pages for mots in en_gras(page) + [normalise(t.texte) for t in page.titres]}
             texte = (RACINE / "data" / fichier).read_text("utf-8").split("Form=FSelect")[0]
-            boutons = re.findall(r"^(?:Option1|Option6|Option5|Command\d+|PU_\w+|Label50|Check\d)\\([^\\]+)", texte, re.M)
+            boutons = re.findall(r"^(?:Option1|Option6|Option5|Command\d+|PU_\w+|Label50|Check\d)\\([^\\\n]+)", texte, re.M)
             for legende in set(boutons) - {"\\"}:
                 nom = normalise(legende)
                 self.assertTrue(nom in dites or nom in HORS_GUIDE, f"{langue}: {legende} isn't told")

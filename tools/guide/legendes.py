@@ -41,7 +41,7 @@ def _du_programme(dossier):
 
 def legendes(racine, langue):
     """All captions that can be on the screen in a language."""
-    toutes = dict(_du_programme(racine / "shell"))
+    toutes = dict(_du_programme(racine / "shell" / "fenetres"))
     remplacees = dict(_du_fichier(racine / "data" / LANGAGE[langue]))
     toutes = {cle: mots for cle, mots in toutes.items() if (*cle[:2], "") not in remplacees}
     toutes.update(remplacees)
