@@ -10,8 +10,7 @@ OUTILS="$(dirname "$0")/../../tests/e2e"
 . "$OUTILS/outils_ciel.sh"
 openbox 2>/dev/null &
 sleep 0.5
-DOSSIER=$(mktemp -d)
-export HOME="$DOSSIER/marin" # what the file dialog shows
+export HOME="$TRAVAIL/marin" # what the file dialog shows
 mkdir -p "$HOME/visees"
 cp "$EXEMPLES"/*26*.LoP "$HOME/visees"
 rm -f "$SORTIE"/*.png
@@ -181,4 +180,3 @@ touche Escape
 attends boite_fermee "$TITRE"
 xdotool windowfocus --sync "$FENETRE"
 quitte images-quitter
-rm -rf "$DOSSIER"

@@ -9,7 +9,8 @@ sleep 0.5
 TAILLE=$(xdpyinfo | awk '/dimensions/ {print $2}' | cut -dx -f1)
 NOM=droites-$LANGUE-$TAILLE
 SAUVE="^(Sauvegarder le|Save the) "
-export HOME=$(mktemp -d)
+export HOME="$TRAVAIL/maison"
+mkdir "$HOME"
 
 stocke() { [ "$(reglage "$1")" = "$2" ]; }
 

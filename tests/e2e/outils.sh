@@ -2,8 +2,11 @@
 # Sourced by the journeys; needs DISPLAY, PROGRAMME (the binary) and IMAGES (where pictures go).
 set -euo pipefail
 
-export XDG_DATA_HOME="${XDG_DATA_HOME:-$(mktemp -d)}"
-export XDG_RUNTIME_DIR="${XDG_RUNTIME_DIR:-$(mktemp -d)}"
+# All that a journey leaves but its pictures lies here, and goes with it.
+TRAVAIL=$(mktemp -d)
+trap 'rm -rf "$TRAVAIL" || true' EXIT
+export XDG_DATA_HOME="${XDG_DATA_HOME:-$TRAVAIL/donnees}"
+export XDG_RUNTIME_DIR="${XDG_RUNTIME_DIR:-$TRAVAIL}"
 export LC_ALL="${LC_ALL:-C.UTF-8}" TZ="${TZ:-UTC}"
 MAGASIN="$XDG_DATA_HOME/velmaris/valeurs.sqlite"
 mkdir -p "$IMAGES" "$XDG_DATA_HOME"

@@ -12,6 +12,7 @@ PROGRAMME=$1 IMAGES=$2 EXEMPLES=$3
 DONNEES="$XDG_DATA_HOME/velmaris"
 mkdir -p "$DONNEES"
 mount -t tmpfs -o size=512k velmaris "$DONNEES" || { echo "no small disk can be mounted here"; exit 77; }
+trap 'umount -l "$DONNEES"; rm -rf "$TRAVAIL" || true' EXIT
 openbox 2>/dev/null &
 sleep 0.5
 export HOME="$XDG_DATA_HOME/maison"

@@ -30,10 +30,9 @@ ls "$XDG_DATA_HOME"/velmaris/valeurs.sqlite.abime-* >/dev/null || echoue "le mag
 attendu "un magasin neuf est en place" "$(reglage Lon)" Ouest
 
 # Without data files beside it: one box, and the built-in French.
-SEUL=$(mktemp -d); cp "$PROGRAMME" "$SEUL/velmaris"
+SEUL="$TRAVAIL/seul"; mkdir "$SEUL"; cp "$PROGRAMME" "$SEUL/velmaris"
 PROGRAMME="$SEUL/velmaris"
 demarre_apres_boite touches-sans-langue
 image touches-francais-interne
 quitte touches-fin
-rm -rf "$SEUL"
 echo "touches, modules et mauvais fichiers : bien"
