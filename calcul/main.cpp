@@ -5,7 +5,7 @@
 #include "calcul/Reduit.hpp"
 #include "ephemerides/TableEtoiles.hpp"
 #include "foundations/Erreur.hpp"
-#include "shell/bureau/Messages.hpp"
+#include "shell/bureau/FichierLangue.hpp"
 #include "shell/bureau/Ports.hpp"
 
 #include <CLI/CLI.hpp>

@@ -11,7 +11,7 @@
 #include "shell/ciel/EcranCiel.hpp"
 #include "shell/ciel/SourisCiel.hpp"
 #include "shell/droites/Droites.hpp"
-#include "shell/droites/Fichiers.hpp"
+#include "shell/droites/FichierVisee.hpp"
 #include "shell/droites/ModesDroite.hpp"
 #include "shell/droites/Route.hpp"
 #include "shell/ecran/ChoixFichier.hpp"

@@ -5,7 +5,7 @@
 #include "foundations/TexteNombre.hpp"
 #include "shell/bureau/Bureau.hpp"
 #include "shell/bureau/Evenements.hpp"
-#include "shell/bureau/Messages.hpp"
+#include "shell/bureau/FichierLangue.hpp"
 
 #include <optional>
 #include <span>

@@ -4,7 +4,7 @@
 #include "shell/bureau/Evenements.hpp"
 #include "shell/droites/ModesDroite.hpp"
 #include "shell/visee/Journal.hpp"
-#include "shell/visee/Reduction.hpp"
+#include "shell/visee/ReduitVisee.hpp"
 #include "shell/visee/Saisie.hpp"
 
 #include <algorithm>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "shell/bureau/Bureau.hpp"
-#include "shell/visee/Reduction.hpp"
+#include "shell/visee/ReduitVisee.hpp"
 
 #include <optional>
 

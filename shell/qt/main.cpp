@@ -1,6 +1,6 @@
 #include "shell/Demarrage.hpp"
 #include "shell/Sortie.hpp"
-#include "shell/droites/Fichiers.hpp"
+#include "shell/droites/FichierVisee.hpp"
 #include "shell/qt/Apparence.hpp"
 #include "shell/qt/Commande.hpp"
 #include "shell/qt/Fenetre.hpp"

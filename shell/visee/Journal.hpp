@@ -1,6 +1,6 @@
 #pragma once
 
-#include "shell/visee/Reduction.hpp"
+#include "shell/visee/ReduitVisee.hpp"
 
 namespace velmaris {
 

@@ -1,6 +1,6 @@
 #include "Attend.hpp"
+#include "shell/bureau/FichierLangue.hpp"
 #include "shell/bureau/Langage.hpp"
-#include "shell/bureau/Messages.hpp"
 #include "shell/fenetres/Donnees.hpp"
 
 using namespace velmaris;

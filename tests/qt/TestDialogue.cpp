@@ -1,6 +1,6 @@
 #include "OutilsFenetre.hpp"
 
-#include "shell/droites/Fichiers.hpp"
+#include "shell/droites/FichierVisee.hpp"
 #include "shell/ecran/ChoixFichier.hpp"
 #include "shell/qt/Dialogue.hpp"
 #include "shell/qt/PortsQt.hpp"

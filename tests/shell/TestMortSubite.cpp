@@ -3,7 +3,7 @@
 #include "foundations/Fichiers.hpp"
 #include "shell/carte/FichierObjets.hpp"
 #include "shell/carte/Objets.hpp"
-#include "shell/droites/Fichiers.hpp"
+#include "shell/droites/FichierVisee.hpp"
 #include "shell/visee/Journal.hpp"
 
 #include <algorithm>

@@ -6,7 +6,7 @@
 #include "shell/droites/MemoireDroites.hpp"
 #include "shell/droites/ModesDroite.hpp"
 #include "shell/droites/Route.hpp"
-#include "shell/visee/Reduction.hpp"
+#include "shell/visee/ReduitVisee.hpp"
 #include "tests/lines/OutilsFeuille.hpp"
 
 #include <array>

@@ -4,7 +4,7 @@
 
 #include "foundations/TexteNombre.hpp"
 #include "lines/FichierLoP.hpp"
-#include "shell/droites/Fichiers.hpp"
+#include "shell/droites/FichierVisee.hpp"
 
 namespace velmaris::essais {
 

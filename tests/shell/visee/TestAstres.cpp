@@ -2,7 +2,7 @@
 
 #include "foundations/Fichiers.hpp"
 #include "lines/FichierLoP.hpp"
-#include "shell/droites/Fichiers.hpp"
+#include "shell/droites/FichierVisee.hpp"
 #include "sights/DroiteLUN.hpp"
 #include "sights/DroitePLA.hpp"
 #include "sights/DroiteSTAR.hpp"

@@ -2,7 +2,7 @@
 
 #include "foundations/Fichiers.hpp"
 #include "shell/visee/Journal.hpp"
-#include "shell/visee/Reduction.hpp"
+#include "shell/visee/ReduitVisee.hpp"
 
 #include <gmock/gmock.h>
 

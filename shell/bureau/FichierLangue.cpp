@@ -1,4 +1,4 @@
-#include "shell/bureau/Messages.hpp"
+#include "shell/bureau/FichierLangue.hpp"
 
 #include "foundations/Erreur.hpp"
 #include "foundations/Fichiers.hpp"

@@ -1,4 +1,4 @@
-#include "shell/visee/Reduction.hpp"
+#include "shell/visee/ReduitVisee.hpp"
 
 #include "foundations/Erreur.hpp"
 #include "shell/visee/Saisie.hpp"

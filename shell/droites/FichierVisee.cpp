@@ -1,4 +1,4 @@
-#include "shell/droites/Fichiers.hpp"
+#include "shell/droites/FichierVisee.hpp"
 
 #include "foundations/Erreur.hpp"
 #include "foundations/Fichiers.hpp"
@@ -11,7 +11,7 @@
 #include "shell/ecran/ChoixFichier.hpp"
 #include "shell/ecran/Modules.hpp"
 #include "shell/visee/Astres.hpp"
-#include "shell/visee/Reduction.hpp"
+#include "shell/visee/ReduitVisee.hpp"
 #include "shell/visee/Saisie.hpp"
 
 #include <optional>
