@@ -63,7 +63,7 @@ Surface *SurfaceDe(Bureau &bureau, const Controle &controle) {
 
 std::string MotsErreur(const Donnees &donnees, int numero) {
   std::string mots = donnees.TexteErreur.legende + " " + std::to_string(numero);
-  const auto nommee = std::find(kErreursNommees.begin(), kErreursNommees.end(), numero);
+  const auto *const nommee = std::find(kErreursNommees.begin(), kErreursNommees.end(), numero);
   if (nommee != kErreursNommees.end()) {
     mots += "\n" + donnees.TexteSens[static_cast<std::size_t>(nommee - kErreursNommees.begin())].legende;
   }
