@@ -19,9 +19,11 @@ void TraceTete(Surface &cadran, Point pointe, Point a, Point b) {
 }
 
 /// A point of the scale, on a circle whose twelfths count from the foot against the clock.
-void TracePoint(Surface &cadran, Point centre, double douzieme, double rayonEchelle, double rayon) {
+/// @param part  of the dial's width, that the circle's radius is
+void TracePoint(Surface &cadran, Point centre, double douzieme, double part, double rayon) {
   const double angle = kDeuxPiCourt * douzieme / 12;
-  Cercle(cadran, {centre.x + std::sin(angle) * rayonEchelle, centre.y + std::cos(angle) * rayonEchelle}, rayon, kGris);
+  const double w = cadran.largeur;
+  Cercle(cadran, {centre.x + std::sin(angle) * w / part, centre.y + std::cos(angle) * w / part}, rayon, kGris);
 }
 
 } // namespace
@@ -34,7 +36,7 @@ void DessineCadranAzimut(Surface &cadran, float azimut) {
   Ligne(cadran, {350, c.y}, {w - 300, c.y}, kGris);
   Ligne(cadran, {c.x, 300}, {c.x, w - 400}, kGris);
   for (int k = 0; k <= 12; ++k) {
-    TracePoint(cadran, c, k, w / 3, w / 75);
+    TracePoint(cadran, c, k, 3, w / 75);
   }
   cadran.epaisseur = 2;
   const double a = EnRadiansCourt(azimut - 90.0);
@@ -54,7 +56,7 @@ void DessineCadranHauteur(Surface &cadran, float hauteur) {
   Efface(cadran);
   cadran.epaisseur = 1;
   for (int demi = 12; demi <= 18; ++demi) {
-    TracePoint(cadran, c, demi / 2.0, w / 1.5, 30);
+    TracePoint(cadran, c, demi / 2.0, 1.5, 30);
   }
   Ligne(cadran, {500, c.y}, c, kGris);
   Ligne(cadran, {c.x, 400}, c, kGris);
