@@ -301,6 +301,7 @@ class DossierInterdit : public AvecFichiers {
 protected:
   void SetUp() override {
     fs::permissions(dossier.chemin(), fs::perms(0755));
+    LanguesSeules(); // the source may lie in a home that no other user can read
     TapeVisee();
     Calcule();
     Garde(0);
@@ -327,6 +328,7 @@ TEST_F(DossierInterdit, AllThatIsThereIsReadEachRefusalIsToldOnceAndNothingChang
     ASSERT_TRUE(droits.reussi);
     Bureau autre;
     Branche(autre);
+    autre.dossiers.programme = bureau.dossiers.programme;
     Donnees_Charge(autre, {});
     Donnees &n = autre.donnees;
     n.Check2.valeur = 0;
