@@ -1,5 +1,6 @@
 #!/bin/bash
 # Start to the first window, and resident memory with it open: the program, and the toolkit's bare window beside it.
+# The screen must outlive its last client (-noreset): between two starts there is none.
 # Use, where a screen is: depart.sh velmaris velmaris-bench-nue. Prints "name milliseconds kilobytes", the best of nine.
 set -euo pipefail
 export LC_ALL=C.UTF-8 XDG_DATA_HOME XDG_RUNTIME_DIR
