@@ -45,6 +45,26 @@ TEST(OneTurn, AnyAngleEndsBetweenZeroAndOneTurn) {
   }
 }
 
+TEST(OneTurn, InDegreesExactly360StaysAndSoDoesWhatLiesWithin) {
+  for (const double angle : {0.0, 1E-300, 180.0, 360.0}) {
+    EXPECT_EQ(UnTourDegres(angle), angle);
+  }
+}
+
+TEST(OneTurn, InDegreesWholeTurnsGoAsByAddingOrTakingOneAtATime) {
+  EXPECT_EQ(UnTourDegres(720), 360);
+  EXPECT_EQ(UnTourDegres(-360), 0);
+  EXPECT_EQ(UnTourDegres(-0.25), 359.75);
+  EXPECT_EQ(UnTourDegres(360.25), 0.25);
+  EXPECT_EQ(UnTourDegres(36000.0 * 360 + 90.5), 90.5);
+  EXPECT_EQ(UnTourDegres(-36000.0 * 360 - 90.5), 269.5);
+}
+
+TEST(ShortPi, RadiansAreTheProductBeforeTheQuotient) {
+  EXPECT_EQ(EnRadiansCourt(180), 3.141592653589);
+  EXPECT_EQ(EnRadiansCourt(-52.5), -52.5 * 3.141592653589 / 180);
+}
+
 TEST(QuadrantRule, EachQuadrantAddsItsShortLiteral) {
   EXPECT_EQ(ArcTanQuadrant(1, 1), std::atan(1.0));
   EXPECT_EQ(ArcTanQuadrant(1, -1), std::atan(-1.0) + kPiAttendu);
@@ -82,6 +102,15 @@ TEST(ArcCosine, TheEndsAndWhatLiesBeyondGiveTheSentinel999) {
     EXPECT_EQ(ArcCosDouble(x), 999.0) << x;
     EXPECT_EQ(ArcCosVal(x), 999.0) << x;
   }
+}
+
+TEST(ArcCosine, WithoutTheSentinelItsFailuresPassToTheCaller) {
+  for (const double x : {-0.999, -0.5, 0.0, 0.3, 0.999}) {
+    EXPECT_NEAR(ArcCosinus(x), std::acos(x), 1E-14);
+  }
+  EXPECT_EQ(NumeroErreur([] { ArcCosinus(1); }), 11);
+  EXPECT_EQ(NumeroErreur([] { ArcCosinus(-1); }), 11);
+  EXPECT_EQ(NumeroErreur([] { ArcCosinus(1.5); }), 5);
 }
 
 TEST(ArcCosine, JustInsideTheEndsItIsAnAngle) {
@@ -156,6 +185,14 @@ TEST(Angles, AFieldThatIsZeroHasNoSign) {
 }
 
 TEST(Angles, TheSecondsRoundUpToSixtyWithoutACarry) { EXPECT_EQ(DegresEnTexte(12.99999), "12°59'60''"); }
+
+TEST(Angles, DegreesAndMinutesAroundAPointHaveNoSign) {
+  EXPECT_EQ(DegresPointMinutes(5.5), "05.30");
+  EXPECT_EQ(DegresPointMinutes(-5.5), "05.30");
+  EXPECT_EQ(DegresPointMinutes(-0.25), "00.15");
+  EXPECT_EQ(DegresPointMinutes(123.0), "123.00");
+  EXPECT_EQ(DegresPointMinutes(9.9999), "09.60") << "the minutes round up without a carry";
+}
 
 TEST(Angles, AnHourTextLeavesItsArgumentInHours) {
   double x = 187.5;

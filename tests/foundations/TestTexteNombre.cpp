@@ -252,6 +252,11 @@ TEST(TextPieces, CountAndCutByCharacterNotByByte) {
   EXPECT_EQ(Droite("", 2), "");
 }
 
+TEST(TextPieces, CapitalsAreThoseOfTheLettersAToZAlone) {
+  EXPECT_EQ(EnCapitales("Jupiter 2é"), "JUPITER 2é");
+  EXPECT_EQ(EnCapitales(""), "");
+}
+
 TEST(TextPieces, BlanksGoAtBothEndsOnly) {
   EXPECT_EQ(SansBlancs("  a b\t"), "a b");
   EXPECT_EQ(SansBlancs("   "), "");
