@@ -74,7 +74,7 @@ void TraceVilles(const Feuille &feuille, Surface &surface, std::string_view octe
     }
     surface.encre = classe < kClasseCouleur ? kGrandeVille : kPetiteVille;
     if (cerclee || feuille.Zoom < kZoomNoms) {
-      Ecrit(surface, std::string(ville.nom));
+      Ecrit(surface, std::string(ville.nom), {GenreTexte::Ville, static_cast<int>(classe)});
     }
   });
 }
@@ -84,9 +84,7 @@ void TraceObjets(const Feuille &feuille, Surface &surface, std::string_view octe
     const DetailsObjet objet = DecoupeObjet(ligne, blanc);
     Cercle(surface, surface.position, Val(objet.rayon) * feuille.EchelleY, kObjet);
     surface.encre = kObjet;
-    surface.insistant = true;
-    Ecrit(surface, std::string(objet.nom));
-    surface.insistant = false;
+    Ecrit(surface, std::string(objet.nom), {GenreTexte::Objet});
   });
   surface.encre = kNoir;
 }

@@ -14,8 +14,8 @@ namespace velmaris {
 /// first
 void TraceVilles(const Feuille &feuille, Surface &surface, std::string_view octets);
 
-/// Draws the user's objects that lie on the surface, each with its circle and its name, to which the names of cities
-/// give way. Leaves the surface's text colour black.
+/// Draws the user's objects that lie on the surface, each with its circle and its name. Leaves the surface's text
+/// colour black.
 /// @param octets  their file
 /// @throws Erreur 5 at a line whose fields can't be found, 11 while there is no scale; the surface keeps what came
 /// first

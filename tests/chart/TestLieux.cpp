@@ -135,14 +135,14 @@ TEST_F(Lieux, AnObjectHasItsCircleOfMilesAndItsNameInGreenAndLeavesTheInkBlack) 
   EXPECT_EQ(surface.encre, kNoir);
 }
 
-TEST_F(Lieux, NamesOfCitiesGiveWayToThoseOfObjects) {
+TEST_F(Lieux, TheRecordTellsNamesOfCitiesByTheirClassFromThoseOfObjects) {
   Villes("+45.50 +006.00 1 V Une");
   Objets("+45.50 +006.00 3 Ar-Men");
-  Villes("+45.40 +006.00 1 V Deux");
+  Villes("+45.40 +006.00 5 V Deux");
   ASSERT_EQ(Textes().size(), 3U);
-  EXPECT_FALSE(Textes()[0].insistant);
-  EXPECT_TRUE(Textes()[1].insistant);
-  EXPECT_FALSE(Textes()[2].insistant);
+  EXPECT_EQ(Textes()[0].role, (RoleTexte{GenreTexte::Ville, 1}));
+  EXPECT_EQ(Textes()[1].role, RoleTexte{GenreTexte::Objet});
+  EXPECT_EQ(Textes()[2].role, (RoleTexte{GenreTexte::Ville, 5}));
 }
 
 TEST_F(Lieux, ObjectsBearTheirNamesAtEveryZoom) {

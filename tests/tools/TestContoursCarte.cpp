@@ -148,10 +148,11 @@ TEST_P(Outlines, NoSideRunsAlongTheAntimeridianOrAcrossTheChart) {
   }
 }
 
-TEST(ChartOutlines, RingsCloseOrEndAtTheAntimeridian) {
+TEST(ChartOutlines, RingsCloseOrEndAtTheAntimeridianAndALoneIsletIsAStroke) {
   for (const char *nom : {"Contours.Asc", "Totale.asc", "Iles.Asc", "Lacs.Asc"}) {
     for (const Morceau &m : Lu(nom).morceaux) {
-      EXPECT_TRUE(EstFerme(m) || (AuMeridien(m.front()) && AuMeridien(m.back())))
+      const bool trait = nom == std::string("Iles.Asc") && m.size() == 2 && Milles(m.front(), m.back()) < 1.5;
+      EXPECT_TRUE(EstFerme(m) || trait || (AuMeridien(m.front()) && AuMeridien(m.back())))
           << nom << " " << m.front().lat << " " << m.front().lon;
     }
   }
@@ -159,7 +160,7 @@ TEST(ChartOutlines, RingsCloseOrEndAtTheAntimeridian) {
 
 TEST(ChartOutlines, NoSideIsLongerThanTheMarginThatASmallSheetDrawsAroundIt) {
   for (const char *nom : {"Contours.Asc", "Totale.asc", "Iles.Asc", "Lacs.Asc", "Rivieres.Asc"}) {
-    EXPECT_THAT(Lu(nom).PlusLongCote(), Le(61.0)) << nom;
+    EXPECT_THAT(Lu(nom).PlusLongCote(), Le(25.0)) << nom;
   }
 }
 
@@ -180,6 +181,44 @@ TEST(ChartOutlines, SixteenGreatLandsAndThousandsOfIslands) {
   EXPECT_THAT(Lu("Contours.Asc").morceaux.size(), Le(20U)) << "a land that passes 180 degrees makes two pieces";
   EXPECT_THAT(Lu("Iles.Asc").morceaux.size(), Ge(4800U));
   EXPECT_THAT(Lu("Lacs.Asc").morceaux.size(), Ge(4000U));
+}
+
+TEST(ChartOutlines, RocksAndIslandsThatStandAloneAreDrawn) {
+  const std::vector<std::pair<const char *, Lieu>> seules = {{"Mellish", {-17.42, 155.86}},
+                                                             {"Alijos", {24.96, -115.73}},
+                                                             {"Bellona", {-21.42, 158.86}},
+                                                             {"Rose", {-14.55, -168.15}},
+                                                             {"Saumarez", {-21.85, 153.65}},
+                                                             {"Sumisu-jima", {31.44, 140.05}},
+                                                             {"Kenn", {-21.25, 155.75}},
+                                                             {"Dokdo", {37.24, 131.87}},
+                                                             {"Marotiri", {-27.92, -143.43}},
+                                                             {"Morant", {17.42, -75.98}},
+                                                             {"Jarak", {3.98, 100.10}},
+                                                             {"Funk", {49.755, -53.18}},
+                                                             {"Hormigas de Afuera", {-11.96, -77.78}},
+                                                             {"Bogskär", {59.505, 20.35}},
+                                                             {"Farsi", {27.99, 50.17}},
+                                                             {"Aruah", {2.87, 100.57}},
+                                                             {"Minquiers", {48.97, -2.06}},
+                                                             {"Alacranes", {22.40, -89.68}},
+                                                             {"Zembra", {37.13, 10.81}},
+                                                             {"Alta Vela", {17.473, -71.637}},
+                                                             {"Berlengas", {39.415, -9.51}},
+                                                             {"Planier", {43.199, 5.23}}};
+  for (const auto &[nom, lieu] : seules) {
+    EXPECT_THAT(Lu("Iles.Asc").Distance(lieu), Le(4.5)) << nom;
+  }
+  EXPECT_THAT(Lu("Iles.Asc").Distance({43.199, 5.23}), Le(0.5)) << "Planier, not the coast";
+}
+
+TEST(ChartOutlines, TheCoarseFileKeepsTheHornAndHatteras) {
+  EXPECT_THAT(Lu("Totale.asc").Distance({-55.98, -67.27}), Le(3.0));
+  EXPECT_THAT(Lu("Totale.asc").Distance({35.23, -75.53}), Le(3.0));
+}
+
+TEST(ChartOutlines, TheLoireReachesTheSea) {
+  EXPECT_THAT(Lu("Rivieres.Asc").Distance({47.285, -1.959}), Le(1.0)) << "where the coast's estuary begins";
 }
 
 /// Capes and points where the coast is known to the mile.

@@ -153,6 +153,42 @@ TEST(ChartTowns, HaveTheGreatPortsAndYachtHarbours) {
   }
 }
 
+TEST(ChartTowns, BearTheNamesThatSailorsUse) {
+  const std::vector<std::pair<const char *, Lieu>> connues = {
+      {"Mersin", {36.81, 34.64}},    {"Larnaca", {34.92, 33.62}}, {"Trincomalee", {8.58, 81.23}},
+      {"Sanliurfa", {37.17, 38.79}}, {"Manta", {-0.96, -80.71}},  {"Kollam", {8.88, 76.60}},
+      {"Vung Tàu", {10.35, 107.08}}, {"Merca", {1.72, 44.77}},    {"Saint John", {45.27, -66.07}},
+      {"Hamadan", {34.80, 48.51}}};
+  for (const auto &[nom, lieu] : connues) {
+    const std::optional<double> ecart = LesVilles().Distance(nom, lieu);
+    ASSERT_TRUE(ecart) << nom;
+    EXPECT_THAT(*ecart, Le(4.0)) << nom;
+  }
+  for (const char *nom : {"Myrte", "Citium", "Trinquemalay", "Édesse", "Manta Ecuador", "Pasragad Branch", "Quilon",
+                          "District d'Alwar", "Taitung City"}) {
+    EXPECT_FALSE(LesVilles().Distance(nom, {})) << nom;
+  }
+}
+
+TEST(ChartTowns, HaveThePortsOfEveryOceanAndTheGreatOnesOfTheNorthSea) {
+  const std::vector<std::pair<const char *, Lieu>> ports = {
+      {"Callao", {-12.06, -77.14}},         {"Santos", {-23.96, -46.33}},  {"Fremantle", {-32.06, 115.75}},
+      {"Kodiak", {57.79, -152.41}},         {"Astoria", {46.19, -123.83}}, {"Prince Rupert", {54.32, -130.32}},
+      {"Bluff", {-46.60, 168.33}},          {"Corinto", {12.48, -87.17}},  {"Le Marin", {14.47, -60.87}},
+      {"English Harbour", {17.01, -61.76}}, {"Rotterdam", {51.92, 4.48}},  {"Anvers", {51.22, 4.40}}};
+  for (const auto &[nom, lieu] : ports) {
+    const std::optional<double> ecart = LesVilles().Distance(nom, lieu);
+    ASSERT_TRUE(ecart) << nom;
+    EXPECT_THAT(*ecart, Le(2.0)) << nom;
+  }
+  for (const Ville &v : LesVilles().villes) {
+    if (v.nom == "Rotterdam" || v.nom == "Anvers") {
+      EXPECT_EQ(v.classe, 2) << v.nom;
+      EXPECT_EQ(v.lettre, 'P') << v.nom;
+    }
+  }
+}
+
 /// Towns of the list of ports and capitals stand closer; all others keep the distance of their class.
 TEST(ChartTowns, KeepTheDistanceOfTheirClass) {
   const std::map<int, double> espaces = {{3, 60}, {4, 30}, {5, 18}, {6, 10}};

@@ -11,6 +11,7 @@ sys.path.insert(0, str(RACINE / "tools" / "donnees_carte"))
 
 import numpy as np  # noqa: E402
 
+from cotes import SEULE, TRAIT, Terre, jusqu_a_la_cote, perdues, systemes, trait  # noqa: E402
 from croisements import cherche  # noqa: E402
 from fichiers import compte, coupe_antimeridien, sans_long_cote, texte  # noqa: E402
 from geometrie import aire, deroule, distance, ecarts, vecteurs  # noqa: E402
@@ -173,16 +174,74 @@ class Antimeridien(unittest.TestCase):
 
 class Fichier(unittest.TestCase):
     def test_points_and_cuts(self):
-        lignes = [np.array([(0, 0), (0, 0.5)], float), np.array([(-180, -90), (-179, -90)], float)]
-        attendu = "0.5000000 0.3535534\n0.5000000 0.3555176\n2 0\n0.0000001 0.0000000\n0.0027778 0.0000000\n"
+        lignes = [np.array([(0, 0), (0, 0.25)], float), np.array([(-180, -90), (-179, -90)], float)]
+        attendu = "0.5000000 0.3535534\n0.5000000 0.3545355\n2 0\n0.0000001 0.0000000\n0.0027778 0.0000000\n"
         self.assertEqual(texte(lignes), attendu)
         self.assertEqual(compte(lignes), attendu.count("\n"))
 
 
     def test_points_are_put_on_long_sides_where_the_chart_draws_them(self):
         morceau = np.array([(0, 60), (3, 60), (3, 62.5), (3.1, 62.5)], float)
-        attendu = [(0, 60), (1.5, 60), (3, 60), (3, 60 + 2.5 / 3), (3, 60 + 5 / 3), (3, 62.5), (3.1, 62.5)]
+        attendu = [(x, 60) for x in np.linspace(0, 3, 5)]  # 90 miles, in four
+        attendu += [(3, y) for y in np.linspace(60, 62.5, 8)[1:]] + [(3.1, 62.5)]  # 150 miles, in seven
         np.testing.assert_allclose(sans_long_cote(morceau), attendu, atol=1e-12)
+
+
+def ile(lon, lat, milles):
+    """A round island of so many miles across."""
+    angles = np.linspace(0, 2 * np.pi, 25)
+    rayon = milles / 120
+    points = np.column_stack((lon + rayon * np.cos(angles) / np.cos(np.radians(lat)), lat + rayon * np.sin(angles)))
+    return np.concatenate((points[:-1], points[:1]))
+
+
+class IlesSeules(unittest.TestCase):
+    def test_an_island_farther_than_five_miles_from_anything_drawn_is_drawn(self):
+        dessinee = ile(10, 48, 4)
+        loin, pres = ile(10, 48 + (2 + SEULE + 0.5) / 60, 0.5), ile(10, 48 + (2 + SEULE - 0.5) / 60, 0.5)
+        self.assertEqual(len(perdues([loin], [dessinee])), 1)
+        self.assertEqual(perdues([pres], [dessinee]), [])
+
+    def test_of_two_neighbours_the_larger_is_drawn_and_counts_for_the_other(self):
+        grande, petite = ile(10, 48, 2), ile(10, 48 + 3 / 60, 0.5)
+        trouvees = perdues([petite, grande], [ile(20, 48, 4)])
+        self.assertEqual(len(trouvees), 1)
+        self.assertTrue(np.array_equal(trouvees[0].ligne, grande))
+
+    def test_also_across_the_antimeridian_and_south_of_the_equator(self):
+        self.assertEqual(perdues([ile(-179.98, -20, 0.5)], [ile(179.98, -20, 0.5)]), [])
+        self.assertEqual(len(perdues([ile(-179.8, -20, 0.5)], [ile(179.8, -20, 0.5)])), 1)
+
+    def test_a_small_one_is_a_stroke_of_500_metres_at_least_about_its_middle(self):
+        for milles in (0.001, 0.05, 0.2, 1.0, TRAIT - 0.1):
+            bouts = trait(Terre(ile(10, 60, milles)))
+            self.assertAlmostEqual(float(distance(*bouts)), max(milles, 500 / 1852), delta=0.02 * max(milles, 0.27))
+            self.assertLess(float(distance(bouts.mean(axis=0), (10, 60))), 0.05)
+        self.assertIsNone(trait(Terre(ile(10, 60, TRAIT + 0.1))))
+
+
+class Embouchures(unittest.TestCase):
+    COTE = np.array([(0, lat) for lat in np.arange(44, 50, 0.01)])
+
+    def mene(self, *rivieres, lacs=()):
+        return jusqu_a_la_cote([np.array(r, float) for r in rivieres], [self.COTE], list(lacs))
+
+    def test_a_river_that_ends_short_of_its_coast_is_led_there(self):
+        aval, amont = [(0.2, 47), (1, 47.1)], [(1, 47.1), (2, 47)]
+        menee, laissee = self.mene(aval, amont)
+        np.testing.assert_allclose(menee[0], (0, 47), atol=0.006)
+        np.testing.assert_array_equal(menee[1:], aval)
+        np.testing.assert_array_equal(laissee, amont)
+
+    def test_one_that_is_there_already_or_ends_far_off_or_in_a_lake_is_left(self):
+        for riviere in ([(0.01, 47), (1, 47)], [(0.5, 47), (2, 47)]):
+            np.testing.assert_array_equal(self.mene(riviere)[0], riviere)
+        dans_un_lac = [(0.2, 47), (1, 47)]
+        np.testing.assert_array_equal(self.mene(dans_un_lac, lacs=[ile(0.2, 47, 1)])[0], dans_un_lac)
+
+    def test_rivers_that_meet_end_to_end_are_one_system(self):
+        lignes = [np.array(r, float) for r in ([(0, 0), (1, 1)], [(1, 1), (2, 0)], [(5, 5), (6, 6)], [(2, 0), (3, 3)])]
+        self.assertEqual(sorted(map(sorted, systemes(lignes))), [[0, 1, 3], [2]])
 
 
 class Noms(unittest.TestCase):

@@ -22,7 +22,7 @@ from verifie import verifie  # noqa: E402
 
 # Entries of the menu that go without words, or name a module that is told under its own name.
 HORS_GUIDE = {"Exit (ne rien faire et retourner sur la carte)", "Exit (do nothing and go back to the chart)",
-              "Configuration de la carte", "Chart settings", "Position du Soleil", "Position of the Sun", "Data"}
+              "Configuration de la carte", "Chart settings", "Position du Soleil", "Position of the Sun"}
 PIXEL = bytes.fromhex("89504e470d0a1a0a")
 
 

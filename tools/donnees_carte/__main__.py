@@ -1,6 +1,6 @@
 """Makes the data of the world chart: python3 tools/donnees_carte [--travail DIR] [--sortie DIR].
 
-Needs GMT with GSHHG's high resolution, node and npm, libgeonames-common and numpy, which `make donnees-carte` installs.
+Needs GMT with GSHHG's high and full resolutions, node and npm, libgeonames-common and numpy, which `make donnees-carte` installs.
 """
 
 import argparse
@@ -15,7 +15,7 @@ except ModuleNotFoundError:
 
 from cotes import fait_cotes, fait_lacs, fait_rivieres
 from fichiers import compte, texte
-from sources import lit_couche, lit_villes, noms_francais
+from sources import lit_couche, lit_petites, lit_villes, noms_francais
 from villes import choisit, texte_villes
 
 RACINE = Path(__file__).resolve().parents[2]
@@ -31,10 +31,11 @@ def lignes_du_monde(travail):
     """The five files of lines, each with what was measured."""
     dit("coasts")
     iles_des_lacs = lit_couche("iles des lacs", travail)
-    resultats = fait_cotes(lit_couche("cotes", travail), iles_des_lacs, dit)
+    cotes, lacs = lit_couche("cotes", travail), lit_couche("lacs", travail)
+    resultats = fait_cotes(cotes, lit_petites(travail), dit)
     dit("lakes and rivers")
-    resultats.append(fait_lacs(lit_couche("lacs", travail), iles_des_lacs, dit))
-    resultats.append(fait_rivieres([lit_couche(f"rivieres {k}", travail) for k in range(3)], dit))
+    resultats.append(fait_lacs(lacs, iles_des_lacs, dit))
+    resultats.append(fait_rivieres([lit_couche(f"rivieres {k}", travail) for k in range(3)], cotes, lacs, dit))
     return resultats
 
 

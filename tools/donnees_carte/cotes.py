@@ -13,15 +13,19 @@ LISTES = Path(__file__).parent
 
 GRANDE_TERRE = 200_000  # km2
 ILE = 50  # km2: kept wherever it lies
-ECART = 13.5  # miles off times the square root of km2: what keeps a smaller island
+ECART = 35.0  # miles off times the square root of km2: what keeps a smaller island with its shape
 ILOT = 0.02  # km2: nothing smaller is kept unless named
 LAC = 15  # km2
-ILE_DE_LAC = 50  # km2: larger ones go with the islands, smaller ones with the lakes
 ILOT_DE_LAC = 15  # km2
 TOTALE_ILE = 150  # km2
 TOTALE_ECART = 400.0
-TOTALE_LIGNES = 30_000
+TOTALE_LIGNES = 36_000
+# What the coarse file keeps for the seafarer, however small: latitude, longitude.
+TOTALE_CAPS = [(-55.97, -67.28), (35.24, -75.55)]  # Cape Horn, Hatteras
+SEULE = 5.0  # miles from anything drawn past which every island and rock of the full resolution is drawn
+TRAIT = 1.5  # miles across under which such an island is a stroke along its length, 500 metres at least
 COTE_DE_RIVIERE = 30  # miles
+EMBOUCHURE = 12.0  # miles from the coast within which a river that ends short of it is led there
 # Waters whose coast is wanted finer: west, east, south, north, and the part of the tolerance granted there.
 EAUX_FINES = [
     (-6.6, 2.6, 46.0, 51.3, 0.25),  # Brittany, the Channel and Scilly
@@ -61,6 +65,16 @@ class Voisinage:
 
     def plus_proche(self, point):
         """Miles to the nearest point; 60 when none is as near."""
+        proches = self._autour(point)
+        return min(60.0, float(distance(proches, point).min())) if len(proches) else 60.0
+
+    def point_proche(self, point):
+        """The nearest point, of which there must be one near."""
+        proches = self._autour(point)
+        return proches[int(np.argmin(distance(proches, point)))].copy()
+
+    def _autour(self, point):
+        """The points of the cells about a place."""
         lon, lat = int(np.floor(point[0])), int(np.floor(point[1]))
         large = min(180, int(1 / max(0.01, np.cos(np.radians(min(89.0, abs(point[1]) + 1))))) + 1)
         proches = [
@@ -69,7 +83,7 @@ class Voisinage:
             for x in range(lon - large, lon + large + 1)
             for bloc in self.cases.get((x % 360, y), ())
         ]
-        return min(60.0, float(distance(np.concatenate(proches), point).min())) if proches else 60.0
+        return np.concatenate(proches) if proches else np.empty((0, 2))
 
 
 def isolees(toutes, surface, ecart, plus_petite):
@@ -85,6 +99,45 @@ def isolees(toutes, surface, ecart, plus_petite):
         gardees.append(terre)
         voisinage.ajoute(terre.ligne[::4] if len(terre.ligne) > 400 else terre.ligne)
     return gardees
+
+
+def perdues(petites, dessinees):
+    """The islands of the full resolution that stand alone: more than so many miles from every point of what is drawn, the
+    largest first, each counting as drawn for the next. A small one is a stroke along its length: the file has no room
+    for more, and its error is under that of the coasts."""
+    voisinage, cases = Voisinage(), set()
+
+    def pose(ligne):
+        voisinage.ajoute(ligne)
+        cases.update(map(tuple, np.floor(np.unique(np.round(ligne * 25), axis=0)).astype(int) % (360 * 25, 10**6)))
+
+    for ligne in dessinees:
+        pose(ligne)
+    ajoutees = []
+    for terre in terres(petites):
+        case = np.floor(np.round(terre.centre * 25)).astype(int) % (360 * 25, 10**6)
+        tour = (terre.centre, *terre.ligne[:: max(1, len(terre.ligne) // 12)])
+        if tuple(case) in cases or any(voisinage.plus_proche(p) <= SEULE for p in tour):
+            continue
+        court = trait(terre)
+        ligne = terre.ligne if court is None else court
+        ajoutees.append(Terre(ligne))
+        pose(ligne)
+    return ajoutees
+
+
+def trait(terre, metres=250):
+    """The stroke for a small island: from end to end, or so many metres each way of its middle; none for a larger one."""
+    ligne = terre.ligne
+    loin = ligne[int(np.argmax(distance(ligne, ligne[0])))]
+    bout = ligne[int(np.argmax(distance(ligne, loin)))]
+    longueur = float(distance(loin, bout))
+    if longueur >= TRAIT:
+        return None
+    sens = (loin - bout) / 2 * max(1.0, 2 * metres / 1852 / max(longueur, 1e-6)) if longueur > 0.01 else None
+    if sens is None:
+        sens = np.array((metres / 1852 / 60 / np.cos(np.radians(terre.centre[1])), 0.0))
+    return np.array([terre.centre - sens, terre.centre + sens])
 
 
 def lieux(fichier):
@@ -157,17 +210,21 @@ def resultat(nom, quoi, bout, restes=0):
             "erreur": bout.erreur(), "fine": bout.erreur(0.99), "croisements": restes}
 
 
-def fait_cotes(cotes, iles_des_lacs, dit):
+def fait_cotes(cotes, petites, dit):
     """Contours.Asc, Iles.Asc and Totale.asc."""
     toutes = terres(cotes)
     grandes = [t.ligne for t in toutes if t.aire >= GRANDE_TERRE]
     iles, dessinees = nommees(toutes, isolees(toutes, ILE, ECART, ILOT))
     iles = [t.ligne for t in iles if t.aire < GRANDE_TERRE]
-    iles += [t.ligne for t in terres(iles_des_lacs) if t.aire >= ILE_DE_LAC]
+    seules = perdues(petites, grandes + iles)
+    rochers = sum(1 for t in seules if len(t.ligne) == 2)
+    dit(f"{len(seules)} islands of the full resolution stand alone, {rochers} of them drawn as a stroke")
+    iles += [t.ligne for t in seules]
     dit(f"{len(grandes)} great lands, {len(iles)} islands; drawn as a diamond: {', '.join(dessinees) or 'none'}")
     contours, archipels = faisceau(grandes, parts_fines), faisceau(iles, parts_fines)
-    restes = ajuste([contours, archipels], [LIGNES_MAX, LIGNES_MAX], compte, 0.85, dit)
-    totale = faisceau([t.ligne for t in isolees(toutes, TOTALE_ILE, TOTALE_ECART, 1)])
+    restes = ajuste([contours, archipels], [LIGNES_MAX, LIGNES_MAX], compte, [0.8564, 0.985], dit)
+    choisies = isolees(toutes, TOTALE_ILE, TOTALE_ECART, 1)
+    totale = faisceau([t.ligne for t in avec_caps(toutes, choisies)])
     restes_totale = ajuste([totale], [TOTALE_LIGNES], compte, 2.5, dit)
     return [
         resultat("Contours.Asc", "lands", contours, restes),
@@ -176,17 +233,79 @@ def fait_cotes(cotes, iles_des_lacs, dit):
     ]
 
 
+def avec_caps(toutes, choisies):
+    """The lands of the coarse file with those that bear a cape of its list: each the nearest to it."""
+    gardees = list(choisies)
+    for lat, lon in TOTALE_CAPS:
+        porteuse = min((t for t in toutes if t.aire < GRANDE_TERRE and distance(t.centre, (lon, lat)) < 60),
+                       key=lambda t: float(distance(t.ligne, (lon, lat)).min()))
+        if not any(porteuse is t for t in gardees):
+            gardees.append(porteuse)
+    return gardees
+
+
 def fait_lacs(lacs, iles_des_lacs, dit):
-    """Lacs.Asc: lakes, and the islands in lakes that aren't with the islands."""
+    """Lacs.Asc: lakes, and the islands in lakes."""
     anneaux = [t.ligne for t in terres(lacs) if t.aire >= LAC]
-    anneaux += [t.ligne for t in terres(iles_des_lacs) if ILOT_DE_LAC <= t.aire < ILE_DE_LAC]
+    anneaux += [t.ligne for t in terres(iles_des_lacs) if t.aire >= ILOT_DE_LAC]
     eaux = faisceau(anneaux)
-    restes = ajuste([eaux], [LIGNES_MAX], compte, 0.6, dit)
+    restes = ajuste([eaux], [LIGNES_MAX], compte, 0.69, dit)
     return resultat("Lacs.Asc", "lakes and islands in them", eaux, restes)
 
 
-def fait_rivieres(classes, dit):
+def jusqu_a_la_cote(lignes, cotes, lacs):
+    """The rivers, those led on to the coast that end short of it: of every system of rivers that meet end to end and of
+    which no point lies at the coast, the free end nearest to it, when it is near and lies at no lake."""
+    mer, eaux = Voisinage(), Voisinage()
+    for ligne in cotes:
+        mer.ajoute(ligne)
+    for ligne in lacs:
+        eaux.ajoute(ligne)
+    lignes = list(lignes)
+    for systeme in systemes(lignes):
+        bouts = [(n, rang) for n in systeme for rang in (0, -1)]
+        points = np.concatenate([lignes[n] for n in systeme])
+        if min(mer.plus_proche(p) for p in (lignes[n][rang] for n, rang in bouts)) > EMBOUCHURE:
+            continue
+        if any(mer.plus_proche(p) < 1 for p in points[::3]):
+            continue
+        n, rang = min(bouts, key=lambda b: mer.plus_proche(lignes[b[0]][b[1]]))
+        bout = lignes[n][rang]
+        if eaux.plus_proche(bout) < 1:
+            continue
+        cote = mer.point_proche(bout)
+        cote[0] += 360 * np.round((bout[0] - cote[0]) / 360)
+        lignes[n] = np.concatenate(([cote], lignes[n])) if rang == 0 else np.concatenate((lignes[n], [cote]))
+    return lignes
+
+
+def systemes(lignes):
+    """Numbers of the lines that meet at their ends, a list for each system."""
+    a_ce_bout = {}
+    for n, ligne in enumerate(lignes):
+        for rang in (0, -1):
+            a_ce_bout.setdefault(tuple(np.round(ligne[rang] % (360, 1000), 3)), []).append(n)
+    parent = list(range(len(lignes)))
+
+    def tete(n):
+        while parent[n] != n:
+            n = parent[n]
+        return n
+
+    for autres in a_ce_bout.values():
+        for n in autres[1:]:
+            parent[tete(n)] = tete(autres[0])
+    groupes = {}
+    for n in range(len(lignes)):
+        groupes.setdefault(tete(n), []).append(n)
+    return list(groupes.values())
+
+
+def fait_rivieres(classes, cotes, lacs, dit):
     """Rivieres.Asc, the great rivers first."""
-    cours = faisceau([m for lignes in classes for m in coupe_longs(lignes, COTE_DE_RIVIERE)])
-    restes = ajuste([cours], [LIGNES_MAX], compte, 0.45, dit)
+    lignes = [m for classe in classes for m in coupe_longs(classe, COTE_DE_RIVIERE)]
+    menees = jusqu_a_la_cote(lignes, cotes, lacs)
+    dit(f"{sum(1 for a, b in zip(lignes, menees) if len(a) != len(b))} rivers are led on to the coast")
+    cours = faisceau(menees)
+    restes = ajuste([cours], [LIGNES_MAX], compte, 0.525, dit)
     return resultat("Rivieres.Asc", "rivers", cours, restes)

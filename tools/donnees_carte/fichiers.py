@@ -6,7 +6,7 @@ COUPURE = "2 0"
 LIGNES_MAX = 60000
 BORD = 1e-7
 DECIMALES = 7
-COTE_MAX = 60  # miles: a side both of whose ends lie far outside a small sheet isn't drawn
+COTE_MAX = 25  # miles: a side both of whose ends lie outside a small sheet and its margin isn't drawn
 DIAGONALE = 180 * np.sqrt(2)
 
 
@@ -78,8 +78,10 @@ def sans_long_cote(morceau):
     """The piece with points put on its sides over COTE_MAX, where the chart draws them: its picture is the same."""
     points = [morceau[:1]]
     for a, b in zip(morceau, morceau[1:]):
-        milles = 60 * np.hypot((b[0] - a[0]) * np.cos(np.radians((a[1] + b[1]) / 2)), b[1] - a[1])
-        parts = np.arange(1, np.ceil(max(milles, 1) / COTE_MAX) + 1) / np.ceil(max(milles, 1) / COTE_MAX)
+        # As the chart draws it, by the end where a degree of longitude is longest.
+        milles = 60 * np.hypot((b[0] - a[0]) * np.cos(np.radians(min(abs(a[1]), abs(b[1])))), b[1] - a[1])
+        nombre = np.ceil(max(milles, 1) / (COTE_MAX - 0.01))  # a hair under, since points are rounded as they are written
+        parts = np.arange(1, nombre + 1) / nombre
         points.append(a + parts[:, None] * (b - a))
     return np.concatenate(points)
 

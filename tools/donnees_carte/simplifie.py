@@ -171,7 +171,7 @@ def ajuste(faisceaux, budgets, compte, depart=1.0, dit=None):
 
     compte: tells how many lines of a file the simplified lines make. Returns the crossings that are left."""
     bornes = [[0.0, math.inf] for _ in faisceaux]
-    tolerances = [depart] * len(faisceaux)
+    tolerances = list(depart) if isinstance(depart, list) else [depart] * len(faisceaux)
     for essai in range(2 * ESSAIS):
         for faisceau, tolerance in zip(faisceaux, tolerances):
             if faisceau.tolerance != tolerance or len(faisceaux) > 1:

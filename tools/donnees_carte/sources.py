@@ -6,7 +6,7 @@ import os
 import subprocess
 from pathlib import Path
 
-from raccords import joint, lit_morceaux
+from raccords import est_anneau, joint, lit_morceaux
 
 # Options of `gmt coast` for each kind of line, at GSHHG's high resolution.
 COUCHES = {
@@ -28,6 +28,33 @@ def lit_couche(nom, travail):
     milieu = dict(os.environ, GMT_SESSION_NAME=f"carte{os.getpid()}", GMT_USERDIR=str(travail))
     sortie = subprocess.run(commande, check=True, stdout=subprocess.PIPE, text=True, env=milieu, cwd=travail).stdout
     return joint(lit_morceaux(sortie.splitlines()))
+
+
+def lit_petites(travail, degres=0.2):
+    """Rings of GSHHG's full resolution that are smaller than so many degrees both ways: the islands that the high one may
+    lack. The dump is read as it comes, since the whole of it would fill the memory."""
+    commande = ["gmt", "coast", "-R-180/180/-90/90", "-Df", "-W1", "-A0/1/1", "-M"]
+    milieu = dict(os.environ, GMT_SESSION_NAME=f"petites{os.getpid()}", GMT_USERDIR=str(travail))
+    gardees, courant = [], []
+    with subprocess.Popen(commande, stdout=subprocess.PIPE, text=True, env=milieu, cwd=travail) as gmt:
+        for ligne in gmt.stdout:
+            if ligne.startswith(">"):
+                _garde_petite(gardees, courant, degres)
+                courant = []
+            else:
+                courant.append(tuple(map(float, ligne.split())))
+    _garde_petite(gardees, courant, degres)
+    if gmt.returncode:
+        raise RuntimeError("gmt coast has failed at the full resolution")
+    return [ligne for ligne in joint(gardees) if est_anneau(ligne)]
+
+
+def _garde_petite(gardees, morceau, degres):
+    """Adds a piece that is small both ways."""
+    if morceau:
+        lon, lat = zip(*morceau)
+        if max(lat) - min(lat) < degres and max(lon) - min(lon) < degres:
+            gardees.append(morceau)
 
 
 def lit_villes(travail):

@@ -11,6 +11,7 @@ from geometrie import distance
 # Miles between a town and every one of its class or greater.
 ESPACES = {3: 60.0, 4: 30.0, 5: 18.0, 6: 10.0}
 SERRES = 3.0  # miles between towns of which one is on the list of ports
+A_CHEVAL = 1.0  # miles within which a place of another name gives a port its position
 NOMBRES = {3: 500, 4: 800, 5: 1100, 6: 1450}
 CAPITALES = {3: 100_000, 4: 10_000, 5: 0}  # inhabitants of a capital of each class
 PART_DES_COTES = 4.0  # how much more a town by the sea counts
@@ -24,6 +25,17 @@ EXONYMES = {
     4795467: "Charlotte-Amélie", 2392087: "Porto-Novo", 1526273: "Astana", 3871336: "Santiago", 703448: "Kiev",
     6691831: "Vatican", 3426691: "Port Stanley",
 }
+# Where that catalogue has an old or another place's name, or GeoNames itself has one that nobody uses: every name of the
+# classes 1 to 4 was looked over against GeoNames' own and English names.
+REVUS = {
+    304531: "Mersin", 146400: "Larnaca", 1226260: "Trincomalee", 298333: "Şanlıurfa", 3654410: "Manta",
+    1259091: "Kollam", 1562414: "Vũng Tàu", 1277013: "Bareilly", 1308465: "Mawlamyine", 6138517: "Saint John",
+    3081368: "Wroclaw", 1792621: "Tongling", 54225: "Merca", 2645425: "Hull", 6949678: "Taitung", 1278946: "Alwar",
+    1278985: "Alappuzha", 1300466: "Bago", 323779: "Antakya", 1273802: "Cuddalore", 1274987: "Kannur", 2518559: "Elche",
+    3654215: "Milagro", 8299623: "Kirkwall",
+}
+# Entries of GeoNames that are no towns: a bank's branch at Hamadan.
+ECARTEES = {10630176}
 LETTRES = str.maketrans({
     "ł": "l", "Ł": "L", "đ": "d", "Đ": "D", "ı": "i", "ħ": "h", "Ħ": "H", "ə": "e", "Ə": "E", "ʻ": "'", "ʼ": "'", "ʿ": "'",
     "ʾ": "'", "ʹ": "'", "′": "'", "`": "'", "’": "'", "‘": "'", "–": "-", "‐": "-", ";": ",",
@@ -81,9 +93,10 @@ class Semis:
 
 def en_francais(places, francais):
     """The places that may stand on the chart, under their French names."""
-    gardees = [p for p in places if p["genre"] not in GENRES_IGNORES]
+    gardees = [p for p in places if p["genre"] not in GENRES_IGNORES and p["id"] not in ECARTEES]
+    connus = EXONYMES | REVUS
     return [
-        dict(p, nom=en_windows1252(EXONYMES.get(p["id"]) or sans_surnom(francais(p["id"], p["nom"]))), lettre="V", poids=0)
+        dict(p, nom=en_windows1252(connus.get(p["id"]) or sans_surnom(francais(p["id"], p["nom"]))), lettre="V", poids=0)
         for p in gardees
     ]
 
@@ -116,7 +129,8 @@ def grandes(places):
 
 
 def ports(places):
-    """The towns of the list of ports: at GeoNames' position of the greatest place within 3 miles, if any."""
+    """The towns of the list of ports: at GeoNames' position of the place of that name within 3 miles, else of the greatest
+    one if that is near; where neither is, at the list's own. What lies within 3 miles isn't drawn a second time."""
     centres = np.array([(p["lon"], p["lat"]) for p in places])
     resultat = []
     for lat, lon, classe, nom in lieux("ports.txt"):
@@ -125,6 +139,8 @@ def ports(places):
         ville = {"id": 0, "lon": lon, "lat": lat, "lettre": "P", "poids": 0}
         if proches:
             ville = places[max(proches, key=lambda n: (places[n]["nom"] == nom, places[n]["population"]))]
+            if ville["nom"] != nom and distance(np.array((ville["lon"], ville["lat"])), (lon, lat)) > A_CHEVAL:
+                ville = dict(ville, lon=lon, lat=lat)
         lettre = "C" if ville["lettre"] == "C" else "P"
         resultat.append(dict(ville, lettre=lettre, classe=int(classe), nom=en_windows1252(nom)))
     return resultat
