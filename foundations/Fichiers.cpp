@@ -1,20 +1,21 @@
 #include "foundations/Fichiers.hpp"
 
-#include "foundations/Erreur.hpp"
-
 #include <algorithm>
 #include <array>
 #include <cerrno>
+#include <chrono>
 #include <cstdint>
-#include <cstdlib>
 #include <fcntl.h>
-#include <sys/file.h>
+#include <optional>
+#include <random>
 #include <sys/stat.h>
 #include <system_error>
 #include <unistd.h>
 
 namespace velmaris {
 namespace {
+
+namespace fs = std::filesystem;
 
 /// Characters 0x80 to 0x9F of Windows-1252; 0 where it has none.
 constexpr std::array<std::uint16_t, 32> kWindows1252 = {0x20AC, 0,      0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021,
@@ -54,6 +55,127 @@ void EcritTout(int numero, std::string_view octets) {
     }
     octets.remove_prefix(static_cast<std::size_t>(n));
   }
+}
+
+// An unfinished file, and the note that tells where it lies, bear names that nobody else gives: the start, sixteen
+// hexadecimal digits, the end.
+constexpr std::string_view kDebutProvisoire = ".velmaris-";
+constexpr std::string_view kFinProvisoire = ".provisoire";
+constexpr std::string_view kFinNote = ".note";
+constexpr std::size_t kChiffres = 16;
+constexpr int kEssaisNom = 100;
+constexpr mode_t kModeNeuf = 0666;     ///< less what the user's mask takes away
+constexpr std::chrono::hours kAge{24}; ///< after which nobody is writing any more
+constexpr std::string_view kHexa = "0123456789abcdef";
+
+bool PorteLeNom(const fs::path &chemin, std::string_view fin) {
+  const std::string nom = chemin.filename().string();
+  return nom.size() == kDebutProvisoire.size() + kChiffres + fin.size() && nom.starts_with(kDebutProvisoire) &&
+         nom.ends_with(fin) &&
+         nom.find_first_not_of(kHexa, kDebutProvisoire.size()) == kDebutProvisoire.size() + kChiffres;
+}
+
+/// Whether there is a regular file, no link, that was last written more than a day ago.
+bool EstVieux(const fs::path &chemin) {
+  struct stat etat {};
+  return ::lstat(chemin.c_str(), &etat) == 0 && S_ISREG(etat.st_mode) &&
+         std::chrono::system_clock::now() - std::chrono::system_clock::from_time_t(etat.st_mtime) > kAge;
+}
+
+/// Removes the unfinished file that a note names.
+/// @return whether the note has served: nothing is left, and the folder is there, not on a volume that was taken out
+bool OteNotee(const fs::path &note) {
+  fs::path lieu;
+  Passe([&] { lieu = LitFichier(note); });
+  if (!lieu.is_absolute() || !PorteLeNom(lieu, kFinProvisoire)) {
+    return true;
+  }
+  if (EstVieux(lieu)) {
+    ::unlink(lieu.c_str());
+  }
+  struct stat etat {};
+  return ::lstat(lieu.c_str(), &etat) != 0 && ::stat(lieu.parent_path().c_str(), &etat) == 0;
+}
+
+/// A new file while it is being written, and its note; both go with the scope, unless the file has been renamed.
+class Provisoire {
+public:
+  /// @throws Erreur 75 when no file can be made in that folder
+  Provisoire(const fs::path &dossier, const fs::path &registre, mode_t mode) {
+    std::random_device hasard;
+    for (int essai = 0; essai < kEssaisNom && numero_ < 0; ++essai) {
+      std::string nom(kDebutProvisoire);
+      for (std::size_t i = 0; i < kChiffres; ++i) {
+        nom += kHexa[hasard() % kHexa.size()];
+      }
+      chemin_ = dossier / (nom + std::string(kFinProvisoire));
+      if (!registre.empty()) {
+        Note(registre / (nom + std::string(kFinNote)));
+      }
+      numero_ = ::open(chemin_.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, mode);
+      if (numero_ < 0) {
+        const bool pris = errno == EEXIST;
+        OteNote();
+        if (!pris) {
+          throw Erreur(75);
+        }
+      }
+    }
+    if (numero_ < 0) {
+      throw Erreur(75);
+    }
+  }
+  ~Provisoire() {
+    ::close(numero_);
+    ::unlink(chemin_.c_str()); // nothing is there any more once it was renamed
+    OteNote();
+  }
+  Provisoire(const Provisoire &) = delete;
+  Provisoire &operator=(const Provisoire &) = delete;
+  Provisoire(Provisoire &&) = delete;
+  Provisoire &operator=(Provisoire &&) = delete;
+  int numero() const { return numero_; }
+  const fs::path &chemin() const { return chemin_; }
+
+private:
+  /// Without a note the file is written all the same.
+  void Note(const fs::path &note) {
+    std::error_code refus;
+    fs::create_directories(note.parent_path(), refus);
+    const std::string lieu = fs::absolute(chemin_, refus).string();
+    const Descripteur fichier(::open(note.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, kModeNeuf));
+    if (fichier.numero() >= 0) {
+      note_ = note;
+      Passe([&] { EcritTout(fichier.numero(), lieu); });
+    }
+  }
+  void OteNote() {
+    if (!note_.empty()) {
+      ::unlink(note_.c_str());
+      note_.clear();
+    }
+  }
+
+  int numero_ = -1;
+  fs::path chemin_;
+  fs::path note_;
+};
+
+/// Permissions of the file that is to be replaced, none where there is no file.
+/// @throws Erreur 75 when what is there is no file, or may not be written
+std::optional<mode_t> ModeDeLAncien(const fs::path &cible) {
+  const Descripteur fichier(::open(cible.c_str(), O_WRONLY | O_CLOEXEC | O_NONBLOCK));
+  if (fichier.numero() < 0) {
+    if (errno == ENOENT) {
+      return std::nullopt;
+    }
+    throw Erreur(75);
+  }
+  struct stat etat {};
+  if (::fstat(fichier.numero(), &etat) != 0 || !S_ISREG(etat.st_mode)) {
+    throw Erreur(75);
+  }
+  return etat.st_mode & 07777U;
 }
 
 /// Code point that a well-formed UTF-8 sequence of `longueur` bytes stands for.
@@ -121,6 +243,9 @@ std::string LitFichier(const std::filesystem::path &chemin) {
   if (::fstat(fichier.numero(), &etat) != 0 || !S_ISREG(etat.st_mode)) {
     throw Erreur(75);
   }
+  if (etat.st_size > static_cast<off_t>(kTailleLue)) {
+    throw FichierTropGrand();
+  }
   std::string octets(static_cast<std::size_t>(etat.st_size), '\0');
   std::size_t lus = 0;
   while (lus < octets.size()) {
@@ -140,41 +265,50 @@ std::string LitFichier(const std::filesystem::path &chemin) {
   return octets;
 }
 
-void EcritFichier(const std::filesystem::path &chemin, std::string_view octets) {
+void EcritFichier(const fs::path &chemin, std::string_view octets, const fs::path &registre) {
   // Behind a link it is the file that is replaced; a file keeps its permissions.
   std::error_code absent;
-  const std::filesystem::path vrai = std::filesystem::canonical(chemin, absent);
-  const std::filesystem::path cible = absent ? chemin : vrai;
-  struct stat ancien {};
-  const mode_t mode = ::stat(cible.c_str(), &ancien) == 0 ? ancien.st_mode & 07777U : 0644U;
-  std::string provisoire = cible.string() + ".XXXXXX";
-  const Descripteur fichier(::mkostemp(provisoire.data(), O_CLOEXEC));
-  if (fichier.numero() < 0) {
+  const fs::path vrai = fs::canonical(chemin, absent);
+  const fs::path cible = absent ? chemin : vrai;
+  const std::optional<mode_t> ancien = ModeDeLAncien(cible);
+  const fs::path dossier = cible.parent_path().empty() ? "." : cible.parent_path();
+  const Provisoire provisoire(dossier, registre, ancien.value_or(kModeNeuf));
+  EcritTout(provisoire.numero(), octets);
+  if ((ancien && ::fchmod(provisoire.numero(), *ancien) != 0) || ::fsync(provisoire.numero()) != 0 ||
+      ::rename(provisoire.chemin().c_str(), cible.c_str()) != 0) {
     throw Erreur(75);
   }
-  try {
-    EcritTout(fichier.numero(), octets);
-    if (::fchmod(fichier.numero(), mode) != 0 || ::fsync(fichier.numero()) != 0 ||
-        ::rename(provisoire.c_str(), cible.c_str()) != 0) {
-      throw Erreur(75);
-    }
-  } catch (const Erreur &) {
-    ::unlink(provisoire.c_str());
-    throw;
-  }
-  const std::filesystem::path dossier = cible.parent_path().empty() ? "." : cible.parent_path();
   const Descripteur parent(::open(dossier.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
   if (parent.numero() >= 0) {
     ::fsync(parent.numero());
   }
 }
 
-void AjouteLigne(const std::filesystem::path &chemin, std::string_view titre, std::string_view ligne) {
-  const Descripteur fichier(::open(chemin.c_str(), O_RDWR | O_APPEND | O_CREAT | O_CLOEXEC | O_NONBLOCK, 0644));
-  struct stat etat {};
+void BalaieProvisoires(const fs::path &registre) {
+  std::error_code refus;
+  std::vector<fs::path> vieux;
+  for (fs::directory_iterator i(registre, refus), fin; !refus && i != fin; i.increment(refus)) {
+    if ((PorteLeNom(i->path(), kFinProvisoire) || PorteLeNom(i->path(), kFinNote)) && EstVieux(i->path())) {
+      vieux.push_back(i->path());
+    }
+  }
+  for (const fs::path &trouve : vieux) {
+    if (!PorteLeNom(trouve, kFinNote) || OteNotee(trouve)) {
+      ::unlink(trouve.c_str());
+    }
+  }
+}
+
+bool AjouteLignes(const fs::path &chemin, std::string_view titre, const std::vector<std::string> &lignes,
+                  Patience &patience) {
+  const Descripteur fichier(::open(chemin.c_str(), O_RDWR | O_APPEND | O_CREAT | O_CLOEXEC | O_NONBLOCK, kModeNeuf));
   // The lock, which goes with the descriptor, keeps two programs from both writing the title.
-  if (fichier.numero() < 0 || ::flock(fichier.numero(), LOCK_EX) != 0 || ::fstat(fichier.numero(), &etat) != 0 ||
-      !S_ISREG(etat.st_mode)) {
+  const Verrou verrou = fichier.numero() < 0 ? Verrou::Impossible : Verrouille(fichier.numero(), true, patience);
+  if (verrou == Verrou::Retenu) {
+    return false;
+  }
+  struct stat etat {};
+  if (verrou == Verrou::Impossible || ::fstat(fichier.numero(), &etat) != 0 || !S_ISREG(etat.st_mode)) {
     throw Erreur(75);
   }
   std::string octets;
@@ -183,8 +317,11 @@ void AjouteLigne(const std::filesystem::path &chemin, std::string_view titre, st
   } else if (char dernier = 0; ::pread(fichier.numero(), &dernier, 1, etat.st_size - 1) == 1 && dernier != '\n') {
     octets = "\n";
   }
+  for (const std::string &ligne : lignes) {
+    octets.append(ligne) += '\n';
+  }
   try {
-    EcritTout(fichier.numero(), octets.append(ligne) + "\n");
+    EcritTout(fichier.numero(), octets);
     if (::fdatasync(fichier.numero()) != 0) {
       throw Erreur(75);
     }
@@ -195,6 +332,7 @@ void AjouteLigne(const std::filesystem::path &chemin, std::string_view titre, st
     }
     throw;
   }
+  return true;
 }
 
 std::string EnUtf8(std::string_view octets) {
@@ -230,9 +368,9 @@ std::string EnWindows1252(std::string_view texte) {
   return octets;
 }
 
-std::vector<std::string_view> Lignes(std::string_view texte) {
+std::vector<std::string_view> Lignes(std::string_view texte, std::size_t auPlus) {
   std::vector<std::string_view> lignes;
-  while (!texte.empty()) {
+  while (!texte.empty() && lignes.size() < auPlus) {
     const std::size_t fin = texte.find_first_of("\r\n");
     lignes.push_back(texte.substr(0, fin));
     if (fin == std::string_view::npos) {

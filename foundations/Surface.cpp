@@ -20,6 +20,24 @@ bool RetireRepetition(Surface &surface, std::size_t debut, std::size_t milieu) {
   return repete;
 }
 
+void RetireTranches(Surface &surface, const std::vector<Tranche> &tranches) {
+  const auto retiree = [&](std::size_t rang) {
+    return std::any_of(tranches.begin(), tranches.end(),
+                       [&](const Tranche &t) { return rang >= t.debut && rang < t.fin; });
+  };
+  std::vector<Trace> restent;
+  for (std::size_t i = 0; i < surface.traces.size(); ++i) {
+    if (!retiree(i)) {
+      restent.push_back(std::move(surface.traces[i]));
+    }
+  }
+  if (restent.size() != surface.traces.size()) {
+    ++surface.effacements;
+  }
+  surface.traces = std::move(restent);
+  surface.plumeLevee = true;
+}
+
 void Ligne(Surface &surface, Point debut, Point fin, Couleur couleur) {
   const Plume plume{couleur, surface.epaisseur, surface.style};
   surface.position = fin;
@@ -38,15 +56,14 @@ void Cercle(Surface &surface, Point centre, double rayon, Couleur couleur) {
   surface.position = centre;
 }
 
-void Ecrit(Surface &surface, std::string texte) {
-  surface.traces.emplace_back(
-      TexteTrace{surface.encre, surface.police, surface.position, std::move(texte), surface.insistant});
+void Ecrit(Surface &surface, std::string texte, RoleTexte role) {
+  surface.traces.emplace_back(TexteTrace{surface.encre, surface.police, surface.position, std::move(texte), role});
   surface.position = {0.0, surface.position.y + surface.interligne};
 }
 
-void EcritEn(Surface &surface, Point position, std::string texte) {
+void EcritEn(Surface &surface, Point position, std::string texte, RoleTexte role) {
   surface.position = position;
-  Ecrit(surface, std::move(texte));
+  Ecrit(surface, std::move(texte), role);
 }
 
 } // namespace velmaris

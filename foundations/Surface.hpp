@@ -64,13 +64,33 @@ struct CercleTrace {
   bool operator==(const CercleTrace &) const = default;
 };
 
+/// What a text of a drawing is, in the order in which texts take their places on the picture.
+enum class GenreTexte : std::uint8_t {
+  Libre,          ///< stands where it is recorded, whatever lies there: the letters of a dial
+  DegreLongitude, ///< whole degree of a meridian
+  DegreLatitude,  ///< whole degree of a parallel
+  Echelle,        ///< of a scale
+  Position,       ///< estimated position
+  Droite,         ///< intercept or azimuth of a line of position
+  Minute,         ///< minutes between whole degrees
+  Objet,          ///< name of one of the user's objects
+  Ville           ///< name of a city
+};
+
+/// What a text is.
+struct RoleTexte {
+  GenreTexte genre = GenreTexte::Libre;
+  int classe = 0; ///< of a city: the smaller, the larger the city
+  bool operator==(const RoleTexte &) const = default;
+};
+
 /// A text in one line.
 struct TexteTrace {
   Couleur couleur = kNoir;
   Police police;
   Point position; ///< upper left corner
   std::string texte;
-  bool insistant = false; ///< it is shown though other texts lie there, which give way to it
+  RoleTexte role;
   bool operator==(const TexteTrace &) const = default;
 };
 
@@ -86,7 +106,6 @@ struct Surface {
   int epaisseur = 1;     ///< draw width
   Style style = Style::Plein;
   Police police;
-  bool insistant = false;    ///< texts are shown though others lie there
   double interligne = 240.0; ///< height of a line of text in the font, 1/1440 inch
   Point position;            ///< where the next text starts
   bool plumeLevee = false;   ///< the next segment starts a polyline of its own
@@ -104,6 +123,16 @@ void Efface(Surface &surface);
 /// @return whether they were dropped
 bool RetireRepetition(Surface &surface, std::size_t debut, std::size_t milieu);
 
+/// A run of traces in a surface's list.
+struct Tranche {
+  std::size_t debut = 0; ///< first trace
+  std::size_t fin = 0;   ///< one past the last trace
+};
+
+/// Takes runs of traces off the surface, where there are any; all others stay in their order, and the picture is
+/// painted anew.
+void RetireTranches(Surface &surface, const std::vector<Tranche> &tranches);
+
 /// A segment in the surface's width and style; it joins the last one when it starts at its end in the same pen.
 /// Leaves the drawing position at its end.
 void Ligne(Surface &surface, Point debut, Point fin, Couleur couleur);
@@ -113,9 +142,10 @@ void Ligne(Surface &surface, Point debut, Point fin, Couleur couleur);
 void Cercle(Surface &surface, Point centre, double rayon, Couleur couleur);
 
 /// A text at the drawing position, in the surface's font and colour. Leaves the position at the start of the next line.
-void Ecrit(Surface &surface, std::string texte);
+/// @param role  what it is; the record keeps every text in its place, the picture leaves out or moves some
+void Ecrit(Surface &surface, std::string texte, RoleTexte role = {});
 
 /// A text at a given place.
-void EcritEn(Surface &surface, Point position, std::string texte);
+void EcritEn(Surface &surface, Point position, std::string texte, RoleTexte role = {});
 
 } // namespace velmaris

@@ -297,6 +297,12 @@ double LitVirgule(std::string_view texte) { return Convertit(texte, ','); }
 
 double LitNombre(std::string_view texte) { return Convertit(texte, '.'); }
 
+std::string AvecPoint(std::string_view texte) {
+  std::string avec(texte);
+  std::replace(avec.begin(), avec.end(), ',', '.');
+  return avec;
+}
+
 std::size_t NombreCaracteres(std::string_view texte) {
   return static_cast<std::size_t>(std::count_if(
       texte.begin(), texte.end(), [](char c) { return (static_cast<unsigned char>(c) & 0xC0U) != 0x80U; }));

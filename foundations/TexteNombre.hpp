@@ -50,6 +50,9 @@ double LitVirgule(std::string_view texte);
 /// @throws Erreur 13 when the text is not wholly a number (a comma, an empty text), 6 when it leaves 64 bits
 double LitNombre(std::string_view texte);
 
+/// A typed number with a comma taken for the point.
+std::string AvecPoint(std::string_view texte);
+
 /// Number of characters of a UTF-8 text.
 std::size_t NombreCaracteres(std::string_view texte);
 

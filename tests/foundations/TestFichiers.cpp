@@ -5,12 +5,14 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <chrono>
 #include <csignal>
 #include <sys/resource.h>
 
 #include <cstdlib>
 #include <random>
 #include <sys/stat.h>
+#include <sys/wait.h>
 #include <unistd.h>
 
 namespace velmaris {
@@ -44,6 +46,22 @@ TEST(FileReading, TenMegabytesAreReadWhole) {
   const std::string octets(10'000'000, 'x');
   Pose(dossier / "f", octets);
   EXPECT_EQ(LitFichier(dossier / "f"), octets);
+}
+
+TEST(FileReading, SixtyFourMegabytesAreReadAndOneByteMoreIsError75) {
+  const DossierTemporaire dossier;
+  Pose(dossier / "f", "x");
+  std::filesystem::resize_file(dossier / "f", 64U << 20U);
+  EXPECT_EQ(LitFichier(dossier / "f").size(), 64U << 20U);
+  std::filesystem::resize_file(dossier / "f", (64U << 20U) + 1U);
+  EXPECT_EQ(NumeroErreur([&] { LitFichier(dossier / "f"); }), 75);
+}
+
+TEST(FileReading, AFileOfFourTerabytesIsError75AtOnce) {
+  const DossierTemporaire dossier;
+  Pose(dossier / "f", "x");
+  ASSERT_EQ(::truncate((dossier / "f").c_str(), off_t{4} << 40U), 0);
+  EXPECT_EQ(NumeroErreur([&] { LitFichier(dossier / "f"); }), 75);
 }
 
 TEST(FileReading, AMissingFileIsError53) {
@@ -219,6 +237,12 @@ TEST(TextLines, TheLastLineNeedsNoEnd) {
   EXPECT_THAT(Lignes("a\r\nb\r\n\r\n"), ElementsAre("a", "b", ""));
 }
 
+TEST(TextLines, NoMoreAreTakenThanAreWanted) {
+  EXPECT_THAT(Lignes("a\r\nb\nc", 2), ElementsAre("a", "b"));
+  EXPECT_THAT(Lignes("a\r\nb\nc", 3), ElementsAre("a", "b", "c"));
+  EXPECT_THAT(Lignes("a", 0), IsEmpty());
+}
+
 TEST(TextLines, AnEmptyTextHasNone) {
   EXPECT_THAT(Lignes(""), IsEmpty());
   EXPECT_THAT(Lignes("\n"), ElementsAre(""));
@@ -233,6 +257,158 @@ TEST(FileWriting, AReplacedFileKeepsItsPermissionsAndLeavesNothingBesideIt) {
   EXPECT_EQ(std::filesystem::status(dossier / "a").permissions(),
             std::filesystem::perms::owner_read | std::filesystem::perms::owner_write);
   EXPECT_EQ(std::distance(std::filesystem::directory_iterator(dossier.chemin()), {}), 1);
+}
+
+TEST(FileWriting, AProtectedFileIsError75AndNothingIsWritten) {
+  const DossierTemporaire dossier;
+  Pose(dossier / "f", "old");
+  ::chmod(dossier.chemin().c_str(), 0777);
+  ::chmod((dossier / "f").c_str(), 0444);
+  {
+    const SimpleUtilisateur utilisateur;
+    if (!utilisateur.reussi) {
+      GTEST_SKIP() << "the superuser can't become another user here";
+    }
+    EXPECT_EQ(NumeroErreur([&] { EcritFichier(dossier / "f", "new"); }), 75);
+  }
+  EXPECT_EQ(Contenu(dossier / "f"), "old");
+  EXPECT_EQ(std::distance(std::filesystem::directory_iterator(dossier.chemin()), {}), 1) << "nothing is left beside it";
+}
+
+TEST(FileWriting, WhatIsNoFileIsError75AndIsNotReplaced) {
+  const DossierTemporaire dossier;
+  ASSERT_EQ(::mkfifo((dossier / "pipe").c_str(), 0600), 0);
+  EXPECT_EQ(NumeroErreur([&] { EcritFichier(dossier / "pipe", "x"); }), 75);
+  EXPECT_TRUE(std::filesystem::is_fifo(dossier / "pipe"));
+  std::filesystem::create_symlink("/dev/null", dossier / "nul");
+  EXPECT_EQ(NumeroErreur([&] { EcritFichier(dossier / "nul", "x"); }), 75);
+  EXPECT_TRUE(std::filesystem::is_character_file("/dev/null"));
+}
+
+TEST(FileWriting, ANewFileHasThePermissionsThatTheUsersMaskLeaves) {
+  const DossierTemporaire dossier;
+  for (const mode_t masque : {0077U, 0027U, 0002U}) {
+    const mode_t avant = ::umask(masque);
+    EcritFichier(dossier / "neuf", "x");
+    Patience patience;
+    EXPECT_TRUE(AjouteLignes(dossier / "journal", "titre", {"ligne"}, patience));
+    ::umask(avant);
+    for (const char *nom : {"neuf", "journal"}) {
+      EXPECT_EQ(static_cast<mode_t>(std::filesystem::status(dossier / nom).permissions()), 0666U & ~masque) << nom;
+      std::filesystem::remove(dossier / nom);
+    }
+  }
+}
+
+/// A writing that is killed in its middle: what it leaves, and when that goes.
+class EcritureTuee : public ::testing::Test {
+protected:
+  /// Dies by the limit of a file's size, once the first bytes are on the disk.
+  void Tue(const std::filesystem::path &notes) {
+    const pid_t enfant = ::fork();
+    if (enfant == 0) {
+      const rlimit plein{4096, 4096};
+      setrlimit(RLIMIT_FSIZE, &plein);
+      const rlimit sansImage{0, 0};
+      setrlimit(RLIMIT_CORE, &sansImage);
+      EcritFichier(lieu / "f", std::string(100'000, 'n'), notes);
+      ::_exit(0);
+    }
+    int etat = 0;
+    ::waitpid(enfant, &etat, 0);
+    ASSERT_TRUE(WIFSIGNALED(etat));
+  }
+
+  static std::size_t Compte(const std::filesystem::path &ou) {
+    return static_cast<std::size_t>(std::distance(std::filesystem::directory_iterator(ou), {}));
+  }
+
+  /// Makes all that lies in both folders older.
+  void Vieillit(std::chrono::hours age) {
+    for (const auto &ou : {lieu, registre}) {
+      for (const auto &entree : std::filesystem::directory_iterator(ou)) {
+        std::filesystem::last_write_time(entree.path(), std::filesystem::file_time_type::clock::now() - age);
+      }
+    }
+  }
+
+  void SetUp() override {
+    std::filesystem::create_directory(lieu);
+    std::filesystem::create_directory(registre);
+    Pose(lieu / "f", "old");
+  }
+
+  DossierTemporaire dossier;
+  std::filesystem::path lieu = dossier / "lieu";
+  std::filesystem::path registre = dossier / "registre";
+};
+
+TEST_F(EcritureTuee, LeavesTheOldFileAndWhatItLeftGoesOnceItIsADayOld) {
+  Tue(registre);
+  EXPECT_EQ(Contenu(lieu / "f"), "old");
+  EXPECT_EQ(Compte(lieu), 2U);
+  EXPECT_EQ(Compte(registre), 1U);
+  BalaieProvisoires(registre);
+  EXPECT_EQ(Compte(lieu) + Compte(registre), 3U) << "another program may be writing it";
+  Vieillit(std::chrono::hours(23));
+  BalaieProvisoires(registre);
+  EXPECT_EQ(Compte(lieu) + Compte(registre), 3U);
+  Vieillit(std::chrono::hours(25));
+  BalaieProvisoires(registre);
+  EXPECT_EQ(Compte(lieu) + Compte(registre), 1U);
+  EXPECT_EQ(Contenu(lieu / "f"), "old");
+}
+
+TEST_F(EcritureTuee, InTheFolderOfTheNotesItselfNeedsNone) {
+  lieu = registre;
+  Tue({});
+  Vieillit(std::chrono::hours(25));
+  BalaieProvisoires(registre);
+  EXPECT_EQ(Compte(registre), 0U);
+}
+
+TEST_F(EcritureTuee, OnAVolumeThatWasTakenOutIsRememberedUntilItIsBack) {
+  Tue(registre);
+  Vieillit(std::chrono::hours(25));
+  std::filesystem::rename(lieu, dossier / "ailleurs");
+  BalaieProvisoires(registre);
+  EXPECT_EQ(Compte(registre), 1U);
+  std::filesystem::rename(dossier / "ailleurs", lieu);
+  BalaieProvisoires(registre);
+  EXPECT_EQ(Compte(lieu) + Compte(registre), 1U);
+}
+
+TEST_F(EcritureTuee, WhateverANoteNamesOnlyAnUnfinishedFileGoes) {
+  const std::string nom = ".velmaris-0123456789abcdef";
+  Pose(registre / (nom + ".note"), (lieu / "f").string());
+  Pose(registre / (nom + ".notes"), "x");
+  Pose(registre / ".velmaris-0123456789abcdeg.provisoire", "x");
+  Pose(registre / "velmaris-0123456789abcdef.provisoire", "x");
+  std::filesystem::create_directory(registre / (nom + ".provisoire"));
+  std::filesystem::create_symlink(lieu / "f", lieu / (nom + ".provisoire"));
+  Pose(registre / ".velmaris-00000000000000ff.note", (lieu / (nom + ".provisoire")).string());
+  Vieillit(std::chrono::hours(48));
+  BalaieProvisoires(registre);
+  EXPECT_EQ(Compte(lieu), 2U);
+  EXPECT_TRUE(std::filesystem::exists(registre / (nom + ".notes")));
+  EXPECT_TRUE(std::filesystem::exists(registre / ".velmaris-0123456789abcdeg.provisoire"));
+  EXPECT_TRUE(std::filesystem::exists(registre / "velmaris-0123456789abcdef.provisoire"));
+  EXPECT_TRUE(std::filesystem::is_directory(registre / (nom + ".provisoire")));
+}
+
+TEST_F(EcritureTuee, AWritingThatEndsLeavesNoNote) {
+  EcritFichier(lieu / "f", "new", registre);
+  EXPECT_EQ(NumeroErreur([&] { EcritFichier(lieu / "none/f", "new", registre); }), 75);
+  EXPECT_EQ(Compte(lieu) + Compte(registre), 1U);
+  EcritFichier(lieu / "f", "newer", "/proc/velmaris");
+  EXPECT_EQ(Contenu(lieu / "f"), "newer") << "a note that can't be written stops nothing";
+}
+
+TEST(FileWriting, ANameOfTheGreatestLengthCanBeReplaced) {
+  const DossierTemporaire dossier;
+  const std::string nom(255, 'n');
+  EcritFichier(dossier / nom, "x");
+  EXPECT_EQ(Contenu(dossier / nom), "x");
 }
 
 TEST(FileWriting, BehindALinkTheFileItselfIsReplaced) {

@@ -148,5 +148,28 @@ TEST(DrawingSurface, ALayerThatDiffersInAnythingStays) {
   EXPECT_FALSE(RetireRepetition(vide, 0, 0));
 }
 
+TEST(DrawingSurface, RunsThatAreTakenOffLeaveTheOthersInTheirOrderAndThePictureIsPaintedAnew) {
+  Surface s;
+  for (int i = 0; i < 6; ++i) {
+    Cercle(s, {static_cast<double>(i), 0}, 1, kNoir);
+  }
+  const std::vector<Trace> avant = s.traces;
+  RetireTranches(s, {{4, 6}, {1, 2}});
+  EXPECT_EQ(s.traces, (std::vector<Trace>{avant[0], avant[2], avant[3]}));
+  EXPECT_EQ(s.effacements, 1U);
+  RetireTranches(s, {{3, 9}, {1, 1}});
+  EXPECT_EQ(s.traces.size(), 3U);
+  EXPECT_EQ(s.effacements, 1U) << "nothing went";
+}
+
+TEST(DrawingSurface, WhatIsDrawnAfterARunWasTakenOffJoinsNothingBeforeIt) {
+  Surface s;
+  Ligne(s, {0, 0}, {1, 1}, kNoir);
+  Cercle(s, {0, 0}, 1, kNoir);
+  RetireTranches(s, {{1, 2}});
+  Ligne(s, {1, 1}, {2, 2}, kNoir);
+  EXPECT_EQ(s.traces.size(), 2U);
+}
+
 } // namespace
 } // namespace velmaris

@@ -216,6 +216,13 @@ TEST(CommaText, AValueIsWrittenWithACommaAndReadBack) {
   }
 }
 
+TEST(AvecPoint, ACommaIsTakenForThePointAndNothingElseChanges) {
+  EXPECT_EQ(AvecPoint("50,9"), "50.9");
+  EXPECT_EQ(AvecPoint(" -1,2,x"), " -1.2.x");
+  EXPECT_EQ(AvecPoint("12.5"), "12.5");
+  EXPECT_EQ(AvecPoint(""), "");
+}
+
 TEST(CommaText, AWholeNumberWithACommaIsRead) {
   const struct {
     const char *texte;
