@@ -2,14 +2,13 @@
 
 #include "calcul/Json.hpp"
 #include "foundations/Erreur.hpp"
+#include "foundations/Fichiers.hpp"
 #include "lines/FichierLoP.hpp"
 #include "sights/DroiteLUN.hpp"
 #include "sights/DroitePLA.hpp"
 #include "sights/DroiteSOL.hpp"
 #include "sights/DroiteSTAR.hpp"
 
-#include <new>
-#include <stdexcept>
 #include <string_view>
 #include <vector>
 
@@ -17,7 +16,6 @@ namespace velmaris {
 namespace {
 
 constexpr int kArgumentIncorrect = 5;
-constexpr int kAccesFichier = 75;
 
 /// A sight that has been through a reduction, with all that it left.
 struct ViseeReduite {
@@ -143,12 +141,10 @@ bool ReduitFichier(const std::string &fichier, const TexteMsg &messages, std::st
   try {
     AjouteReduction(sortie, fichier, messages);
     reussi = true;
+  } catch (const FichierTropGrand &erreur) {
+    AjouteErreur(sortie, erreur.numero, "Fichier trop grand");
   } catch (const Erreur &erreur) {
     AjouteErreur(sortie, erreur.numero, SensErreur(erreur.numero));
-  } catch (const std::bad_alloc &) {
-    AjouteErreur(sortie, kAccesFichier, "Fichier trop grand pour la mémoire");
-  } catch (const std::length_error &) {
-    AjouteErreur(sortie, kAccesFichier, "Fichier trop grand pour la mémoire");
   }
   sortie += "}\n";
   return reussi;

@@ -1,5 +1,6 @@
 #include "calcul/Etoile.hpp"
 #include "calcul/Horizon.hpp"
+#include "calcul/Langue.hpp"
 #include "calcul/Lune.hpp"
 #include "calcul/Planetes.hpp"
 #include "calcul/Reduit.hpp"
@@ -10,11 +11,14 @@
 
 #include <CLI/CLI.hpp>
 
+#include <algorithm>
 #include <charconv>
 #include <cmath>
 #include <cstdio>
+#include <cstdlib>
 #include <filesystem>
 #include <iostream>
+#include <sstream>
 
 namespace {
 
@@ -28,7 +32,8 @@ constexpr std::size_t kTampon = 1U << 20U; ///< bytes gathered before they are w
 
 /// What the command line asks for.
 struct Demande {
-  std::string langue = "fr";
+  Langue dit;                ///< of help and errors
+  std::string langue = "fr"; ///< of the numbered texts in the results
   std::vector<std::string> fichiers;
   DemandeHorizon horizon;
   DemandeEtoile etoile;
@@ -36,11 +41,15 @@ struct Demande {
   DemandePlanete planete;
 };
 
-/// Writes what has been gathered and empties it.
-/// @return false when standard output doesn't take it
-bool Vide(std::string &sortie) {
+/// Writes what has been gathered and empties it. Output that isn't taken, by a full disk say, is told on standard
+/// error, in the user's language.
+/// @return false then
+bool Vide(std::string &sortie, const Langue &dit) {
   const bool ecrit = std::fwrite(sortie.data(), 1, sortie.size(), stdout) == sortie.size() && std::fflush(stdout) == 0;
   sortie.clear();
+  if (!ecrit) {
+    std::cerr << "velmaris-calcul: " << dit("la sortie ne peut pas être écrite", "the output can't be written") << "\n";
+  }
   return ecrit;
 }
 
@@ -70,44 +79,39 @@ TexteMsg MessagesDeLangue(const std::string &langue, const std::filesystem::path
 int Reduit(const Demande &demande, const std::filesystem::path &dossier) {
   const TexteMsg messages = MessagesDeLangue(demande.langue, dossier);
   bool reussi = true;
-  bool ecrit = true;
   std::string sortie;
   sortie.reserve(kTampon * 2);
   for (const std::string &fichier : demande.fichiers) {
     reussi = ReduitFichier(fichier, messages, sortie) && reussi;
-    if (sortie.size() >= kTampon) {
-      ecrit = Vide(sortie) && ecrit;
+    if (sortie.size() >= kTampon && !Vide(sortie, demande.dit)) {
+      return kEchec;
     }
   }
-  ecrit = Vide(sortie) && ecrit;
-  if (!ecrit) {
-    std::cerr << "velmaris-calcul: la sortie ne peut pas être écrite\n";
-  }
-  return reussi && ecrit ? kReussi : kEchec;
+  return Vide(sortie, demande.dit) && reussi ? kReussi : kEchec;
 }
 
 int Horizon(const Demande &demande) {
   std::string sortie;
   const bool reussi = EcritHorizon(demande.horizon, sortie);
-  return Vide(sortie) && reussi ? kReussi : kEchec;
+  return Vide(sortie, demande.dit) && reussi ? kReussi : kEchec;
 }
 
 int Etoile(const Demande &demande) {
   std::string sortie;
   const bool reussi = EcritEtoile(demande.etoile, sortie);
-  return Vide(sortie) && reussi ? kReussi : kEchec;
+  return Vide(sortie, demande.dit) && reussi ? kReussi : kEchec;
 }
 
 int Lune(const Demande &demande, const std::filesystem::path &dossier) {
   std::string sortie;
   const bool reussi = EcritLune(demande.lune, MessagesDeLangue(demande.lune.langue, dossier)[kLabelAD], sortie);
-  return Vide(sortie) && reussi ? kReussi : kEchec;
+  return Vide(sortie, demande.dit) && reussi ? kReussi : kEchec;
 }
 
 int Planete(const Demande &demande, EcritPlanete ecrit) {
   std::string sortie;
   const bool reussi = ecrit(demande.planete, sortie);
-  return Vide(sortie) && reussi ? kReussi : kEchec;
+  return Vide(sortie, demande.dit) && reussi ? kReussi : kEchec;
 }
 
 /// A whole argument as a number, "." being the decimal point; an infinity is none.
@@ -126,13 +130,14 @@ bool LitFigure(std::string_view texte, double &valeur) {
 }
 
 /// A positional argument that must be a number.
-void AjouteNombreLu(CLI::App &verbe, const std::string &nom, double &valeur, const std::string &aide) {
+void AjouteNombreLu(CLI::App &verbe, const Langue &dit, const std::string &nom, double &valeur,
+                    const std::string &aide) {
   verbe
       .add_option_function<std::string>(
           nom,
-          [&valeur, nom](const std::string &texte) {
+          [&valeur, &dit, nom](const std::string &texte) {
             if (!LitFigure(texte, valeur)) {
-              throw CLI::ValidationError(nom, texte + " n'est pas un nombre");
+              throw CLI::ValidationError(nom, texte + dit(" n'est pas un nombre", " isn't a number"));
             }
           },
           aide)
@@ -141,131 +146,180 @@ void AjouteNombreLu(CLI::App &verbe, const std::string &nom, double &valeur, con
 }
 
 /// The choice of the language of the texts.
-void AjouteLangue(CLI::App &verbe, std::string &langue) {
-  verbe.add_option("--langue", langue, "Langue des textes : fr, en ou aucune")
-      ->check(CLI::IsMember({"fr", "en", "aucune"}))
-      ->type_name("LANGUE")
+void AjouteLangue(CLI::App &verbe, const Langue &dit, std::string &langue) {
+  verbe
+      .add_option("--langue", langue,
+                  dit("Langue des textes : fr, en ou aucune", "Language of the texts: fr, en, or aucune for none"))
+      ->check(CLI::Validator(
+          [&dit](const std::string &mot) {
+            return mot == "fr" || mot == "en" || mot == "aucune" ? "" : mot + dit(" n'en est pas une", " isn't one");
+          },
+          ""))
+      ->type_name(dit("LANGUE", "LANGUAGE"))
       ->capture_default_str();
 }
 
-CLI::App *DeclareReduit(CLI::App &programme, Demande &demande) {
-  CLI::App *verbe = programme.add_subcommand("reduit", "Réduit des visées enregistrées, dans l'ordre");
-  verbe->group("Verbes");
-  AjouteLangue(*verbe, demande.langue);
-  verbe->add_option("FICHIER.LoP", demande.fichiers, "Fichiers de visée")->required()->type_name("");
-  return verbe;
-}
-
-CLI::App *DeclareHorizon(CLI::App &programme, Demande &demande) {
-  CLI::App *verbe = programme.add_subcommand("horizon", "Azimut et hauteur d'un lieu équatorial, \"azXalt\"");
-  verbe->group("Verbes");
-  verbe->add_option("JJ/MM/AAAA", demande.horizon.date, "Date UTC")->required()->type_name("");
-  verbe->add_option("HH:MM:SS", demande.horizon.heure, "Heure UTC")->required()->type_name("");
-  AjouteNombreLu(*verbe, "AD", demande.horizon.AD, "Ascension droite, degrés");
-  AjouteNombreLu(*verbe, "DEC", demande.horizon.Dec, "Déclinaison, degrés, nord positif");
-  AjouteNombreLu(*verbe, "LAT", demande.horizon.latitude, "Latitude, degrés, nord positif");
-  AjouteNombreLu(*verbe, "LON_EST", demande.horizon.lonEst, "Longitude, degrés, est positif");
-  return verbe;
-}
-
-CLI::App *DeclareEtoile(CLI::App &programme, Demande &demande) {
-  CLI::App *verbe =
-      programme.add_subcommand("etoile", "Place d'une étoile de la table à une date, \"adXdec\" en degrés");
-  verbe->group("Verbes");
-  verbe->add_option("RANG", demande.etoile.rang, "Ligne de la table, 1 à 246")
-      ->check(CLI::Range(1, kNombreLignesEtoiles))
+CLI::App *DeclareReduit(CLI::App &programme, const Langue &dit, Demande &demande) {
+  CLI::App *verbe = programme.add_subcommand(
+      "reduit", dit("Réduit des visées enregistrées, dans l'ordre", "Reduces saved sights, in their order"));
+  verbe->group(dit("Verbes", "Commands"));
+  AjouteLangue(*verbe, dit, demande.langue);
+  verbe->add_option(dit("FICHIER.LoP", "FILE.LoP"), demande.fichiers, dit("Fichiers de visée", "Files of sights"))
       ->required()
       ->type_name("");
-  AjouteNombreLu(*verbe, "JOUR", demande.etoile.jour, "Jour");
-  AjouteNombreLu(*verbe, "MOIS", demande.etoile.mois, "Mois");
-  AjouteNombreLu(*verbe, "AN", demande.etoile.an, "Année");
+  return verbe;
+}
+
+CLI::App *DeclareHorizon(CLI::App &programme, const Langue &dit, Demande &demande) {
+  CLI::App *verbe = programme.add_subcommand("horizon", dit("Azimut et hauteur d'un lieu équatorial, \"azXalt\"",
+                                                            "Azimuth and altitude of an equatorial place, \"azXalt\""));
+  verbe->group(dit("Verbes", "Commands"));
+  verbe->add_option(dit("JJ/MM/AAAA", "DD/MM/YYYY"), demande.horizon.date, dit("Date UTC", "Date, UTC"))
+      ->required()
+      ->type_name("");
+  verbe->add_option("HH:MM:SS", demande.horizon.heure, dit("Heure UTC", "Time, UTC"))->required()->type_name("");
+  AjouteNombreLu(*verbe, dit, dit("AD", "RA"), demande.horizon.AD,
+                 dit("Ascension droite, degrés", "Right ascension, degrees"));
+  AjouteNombreLu(*verbe, dit, "DEC", demande.horizon.Dec,
+                 dit("Déclinaison, degrés, nord positif", "Declination, degrees, north positive"));
+  AjouteNombreLu(*verbe, dit, "LAT", demande.horizon.latitude,
+                 dit("Latitude, degrés, nord positif", "Latitude, degrees, north positive"));
+  AjouteNombreLu(*verbe, dit, dit("LON_EST", "LON_EAST"), demande.horizon.lonEst,
+                 dit("Longitude, degrés, est positif", "Longitude, degrees, east positive"));
+  return verbe;
+}
+
+CLI::App *DeclareEtoile(CLI::App &programme, const Langue &dit, Demande &demande) {
+  CLI::App *verbe =
+      programme.add_subcommand("etoile", dit("Place d'une étoile de la table à une date, \"adXdec\" en degrés",
+                                             "Place of a star of the table on a date, \"adXdec\" in degrees"));
+  verbe->group(dit("Verbes", "Commands"));
+  verbe
+      ->add_option(dit("RANG", "ROW"), demande.etoile.rang,
+                   dit("Ligne de la table, 1 à 246", "Row of the table, 1 to 246"))
+      ->check(CLI::Validator(
+          [&dit](const std::string &texte) {
+            int rang = 0;
+            const char *const fin = texte.data() + texte.size();
+            const auto lu = std::from_chars(texte.data(), fin, rang);
+            const bool bon = lu.ec == std::errc() && lu.ptr == fin && rang >= 1 && rang <= kNombreLignesEtoiles;
+            return bon ? "" : texte + dit(" n'est pas une ligne de la table", " isn't a row of the table");
+          },
+          ""))
+      ->required()
+      ->type_name("");
+  AjouteNombreLu(*verbe, dit, dit("JOUR", "DAY"), demande.etoile.jour, dit("Jour", "Day"));
+  AjouteNombreLu(*verbe, dit, dit("MOIS", "MONTH"), demande.etoile.mois, dit("Mois", "Month"));
+  AjouteNombreLu(*verbe, dit, dit("AN", "YEAR"), demande.etoile.an, dit("Année", "Year"));
   return verbe;
 }
 
 /// A verb that gives one place of a planet.
-CLI::App *DeclarePlanete(CLI::App &programme, Demande &demande, const std::string &nom, const std::string &aide) {
+CLI::App *DeclarePlanete(CLI::App &programme, const Langue &dit, Demande &demande, const std::string &nom,
+                         const std::string &aide) {
   CLI::App *verbe = programme.add_subcommand(nom, aide);
-  verbe->group("Verbes");
-  verbe->add_option("PLANETE", demande.planete.nom, "Venus, Mars, Jupiter, Saturne ou Earth")
+  verbe->group(dit("Verbes", "Commands"));
+  verbe
+      ->add_option(dit("PLANETE", "PLANET"), demande.planete.nom,
+                   dit("Venus, Mars, Jupiter, Saturne ou Earth", "Venus, Mars, Jupiter, Saturne or Earth"))
       ->required()
       ->type_name("");
-  AjouteNombreLu(*verbe, "JD", demande.planete.JD, "Jour julien, UTC");
+  AjouteNombreLu(*verbe, dit, "JD", demande.planete.JD, dit("Jour julien, UTC", "Julian day, UTC"));
   return verbe;
 }
 
-CLI::App *DeclareLune(CLI::App &programme, Demande &demande) {
-  CLI::App *verbe = programme.add_subcommand("lune", "Place de la Lune, du centre de la Terre et d'un lieu");
-  verbe->group("Verbes");
-  AjouteLangue(*verbe, demande.lune.langue);
-  AjouteNombreLu(*verbe, "AN", demande.lune.an, "Année UTC");
-  AjouteNombreLu(*verbe, "MOIS", demande.lune.mois, "Mois");
-  AjouteNombreLu(*verbe, "JOUR", demande.lune.jour, "Jour");
-  AjouteNombreLu(*verbe, "H", demande.lune.heure, "Heure UTC");
-  AjouteNombreLu(*verbe, "M", demande.lune.minute, "Minute");
-  AjouteNombreLu(*verbe, "S", demande.lune.seconde, "Seconde");
-  AjouteNombreLu(*verbe, "LAT", demande.lune.latitude, "Latitude, degrés, nord positif");
-  AjouteNombreLu(*verbe, "LON_EST", demande.lune.lonEst, "Longitude, degrés, est positif");
+CLI::App *DeclareLune(CLI::App &programme, const Langue &dit, Demande &demande) {
+  CLI::App *verbe =
+      programme.add_subcommand("lune", dit("Place de la Lune, du centre de la Terre et d'un lieu",
+                                           "The Moon's place, from the Earth's centre and from a place on it"));
+  verbe->group(dit("Verbes", "Commands"));
+  AjouteLangue(*verbe, dit, demande.lune.langue);
+  AjouteNombreLu(*verbe, dit, dit("AN", "YEAR"), demande.lune.an, dit("Année UTC", "Year, UTC"));
+  AjouteNombreLu(*verbe, dit, dit("MOIS", "MONTH"), demande.lune.mois, dit("Mois", "Month"));
+  AjouteNombreLu(*verbe, dit, dit("JOUR", "DAY"), demande.lune.jour, dit("Jour", "Day"));
+  AjouteNombreLu(*verbe, dit, "H", demande.lune.heure, dit("Heure UTC", "Hour, UTC"));
+  AjouteNombreLu(*verbe, dit, "M", demande.lune.minute, "Minute");
+  AjouteNombreLu(*verbe, dit, "S", demande.lune.seconde, dit("Seconde", "Second"));
+  AjouteNombreLu(*verbe, dit, "LAT", demande.lune.latitude,
+                 dit("Latitude, degrés, nord positif", "Latitude, degrees, north positive"));
+  AjouteNombreLu(*verbe, dit, dit("LON_EST", "LON_EAST"), demande.lune.lonEst,
+                 dit("Longitude, degrés, est positif", "Longitude, degrees, east positive"));
   return verbe;
 }
 
-/// The arguments, last first as the parser takes them; "-.5" becomes "-0.5" so that it isn't taken for an option.
+/// The arguments, last first as the parser takes them; "-.5" becomes "-0.5" so that it isn't taken for an option. What
+/// comes after "--" is taken as it stands.
 std::vector<std::string> Arguments(int argc, char **argv) {
   std::vector<std::string> arguments;
-  for (int i = argc - 1; i > 0; --i) {
+  bool options = true;
+  for (int i = 1; i < argc; ++i) {
     std::string argument = argv[i];
-    if (argument.starts_with("-.")) {
+    options = options && argument != "--";
+    if (options && argument.starts_with("-.")) {
       argument.insert(1, "0");
     }
     arguments.push_back(std::move(argument));
   }
+  std::reverse(arguments.begin(), arguments.end());
   return arguments;
 }
 
 /// What a usage error means, in front of the parser's own words.
-std::string SensUsage(const CLI::ParseError &erreur) {
+std::string SensUsage(const CLI::ParseError &erreur, const Langue &dit) {
   switch (static_cast<CLI::ExitCodes>(erreur.get_exit_code())) {
   case CLI::ExitCodes::RequiredError:
-    return "argument manquant";
+    return dit("argument manquant", "missing argument");
   case CLI::ExitCodes::ExtrasError:
-    return "argument en trop";
+    return dit("argument en trop", "argument too many");
   case CLI::ExitCodes::ValidationError:
   case CLI::ExitCodes::ConversionError:
-    return "valeur incorrecte";
+    return dit("valeur incorrecte", "wrong value");
   default:
-    return "ligne de commande incorrecte";
+    return dit("ligne de commande incorrecte", "wrong command line");
   }
 }
 
 /// The words of the help page.
-void NommeAide(const CLI::App &programme) {
+void NommeAide(const CLI::App &programme, const Langue &dit) {
   const auto formateur = programme.get_formatter();
-  formateur->label("SUBCOMMAND", "VERBE");
+  formateur->label("Usage", dit("Usage ", "Usage"));
+  formateur->label("SUBCOMMAND", dit("VERBE", "COMMAND"));
   formateur->label("Positionals", "Arguments");
-  formateur->label("REQUIRED", "(obligatoire)");
+  formateur->label("REQUIRED", dit("(obligatoire)", "(required)"));
 }
 
 int Execute(int argc, char **argv) {
   Demande demande;
-  CLI::App programme("Réduit des visées au sextant et donne des places dans le ciel, un objet JSON par ligne",
+  const Langue &dit = demande.dit =
+      LangueDuSysteme(std::getenv("LC_ALL"), std::getenv("LC_MESSAGES"), std::getenv("LANG"));
+  CLI::App programme(dit("Réduit des visées au sextant et donne des places dans le ciel, un objet JSON par ligne",
+                         "Reduces sextant sights and gives places in the sky, one JSON object a line"),
                      "velmaris-calcul");
-  programme.set_version_flag("--version", "velmaris-calcul " VELMARIS_VERSION, "Montre la version");
-  programme.set_help_flag("-h,--help", "Montre cette aide");
+  programme.set_version_flag("--version", "velmaris-calcul " VELMARIS_VERSION,
+                             dit("Montre la version", "Tells the version"));
+  programme.set_help_flag("-h,--help", dit("Montre cette aide", "Tells this help"));
   programme.require_subcommand(1);
-  NommeAide(programme);
-  const CLI::App *reduit = DeclareReduit(programme, demande);
-  const CLI::App *helio = DeclarePlanete(programme, demande, "helio", "Lieu héliocentrique d'une planète, \"L|B|R\"");
-  const CLI::App *place =
-      DeclarePlanete(programme, demande, "place", "Lieu apparent d'une planète, cinq champs entre des barres");
-  const CLI::App *etoile = DeclareEtoile(programme, demande);
-  const CLI::App *lune = DeclareLune(programme, demande);
-  DeclareHorizon(programme, demande);
+  NommeAide(programme, dit);
+  const CLI::App *reduit = DeclareReduit(programme, dit, demande);
+  const CLI::App *helio =
+      DeclarePlanete(programme, dit, demande, "helio",
+                     dit("Lieu héliocentrique d'une planète, \"L|B|R\"", "Heliocentric place of a planet, \"L|B|R\""));
+  const CLI::App *place = DeclarePlanete(programme, dit, demande, "place",
+                                         dit("Lieu apparent d'une planète, cinq champs entre des barres",
+                                             "Apparent place of a planet, five fields between bars"));
+  const CLI::App *etoile = DeclareEtoile(programme, dit, demande);
+  const CLI::App *lune = DeclareLune(programme, dit, demande);
+  DeclareHorizon(programme, dit, demande);
   try {
     programme.parse(Arguments(argc, argv));
   } catch (const CLI::Success &demandee) {
-    return programme.exit(demandee);
+    std::ostringstream page;
+    programme.exit(demandee, page, page);
+    std::string sortie = page.str();
+    return Vide(sortie, demande.dit) ? kReussi : kEchec;
   } catch (const CLI::ParseError &erreur) {
-    std::cerr << "velmaris-calcul: " << SensUsage(erreur) << " (" << erreur.what()
-              << ")\nUsage : velmaris-calcul --help\n";
+    std::cerr << "velmaris-calcul: " << SensUsage(erreur, dit) << " (" << DitEnLangue(erreur.what(), dit) << ")\n"
+              << dit("Usage : ", "Usage: ") << "velmaris-calcul --help\n";
     return kUsage;
   }
   if (reduit->parsed()) {

@@ -1,6 +1,7 @@
 #include "Passage.hpp"
 
 #include <array>
+#include <cstdlib>
 #include <fcntl.h>
 #include <gtest/gtest.h>
 #include <poll.h>
@@ -37,9 +38,33 @@ void LitTuyaux(int sortie, int erreurs, Passage &passage) {
   }
 }
 
+/// Sets a variable of the environment, or takes it away.
+void Pose(const std::string &nom, const std::optional<std::string> &valeur) {
+  if (valeur) {
+    ::setenv(nom.c_str(), valeur->c_str(), 1);
+  } else {
+    ::unsetenv(nom.c_str());
+  }
+}
+
 } // namespace
 
-Passage Lance(std::vector<std::string> arguments, const std::string &programme) {
+Environnement::Environnement(const Variables &voulu) {
+  for (const char *nom : {"LC_ALL", "LC_MESSAGES", "LANG", "LANGUAGE"}) {
+    const char *avant = std::getenv(nom);
+    avant_[nom] = avant == nullptr ? std::nullopt : std::optional<std::string>(avant);
+    const auto trouve = voulu.find(nom);
+    Pose(nom, trouve == voulu.end() ? std::nullopt : std::optional(trouve->second));
+  }
+}
+
+Environnement::~Environnement() {
+  for (const auto &[nom, valeur] : avant_) {
+    Pose(nom, valeur);
+  }
+}
+
+Passage Lance(std::vector<std::string> arguments, const std::string &programme, const std::string &versFichier) {
   arguments.insert(arguments.begin(), programme);
   std::vector<char *> argv;
   for (std::string &argument : arguments) {
@@ -52,7 +77,11 @@ Passage Lance(std::vector<std::string> arguments, const std::string &programme) 
   EXPECT_EQ(pipe2(erreurs.data(), O_CLOEXEC), 0);
   posix_spawn_file_actions_t actions;
   posix_spawn_file_actions_init(&actions);
-  posix_spawn_file_actions_adddup2(&actions, sortie[1], STDOUT_FILENO);
+  if (versFichier.empty()) {
+    posix_spawn_file_actions_adddup2(&actions, sortie[1], STDOUT_FILENO);
+  } else {
+    posix_spawn_file_actions_addopen(&actions, STDOUT_FILENO, versFichier.c_str(), O_WRONLY, 0);
+  }
   posix_spawn_file_actions_adddup2(&actions, erreurs[1], STDERR_FILENO);
   pid_t pid = 0;
   Passage passage;

@@ -121,7 +121,7 @@ TEST(CalculCommande, HelpNamesEveryVerb) {
   EXPECT_THAT(p.sortie, HasSubstr("helio"));
   EXPECT_THAT(p.sortie, HasSubstr("place"));
   EXPECT_THAT(p.erreurs, IsEmpty());
-  EXPECT_THAT(Lance({"horizon", "--help"}).sortie, HasSubstr("JJ/MM/AAAA HH:MM:SS AD DEC LAT LON_EST"));
+  EXPECT_THAT(Lance({"horizon", "--help"}).sortie, HasSubstr("HH:MM:SS"));
   EXPECT_THAT(Lance({"reduit", "--help"}).sortie, HasSubstr("--langue"));
 }
 
@@ -152,6 +152,27 @@ TEST(CalculCommande, AUsageErrorGoesToStandardErrorWithStatusTwo) {
     EXPECT_EQ(p.etat, 2) << testing::PrintToString(arguments);
     EXPECT_THAT(p.sortie, IsEmpty()) << testing::PrintToString(arguments);
     EXPECT_THAT(p.erreurs, StartsWith("velmaris-calcul: ")) << testing::PrintToString(arguments);
+  }
+}
+
+TEST(CalculCommande, AFullDiskAtItsOutputIsToldAndEndsWithStatusOneWhateverIsAsked) {
+  const std::vector<std::vector<std::string>> cas = {{"--help"},
+                                                     {"--version"},
+                                                     {"reduit", "--help"},
+                                                     {"reduit", "rien.LoP"},
+                                                     {"helio", "Venus", "2461212.5"},
+                                                     {"place", "Venus", "2461212.5"},
+                                                     {"etoile", "1", "1", "1", "2026"},
+                                                     {"lune", "2026", "6", "21", "12", "0", "0", "47", "-5"},
+                                                     {"horizon", "21/06/2026", "12:00:00", "1", "2", "3", "4"}};
+  for (const auto &[langue, message] :
+       {std::pair("fr_FR.UTF-8", "la sortie ne peut pas être écrite"), std::pair("C", "the output can't be written")}) {
+    const Environnement environnement(Variables{{"LANG", langue}});
+    for (const auto &arguments : cas) {
+      const Passage p = Lance(arguments, VELMARIS_CALCUL, "/dev/full");
+      EXPECT_EQ(p.etat, 1) << testing::PrintToString(arguments);
+      EXPECT_EQ(p.erreurs, std::string("velmaris-calcul: ") + message + "\n") << testing::PrintToString(arguments);
+    }
   }
 }
 

@@ -77,6 +77,18 @@ TEST_F(Reduit, TenMegabytesAreToldAtOnce) {
   AttendErreur(Ecrit("lignes.LoP", lignes), 9);
 }
 
+TEST_F(Reduit, AFileOverSixtyFourMegabytesIsToldAndTheOthersAreReduced) {
+  const std::string bon = EcritVisee("a.LoP", LignesSoleil());
+  const std::string grand = EcritVisee("grand.LoP", LignesSoleil());
+  for (const std::uintmax_t taille : {(std::uintmax_t{64} << 20U) + 1, std::uintmax_t{1} << 30U}) {
+    fs::resize_file(grand, taille);
+    AttendErreur(grand, 75);
+    const Passage p = Lance({"reduit", "--langue", "aucune", grand, bon});
+    EXPECT_EQ(p.etat, 1);
+    EXPECT_EQ(Objets(p.sortie).at(1)["reduit"], true);
+  }
+}
+
 TEST_F(Reduit, EveryEndOfLineIsRead) {
   const ordered_json crlf = ReduitUn(Ecrit("a.LoP", Assemble(LignesSoleil(), "\r\n")));
   for (const char *fin : {"\n", "\r"}) {
@@ -105,6 +117,31 @@ TEST_F(Reduit, ANameThatIsNotUtf8StillMakesValidOutput) {
   const Passage p = Lance({"reduit", "--langue", "aucune", fichier});
   EXPECT_EQ(p.etat, 0);
   EXPECT_THAT(Objets(p.sortie).at(0)["fichier"].get<std::string>(), HasSubstr("no\xEF\xBF\xBDl\"\\\t.LoP"));
+}
+
+TEST_F(Reduit, AfterTwoDashesANameThatBeginsWithASignIsAName) {
+  for (const char *nom : {"-x.LoP", "-.LoP", "-.5", "--help", "--", "+1.LoP", "-", "-h", "--langue=en", "horizon"}) {
+    const Passage p = Lance({"reduit", "--langue", "aucune", "--", "rien.LoP", nom});
+    EXPECT_EQ(p.etat, 1) << nom;
+    EXPECT_THAT(p.erreurs, IsEmpty()) << nom;
+    const auto objets = Objets(p.sortie);
+    ASSERT_THAT(objets, SizeIs(2)) << nom;
+    EXPECT_EQ(objets[1]["fichier"], nom);
+    const auto seul = Objets(Lance({"reduit", "--", nom}).sortie);
+    ASSERT_THAT(seul, SizeIs(1)) << nom;
+    EXPECT_EQ(seul[0]["fichier"], nom);
+  }
+}
+
+TEST_F(Reduit, ADashBeforeAPointInANameIsNoNumber) {
+  const std::string fichier = EcritVisee("a.LoP", LignesSoleil());
+  const fs::path avant = fs::current_path();
+  fs::current_path(dossier_);
+  EcritVisee("-.5", LignesSoleil());
+  const Passage p = Lance({"reduit", "--", "-.5"});
+  fs::current_path(avant);
+  EXPECT_EQ(p.etat, 0);
+  EXPECT_EQ(Objets(p.sortie).at(0)["fichier"], "-.5");
 }
 
 TEST_F(Reduit, ManyFilesComeOutWhole) {
