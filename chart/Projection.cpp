@@ -12,10 +12,12 @@ constexpr float kLimiteLongitude = 200.0F; ///< from it on, no sheet
 
 } // namespace
 
+bool EstMonde(const Feuille &feuille) { return !(feuille.OrigineFeuille.longitude < kLimiteLongitude); }
+
 VueCarte ChoisitVue(Feuille &feuille, const Surface &surface) {
   VueCarte vue;
   vue.hauteur = surface.hauteur;
-  if (feuille.OrigineFeuille.longitude < kLimiteLongitude) {
+  if (!EstMonde(feuille)) {
     vue.Rapport = Simple(Divise(feuille.EchelleY * 60.0 * 180.0, surface.hauteur));
     vue.CentreCarteX = (180.0 - feuille.OrigineFeuille.longitude) / 360;
     vue.CentreCarteY = 1 - (feuille.OrigineFeuille.latitude + 90.0) / 180;

@@ -19,6 +19,9 @@ struct PlaceCarte {
   double longitude = 0.0;
 };
 
+/// Whether the chart is that of the whole world, for want of a sheet or of a centre chosen by hand.
+bool EstMonde(const Feuille &feuille);
+
 /// The view around the sheet, or of the whole world when there is none. The scales of the whole world stay in force for
 /// the mouse and the marks until the next sheet: its vertical one is not that of the picture.
 /// @param feuille  its scales are replaced for the whole world

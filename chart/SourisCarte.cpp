@@ -4,7 +4,6 @@
 #include "foundations/Erreur.hpp"
 #include "foundations/TexteNombre.hpp"
 
-#include <algorithm>
 #include <cmath>
 
 namespace velmaris {
@@ -22,9 +21,7 @@ template <class Dessin> void Note(SourisCarte &souris, Surface &surface, Dessin 
   surface.plumeLevee = true;
   const std::size_t premier = surface.traces.size();
   dessin();
-  for (std::size_t i = premier; i < surface.traces.size(); ++i) {
-    souris.traces.push_back(i);
-  }
+  souris.traces.push_back({premier, surface.traces.size()});
   surface.plumeLevee = true;
 }
 
@@ -75,14 +72,12 @@ void TraceBranche(SourisCarte &souris, Surface &surface) {
   });
 }
 
-void EffaceBranches(SourisCarte &souris, Surface &surface) {
-  if (souris.effacements == surface.effacements && !souris.traces.empty()) {
-    std::for_each(souris.traces.rbegin(), souris.traces.rend(), [&](std::size_t rang) {
-      surface.traces.erase(surface.traces.begin() + static_cast<std::ptrdiff_t>(rang));
-    });
-    ++surface.effacements;
+void EffaceBranches(SourisCarte &souris, Surface &surface, std::vector<Tranche> avec) {
+  if (souris.effacements == surface.effacements) {
+    avec.insert(avec.end(), souris.traces.begin(), souris.traces.end());
   }
   souris.traces.clear();
+  RetireTranches(surface, avec);
 }
 
 } // namespace velmaris

@@ -23,7 +23,7 @@ struct SourisCarte {
   std::int16_t CapDegres = 0;      ///< its course
   float ClicX = 0.0F;              ///< where the left button last opened the menu
   float ClicY = 0.0F;              ///< where the left button last opened the menu
-  std::vector<std::size_t> traces; ///< what the legs have left in the surface's list
+  std::vector<Tranche> traces;     ///< what the legs have left in the surface's list
   std::uint64_t effacements = 0;   ///< of the surface when they did
 };
 
@@ -50,6 +50,7 @@ void TraceCroixBranche(SourisCarte &souris, Surface &surface);
 void TraceBranche(SourisCarte &souris, Surface &surface);
 
 /// Takes the legs and their marks off the surface, and leaves all else.
-void EffaceBranches(SourisCarte &souris, Surface &surface);
+/// @param avec  runs of the surface's list that go with them
+void EffaceBranches(SourisCarte &souris, Surface &surface, std::vector<Tranche> avec = {});
 
 } // namespace velmaris

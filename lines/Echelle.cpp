@@ -32,7 +32,7 @@ void TraceBande(const Feuille &feuille, Surface &surface, const Bande &bande, do
   for (int mille = 0; mille <= longueurMilles; mille += pas) {
     const double x = debut.x + feuille.EchelleY * double(mille);
     TraceTrait(surface, x, debut.y, H / 40);
-    EcritEn(surface, {x - W / 100 - 50, H / 1.08 + W / 60}, TexteGeneral(double(mille)));
+    EcritEn(surface, {x - W / 100 - 50, H / 1.08 + W / 60}, TexteGeneral(double(mille)), {GenreTexte::Echelle});
   }
 }
 
@@ -48,7 +48,7 @@ void TraceEchelle(const Feuille &feuille, Surface &surface) {
   surface.epaisseur = 2;
   Ligne(surface, debut, fin, kNoir);
   surface.epaisseur = 1;
-  EcritEn(surface, {fin.x + W / 100, debut.y + H / 100}, "Milles Nautiques ");
+  EcritEn(surface, {fin.x + W / 100, debut.y + H / 100}, "Milles Nautiques ", {GenreTexte::Echelle});
   for (const Bande &bande : kBandes) {
     if (feuille.Zoom <= bande.zoomMax) {
       TraceBande(feuille, surface, bande, L, debut);

@@ -48,9 +48,9 @@ void TraceRose(const Feuille &feuille, Surface &surface, const Observation &o) {
   const double H = surface.hauteur;
   const Point centre{feuille.CentreX, feuille.CentreY};
   EcritEn(surface, {centre.x, centre.y - H / 5.0},
-          o.longitudeDegres + "° " + o.longitudeMinutes + (o.est ? "' E" : "' W"));
+          o.longitudeDegres + "° " + o.longitudeMinutes + (o.est ? "' E" : "' W"), {GenreTexte::Position});
   EcritEn(surface, {centre.x - W / 6.0, centre.y},
-          o.latitudeDegres + "° " + o.latitudeMinutes + (o.sud ? "' S" : "' N"));
+          o.latitudeDegres + "° " + o.latitudeMinutes + (o.sud ? "' S" : "' N"), {GenreTexte::Position});
   Cercle(surface, centre, W / 15.0, kCercleRose);
   TraceCroix(feuille, surface, H / 5.0, W / 6.0);
   for (int n = 0; n <= 12; ++n) {
@@ -91,7 +91,7 @@ void TraceFleche(Feuille &feuille, Surface &surface, const ValeursVisee &valeurs
   Ligne(surface, depart, pointe, couleur);
   Ligne(surface, pointe, tete(85.0), couleur);
   Ligne(surface, tete(95.0), pointe, couleur);
-  Ecrit(surface, Format(valeurs.Azimut, "###.##") + " °");
+  Ecrit(surface, Format(valeurs.Azimut, "###.##") + " °", {GenreTexte::Droite});
   Ligne(surface, depart, {depart.x - corps.x, depart.y - corps.y}, couleur);
   surface.epaisseur = 1;
 }

@@ -68,7 +68,7 @@ std::string NombreDeFichier(int nombre) { return (nombre < 0 ? "" : " ") + std::
 void LitLignesLoP(std::string_view octets, TableLoP &table) {
   const std::string texte = EnUtf8(octets);
   std::size_t numero = 0;
-  for (const std::string_view ligne : Lignes(texte)) {
+  for (const std::string_view ligne : Lignes(texte, kLignesLoP + 1)) {
     if (numero == kLignesLoP) {
       throw Erreur(9);
     }
@@ -160,8 +160,9 @@ void ChargeLoP(const std::filesystem::path &chemin, Observation &observation) {
   AppliqueLoP(table, observation);
 }
 
-void SauveLoP(const std::filesystem::path &chemin, const Observation &observation) {
-  EcritFichier(chemin, EnWindows1252(EcritLoP(observation)));
+void SauveLoP(const std::filesystem::path &chemin, const Observation &observation,
+              const std::filesystem::path &registre) {
+  EcritFichier(chemin, EnWindows1252(EcritLoP(observation)), registre);
 }
 
 } // namespace velmaris

@@ -56,7 +56,9 @@ std::string NomProposeLoP(const Observation &observation);
 void ChargeLoP(const std::filesystem::path &chemin, Observation &observation);
 
 /// Writes a sight to a file in Windows-1252: to a new file beside it, flushed, then renamed over the old one.
-/// @throws Erreur 75 when it can't be written; an old file is then whole
-void SauveLoP(const std::filesystem::path &chemin, const Observation &observation);
+/// @param registre  as for EcritFichier: where the unfinished file is noted; empty for nowhere
+/// @throws Erreur 75 when it can't be written, or may not be; an old file is then whole
+void SauveLoP(const std::filesystem::path &chemin, const Observation &observation,
+              const std::filesystem::path &registre = {});
 
 } // namespace velmaris

@@ -106,7 +106,8 @@ void EcritMinutes(int debut, int sens, int nombre, int tour,
 /// else away from Greenwich from two degrees short of the position.
 void EcritMinutesLongitude(const Cadre &c) {
   const auto place = [&](int minutes, const std::string &figure) {
-    EcritEn(c.surface, {c.X(c.longitude.signe * minutes) - 160, c.surface.hauteur / 15.8}, figure);
+    EcritEn(c.surface, {c.X(c.longitude.signe * minutes) - 160, c.surface.hauteur / 15.8}, figure,
+            {GenreTexte::Minute});
   };
   const int degres = static_cast<int>(std::clamp(c.longitude.degres, 0.0, 360.0));
   if (c.longitude.degres <= 10) {
@@ -124,7 +125,7 @@ void EcritMinutesLongitude(const Cadre &c) {
 /// two degrees short of the position.
 void EcritMinutesLatitude(const Cadre &c) {
   const auto place = [&](int minutes, const std::string &figure) {
-    EcritEn(c.surface, {kBordGauche, c.Y(c.latitude.signe * minutes) - 170}, figure);
+    EcritEn(c.surface, {kBordGauche, c.Y(c.latitude.signe * minutes) - 170}, figure, {GenreTexte::Minute});
   };
   if (c.latitude.degres <= 10) {
     EcritMinutes(0, 1, 100, 90, place);
@@ -148,7 +149,7 @@ void TraceDegresLatitude(const Cadre &c) {
     const double y = c.Y(c.latitude.signe * degre * 60);
     c.surface.encre = kBleu;
     Ligne(c.surface, {c.surface.largeur, y}, {kBordGauche, y}, kNoir);
-    EcritEn(c.surface, {500, y - 100}, FigureDegre(degre, 90));
+    EcritEn(c.surface, {500, y - 100}, FigureDegre(degre, 90), {GenreTexte::DegreLatitude});
   }
 }
 
@@ -160,7 +161,7 @@ void TraceDegresLongitude(const Cadre &c) {
     const double x = c.X(c.longitude.signe * degre * 60);
     c.surface.encre = kRouge;
     Ligne(c.surface, {x, c.bas}, {x, c.haut}, kNoir);
-    EcritEn(c.surface, {x - 70, c.haut - 200}, FigureDegre(degre, 180));
+    EcritEn(c.surface, {x - 70, c.haut - 200}, FigureDegre(degre, 180), {GenreTexte::DegreLongitude});
   }
 }
 

@@ -55,7 +55,7 @@ void AffIntercept(const Feuille &feuille, Surface &surface, const ValeursVisee &
     const Point pied = sur(versEst ? G : i * double{feuille.EchelleY});
     surface.position = {pied.x + Decalage * std::sin(t), pied.y + Decalage * std::cos(t)};
   }
-  Ecrit(surface, Format(valeurs.Intercept, "#.0#") + " '");
+  Ecrit(surface, Format(valeurs.Intercept, "#.0#") + " '", {GenreTexte::Droite});
 }
 
 } // namespace velmaris

@@ -14,10 +14,17 @@ namespace {
 
 constexpr Couleur kBleuNuit = 0x800000;
 
-constexpr std::array<std::string_view, 26> kNavigables = {
+constexpr std::array<std::string_view, kNombreNavigables> kNavigables = {
     "Castor",    "Spica",  "Antares",    "Alpheratz", "Denebola", "Albireo", "Mirfak",          "Polaris", "Aldebaran",
     "Fomalhaut", "Deneb",  "Betelgeuse", "Acrux",     "Vega",     "Canopus", "Arcturus",        "Capella", "Regulus",
     "Dubhe",     "Altair", "Pollux",     "Achernar",  "Procyon",  "Rigel",   "Rigil Kentaurus", "Sirius"};
+
+/// The same stars by their visual magnitude, the brightest first; the variable ones by their mean.
+constexpr std::array<std::string_view, kNombreNavigables> kParEclat = {
+    "Sirius",  "Canopus",  "Rigil Kentaurus", "Arcturus", "Vega",    "Capella",   "Rigel",
+    "Procyon", "Achernar", "Betelgeuse",      "Altair",   "Acrux",   "Aldebaran", "Antares",
+    "Spica",   "Pollux",   "Fomalhaut",       "Deneb",    "Regulus", "Castor",    "Mirfak",
+    "Dubhe",   "Polaris",  "Alpheratz",       "Denebola", "Albireo"};
 
 /// Azimuth and height of a place from where one stands; what the conversion leaves in radians is dropped.
 void CalculeHorizon(AnglesCiel &angles, PlaceEquateur place, const RegardCiel &regard) {
@@ -29,6 +36,10 @@ void CalculeHorizon(AnglesCiel &angles, PlaceEquateur place, const RegardCiel &r
 
 bool EstNavigable(std::string_view nom) {
   return std::find(kNavigables.begin(), kNavigables.end(), nom) != kNavigables.end();
+}
+
+int RangEclat(std::string_view nom) {
+  return static_cast<int>(std::find(kParEclat.begin(), kParEclat.end(), nom) - kParEclat.begin());
 }
 
 Couleur CouleurEtoile(float hauteur) { return hauteur <= 0 ? kBleu : kBlanc; }

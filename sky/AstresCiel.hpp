@@ -38,6 +38,12 @@ inline constexpr std::array<std::string_view, 4> kPlanetesCiel = {"VENUS", "MARS
 /// Whether a star is of the short list: those that navigators shoot.
 bool EstNavigable(std::string_view nom);
 
+/// Number of stars in the short list.
+inline constexpr int kNombreNavigables = 26;
+
+/// Place of a star of the short list by its brightness, 0 for Sirius; the list's number for any other star.
+int RangEclat(std::string_view nom);
+
 /// Colour of a star: the sky's own at or under the horizon, white above.
 /// @param hauteur  degrees
 Couleur CouleurEtoile(float hauteur);

@@ -31,9 +31,9 @@ void EcritGraduation(Surface &carte, const CadreCiel &cadre, int az, double x, d
   carte.encre = kEncreEchelle;
   carte.police.taille = cadre.carte == CarteCiel::Horizontale && v % 45 == 0 ? 18 : 8;
   if (cadre.carte == CarteCiel::Horizontale) {
-    EcritEn(carte, {x - carte.police.taille * 15, bas + kSousTrait}, std::to_string(v) + "°");
+    EcritEn(carte, {x - carte.police.taille * 15, bas + kSousTrait}, std::to_string(v) + "°", {GenreTexte::Echelle});
   } else {
-    EcritEn(carte, {x - 200, bas + kSousTrait}, Format((360 - v) / 15.0, "00") + "h");
+    EcritEn(carte, {x - 200, bas + kSousTrait}, Format((360 - v) / 15.0, "00") + "h", {GenreTexte::Echelle});
   }
 }
 

@@ -5,8 +5,11 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <array>
 #include <cmath>
 #include <random>
+#include <utility>
 
 namespace velmaris {
 namespace {
@@ -108,6 +111,71 @@ TEST(SunsPlace, In32BitsLosesNoMoreThanTheStepOfItsLongitude) {
     EXPECT_NEAR(std::remainder(simple.AD - fine.AD, 360.0), 0.0, 0.0023) << t;
     EXPECT_NEAR(simple.Dec, fine.Dec, 0.0010) << t;
   }
+}
+
+/// Seconds by which dynamical time was ahead of universal time, from the published yearly values; the last one after.
+double AvanceDynamique(double annee) {
+  constexpr std::array<std::pair<double, double>, 10> kValeurs = {{{1950, 29.1},
+                                                                   {1960, 33.2},
+                                                                   {1970, 40.2},
+                                                                   {1980, 50.5},
+                                                                   {1990, 56.9},
+                                                                   {2000, 63.8},
+                                                                   {2005, 64.7},
+                                                                   {2010, 66.1},
+                                                                   {2015, 67.6},
+                                                                   {2020, 69.4}}};
+  for (std::size_t i = 1; i < kValeurs.size(); ++i) {
+    const auto [a, avant] = kValeurs.at(i - 1);
+    const auto [b, apres] = kValeurs.at(i);
+    if (annee < b) {
+      return avant + (apres - avant) * (annee - a) / (b - a);
+    }
+  }
+  return kValeurs.back().second;
+}
+
+/// The largest of some differences, and their root mean square.
+struct Mesure {
+  double pire = 0, carres = 0;
+  int nombre = 0;
+  void ajoute(double x) {
+    pire = std::max(pire, std::fabs(x));
+    carres += x * x;
+    ++nombre;
+  }
+  double moyenne() const { return std::sqrt(carres / nombre); }
+};
+
+TEST(SunsPlace, OfASightLiesWithinTheFiguresToldOfTheApparentSun) {
+  std::mt19937 alea(26);
+  std::uniform_real_distribution<double> heures(0, 24);
+  Mesure declinaison;
+  Mesure angle;
+  for (int i = 0; i < 36500; i += 3) {
+    double jd0 = 0;
+    double jd = 0;
+    eraCal2jd(1950, 1, 1, &jd0, &jd);
+    jd += i;
+    const double heure = heures(alea);
+    const double moment = jd + heure / 24;
+    const double dynamique = moment + AvanceDynamique(1950 + i / 365.25) / 86400;
+    const essais::PlaceErfa juge = essais::SoleilErfa(jd0, dynamique);
+    const double ahg = eraGst06a(jd0, moment, jd0, dynamique) * ERFA_DR2D - juge.AD;
+    // What a sight keeps of them: the day number and each angle in 32 bits.
+    const double T0 = (double{static_cast<float>(jd0 + jd)} - 2415020.0) / 36525.0;
+    const auto place = CalculePlaceSoleil<float>(T0 + heure / 24.0 / 36525.0);
+    const auto angles = CalculeAnglesHoraires<float>(TempsSideralSolaire(T0, heure), place.AD, 0);
+    declinaison.ajoute((place.Dec - juge.Dec) * 60);
+    angle.ajoute(std::remainder(angles.AHG - ahg, 360.0) * 60);
+  }
+  // Minutes of arc, as the page of exactness has them.
+  EXPECT_LT(declinaison.pire, 0.34);
+  EXPECT_GT(declinaison.pire, 0.28);
+  EXPECT_NEAR(declinaison.moyenne(), 0.11, 0.005);
+  EXPECT_LT(angle.pire, 0.62);
+  EXPECT_GT(angle.pire, 0.52);
+  EXPECT_NEAR(angle.moyenne(), 0.17, 0.005);
 }
 
 TEST(HourAngles, AnAngleOfExactly360Stays) {
