@@ -39,15 +39,11 @@ struct Abonnement {
 
 // NOLINTNEXTLINE(cppcoreguidelines-avoid-c-arrays,modernize-avoid-c-arrays)
 constexpr Abonnement kFSelect[] = {
-    {"FName", Evenement::Change, FName_Change},
-    {"File1", Evenement::Clic, File1_Click},
-    {"File1", Evenement::DoubleClic, File1_DblClick},
-    {"File1", Evenement::Entre, File1_Entre},
-    {"Dir1", Evenement::DoubleClic, Dir1_DblClick},
-    {"Drive1", Evenement::Clic, Drive1_Click},
-    {"OK", Evenement::Clic, OK_Click},
-    {"Quitter", Evenement::Clic, Quitter_Click},
-    {"Command1", Evenement::Clic, Supprime_Click},
+    {"FName", Evenement::Change, FName_Change},       {"File1", Evenement::Clic, File1_Click},
+    {"File1", Evenement::DoubleClic, File1_DblClick}, {"File1", Evenement::Entre, File1_Entre},
+    {"Dir1", Evenement::DoubleClic, Dir1_DblClick},   {"Dir1", Evenement::Valide, Dir1_Valide},
+    {"Drive1", Evenement::Clic, Drive1_Click},        {"OK", Evenement::Clic, OK_Click},
+    {"Quitter", Evenement::Clic, Quitter_Click},      {"Command1", Evenement::Clic, Supprime_Click},
 };
 
 // NOLINTNEXTLINE(cppcoreguidelines-avoid-c-arrays,modernize-avoid-c-arrays)
@@ -181,6 +177,7 @@ constexpr Abonnement kDonnees[] = {
     {"PU_Clear", Evenement::Clic, PU_Clear_Click},
     {"PU_Apropos", Evenement::Clic, PU_Apropos_Click},
     {"PU_Nuit", Evenement::Clic, PU_Nuit_Click},
+    {"PU_Secours", Evenement::Clic, PU_Secours_Click},
     {"PU_Quitter", Evenement::Clic, Sortie_Click},
 };
 

@@ -1,6 +1,7 @@
 #include "shell/Demarrage.hpp"
 
 #include "foundations/Erreur.hpp"
+#include "foundations/Fichiers.hpp"
 #include "foundations/TexteNombre.hpp"
 #include "shell/Aide.hpp"
 #include "shell/Sortie.hpp"
@@ -14,11 +15,14 @@
 #include "shell/droites/ModesDroite.hpp"
 #include "shell/ecran/Disposition.hpp"
 #include "shell/ecran/Nuit.hpp"
+#include "shell/visee/Journal.hpp"
 #include "shell/visee/PanneauDirect.hpp"
 #include "shell/visee/Saisie.hpp"
 
 #include <algorithm>
 #include <array>
+#include <chrono>
+#include <utility>
 
 namespace velmaris {
 namespace {
@@ -65,6 +69,36 @@ void LitPosition(Bureau &bureau) {
   PoseTexte(bureau, d.Text11, LitReglage(bureau, "T11"));
   PoseOption(bureau, d.OptN[LitReglage(bureau, "Hem") == "Nord" ? 0 : 1]);
   PoseOption(bureau, d.OptE[LitReglage(bureau, "Lon") == "Est" ? 0 : 1]);
+}
+
+/// The settings that a start couldn't read, once another program has let go of the store, as the start would have shown
+/// them: while the user has touched none of them.
+void ReprendReglages(Bureau &bureau) {
+  MajListeDroites(bureau);
+  if (ReglagesSortie(bureau.donnees) != bureau.reglagesDepart) {
+    return;
+  }
+  LitNuit(bureau);
+  LitOptionsCarte(bureau);
+  PoseOption(bureau, bureau.donnees.Option4[Val(LitReglage(bureau, "Prec", "0")) == 1 ? 1 : 0]);
+  Image10_Click(bureau, Val(LitReglage(bureau, "Langue", "0")) == 1 ? 1 : 0);
+  LitPosition(bureau);
+  bureau.reglagesDepart.clear();
+}
+
+/// Another try for what another program has kept from being read or written, without waiting for it.
+void RetenteEcritures(Bureau &bureau) {
+  Patience aucune(std::chrono::nanoseconds::zero());
+  RetenteJournal(bureau, aucune);
+  if (!bureau.valeurs) {
+    return;
+  }
+  const bool aveugle = bureau.valeurs->aveugle();
+  bureau.valeurs->Retente();
+  if (aveugle && !bureau.valeurs->aveugle()) {
+    ReprendReglages(bureau);
+  }
+  SignaleMagasin(bureau);
 }
 
 /// Does what a key stands for.
@@ -120,6 +154,7 @@ void Donnees_Charge(Bureau &bureau, const Ecran &ecran) {
   if (!bureau.valeurs) {
     bureau.valeurs = std::make_unique<Valeurs>(bureau.dossiers.utilisateur / "valeurs.sqlite");
   }
+  BalaieProvisoires(bureau.dossiers.utilisateur);
   bureau.ecran = ecran;
   LitNuit(bureau);
   DisposeFenetre(bureau, ecran);
@@ -132,6 +167,10 @@ void Donnees_Charge(Bureau &bureau, const Ecran &ecran) {
   d.LabC.opaque = true;
   d.LabLon.opaque = true;
   d.LabLat.opaque = true;
+  d.Label62.opaque = true;
+  d.Label62.dessus = true;
+  bureau.focus = &d.TDate[0];
+  d.TDate[0].toutSelectionne = true;
   PoseValeur(bureau, d.HScroll1, kZoomInitial);
   LitOptionsCarte(bureau);
   PoseOption(bureau, d.Option4[Val(LitReglage(bureau, "Prec", "0")) == 1 ? 1 : 0]);
@@ -149,9 +188,16 @@ void Donnees_Charge(Bureau &bureau, const Ecran &ecran) {
   if (ecran.pixelsHaut < kPixelsCompacts) {
     DispositionCompacte(d);
   }
+  SignaleMagasin(bureau);
+  if (bureau.valeurs->aveugle()) {
+    // What the start has chosen for the want of the stored values must not be written over them.
+    bureau.valeurs->OublieEnAttente();
+    bureau.reglagesDepart = ReglagesSortie(d);
+  }
 }
 
 void Timer1_Tick(Bureau &bureau) {
+  RetenteEcritures(bureau);
   LitHorloge(bureau.horloge);
   PositionLive(bureau);
   const ValeurDate date = bureau.horloge.locale();
@@ -163,6 +209,32 @@ void Timer1_Tick(Bureau &bureau) {
   bureau.titre = bureau.TitreHorloge + "   ~~~   " +
                  TexteDateHeure({t.annee, t.mois, t.jour, t.heure, t.minute, t.seconde}) + "   GMT " + "   ~~~   " +
                  bureau.messages[8] + bureau.TitreFichier;
+}
+
+void ZoomeTouche(Bureau &bureau, int crans) {
+  Passe([&] { ZoomeCrans(bureau, crans); });
+}
+
+bool RetourDansChamp(Bureau &bureau, Controle &champ) {
+  Donnees &d = bureau.donnees;
+  const ListeControles controles = Liste(d);
+  const Controle *parent = &champ;
+  while (parent != nullptr && !parent->parent.empty()) {
+    parent = Cherche(controles, parent->parent);
+  }
+  constexpr std::array<std::pair<Controle Donnees::*, Controle Donnees::*>, 3> kCalculs = {
+      {{&Donnees::Frame7, &Donnees::Command2},
+       {&Donnees::Frame4, &Donnees::Command15},
+       {&Donnees::Frame2, &Donnees::Command10}}};
+  for (const auto &[module, calcul] : kCalculs) {
+    if (parent == &(d.*module)) {
+      QuitteChamp(bureau, champ);
+      champ.toutSelectionne = true;
+      ClicControle(bureau, d.*calcul);
+      return true;
+    }
+  }
+  return false;
 }
 
 bool Donnees_KeyDown(Bureau &bureau, int code) {
@@ -182,6 +254,9 @@ void Image10_Click(Bureau &bureau, int indice) {
   d.LabLonEst.legende = estimee[1];
   if (sansFichier) {
     bureau.TitreFichier = bureau.messages[9];
+  }
+  if (bureau.fselect.chargee) {
+    ChargeLangue(bureau, kFenetreFSelect);
   }
   TDate_Change(bureau, -1); // the weekday again, where the file has put the plain caption
   MajListeDroites(bureau);  // the buttons' tool tips are the stored bodies, not the file's

@@ -24,6 +24,14 @@ inline constexpr int kToucheF1 = 112;
 /// @return whether the key does something here
 bool Donnees_KeyDown(Bureau &bureau, int code);
 
+/// The keys of the zoom: a failure under them is passed over, as under a function key.
+/// @param crans  above 0 nearer, below 0 farther
+void ZoomeTouche(Bureau &bureau, int crans);
+
+/// Return in a field: the field is left, and the "Calcul" of its module is pressed.
+/// @return false for a field of no such module
+bool RetourDansChamp(Bureau &bureau, Controle &champ);
+
 /// The choice of the language: 0 French, 1 English. The flag that stays is the one that can be chosen.
 void Image10_Click(Bureau &bureau, int indice);
 

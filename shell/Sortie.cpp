@@ -2,13 +2,18 @@
 
 #include "foundations/Erreur.hpp"
 #include "lines/FichierLoP.hpp"
+#include "shell/Reprise.hpp"
+#include "shell/bureau/Explication.hpp"
 #include "shell/bureau/Valeurs.hpp"
 #include "shell/carte/FichierObjets.hpp"
 #include "shell/carte/Objets.hpp"
 #include "shell/ciel/EcranCiel.hpp"
+#include "shell/droites/FichierVisee.hpp"
 #include "shell/ecran/PageImprimee.hpp"
+#include "shell/visee/Journal.hpp"
 #include "shell/visee/Saisie.hpp"
 
+#include <algorithm>
 #include <filesystem>
 #include <string>
 #include <string_view>
@@ -19,11 +24,22 @@ namespace {
 
 constexpr std::size_t kLegendeQuitter = 14; ///< caption under "Quitter"
 
+/// Keeps the settings of the exit. What a start has taken for a stored value that it couldn't read, and that nobody has
+/// changed since, isn't one to be kept.
 void GardeReglages(Bureau &bureau) {
-  const Donnees &d = bureau.donnees;
-  const auto garde = [&](const std::string &cle, std::string_view valeur) {
-    bureau.valeurs->SaveSetting(kApplication, kSection, cle, valeur);
-  };
+  const std::vector<CleValeur> &depart = bureau.reglagesDepart;
+  for (const CleValeur &c : ReglagesSortie(bureau.donnees)) {
+    if (std::find(depart.begin(), depart.end(), c) == depart.end()) {
+      bureau.valeurs->SaveSetting(kApplication, kSection, c.cle, c.valeur);
+    }
+  }
+}
+
+} // namespace
+
+std::vector<CleValeur> ReglagesSortie(const Donnees &d) {
+  std::vector<CleValeur> cles;
+  const auto garde = [&](const std::string &cle, const std::string &valeur) { cles.push_back({cle, valeur}); };
   const auto booleen = [](bool vrai) { return vrai ? "True" : "False"; };
   garde("T6", d.Text6.texte);
   garde("T7", d.Text7.texte);
@@ -39,9 +55,8 @@ void GardeReglages(Bureau &bureau) {
   for (std::size_t i = 0; i < d.Check1.size(); ++i) {
     garde("C1 " + std::to_string(i), std::to_string(d.Check1[i].valeur));
   }
+  return cles;
 }
-
-} // namespace
 
 void Sortie_Click(Bureau &bureau, int /*indice*/) {
   // The title tells what is asked, also while no language file has filled the messages.
@@ -50,13 +65,16 @@ void Sortie_Click(Bureau &bureau, int /*indice*/) {
     bureau.QuitterRefuse = -1;
     return;
   }
+  bureau.valeurs->patience().Refait();
   bureau.valeurs->Ensemble([&] { GardeReglages(bureau); });
+  RetenteJournal(bureau, bureau.valeurs->patience());
   SignaleMagasin(bureau);
   bureau.apropos.cadre.visible = false;
   Ciel_Ferme(bureau);
   bureau.fselect.cadre.visible = false;
   Impression_Ferme(bureau);
   QuitteObjets(bureau);
+  FermeReprise(bureau);
   bureau.termine = true;
 }
 
@@ -65,7 +83,11 @@ void Secours(Bureau &bureau, const std::exception &erreur) {
   const auto *numerotee = dynamic_cast<const Erreur *>(&erreur);
   const std::string erreurDite =
       numerotee != nullptr ? MotsErreur(d, numerotee->numero) : d.TexteErreur.legende + "\n" + erreur.what();
-  const auto fichier = bureau.dossiers.utilisateur / "secours.LoP";
+  GardeSession(bureau);
+  const auto *expliquee = dynamic_cast<const ErreurExpliquee *>(&erreur);
+  const std::string remede =
+      expliquee != nullptr && !expliquee->explication.empty() ? "\n\n" + expliquee->explication : "";
+  const std::filesystem::path fichier = FichierSecours(bureau);
   const bool conservee = Passe([&] {
     std::error_code refus;
     std::filesystem::create_directories(fichier.parent_path(), refus);
@@ -74,8 +96,10 @@ void Secours(Bureau &bureau, const std::exception &erreur) {
   if (bureau.utilisateur.Modifie != 0) {
     Passe([&] { EcritFichier(bureau); });
   }
+  Patience derniere;
+  RetenteJournal(bureau, derniere);
   const std::string suite = conservee ? d.TexteSecours.legende + "\n" + fichier.string() : d.TexteSansSecours.legende;
-  bureau.ports.boite({.texte = erreurDite + "\n\n" + suite, .icone = Icone::Erreur});
+  bureau.ports.boite({.texte = erreurDite + remede + "\n\n" + suite, .icone = Icone::Erreur});
 }
 
 } // namespace velmaris

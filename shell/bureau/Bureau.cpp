@@ -1,6 +1,7 @@
 #include "shell/bureau/Bureau.hpp"
 
 #include "foundations/Erreur.hpp"
+#include "foundations/Sauvegarde.hpp"
 #include "foundations/TexteNombre.hpp"
 #include "shell/bureau/Valeurs.hpp"
 
@@ -91,14 +92,21 @@ void EcritReglage(Bureau &bureau, std::string_view cle, std::string_view valeur)
 }
 
 void SignaleMagasin(Bureau &bureau) {
+  const Donnees &d = bureau.donnees;
+  const auto dit = [&](const Controle &texte) {
+    bureau.ports.boite(
+        {.texte = texte.legende + "\n" + bureau.valeurs->fichierEnCause().string(), .icone = Icone::Attention});
+  };
+  if (bureau.valeurs->enAttente() && !bureau.attenteSignalee) {
+    bureau.attenteSignalee = true;
+    dit(d.TexteMagasinRetenu);
+  }
   const EtatMagasin etat = bureau.valeurs->etat();
   if (etat == EtatMagasin::Sain || etat == bureau.magasinSignale) {
     return;
   }
   bureau.magasinSignale = etat;
-  const Donnees &d = bureau.donnees;
-  const std::string &texte = etat == EtatMagasin::Abime ? d.TexteMagasinAbime.legende : d.TexteMagasinMuet.legende;
-  bureau.ports.boite({.texte = texte + "\n" + bureau.valeurs->fichierEnCause().string(), .icone = Icone::Attention});
+  dit(etat == EtatMagasin::Abime ? d.TexteMagasinAbime : d.TexteMagasinMuet);
 }
 
 } // namespace velmaris

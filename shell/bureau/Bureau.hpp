@@ -6,7 +6,9 @@
 #include "ephemerides/ModulePosLune.hpp"
 #include "foundations/Horloge.hpp"
 #include "foundations/Messages.hpp"
+#include "foundations/Patience.hpp"
 #include "foundations/Surface.hpp"
+#include "lines/DroiteMemoire.hpp"
 #include "lines/Feuille.hpp"
 #include "lines/FichierLoP.hpp"
 #include "lines/Transport.hpp"
@@ -30,6 +32,7 @@
 
 namespace velmaris {
 
+class Sauvegarde;
 class Valeurs;
 enum class EtatMagasin : std::uint8_t;
 
@@ -40,18 +43,21 @@ struct Ecran {
   int pixelsHaut = 1080;
 };
 
-/// One drawing of the chart in the surface's list.
-struct DernierDessin {
-  std::size_t debut = 0;
-  std::size_t fin = 0;
-  std::uint64_t effacements = 0; ///< of the surface when it was drawn
+/// Place and scales by which a chart is drawn.
+struct LieuCarte {
+  Origine origine;       ///< `kSansFeuille` for the whole world
+  float EchelleX = 0.0F; ///< 0 for the whole world, which has scales of its own
+  float EchelleY = 0.0F;
+  bool operator==(const LieuCarte &) const = default;
 };
 
 /// What the drawings of the chart share.
 struct CarteOuverte {
-  Polygone polygone;         ///< the outlines of one file after the other
-  bool fichierReste = false; ///< a file was opened and not read to its end: no other can be opened
-  DernierDessin dernier;
+  Polygone polygone;             ///< the outlines of one file after the other
+  bool fichierReste = false;     ///< a file was opened and not read to its end: no other can be opened
+  std::vector<Tranche> dessins;  ///< the chart's drawings in the surface's list
+  LieuCarte lieu;                ///< by which the last of them was drawn
+  std::uint64_t effacements = 0; ///< of the surface when they were drawn
 };
 
 /// The whole program: its windows and what they share. Event functions take it; nothing below the shell knows it.
@@ -108,9 +114,15 @@ struct Bureau {
 
   Ports ports;
   Dossiers dossiers;
-  std::unique_ptr<Valeurs> valeurs; ///< the settings store
-  EtatMagasin magasinSignale{};     ///< the trouble that has been told, none at first
-  bool journalSignale = false;      ///< that the journal can't be written has been told
+  std::unique_ptr<Valeurs> valeurs;          ///< the settings store
+  std::unique_ptr<Sauvegarde> reprise;       ///< the recovery file; none where nothing is kept
+  EtatMagasin magasinSignale{};              ///< the trouble that has been told, none at first
+  bool attenteSignalee = false;              ///< that another program holds the store has been told
+  bool journalSignale = false;               ///< that the journal can't be written has been told
+  std::vector<std::string> journalEnAttente; ///< lines that another program has kept out of the journal, in their order
+  Patience patienceJournal;                  ///< with that program
+  bool retenueJournalSignalee = false;       ///< that it holds the journal has been told
+  std::vector<CleValeur> reglagesDepart; ///< what a start took for the settings that it couldn't read, empty otherwise
 };
 
 /// The controls of one of the program's windows.
@@ -137,7 +149,7 @@ std::string LitReglage(const Bureau &bureau, std::string_view cle, std::string_v
 /// Keeps a setting, unless the store holds that value already; tells the user once when the store can't.
 void EcritReglage(Bureau &bureau, std::string_view cle, std::string_view valeur);
 
-/// Tells the user that the store was damaged or can't be written, once each.
+/// Tells the user that the store was damaged, can't be written or is held by another program, once each.
 void SignaleMagasin(Bureau &bureau);
 
 } // namespace velmaris

@@ -66,6 +66,14 @@ void DoubleClicControle(Bureau &bureau, Controle &controle) {
   }
 }
 
+bool ValideControle(Bureau &bureau, Controle &controle) {
+  const bool ecoute = Utilisable(controle) && Ecoute(controle, Evenement::Valide);
+  if (ecoute) {
+    Declenche(bureau, controle, Evenement::Valide);
+  }
+  return ecoute;
+}
+
 void ClicOption(Bureau &bureau, Controle &controle) {
   if (Utilisable(controle)) {
     PoseOption(bureau, controle);

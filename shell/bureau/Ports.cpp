@@ -3,16 +3,29 @@
 #include <algorithm>
 #include <cstddef>
 #include <cstdlib>
+#include <pwd.h>
 #include <system_error>
+#include <unistd.h>
 
 namespace velmaris {
 namespace {
 
+/// The home that the system has on record for the account; where it has none, one that isn't there, as for accounts
+/// without a home: a folder that anyone may make would be no home.
+std::string AccueilDuCompte() {
+  constexpr std::size_t kTampon = 16384;
+  std::vector<char> tampon(kTampon);
+  passwd compte{};
+  passwd *trouve = nullptr;
+  const int refus = ::getpwuid_r(::getuid(), &compte, tampon.data(), tampon.size(), &trouve);
+  return refus == 0 && trouve != nullptr && *trouve->pw_dir == '/' ? trouve->pw_dir : "/nonexistent";
+}
+
 std::filesystem::path Accueil() {
   const char *maison = std::getenv("HOME");
   const std::filesystem::path dossier =
-      std::filesystem::path(maison != nullptr && *maison != '\0' ? maison : "/tmp").lexically_normal();
-  return dossier.has_filename() ? dossier : dossier.parent_path();
+      std::filesystem::path(maison != nullptr && *maison == '/' ? maison : AccueilDuCompte()).lexically_normal();
+  return dossier.has_filename() || dossier == dossier.root_path() ? dossier : dossier.parent_path();
 }
 
 std::filesystem::path DossierUtilisateur() {

@@ -6,6 +6,7 @@
 #include <filesystem>
 #include <functional>
 #include <string>
+#include <string_view>
 #include <system_error>
 #include <vector>
 
@@ -20,7 +21,8 @@ struct Boite {
   Icone icone = Icone::Aucune;
   bool question = false;
   bool nonParDefaut = false;
-  std::string adresse = {}; ///< shown under the text, to be copied
+  std::string adresse = {};      ///< shown under the text, to be copied
+  std::string_view fenetre = {}; ///< name of the window that it belongs to; empty for the one that the user is in
 };
 
 struct CadreFenetre;
@@ -34,7 +36,7 @@ struct Ports {
   std::function<void(CadreFenetre &)> modale = [](CadreFenetre &) {};
   /// Lets the interface live until something has happened in it.
   std::function<void()> attend = [] {};
-  /// Lets the interface live for a moment, in the middle of a long drawing; the user's own events wait.
+  /// Lets the interface paint itself, in the middle of a long drawing; all events wait.
   std::function<void()> respire = [] {};
   /// Width of a text in one line, 1/1440 inch: its words, the font's points, and whether it is bold.
   std::function<double(const std::string &, double, bool)> largeurTexte = [](const std::string &texte, double taille,
@@ -73,7 +75,8 @@ struct Dossiers {
 /// @param programme  folder of the executable
 std::filesystem::path DossierPartage(const std::filesystem::path &programme);
 
-/// The folders of this run: the user's data folder, the program's own, the installed share folder, the user's own.
+/// The folders of this run: the user's data folder, the program's own, the installed share folder, the user's own. The
+/// user's are where the environment says by a whole path, else under the home that the account has.
 /// @param programme  folder of the executable
 Dossiers TrouveDossiers(const std::filesystem::path &programme);
 

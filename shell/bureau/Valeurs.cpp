@@ -1,251 +1,148 @@
 #include "shell/bureau/Valeurs.hpp"
 
-#include "foundations/Horloge.hpp"
-#include "foundations/TexteNombre.hpp"
-
-#include <array>
-#include <fcntl.h>
-#include <sqlite3.h>
-#include <sys/file.h>
-#include <system_error>
-#include <unistd.h>
-#include <utility>
-#include <vector>
+#include <algorithm>
+#include <chrono>
 
 namespace velmaris {
-namespace {
 
-constexpr int kAttenteMs = 5000; ///< for another program that is writing
-constexpr std::string_view kCreation = "CREATE TABLE ";
-/// The text of the table, as every user's file keeps it: a table of any other text is no store.
-constexpr std::string_view kTable = "CREATE TABLE valeurs("
-                                    " application TEXT NOT NULL, section TEXT NOT NULL,"
-                                    " cle TEXT NOT NULL COLLATE NOCASE, valeur TEXT NOT NULL,"
-                                    " PRIMARY KEY(application, section, cle)) WITHOUT ROWID";
-constexpr const char *kForme = "SELECT sql FROM sqlite_schema WHERE type='table' AND name='valeurs'";
-constexpr const char *kLecture = "SELECT valeur FROM valeurs WHERE application=?1 AND section=?2 AND cle=?3";
-constexpr const char *kEcriture =
-    "INSERT INTO valeurs VALUES(?1,?2,?3,?4) ON CONFLICT DO UPDATE SET cle=excluded.cle, valeur=excluded.valeur";
-
-/// A prepared statement, finalised with its scope.
-class Instruction {
-public:
-  Instruction(sqlite3 *base, const char *texte) { sqlite3_prepare_v2(base, texte, -1, &instruction_, nullptr); }
-  ~Instruction() { sqlite3_finalize(instruction_); }
-  Instruction(const Instruction &) = delete;
-  Instruction &operator=(const Instruction &) = delete;
-  Instruction(Instruction &&) = delete;
-  Instruction &operator=(Instruction &&) = delete;
-
-  void Lie(int rang, std::string_view texte) {
-    sqlite3_bind_text(instruction_, rang, texte.data() == nullptr ? "" : texte.data(), static_cast<int>(texte.size()),
-                      SQLITE_TRANSIENT);
-  }
-  int Avance() { return instruction_ == nullptr ? SQLITE_ERROR : sqlite3_step(instruction_); }
-  std::string Colonne(int rang) const {
-    const auto *texte = reinterpret_cast<const char *>(sqlite3_column_text(instruction_, rang));
-    return texte == nullptr ? std::string()
-                            : std::string(texte, static_cast<std::size_t>(sqlite3_column_bytes(instruction_, rang)));
-  }
-
-private:
-  sqlite3_stmt *instruction_ = nullptr;
-};
-
-/// Whether a refusal can come from the file's own bytes, not from the disk, a permission or another program.
-bool VientDesOctets(int code) { return code == SQLITE_CORRUPT || code == SQLITE_NOTADB || code == SQLITE_ERROR; }
-
-/// Makes the table where there is none.
-int Prepare(sqlite3 *base) {
-  const std::string instructions =
-      "PRAGMA synchronous=EXTRA; CREATE TABLE IF NOT EXISTS " + std::string(kTable.substr(kCreation.size()));
-  return sqlite3_exec(base, instructions.c_str(), nullptr, nullptr, nullptr);
+Valeurs::Valeurs(std::filesystem::path fichier) : fichier_(std::move(fichier)), enMemoire_(fichier_.empty()) {
+  Ouvre(patience_);
 }
 
-bool EstAbime(sqlite3 *base) {
-  // The quick check would pass over keys out of their order, which are then no longer found.
-  Instruction controle(base, "PRAGMA integrity_check(1)");
-  const int code = controle.Avance();
-  if (code != SQLITE_ROW) {
-    return VientDesOctets(code);
+Valeurs::~Valeurs() {
+  if (enAttente()) {
+    Patience derniere;
+    Ecrit(derniere);
   }
-  if (controle.Colonne(0) != "ok") {
-    return true;
-  }
-  Instruction forme(base, kForme);
-  const int trouvee = forme.Avance();
-  if (trouvee != SQLITE_ROW) {
-    return trouvee == SQLITE_DONE || VientDesOctets(trouvee);
-  }
-  if (forme.Colonne(0) != kTable) {
-    return true;
-  }
-  Instruction lecture(base, kLecture);
-  return VientDesOctets(lecture.Avance());
 }
 
-/// Holds a folder until its scope ends: shared with others that hold it shared, or alone.
-class VerrouDossier {
-public:
-  VerrouDossier(const std::filesystem::path &dossier, bool seul)
-      : numero_(::open(dossier.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC)) {
-    if (numero_ >= 0) {
-      ::flock(numero_, seul ? LOCK_EX : LOCK_SH);
-    }
-  }
-  ~VerrouDossier() {
-    if (numero_ >= 0) {
-      ::close(numero_);
-    }
-  }
-  VerrouDossier(const VerrouDossier &) = delete;
-  VerrouDossier &operator=(const VerrouDossier &) = delete;
-  VerrouDossier(VerrouDossier &&) = delete;
-  VerrouDossier &operator=(VerrouDossier &&) = delete;
+/// An address that is the same for keys that differ in the case of their ASCII letters alone.
+Valeurs::Adresse Valeurs::AdresseDe(std::string_view application, std::string_view section, std::string_view cle) {
+  std::string petite(cle);
+  std::transform(petite.begin(), petite.end(), petite.begin(),
+                 [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; });
+  return {std::string(application), std::string(section), std::move(petite)};
+}
 
-private:
-  int numero_;
-};
-
-} // namespace
-
-void Valeurs::Fermeture::operator()(sqlite3 *base) const { sqlite3_close_v2(base); }
-void Valeurs::Fermeture::operator()(sqlite3_stmt *instruction) const { sqlite3_finalize(instruction); }
-
-Valeurs::Valeurs(std::filesystem::path fichier) : fichier_(std::move(fichier)) {
-  std::error_code refus;
-  if (!fichier_.empty()) {
-    std::filesystem::create_directories(fichier_.parent_path(), refus);
-  }
-  // Nobody may set the file aside while another program has it open to look at it: the base would take the journal of
-  // the new file for its own, and roll the damaged one back with it.
-  {
-    const VerrouDossier verrou(fichier_.parent_path(), false);
-    if (Ouvre()) {
-      return;
-    }
-    base_.reset();
-  }
-  // Of two programs that find the damage at once, the second must not set the first one's new file aside.
-  const VerrouDossier verrou(fichier_.parent_path(), true);
-  if (Ouvre()) {
+/// Takes over what another program has written. What waits here is newer.
+void Valeurs::Rafraichit(Patience &patience) const {
+  if (!magasin_.ouvert()) {
     return;
   }
-  MetDeCote();
-  if (!Ouvre()) {
-    PasseEnMemoire();
+  const auto avant = patience.reste();
+  std::vector<ValeurGardee> presentes;
+  bool lues = false;
+  if (magasin_.Lit(presentes, lues, patience) != Acces::Fait) {
+    return;
+  }
+  if (lues) {
+    std::erase_if(valeurs_, [](const auto &v) { return !v.second.enAttente; });
+    for (ValeurGardee &v : presentes) {
+      valeurs_.try_emplace(AdresseDe(v.application, v.section, v.cle), Valeur{std::move(v.texte)});
+    }
+    lu_ = true;
+  }
+  // Reading succeeds also while only writing is refused.
+  if (patience.reste() == avant && attente_.empty()) {
+    patience.Refait();
   }
 }
 
-Valeurs::~Valeurs() = default;
-
-/// Opens or makes the base.
-/// @return false when the file there is no sound base
-bool Valeurs::Ouvre() {
-  sqlite3 *base = nullptr;
-  const std::string nom = fichier_.empty() ? ":memory:" : fichier_.string();
-  const int code = sqlite3_open_v2(nom.c_str(), &base, SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE, nullptr);
-  lecture_.reset();
-  base_.reset(base);
-  if (code != SQLITE_OK) {
-    PasseEnMemoire();
-    return true;
+/// Opens the file where it isn't open, and reads it for the first time.
+void Valeurs::Ouvre(Patience &patience) {
+  if (enMemoire_) {
+    return;
   }
-  sqlite3_busy_timeout(base, kAttenteMs);
-  const int preparation = Prepare(base);
-  if (preparation == SQLITE_NOTADB || preparation == SQLITE_CORRUPT) {
-    return false;
-  }
-  if (preparation != SQLITE_OK && EstAbime(base)) {
-    // Neither a base that can be read nor a place where one can be made.
-    PasseEnMemoire();
-    return true;
-  }
-  return !EstAbime(base);
-}
-
-void Valeurs::MetDeCote() {
-  lecture_.reset();
-  base_.reset();
-  const TempsSysteme t = GetSystemTime();
-  fichierEnCause_ = fichier_;
-  fichierEnCause_ += ".abime-" + Format(t.annee, "0000") + Format(t.mois, "00") + Format(t.jour, "00") + "-" +
-                     Format(t.heure, "00") + Format(t.minute, "00") + Format(t.seconde, "00") +
-                     Format(t.millisecondes, "000");
-  std::error_code refus;
-  std::filesystem::rename(fichier_, fichierEnCause_, refus);
-  etat_ = EtatMagasin::Abime;
-}
-
-/// Goes on in memory with the values that can be read.
-void Valeurs::PasseEnMemoire() {
-  std::vector<std::array<std::string, 4>> lignes;
-  if (base_) {
-    Instruction lecture(base_.get(), "SELECT application, section, cle, valeur FROM valeurs");
-    while (lecture.Avance() == SQLITE_ROW) {
-      lignes.push_back({lecture.Colonne(0), lecture.Colonne(1), lecture.Colonne(2), lecture.Colonne(3)});
+  if (!magasin_.ouvert()) {
+    const Acces ouvert = magasin_.Ouvre(fichier_, patience);
+    if (!magasin_.misDeCote().empty()) {
+      etat_ = EtatMagasin::Abime;
+    }
+    if (ouvert == Acces::Refuse) {
+      PasseEnMemoire();
     }
   }
-  sqlite3 *memoire = nullptr;
-  sqlite3_open(":memory:", &memoire);
-  Prepare(memoire);
-  lecture_.reset();
-  base_.reset(memoire);
+  Rafraichit(patience);
+}
+
+/// Goes on in memory with the values that have been read.
+void Valeurs::PasseEnMemoire() {
+  magasin_.Ferme();
+  attente_.clear();
+  enMemoire_ = true;
   etat_ = EtatMagasin::SansTrace;
-  fichierEnCause_ = fichier_;
-  for (const auto &l : lignes) {
-    SaveSetting(l[0], l[1], l[2], l[3]);
-  }
-}
-
-bool Valeurs::Execute(const char *instruction) {
-  return sqlite3_exec(base_.get(), instruction, nullptr, nullptr, nullptr) == SQLITE_OK;
-}
-
-/// @param valeur  what the store holds, when it holds the key
-bool Valeurs::Lit(std::string_view application, std::string_view section, std::string_view cle,
-                  std::string &valeur) const {
-  if (!lecture_) {
-    sqlite3_stmt *preparee = nullptr;
-    sqlite3_prepare_v3(base_.get(), kLecture, -1, SQLITE_PREPARE_PERSISTENT, &preparee, nullptr);
-    lecture_.reset(preparee);
-  }
-  sqlite3_stmt *lecture = lecture_.get();
-  int rang = 0;
-  for (const std::string_view texte : {application, section, cle}) {
-    sqlite3_bind_text(lecture, ++rang, texte.data(), static_cast<int>(texte.size()), SQLITE_STATIC);
-  }
-  const bool la = lecture != nullptr && sqlite3_step(lecture) == SQLITE_ROW;
-  if (la) {
-    const auto *texte = reinterpret_cast<const char *>(sqlite3_column_text(lecture, 0));
-    valeur.assign(texte == nullptr ? "" : texte, static_cast<std::size_t>(sqlite3_column_bytes(lecture, 0)));
-  }
-  sqlite3_reset(lecture);
-  sqlite3_clear_bindings(lecture);
-  return la;
 }
 
 std::string Valeurs::GetSetting(std::string_view application, std::string_view section, std::string_view cle,
                                 std::string_view defaut) const {
-  std::string valeur;
-  return Lit(application, section, cle, valeur) ? valeur : std::string(defaut);
+  if (!lectureFigee_) {
+    Rafraichit(patience_);
+  }
+  const auto trouvee = valeurs_.find(AdresseDe(application, section, cle));
+  return trouvee == valeurs_.end() ? std::string(defaut) : trouvee->second.texte;
 }
 
 void Valeurs::SaveSetting(std::string_view application, std::string_view section, std::string_view cle,
                           std::string_view valeur) {
-  int code = SQLITE_OK;
-  {
-    Instruction ecriture(base_.get(), kEcriture);
-    ecriture.Lie(1, application);
-    ecriture.Lie(2, section);
-    ecriture.Lie(3, cle);
-    ecriture.Lie(4, valeur);
-    code = ecriture.Avance();
+  ValeurGardee neuve{std::string(application), std::string(section), std::string(cle), std::string(valeur)};
+  if (groupe_.ouvert) {
+    groupe_.valeurs.push_back(std::move(neuve));
+  } else {
+    Retient({std::move(neuve)});
   }
-  if (code != SQLITE_DONE && etat_ != EtatMagasin::SansTrace) {
+}
+
+/// Takes new values into memory and writes them.
+void Valeurs::Retient(const std::vector<ValeurGardee> &valeurs) {
+  for (const ValeurGardee &v : valeurs) {
+    const Adresse adresse = AdresseDe(v.application, v.section, v.cle);
+    Valeur &presente = valeurs_[adresse];
+    if (presente.enAttente) {
+      std::erase_if(attente_, [&](const ValeurGardee &a) {
+        return AdresseDe(a.application, a.section, a.cle) == adresse; // the newer one is written in its turn
+      });
+    }
+    presente = {v.texte, true};
+    attente_.push_back(v);
+  }
+  Ecrit(patience_);
+}
+
+/// Writes all that waits as one: a group stays whole, however often it is tried.
+void Valeurs::Ecrit(Patience &patience) {
+  if (!lu_) {
+    Ouvre(patience);
+  }
+  if (enMemoire_) {
+    attente_.clear();
+  }
+  if (!lu_ || attente_.empty()) {
+    return;
+  }
+  const Acces ecrit = magasin_.Ecrit(attente_, patience);
+  if (ecrit == Acces::Fait) {
+    attente_.clear();
+    for (auto &[adresse, v] : valeurs_) {
+      v.enAttente = false;
+    }
+    patience_.Refait();
+  } else if (ecrit != Acces::Retenu) {
     PasseEnMemoire();
-    SaveSetting(application, section, cle, valeur);
   }
+}
+
+void Valeurs::Retente() {
+  if (enAttente()) {
+    Patience aucune(std::chrono::nanoseconds::zero());
+    Ecrit(aucune);
+  }
+}
+
+bool Valeurs::enAttente() const { return !enMemoire_ && (!lu_ || !attente_.empty()); }
+
+void Valeurs::OublieEnAttente() {
+  attente_.clear();
+  std::erase_if(valeurs_, [](const auto &v) { return v.second.enAttente; });
 }
 
 } // namespace velmaris

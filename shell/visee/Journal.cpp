@@ -5,6 +5,9 @@
 #include "foundations/TexteNombre.hpp"
 #include "shell/visee/Saisie.hpp"
 
+#include <algorithm>
+#include <array>
+#include <charconv>
 #include <system_error>
 
 namespace velmaris {
@@ -16,9 +19,48 @@ const std::string_view kTitresJournal =
 
 namespace {
 
-/// A text as one field: in quotes when it holds what separates fields or lines.
-std::string Champ(const std::string &texte) {
-  if (texte.find_first_of(",\"\r\n") == std::string::npos) {
+/// A text without its control characters, those of the upper half of Latin-1 included.
+std::string SansControles(std::string_view texte) {
+  std::string reste;
+  for (std::size_t i = 0; i < texte.size(); ++i) {
+    const auto octet = static_cast<unsigned char>(texte[i]);
+    const auto suivant = static_cast<unsigned char>(i + 1 < texte.size() ? texte[i + 1] : 0);
+    if (octet == 0xC2 && suivant >= 0x80 && suivant <= 0x9F) {
+      ++i;
+    } else if (octet >= 0x20 && octet != 0x7F) {
+      reste += texte[i];
+    }
+  }
+  return reste;
+}
+
+/// Whether a text is wholly a number, with a point or a comma.
+bool EstNombre(std::string_view texte) {
+  std::string chiffres(texte.substr(texte.starts_with('+') || texte.starts_with('-') ? 1 : 0));
+  std::replace(chiffres.begin(), chiffres.end(), ',', '.');
+  if (chiffres.find_first_of("0123456789.") != 0) {
+    return false;
+  }
+  double nombre = 0.0;
+  const char *const bout = chiffres.data() + chiffres.size();
+  const auto [fin, code] = std::from_chars(chiffres.data(), bout, nombre);
+  return fin == bout && code != std::errc::invalid_argument;
+}
+
+/// Whether a table program would reckon a text out instead of showing it. The wide signs are those of East Asian ones.
+bool PasseraitPourFormule(std::string_view texte) {
+  constexpr std::array<std::string_view, 8> kSignes = {"=", "+", "-", "@", "＝", "＋", "－", "＠"};
+  const std::string_view debut = SansBlancs(texte);
+  return std::any_of(kSignes.begin(), kSignes.end(), [&](auto signe) { return debut.starts_with(signe); }) &&
+         !EstNombre(debut);
+}
+
+/// A text as one field: in one line, shown as it stands by a table program, and in quotes when it holds what separates
+/// fields.
+std::string Champ(const std::string &brut) {
+  const std::string ligne = SansControles(brut);
+  std::string texte = PasseraitPourFormule(ligne) ? "'" + ligne : ligne;
+  if (texte.find_first_of(",\"") == std::string::npos) {
     return texte;
   }
   std::string entre = "\"";
@@ -37,6 +79,36 @@ std::string Instant(const TempsSysteme &t) {
 const char *NomCorps(Corps corps) {
   constexpr std::array<const char *, 4> kNoms = {"Soleil", "Lune", "Planètes", "Etoiles"};
   return kNoms.at(static_cast<std::size_t>(corps));
+}
+
+/// What became of the lines that were to be entered.
+enum class Inscription : std::uint8_t { Faite, Retenue, Refusee };
+
+std::filesystem::path Fichier(const Bureau &bureau) { return bureau.dossiers.utilisateur / "journal.csv"; }
+
+/// Enters all lines that wait, in their order; they go on waiting unless that is done.
+Inscription Ajoute(Bureau &bureau, Patience &patience) {
+  const std::filesystem::path fichier = Fichier(bureau);
+  std::error_code refus;
+  std::filesystem::create_directories(fichier.parent_path(), refus);
+  bool libre = false;
+  if (!Passe([&] { libre = AjouteLignes(fichier, kTitresJournal, bureau.journalEnAttente, patience); })) {
+    return Inscription::Refusee;
+  }
+  if (!libre) {
+    return Inscription::Retenue;
+  }
+  bureau.journalEnAttente.clear();
+  bureau.patienceJournal.Refait();
+  return Inscription::Faite;
+}
+
+/// Tells the user once.
+void Signale(Bureau &bureau, const Controle &texte, bool &signale) {
+  if (!signale) {
+    signale = true;
+    bureau.ports.boite({.texte = texte.legende + "\n" + Fichier(bureau).string(), .icone = Icone::Attention});
+  }
 }
 
 } // namespace
@@ -79,14 +151,23 @@ std::string LigneJournal(const Bureau &bureau, const Hauteurs &hauteurs) {
 }
 
 void Journalise(Bureau &bureau, const Hauteurs &hauteurs) {
-  const std::filesystem::path fichier = bureau.dossiers.utilisateur / "journal.csv";
-  std::error_code refus;
-  std::filesystem::create_directories(fichier.parent_path(), refus);
-  const bool ecrit = Passe([&] { AjouteLigne(fichier, kTitresJournal, LigneJournal(bureau, hauteurs)); });
-  if (!ecrit && !bureau.journalSignale) {
-    bureau.journalSignale = true;
-    bureau.ports.boite(
-        {.texte = bureau.donnees.TexteJournalMuet.legende + "\n" + fichier.string(), .icone = Icone::Attention});
+  bureau.journalEnAttente.push_back(LigneJournal(bureau, hauteurs));
+  switch (Ajoute(bureau, bureau.patienceJournal)) {
+  case Inscription::Faite:
+    break;
+  case Inscription::Retenue:
+    Signale(bureau, bureau.donnees.TexteJournalRetenu, bureau.retenueJournalSignalee);
+    break;
+  case Inscription::Refusee:
+    bureau.journalEnAttente.pop_back();
+    Signale(bureau, bureau.donnees.TexteJournalMuet, bureau.journalSignale);
+    break;
+  }
+}
+
+void RetenteJournal(Bureau &bureau, Patience &patience) {
+  if (!bureau.journalEnAttente.empty()) {
+    Ajoute(bureau, patience);
   }
 }
 

@@ -8,12 +8,17 @@ namespace velmaris {
 extern const std::string_view kTitresJournal;
 
 /// One line of the journal: UTC of now, body and its name, the fields as they stand, observed and computed height in
-/// degrees, intercept in miles and azimuth in degrees. Commas separate; a text that holds one stands in quotes.
+/// degrees, intercept in miles and azimuth in degrees. Commas separate; a text that holds one stands in quotes. Control
+/// characters are left out, and a text, not a number, that a table program would take for a formula follows an
+/// apostrophe.
 std::string LigneJournal(const Bureau &bureau, const Hauteurs &hauteurs);
 
 /// Appends the sight of the panel to "journal.csv" in the user's data folder, flushed to the disk. What is there is
 /// never rewritten; a line that an earlier end of the program cut short is closed first. Tells the user once when it
-/// can't be written.
+/// can't be written. While another program holds the journal its lines wait in memory, which is told once too.
 void Journalise(Bureau &bureau, const Hauteurs &hauteurs);
+
+/// Enters the lines that wait, in their order, if the journal is free.
+void RetenteJournal(Bureau &bureau, Patience &patience);
 
 } // namespace velmaris

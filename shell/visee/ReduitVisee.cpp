@@ -1,6 +1,8 @@
 #include "shell/visee/ReduitVisee.hpp"
 
 #include "foundations/Erreur.hpp"
+#include "shell/bureau/Explication.hpp"
+#include "shell/visee/Remede.hpp"
 #include "shell/visee/Saisie.hpp"
 #include "sights/DroiteLUN.hpp"
 #include "sights/DroitePLA.hpp"
@@ -32,20 +34,19 @@ std::optional<Hauteurs> ReduitSoleil(Bureau &bureau, Observation &observation) {
 }
 
 /// @param nom  of the body, kept when its sight was reduced
-std::optional<Hauteurs> Rapporte(Bureau &bureau, const Reduction &r, const ValeursVisee &valeurs,
-                                 const std::string &nom) {
-  if (r.etat == EtatReduction::SansAstre) {
+std::optional<Hauteurs> Rapporte(Bureau &bureau, const Reduction &r, Demande demande, const std::string &nom) {
+  if (r.etat == EtatReduction::SansAstre && demande == Demande::Utilisateur) {
     bureau.ports.boite({.texte = bureau.donnees.TexteSansAstre.legende});
   }
   if (r.etat != EtatReduction::Faite) {
     return std::nullopt;
   }
   bureau.NomAstre = nom;
-  return Hauteurs{r.lue.Ho, valeurs.HauteurCalculee};
+  return Hauteurs{r.lue.Ho, bureau.visee.HauteurCalculee};
 }
 
 /// Reduces a sight by its kind of body, into the shared records.
-std::optional<Hauteurs> Reduit(Bureau &bureau, Observation &observation) {
+std::optional<Hauteurs> Reduit(Bureau &bureau, Observation &observation, Demande demande) {
   std::optional<Hauteurs> hauteurs;
   const Donnees &d = bureau.donnees;
   ValeursVisee &valeurs = bureau.visee;
@@ -55,16 +56,16 @@ std::optional<Hauteurs> Reduit(Bureau &bureau, Observation &observation) {
     break;
   case Corps::Lune:
     hauteurs = Rapporte(bureau, Calcul_DroiteLUN(observation, valeurs, bureau.lune, bureau.affichage, bureau.messages),
-                        valeurs, d.Option7[1].legende);
+                        demande, d.Option7[1].legende);
     break;
   case Corps::Planetes:
-    hauteurs = Rapporte(bureau, Calcul_DroitePLA(observation, valeurs, bureau.affichage, bureau.messages), valeurs,
+    hauteurs = Rapporte(bureau, Calcul_DroitePLA(observation, valeurs, bureau.affichage, bureau.messages), demande,
                         d.Combo7.texte);
     break;
   case Corps::Etoiles:
     hauteurs =
         Rapporte(bureau, Calcul_DroiteSTAR(observation, valeurs, bureau.etoiles, bureau.affichage, bureau.messages),
-                 valeurs, d.Combo6.texte);
+                 demande, d.Combo6.texte);
     break;
   case Corps::Aucun:
   default:
@@ -80,15 +81,18 @@ void PrepareVisee(Bureau &bureau, const Observation &observation) {
   Passe([&] { LitEstime(observation, bureau.visee); });
 }
 
-std::optional<Hauteurs> ReduitVisee(Bureau &bureau, Observation &observation) {
+std::optional<Hauteurs> ReduitVisee(Bureau &bureau, Observation &observation, Demande demande) {
   std::optional<Hauteurs> hauteurs;
   try {
-    hauteurs = Reduit(bureau, observation);
-  } catch (const Erreur &) {
+    hauteurs = Reduit(bureau, observation, demande);
+  } catch (const Erreur &erreur) {
     // What was written before the failure stands on the screen.
     MontreResultat(bureau);
     PoseReduction(bureau, observation);
-    throw;
+    if (demande == Demande::Retrace) {
+      return std::nullopt;
+    }
+    throw ErreurExpliquee(erreur.numero, MotsRemede(bureau.donnees, observation, erreur.numero));
   }
   if (hauteurs) {
     MontreResultat(bureau);

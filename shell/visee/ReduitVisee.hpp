@@ -2,9 +2,13 @@
 
 #include "shell/bureau/Bureau.hpp"
 
+#include <cstdint>
 #include <optional>
 
 namespace velmaris {
+
+/// Who has a sight reduced: the user, who is told what can't be, or a redraw, which skips it without a word.
+enum class Demande : std::uint8_t { Utilisateur, Retrace };
 
 /// The two heights that an intercept was formed from, degrees.
 struct Hauteurs {
@@ -17,7 +21,9 @@ void PrepareVisee(Bureau &bureau, const Observation &observation);
 
 /// Reduces a sight by its kind of body, shows the result and puts back the fields that a reduction writes.
 /// Azimuth and intercept are left in `bureau.visee`, the body's name in `bureau.NomAstre`.
-/// @return nothing when the reading was 0 or no body is chosen, and nothing has changed
-std::optional<Hauteurs> ReduitVisee(Bureau &bureau, Observation &observation);
+/// @return nothing when the reading was 0 or no body is chosen, and nothing has changed; nor in a redraw when the
+///         reduction fails, azimuth and intercept being those of the sight before
+/// @throws ErreurExpliquee for the user alone, when a star's or a planet's sight can't be reduced
+std::optional<Hauteurs> ReduitVisee(Bureau &bureau, Observation &observation, Demande demande = Demande::Utilisateur);
 
 } // namespace velmaris

@@ -13,20 +13,26 @@ namespace {
 
 constexpr double kAnneeMax = 5000;
 
-/// Leaves a field: a value outside its limits empties it, else the text takes its form.
+/// Leaves a field that holds a text: a value outside its limits empties it, else the text takes its form.
 /// @return whether the value was accepted
-bool Quitte(Bureau &bureau, Controle &champ, double minimum, double maximum, std::string_view masque,
-            char signeDecimal = '.') {
-  const double valeur = Val(champ.texte);
+bool QuitteAvec(Bureau &bureau, Controle &champ, const std::string &texte, double minimum, double maximum,
+                std::string_view masque, char signeDecimal) {
+  const double valeur = Val(texte);
   const bool accepte = valeur >= minimum && valeur <= maximum;
-  PoseTexte(bureau, champ, accepte ? Format(champ.texte, masque, signeDecimal) : std::string());
+  PoseTexte(bureau, champ, accepte ? Format(texte, masque, signeDecimal) : std::string());
   return accepte;
+}
+
+/// Leaves a field of whole numbers; a comma counts as the point, so that the field shows what is used.
+bool Quitte(Bureau &bureau, Controle &champ, double minimum, double maximum, std::string_view masque) {
+  return QuitteAvec(bureau, champ, AvecPoint(champ.texte), minimum, maximum, masque, '.');
 }
 
 /// Leaves a field that holds a decimal comma.
 void QuitteVirgule(Bureau &bureau, Controle &champ, double minimum, double maximum) {
-  std::replace(champ.texte.begin(), champ.texte.end(), '.', ',');
-  Quitte(bureau, champ, minimum, maximum, "#0.0", ',');
+  std::string texte = champ.texte;
+  std::replace(texte.begin(), texte.end(), '.', ',');
+  QuitteAvec(bureau, champ, texte, minimum, maximum, "#0.0", ',');
 }
 
 int Choisie(const auto &options) {

@@ -4,6 +4,7 @@
 
 #include <gmock/gmock.h>
 
+#include <functional>
 #include <memory>
 
 /// The end of the program, asked for or by a failure that nothing passes over: nothing is lost by it.
@@ -114,6 +115,64 @@ TEST_F(Programme, TheBoxOfAFailureSpeaksTheChosenLanguage) {
     ASSERT_EQ(boites.size(), 1U);
     EXPECT_THAT(boites[0].texte, ::testing::StartsWith(debut));
   }
+}
+
+/// What the box says of a failing click.
+class BoiteDeLaFin : public AvecFichiers {
+protected:
+  std::string Dite(const std::function<void()> &clic) {
+    boites.clear();
+    try {
+      clic();
+      return "no failure";
+    } catch (const Erreur &erreur) {
+      Secours(bureau, erreur);
+    }
+    return boites.size() == 1 ? boites[0].texte : "no box";
+  }
+
+  void Etoile(Controle &champ, const std::string &texte) {
+    TapeVisee();
+    ClicOption(bureau, d.Option7[static_cast<std::size_t>(Corps::Etoiles)]);
+    ClicCase(bureau, d.Check3); // the whole list
+    ChoisitLigne(bureau, d.Combo6, 40);
+    SaisitTexte(bureau, champ, texte);
+  }
+};
+
+TEST_F(BoiteDeLaFin, NamesTheFieldAndTheRemedyBesideTheNumber) {
+  const auto calcule = [&] { Calcule(); };
+  ClicControle(bureau, d.Image10[1]);
+  Etoile(d.Text10, "");
+  EXPECT_THAT(Dite(calcule),
+              ::testing::StartsWith("Run-time error 13\nType mismatch\n\nEye height is empty: a star needs it.\n\n"));
+  Etoile(d.Text11, "abc");
+  EXPECT_THAT(Dite(calcule), HasSubstr("\n\nIndex correction isn't a number: write it as 2,5.\n\n"));
+  Etoile(d.TDate[0], "");
+  EXPECT_THAT(Dite(calcule), HasSubstr("\n\nDay is empty: a star needs it.\n\n"));
+  ClicControle(bureau, d.Image10[0]);
+  Etoile(d.Text10, "");
+  EXPECT_THAT(Dite(calcule), HasSubstr("\n\nHauteur oeil est vide : une étoile en a besoin.\n\n"));
+  Etoile(d.Text3, "24");
+  EXPECT_THAT(Dite(calcule), HasSubstr("\n\nHeure GMT, h va de 0 à 23.\n\n"));
+  Etoile(d.TDate[0], "31");
+  SaisitTexte(bureau, d.TDate[1], "02");
+  EXPECT_THAT(Dite(calcule), HasSubstr("\n\nLa date n'existe pas : corrigez le jour, le mois ou l'année.\n\n"));
+}
+
+TEST_F(BoiteDeLaFin, OfAPlanetTellsItsNeed) {
+  Etoile(d.Text5, "");
+  ClicOption(bureau, d.Option7[static_cast<std::size_t>(Corps::Planetes)]);
+  ChoisitLigne(bureau, d.Combo7, 1);
+  EXPECT_THAT(Dite([&] { Calcule(); }), HasSubstr("\n\nHeure GMT, s est vide : une planète en a besoin.\n\n"));
+}
+
+TEST_F(BoiteDeLaFin, OfTwoPlacesThatHaveNoCourseTellsToChangeOne) {
+  for (Controle *champ : {&d.Text14, &d.Text16, &d.Text17, &d.Text18, &d.Text20, &d.Text19, &d.Text21}) {
+    SaisitTexte(bureau, *champ, "00");
+  }
+  SaisitTexte(bureau, d.Text22, "180");
+  EXPECT_THAT(Dite([&] { ClicControle(bureau, d.Command10); }), HasSubstr("\n\n" + d.TexteDeuxPoints.legende + "\n\n"));
 }
 
 TEST_F(Programme, AFailureWithoutAMeaningTellsItsNumberAlone) {

@@ -16,10 +16,21 @@
 #include <gtest/gtest.h>
 
 #include <array>
+#include <chrono>
 #include <string>
+#include <thread>
 #include <vector>
 
 namespace velmaris::essais {
+
+/// The ticks of the clock until all that waits for another program is written, as a program that goes on has them.
+inline void AttendEcrit(Valeurs &valeurs) {
+  for (int i = 0; i < 30'000 && valeurs.enAttente(); ++i) {
+    std::this_thread::sleep_for(std::chrono::milliseconds(1));
+    valeurs.Retente();
+  }
+  EXPECT_FALSE(valeurs.enAttente());
+}
 
 /// The whole program without a screen: its own data folder, a clock that stands at 2026 June 21 12:05:30 UTC, English
 /// weekday names, and boxes that are noted and answered with `reponse`.

@@ -137,7 +137,25 @@ TEST_F(Langue, ChangingTheLanguageKeepsTheToolTipsThatTheProgramHasWritten) {
   ClicControle(bureau, d.Image10[1]);
   EXPECT_EQ(d.Label51.infobulle, polygones);
   EXPECT_EQ(d.Command15.infobulle, "Temps route = 03:00:00");
-  EXPECT_EQ(d.Command15.legende, "Reduce");
+  EXPECT_EQ(d.Command15.legende, "Compute");
+}
+
+TEST_F(Langue, EnglishSpeaksAsItsNavigatorsDo) {
+  Demarre();
+  TapeVisee();
+  ClicControle(bureau, d.Image10[1]);
+  Calcule();
+  EXPECT_EQ(d.Label21.legende, "Index correction (min)");
+  EXPECT_THAT(d.Label21.infobulle, testing::HasSubstr("On the arc: minus"));
+  EXPECT_EQ(d.Command2.legende, "Reduce") << "a sight";
+  EXPECT_EQ(d.Command15.legende + d.Command10.legende, "ComputeCompute") << "a route";
+  EXPECT_EQ(d.PU_D.legende, d.Label63.legende) << "the menu and the module that it shows";
+  EXPECT_THAT(d.Option1[1].legende, testing::StartsWith("Advance to"));
+  EXPECT_THAT(d.Option1[4].legende, testing::StartsWith("Advance to"));
+  EXPECT_EQ(d.Label24.legende, "Altitude");
+  EXPECT_THAT(d.Label70[3].legende, testing::StartsWith("Observed altitude"));
+  ClicControle(bureau, d.Image10[0]);
+  EXPECT_EQ(d.Label21.infobulle, "");
 }
 
 TEST_F(Langue, AFieldThatAFileFillsRunsItsChangeAtOnce) {
@@ -162,6 +180,15 @@ TEST_F(Langue, AWrittenTemplateReadBackChangesNothing) {
   Lit("Form=Données\r\n" + modele);
   std::size_t i = 0;
   PourChaque(d, [&](const LigneDonnees &, const Controle &c) { EXPECT_EQ(c, avant[i++]) << c.nom; });
+}
+
+TEST_F(Langue, AFileOverSixtyFourMegabytesIsToldAndTheBuiltInFrenchStays) {
+  LanguesSeules();
+  std::filesystem::resize_file(bureau.dossiers.programme / "FR.txt", std::uintmax_t{1} << 42U);
+  Demarre();
+  ASSERT_EQ(boites.size(), 1U);
+  EXPECT_EQ(boites[0].texte, "Fichier absent.");
+  EXPECT_EQ(d.Sortie.infobulle, "Sortie du logiciel (F2)");
 }
 
 TEST_F(Langue, TheTemplateIsWrittenToTheUsersFolder) {

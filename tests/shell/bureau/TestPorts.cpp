@@ -7,6 +7,7 @@
 #include <cstdlib>
 #include <optional>
 #include <string>
+#include <unistd.h>
 
 namespace velmaris::essais {
 namespace {
@@ -67,11 +68,47 @@ TEST(DossiersDuProgramme, TheUsersOwnIsWhereTheDesktopSaysOrElseUnderTheHome) {
   }
 }
 
-TEST(DossiersDuProgramme, WithoutAHomeTheUsersOwnIsTheTemporaryFolder) {
+/// The home of the account at hand, as the system's own program tells it.
+fs::path AccueilDuCompte() {
+  const DossierTemporaire dossier;
+  const std::string commande =
+      "getent passwd " + std::to_string(::getuid()) + " | cut -d: -f6 > '" + (dossier / "accueil").string() + "'";
+  EXPECT_EQ(std::system(commande.c_str()), 0);
+  const std::string ligne = Contenu(dossier / "accueil");
+  return ligne.substr(0, ligne.find('\n'));
+}
+
+TEST(DossiersDuProgramme, WithoutAHomeOrWithARelativeOneTheUsersOwnIsTheAccounts) {
+  const fs::path compte = AccueilDuCompte();
+  ASSERT_TRUE(compte.is_absolute());
+  for (const char *sans : {"", "relatif", "./ici", "~"}) {
+    const Variable xdg("XDG_DATA_HOME", sans);
+    const Variable maison("HOME", sans);
+    EXPECT_EQ(TrouveDossiers("/bin").accueil, compte) << sans;
+    EXPECT_EQ(TrouveDossiers("/bin").utilisateur, compte / ".local/share/velmaris") << sans;
+  }
+}
+
+TEST(DossiersDuProgramme, AHomeThatIsTheRootStaysOne) {
+  const Variable xdg("XDG_DATA_HOME", "");
+  const Variable maison("HOME", "/");
+  EXPECT_EQ(TrouveDossiers("/bin").accueil, "/");
+  EXPECT_EQ(TrouveDossiers("/bin").utilisateur, "/.local/share/velmaris");
+}
+
+TEST(DossiersDuProgramme, AnAccountThatTheSystemDoesNotKnowHasNoFolderThatAnyoneMayMake) {
+  if (::geteuid() != 0) {
+    GTEST_SKIP() << "only the superuser can become an account that isn't there";
+  }
   const Variable xdg("XDG_DATA_HOME", "");
   const Variable maison("HOME", "");
-  EXPECT_EQ(TrouveDossiers("/bin").accueil, "/tmp");
-  EXPECT_EQ(TrouveDossiers("/bin").utilisateur, "/tmp/.local/share/velmaris");
+  const uid_t inconnu = 3'999'999'999U;
+  ASSERT_EQ(::setresuid(inconnu, 0, 0), 0);
+  const fs::path accueil = TrouveDossiers("/bin").accueil;
+  ASSERT_EQ(::setresuid(0, 0, 0), 0);
+  EXPECT_TRUE(accueil.is_absolute());
+  EXPECT_FALSE(fs::exists(accueil));
+  EXPECT_FALSE(accueil.string().starts_with("/tmp"));
 }
 
 TEST(DossiersDuProgramme, AFileIsTakenFromTheUserThenFromTheProgramThenFromTheShareFolder) {

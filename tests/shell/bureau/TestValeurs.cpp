@@ -9,6 +9,8 @@
 namespace velmaris::essais {
 namespace {
 
+namespace fs = std::filesystem;
+
 constexpr std::string_view kA = kApplication;
 constexpr std::string_view kS = kSection;
 
@@ -92,16 +94,17 @@ TEST_F(Magasin, AGroupOfValuesIsWrittenWholeOrNotAtAll) {
   EXPECT_EQ(v.GetSetting(kA, kS, "b"), "");
 }
 
-TEST_F(Magasin, AGroupThatCannotBeginLeavesTheDiskAloneAndGoesOnInMemory) {
+TEST_F(Magasin, AGroupThatTheDiskRefusesLeavesItAloneAndGoesOnInMemory) {
   Valeurs v(fichier);
   v.SaveSetting(kA, kS, "a", "avant");
-  Valeurs verrou(fichier);
-  verrou.Ensemble([&] {
-    verrou.SaveSetting(kA, kS, "c", "verrou");
-    v.Ensemble([&] {
-      v.SaveSetting(kA, kS, "a", "après");
-      v.SaveSetting(kA, kS, "b", "après");
-    });
+  ASSERT_EQ(std::system(("sqlite3 '" + fichier.string() +
+                         "' \"CREATE TRIGGER t BEFORE INSERT ON valeurs WHEN NEW.cle='b'"
+                         " BEGIN SELECT RAISE(FAIL,'plein'); END\"")
+                            .c_str()),
+            0);
+  v.Ensemble([&] {
+    v.SaveSetting(kA, kS, "a", "après");
+    v.SaveSetting(kA, kS, "b", "après");
   });
   EXPECT_EQ(v.etat(), EtatMagasin::SansTrace);
   EXPECT_EQ(v.GetSetting(kA, kS, "a") + v.GetSetting(kA, kS, "b"), "aprèsaprès");
@@ -116,6 +119,7 @@ TEST_F(Magasin, TwoProgramsOnOneStoreLoseNoKey) {
     for (int i = 0; i < 50; ++i) {
       v.SaveSetting(kA, kS, prefixe + std::to_string(i), std::to_string(i));
     }
+    AttendEcrit(v);
     EXPECT_EQ(v.etat(), EtatMagasin::Sain);
   };
   std::thread autre(ecrit, "x");
@@ -206,6 +210,46 @@ TEST_F(Magasin, ATableOfAnotherFormOrAViewIsNoStore) {
   }
 }
 
+TEST_F(Magasin, AStoreWithMoreColumnsFromALaterReleaseIsUsedAsItIs) {
+  { Valeurs(fichier).SaveSetting(kA, kS, "T6", "5"); }
+  ASSERT_EQ(
+      std::system(("sqlite3 '" + fichier.string() +
+                   "' \"ALTER TABLE valeurs ADD COLUMN moment INTEGER NOT NULL DEFAULT 7; CREATE TABLE autre(x)\"")
+                      .c_str()),
+      0);
+  {
+    Valeurs v(fichier);
+    EXPECT_EQ(v.etat(), EtatMagasin::Sain);
+    EXPECT_EQ(v.GetSetting(kA, kS, "t6"), "5");
+    v.SaveSetting(kA, kS, "T6", "6");
+    v.SaveSetting(kA, kS, "T7", "10");
+    EXPECT_EQ(v.etat(), EtatMagasin::Sain);
+  }
+  EXPECT_EQ(Valeurs(fichier).GetSetting(kA, kS, "T7"), "10");
+  // A table that had them from its making, in another order.
+  fs::remove(fichier);
+  ASSERT_EQ(std::system(("sqlite3 '" + fichier.string() +
+                         "' \"CREATE TABLE valeurs(moment INTEGER DEFAULT 0, valeur TEXT NOT NULL, cle TEXT NOT NULL"
+                         " COLLATE NOCASE, section TEXT NOT NULL, application TEXT NOT NULL, note TEXT,"
+                         " PRIMARY KEY(application, section, cle)) WITHOUT ROWID;"
+                         " INSERT INTO valeurs VALUES(1, '8', 'T6', 'Valeurs', 'Velmaris', 'n')\"")
+                            .c_str()),
+            0);
+  Valeurs v(fichier);
+  EXPECT_EQ(v.etat(), EtatMagasin::Sain);
+  EXPECT_EQ(v.GetSetting(kA, kS, "t6"), "8");
+  v.SaveSetting(kA, kS, "t6", "9");
+  EXPECT_EQ(Valeurs(fichier).GetSetting(kA, kS, "T6"), "9");
+}
+
+TEST_F(Magasin, AFileOverSixtyFourMegabytesIsNoStoreAndIsSetAside) {
+  { Valeurs(fichier).SaveSetting(kA, kS, "T6", "5"); }
+  fs::resize_file(fichier, std::uintmax_t{1} << 42U);
+  const Valeurs v(fichier);
+  EXPECT_EQ(v.etat(), EtatMagasin::Abime);
+  EXPECT_EQ(fs::file_size(v.fichierEnCause()), std::uintmax_t{1} << 42U);
+}
+
 TEST_F(Magasin, TwoProgramsThatFindADamageAtOnceSetOneFileAsideAndLoseNoKey) {
   const std::string bruit(5000, '\x7f');
   for (int tour = 0; tour < 20; ++tour) {
@@ -215,6 +259,7 @@ TEST_F(Magasin, TwoProgramsThatFindADamageAtOnceSetOneFileAsideAndLoseNoKey) {
     const auto ecrit = [&](const std::string &cle) {
       Valeurs v(fichier);
       v.SaveSetting(kA, kS, cle, "5");
+      AttendEcrit(v);
     };
     std::thread autre(ecrit, "x");
     ecrit("y");

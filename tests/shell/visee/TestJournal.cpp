@@ -6,6 +6,7 @@
 
 #include <gmock/gmock.h>
 
+#include <algorithm>
 #include <map>
 #include <set>
 #include <sys/wait.h>
@@ -153,19 +154,49 @@ TEST_F(JournalDesVisees, TheOtherChoicesHaveTheirWords) {
   EXPECT_EQ(c["bord"] + "/" + c["horizon"], "centre/artificiel");
 }
 
+TEST_F(JournalDesVisees, ControlCharactersAreLeftOut) {
+  SaisitTexte(bureau, d.Text4, "5\n6\r7\t8\x1B[31m\x7F\xC2\x85\xC2\x9F");
+  SaisitTexte(bureau, d.Text5,
+              std::string("3\0"
+                          "0",
+                          3));
+  bureau.NomAstre = "Vé\aga";
+  const std::string ligne = LigneJournal(bureau, Hauteurs{45.0, 44.5});
+  EXPECT_THAT(Champs(ligne), testing::IsSupersetOf({"5678[31m", "30", "Véga"}));
+  EXPECT_TRUE(std::none_of(ligne.begin(), ligne.end(), [](unsigned char c) { return c < 0x20 || c == 0x7F; }));
+}
+
+TEST_F(JournalDesVisees, ATextThatATableProgramWouldReckonOutFollowsAnApostrophe) {
+  for (const char *texte : {"=1+1", "@SUM(A1)", "+1+1", "-2+3", "-", "+", "=", " =1+1", "-1.5x", "--1",
+                            "+cmd|'/c x'!A0", "=HYPERLINK(\"http://x\",\"y\")", "\t=1+1", "＝1＋1"}) {
+    bureau.NomAstre = texte;
+    const std::string sansTabulation = *texte == '\t' ? texte + 1 : texte;
+    EXPECT_EQ(Champs(LigneJournal(bureau, Hauteurs{45.0, 44.5}))[2], "'" + sansTabulation);
+  }
+}
+
+TEST_F(JournalDesVisees, ANumberStaysANumberWhateverItsSign) {
+  for (const char *texte : {"-1,0", "-1.5", "+3", "-.5", "-2.", "-1E-05", "0", "12", "Mars", "5=6", "a@b"}) {
+    SaisitTexte(bureau, d.Text11, texte);
+    EXPECT_EQ(Champs(LigneJournal(bureau, Hauteurs{45.0, 44.5}))[19], texte);
+  }
+  bureau.visee.Intercept = -0.25F;
+  EXPECT_EQ(Champs(LigneJournal(bureau, Hauteurs{-1.5, 44.5}))[23], "-1.5");
+  EXPECT_EQ(Champs(LigneJournal(bureau, Hauteurs{-1.5, 44.5}))[25], "-0.25");
+}
+
 TEST_F(JournalDesVisees, CommasAndQuotesStandInQuotesAndReadBack) {
   SaisitTexte(bureau, d.Text9, "3,0");
   SaisitTexte(bureau, d.Text7, "10\"x\"");
-  SaisitTexte(bureau, d.Text4, "5\n6\r7");
+  SaisitTexte(bureau, d.Text4, "5;6");
   Calcule();
   const std::string texte = Contenu(journal);
   EXPECT_THAT(texte, HasSubstr(",\"3,0\","));
   EXPECT_THAT(texte, HasSubstr(",\"10\"\"x\"\"\","));
-  EXPECT_THAT(texte, HasSubstr(",\"5\n6\r7\","));
   const std::string ligne = texte.substr(kTitresJournal.size() + 1);
   const auto champs = Champs(ligne);
   EXPECT_EQ(champs.size(), Champs(std::string(kTitresJournal)).size());
-  EXPECT_THAT(champs, testing::IsSupersetOf({"3,0", "10\"x\"", "5\n6\r7"}));
+  EXPECT_THAT(champs, testing::IsSupersetOf({"3,0", "10\"x\"", "5;6"}));
 }
 
 TEST_F(JournalDesVisees, TheMomentIsThatOfTheCalculation) {

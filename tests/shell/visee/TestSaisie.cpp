@@ -44,17 +44,50 @@ TEST_F(Programme, AYearUnderAHundredIsOfThisCenturyAndFiveThousandIsTheLast) {
   }
 }
 
+TEST_F(Programme, ACommaInAWholeNumberFieldIsADecimalSignAndTheLeftFieldShowsWhatIsUsed) {
+  DemarreSansCarte();
+  for (Controle *champ : {&d.Text3, &d.Text4, &d.Text5, &d.Text6, &d.Text7, &d.Text8, &d.Text9, &d.Text12, &d.Text13}) {
+    for (const Cas &cas : {Cas{"50,9", "51"},
+                           {"50.9", "51"},
+                           {"50,4", "50"},
+                           {"0,5", "01"},
+                           {" 7,2 ", "07"},
+                           {"-0,5", ""},
+                           {"180,5", ""},
+                           {"3,7x", "3.7x"},
+                           {"1,2,3", "1.2.3"}}) {
+      Tape(*champ, cas.tape);
+      EXPECT_EQ(champ->texte, cas.reste) << champ->nom << " " << cas.tape;
+    }
+  }
+  Tape(d.Text12, "60,5");
+  EXPECT_EQ(d.Text12.texte, "") << "the limit sees the whole number";
+}
+
+TEST_F(Programme, ADateHasNoDecimalComma) {
+  DemarreSansCarte();
+  for (const Cas &cas : {Cas{"12,9", "12"}, {"12.9", "13"}}) {
+    Tape(d.TDate[0], cas.tape);
+    EXPECT_EQ(d.TDate[0].texte, cas.reste) << cas.tape;
+  }
+}
+
+TEST_F(Programme, MinutesTypedWithACommaAreReducedAsTheyShow) {
+  DemarreSansCarte();
+  TapeVisee();
+  Tape(d.Text12, "35");
+  Calcule();
+  const float attendu = bureau.visee.Intercept;
+  Tape(d.Text12, "34,9");
+  Calcule();
+  EXPECT_EQ(bureau.visee.Intercept, attendu);
+}
+
 TEST_F(Programme, HoursMinutesAndSecondsAllGoToSixtyAndKeepATextThatIsNoNumber) {
   DemarreSansCarte();
   for (Controle *champ : {&d.Text3, &d.Text4, &d.Text5, &d.Text7, &d.Text9, &d.Text12}) {
-    for (const Cas &cas : {Cas{"5", "05"},
-                           {"60", "60"},
-                           {"61", ""},
-                           {"-1", ""},
-                           {"", ""},
-                           {"12abc", "12abc"},
-                           {"é", "é"},
-                           {"3,7", "3,7"}}) {
+    for (const Cas &cas :
+         {Cas{"5", "05"}, {"60", "60"}, {"61", ""}, {"-1", ""}, {"", ""}, {"12abc", "12abc"}, {"é", "é"}}) {
       Tape(*champ, cas.tape);
       EXPECT_EQ(champ->texte, cas.reste) << champ->nom << " " << cas.tape;
     }
