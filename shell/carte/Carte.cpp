@@ -57,11 +57,42 @@ void ChargeLieux(Bureau &bureau, std::string_view nom, std::size_t message,
   }
 }
 
+/// Notes where a drawing of the chart stands in the surface's list. One that repeats the drawing right before it is
+/// dropped, since it leaves nothing to see: steps of the zoom without a sheet.
+void NoteDessin(CarteOuverte &carte, Surface &surface, std::size_t debut, const LieuCarte &lieu) {
+  if (carte.effacements != surface.effacements) {
+    carte.dessins.clear();
+    carte.effacements = surface.effacements;
+  }
+  carte.lieu = lieu;
+  if (carte.dessins.empty() || carte.dessins.back().fin != debut ||
+      !RetireRepetition(surface, carte.dessins.back().debut, debut)) {
+    carte.dessins.push_back({debut, surface.traces.size()});
+  }
+}
+
+LieuCarte LieuDe(const Feuille &feuille) {
+  return EstMonde(feuille) ? LieuCarte{kSansFeuille, 0.0F, 0.0F}
+                           : LieuCarte{feuille.OrigineFeuille, feuille.EchelleX, feuille.EchelleY};
+}
+
+/// A chart drawn elsewhere goes, with all that lies on it: a zoom without a sheet leaves the centre that was chosen by
+/// hand, and the whole world comes back.
+void EffaceAutreVue(Bureau &bureau) {
+  const CarteOuverte &carte = bureau.carte;
+  const bool montre = !carte.dessins.empty() && carte.effacements == bureau.image1.effacements;
+  if (montre && carte.lieu != LieuDe(bureau.feuille)) {
+    Efface(bureau.image1);
+  }
+}
+
 } // namespace
 
 void OuvreCartes(Bureau &bureau) {
   Donnees &d = bureau.donnees;
   Surface &surface = bureau.image1;
+  EffaceAutreVue(bureau);
+  const LieuCarte lieu = LieuDe(bureau.feuille);
   const std::size_t debut = surface.traces.size();
   surface.plumeLevee = true;
   bureau.pointeurOccupe = true;
@@ -84,13 +115,13 @@ void OuvreCartes(Bureau &bureau) {
     d.Label51.legende = bureau.messages[26] + TexteGeneral(secondes) + bureau.messages[27];
   }
   bureau.pointeurOccupe = false;
-  // A chart that is drawn again in the same place leaves nothing to see: steps of the zoom without a sheet.
-  const DernierDessin &dernier = bureau.carte.dernier;
-  if (dernier.effacements != surface.effacements || dernier.fin != debut ||
-      !RetireRepetition(surface, dernier.debut, debut)) {
-    bureau.carte.dernier = {debut, surface.traces.size(), surface.effacements};
-  }
+  NoteDessin(bureau.carte, surface, debut, lieu);
   surface.plumeLevee = true;
+}
+
+std::vector<Tranche> DessinsCarte(const Bureau &bureau) {
+  const CarteOuverte &carte = bureau.carte;
+  return carte.effacements == bureau.image1.effacements ? carte.dessins : std::vector<Tranche>();
 }
 
 void ChargePolygone(Bureau &bureau, std::string_view nom, Couleur couleur) {

@@ -3,13 +3,18 @@
 #include "shell/bureau/Bureau.hpp"
 
 #include <string_view>
+#include <vector>
 
 namespace velmaris {
 
-/// Draws the chart over what the surface holds: the outlines that the options ask for, cities, user's objects. Every
+/// Draws the chart over what the surface holds, unless that is a chart of another place or scale, which is cleared
+/// first: the outlines that the options ask for, cities, user's objects. Every
 /// file is read again; one that can't be read is told and left out. The title of the module then tells how long it took
 /// when that is over a second, and its tool tip how many points each file had.
 void OuvreCartes(Bureau &bureau);
+
+/// Where the drawings of the chart stand in the list of the main window's surface.
+std::vector<Tranche> DessinsCarte(const Bureau &bureau);
 
 /// Reads one polygon file and draws it. A file that can't be read, or that has more points than the table, is told in a
 /// box and not drawn; one that was opened and not read to its end stays open, and no other can be opened until the next

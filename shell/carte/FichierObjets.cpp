@@ -7,6 +7,7 @@
 
 #include <optional>
 #include <system_error>
+#include <utility>
 
 namespace velmaris {
 namespace {
@@ -37,6 +38,9 @@ void Signale(Bureau &bureau, const Arret &arret, const fs::path &fichier) {
   }
   bureau.ports.boite({.texte = texte + "\n\n" + u.TexteDeCote.legende, .icone = Icone::Attention});
 }
+
+/// The user's own file, which is the one that is written.
+fs::path FichierPropre(const Bureau &bureau) { return bureau.dossiers.utilisateur / kFichierObjets; }
 
 /// Takes an entry into the tables and the list.
 void Ajoute(Utilisateur &u, Objet objet) {
@@ -75,7 +79,9 @@ std::optional<Arret> LitLignes(Utilisateur &u, std::string_view texte, std::stri
 
 /// Puts a file out of the way of the one that replaces it, beside it and over none. Where it can be read it is copied,
 /// so that it stays in its place until it is replaced.
-void MetDeCote(const fs::path &fichier) {
+/// @param octets  what it holds, none when it can't be read
+/// @return where it is now
+fs::path MetDeCote(const fs::path &fichier, const std::optional<std::string> &octets) {
   std::error_code refus;
   fs::path libre = fichier;
   libre.replace_extension(".ancien.txt");
@@ -83,15 +89,22 @@ void MetDeCote(const fs::path &fichier) {
     libre = fichier;
     libre.replace_extension(".ancien." + std::to_string(i) + ".txt");
   }
-  std::optional<std::string> octets;
-  if (Passe([&] { octets = LitFichier(fichier); })) {
+  if (octets) {
     EcritFichier(libre, *octets);
-    return;
+    return libre;
   }
   fs::rename(fichier, libre, refus);
   if (refus) {
     throw Erreur(kAccesRefuse);
   }
+  return libre;
+}
+
+/// What a file holds, none where there is none that can be read.
+std::optional<std::string> OctetsDe(const fs::path &fichier) {
+  std::optional<std::string> octets;
+  Passe([&] { octets = LitFichier(fichier); });
+  return octets;
 }
 
 } // namespace
@@ -141,11 +154,16 @@ void LitFichier(Bureau &bureau) {
   u.List1.rang = -1;
   u.etiquetteCommand1 = "0";
   u.etiquetteCommand3.clear();
+  u.octetsLus.reset();
   const fs::path fichier = TrouveFichier(bureau.dossiers, kFichierObjets);
   std::string texte;
   std::optional<Arret> arret;
   try {
-    texte = EnUtf8(LitFichier(fichier));
+    std::string octets = LitFichier(fichier);
+    texte = EnUtf8(octets);
+    if (fichier == FichierPropre(bureau)) {
+      u.octetsLus = std::move(octets);
+    }
   } catch (const Erreur &erreur) {
     if (erreur.numero != kFichierAbsent) {
       arret = Arret{erreur.numero, 0};
@@ -163,14 +181,29 @@ void LitFichier(Bureau &bureau) {
 
 void EcritFichier(Bureau &bureau) {
   Utilisateur &u = bureau.utilisateur;
-  const fs::path fichier = bureau.dossiers.utilisateur / kFichierObjets;
+  const fs::path fichier = FichierPropre(bureau);
   std::error_code refus;
   fs::create_directories(fichier.parent_path(), refus);
-  if (!u.fidele && fs::exists(fs::symlink_status(fichier, refus))) {
-    MetDeCote(fichier);
+  const bool la = fs::exists(fs::symlink_status(fichier, refus));
+  const std::optional<std::string> octets = OctetsDe(fichier);
+  const bool change = fs::is_regular_file(fichier, refus) && octets != u.octetsLus;
+  fs::path deCote;
+  if (change || (la && !u.fidele)) {
+    deCote = MetDeCote(fichier, octets);
+    u.octetsLus = octets; // a second try doesn't set the same aside again
   }
   u.fidele = true;
-  EcritFichier(fichier, TexteObjets(u));
+  const std::string texte = TexteObjets(u);
+  const bool ecrit = Passe([&] { EcritFichier(fichier, texte); });
+  if (ecrit) {
+    u.octetsLus = texte;
+  }
+  if (change) {
+    bureau.ports.boite({.texte = u.TexteAutreMain.legende + "\n" + deCote.string(), .icone = Icone::Attention});
+  }
+  if (!ecrit) {
+    throw Erreur(kAccesRefuse);
+  }
 }
 
 } // namespace velmaris

@@ -26,7 +26,7 @@ std::string TexteObjets(const Utilisateur &fenetre);
 void LitFichier(Bureau &bureau);
 
 /// Replaces the file of the objects in the user's data folder. A file that holds more than the tables, or that could
-/// not be read, is set aside first.
+/// not be read, is set aside first; so is one that isn't any more as it was read, which is told.
 /// @throws Erreur 75 when that can't be done; the old file is then whole
 void EcritFichier(Bureau &bureau);
 

@@ -21,9 +21,12 @@ constexpr int kHorsTable = 9;
 constexpr int kType = 13;
 constexpr std::size_t kTitre = 25; ///< message: title of the window
 
+/// What a field holds as a number.
+double LitChamp(const Controle &champ) { return LitNombre(AvecPoint(champ.texte)); }
+
 /// Degrees under the mask, a point, and hundredths worked out from what is typed after them.
 std::string TextePosition(char signe, const Controle &degres, const Controle &parties, std::int16_t precision) {
-  return signe + Format(degres.texte, "00") + "." + Format(LitNombre(parties.texte) / (precision / 100.0), "00");
+  return signe + Format(AvecPoint(degres.texte), "00") + "." + Format(LitChamp(parties) / (precision / 100.0), "00");
 }
 
 /// A name in one line: a line break would break the file.
@@ -59,7 +62,7 @@ template <class Lecture> bool Accepte(Bureau &bureau, const Controle &champ, Lec
 std::optional<Objet> ConstruitObjet(Bureau &bureau) {
   const Utilisateur &u = bureau.utilisateur;
   for (const Controle *champ : {&u.Text8, &u.Text9, &u.Text6, &u.Text7}) {
-    if (!Accepte(bureau, *champ, [&] { LitNombre(champ->texte); })) {
+    if (!Accepte(bureau, *champ, [&] { LitChamp(*champ); })) {
       return std::nullopt;
     }
   }
@@ -72,7 +75,7 @@ std::optional<Objet> ConstruitObjet(Bureau &bureau) {
       throw Erreur(kType);
     }
   };
-  const bool pris = Accepte(bureau, u.Text3, [&] { objet.Rayon = Entier16(Val(u.Text3.texte)); }) &&
+  const bool pris = Accepte(bureau, u.Text3, [&] { objet.Rayon = Entier16(Val(AvecPoint(u.Text3.texte))); }) &&
                     Accepte(bureau, u.Text8, [&] { LitNombre(objet.Latitude); }) && Accepte(bureau, u.Text6, relit);
   return pris ? std::optional(objet) : std::nullopt;
 }
@@ -112,6 +115,7 @@ void Charge(Bureau &bureau) {
 void Decharge(Bureau &bureau) {
   Utilisateur &u = bureau.utilisateur;
   u.tables = {};
+  u.octetsLus.reset();
   u.List1.liste.clear();
   u.etiquetteCommand1 = "0";
   u.etiquetteCommand3.clear();

@@ -11,7 +11,7 @@ void Command18_Click(Bureau &bureau, int indice);
 void QuitteObjets(Bureau &bureau);
 
 /// Builds the two position texts of an entry from the fields. A minute is a hundredth of a degree and two thirds: it
-/// is rounded to whole hundredths, and 100 of them stay in their place.
+/// is rounded to whole hundredths, and 100 of them stay in their place. A comma counts as the point.
 /// @param objet  its latitude and longitude are replaced
 /// @throws Erreur 13 when minutes or hundredths aren't wholly a number, 6 when they leave 64 bits
 void ConstruitPosition(const Utilisateur &fenetre, Objet &objet);

@@ -2,8 +2,13 @@
 
 #include "foundations/Erreur.hpp"
 #include "foundations/TexteNombre.hpp"
+#include "shell/carte/Carte.hpp"
 #include "shell/droites/Droites.hpp"
+#include "shell/droites/FichierVisee.hpp"
 #include "shell/ecran/Modules.hpp"
+
+#include <filesystem>
+#include <system_error>
 
 namespace velmaris {
 namespace {
@@ -15,7 +20,7 @@ bool EnRoute(const SourisCarte &souris) { return souris.DebutX != 0.0F; }
 Point Debut(const SourisCarte &souris) { return {souris.DebutX, souris.DebutY}; }
 Point Fin(const SourisCarte &souris) { return {souris.FinX, souris.FinY}; }
 
-/// The check marks of the menu.
+/// The check marks of the menu; the rescued sight can be opened while there is one.
 void MajMarques(Bureau &bureau) {
   Donnees &d = bureau.donnees;
   const auto marque = [](Controle &entree, bool vrai) { entree.valeur = vrai ? 1 : 0; };
@@ -27,6 +32,8 @@ void MajMarques(Bureau &bureau) {
   marque(d.PU_C, d.FOptionCarte.visible);
   marque(d.PU_E, d.Frame4.visible);
   marque(d.PU_Caps, d.Frame2.visible);
+  std::error_code refus;
+  d.PU_Secours.actif = std::filesystem::exists(FichierSecours(bureau), refus);
 }
 
 /// A point of a route: the first one starts it, each further one ends a leg and starts the next.
@@ -95,7 +102,7 @@ void Image1_MouseDown(Bureau &bureau, BoutonSouris bouton, double x, double y) {
     }
     return;
   }
-  if (bureau.ModuleDeplace != 0) {
+  if (bouton != BoutonSouris::Gauche || bureau.ModuleDeplace != 0) {
     return;
   }
   bureau.souris.ClicX = static_cast<float>(x);
@@ -116,8 +123,8 @@ void Image1_MouseMove(Bureau &bureau, bool boutonGauche, double x, double y) {
   }
 }
 
-void Image1_MouseUp(Bureau &bureau) {
-  if (bureau.souris.ModeDistance != 0) {
+void Image1_MouseUp(Bureau &bureau, BoutonSouris bouton) {
+  if (bouton == BoutonSouris::Droit && bureau.souris.ModeDistance != 0) {
     AjouteBranche(bureau);
   }
   bureau.donnees.Label62.visible = false;
@@ -145,7 +152,7 @@ void Command19_Click(Bureau &bureau, int /*indice*/) {
   bureau.souris.DebutX = 0.0F;
   bureau.souris.DebutY = 0.0F;
   if (d.Check2.valeur == 1) {
-    EffaceBranches(bureau.souris, bureau.image1);
+    EffaceBranches(bureau.souris, bureau.image1, DessinsCarte(bureau));
   }
   RetraceCarte(bureau);
 }

@@ -7,7 +7,7 @@
 
 namespace velmaris {
 
-enum class BoutonSouris : std::uint8_t { Gauche, Droit };
+enum class BoutonSouris : std::uint8_t { Gauche, Droit, Autre };
 
 /// The mouse on the drawing surface; places are in 1/1440 inch, on the surface.
 /// @{
@@ -18,8 +18,8 @@ void Image1_MouseDown(Bureau &bureau, BoutonSouris bouton, double x, double y);
 /// The pointer moves: a held module follows it while the left button is down, the coordinate label follows it, and the
 /// present leg is measured to it.
 void Image1_MouseMove(Bureau &bureau, bool boutonGauche, double x, double y);
-/// A button goes up: the leg just ended joins the list. The help label hides.
-void Image1_MouseUp(Bureau &bureau);
+/// A button goes up: with the right one, the leg just ended joins the list. The help label hides with any.
+void Image1_MouseUp(Bureau &bureau, BoutonSouris bouton);
 /// @}
 
 /// Whether anything follows the pointer.
@@ -33,8 +33,8 @@ struct Elastique {
 };
 std::optional<Elastique> BrancheEnCours(const Bureau &bureau);
 
-/// "Reset": the list, the figures and the start of the next leg are forgotten; with "Toujours Visible" the legs leave
-/// the surface too, and the chart is drawn again.
+/// "Reset": the list, the figures and the start of the next leg are forgotten; with "Toujours Visible" the legs and
+/// the chart leave the surface too, and the chart is drawn again.
 void Command19_Click(Bureau &bureau, int indice);
 
 /// "Distance" and its menu entry: legs are measured, or no longer.

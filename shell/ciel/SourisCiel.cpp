@@ -1,10 +1,14 @@
 #include "shell/ciel/SourisCiel.hpp"
 
+#include "foundations/Erreur.hpp"
 #include "foundations/TexteNombre.hpp"
 #include "shell/bureau/Evenements.hpp"
 #include "shell/ciel/DessinCiel.hpp"
 #include "shell/visee/Astres.hpp"
+#include "shell/visee/Saisie.hpp"
+#include "sights/Reduction.hpp"
 #include "sky/Cadrans.hpp"
+#include "sky/LettreGrecque.hpp"
 
 #include <algorithm>
 #include <numeric>
@@ -137,9 +141,36 @@ std::optional<double> Eloignement(Point de, Point vers, Direction direction) {
 
 } // namespace
 
-void Survole(Bureau &bureau, const Controle &astre) {
+bool SeChoisit(const Bureau &bureau, const Controle &astre) {
+  if (astre.nom != "Laet") {
+    return true;
+  }
+  const Observation o = LitPanneau(bureau.donnees);
+  ValeursVisee valeurs = bureau.visee;
+  Passe([&] { LitEstime(o, valeurs); });
+  std::vector<std::string> visibles;
+  Passe([&] {
+    visibles = ListeVisibles(bureau.etoiles, {o.jour, o.mois, o.annee}, DateDeVisee(o), valeurs.LatEstimee,
+                             valeurs.LonEstimee);
+  });
+  return std::find(visibles.begin(), visibles.end(), astre.legende) != visibles.end();
+}
+
+std::string AideAstre(const Bureau &bureau, const Controle &astre) {
+  const std::string_view bayer = astre.infobulle;
+  std::string aide = bayer.empty() ? std::string() : std::string(LettreGrecque(bayer.substr(0, 1)));
+  aide += bayer.substr(std::min<std::size_t>(1, bayer.size()));
+  if (!SeChoisit(bureau, astre)) {
+    aide += (aide.empty() ? "" : "\n") + bureau.ciel.TexteHorsListe.legende;
+  }
+  return aide;
+}
+
+void Survole(Bureau &bureau, const Controle &astre, const Controle &pointe) {
   if (astre.nom == "Laet") {
     Laet_MouseMove(bureau, astre.indice);
+  } else if (pointe.nom == "Shapla") {
+    Shapla_MouseMove(bureau, astre.indice);
   } else if (astre.nom == "LaP") {
     LaP_MouseMove(bureau, astre.indice);
   } else if (astre.nom == "SOL") {
@@ -173,6 +204,12 @@ void LaP_MouseMove(Bureau &bureau, int indice) {
   const Controle &label = bureau.ciel.LaP.at(static_cast<std::size_t>(indice));
   MontreNom(bureau.ciel, label.legende);
   CadransSous(bureau, CentreDe(label));
+}
+
+void Shapla_MouseMove(Bureau &bureau, int indice) {
+  const auto k = static_cast<std::size_t>(indice);
+  MontreNom(bureau.ciel, bureau.ciel.LaP.at(k).legende);
+  CadransSous(bureau, CentreDe(bureau.ciel.Shapla.at(k)));
 }
 
 void SOL_MouseMove(Bureau &bureau) {
@@ -260,7 +297,7 @@ void DeplaceAstre(Bureau &bureau, Direction direction) {
   }
   if (proche != nullptr) {
     c.astreCourant = proche;
-    Survole(bureau, *proche);
+    Survole(bureau, *proche, MarqueDe(c, *proche));
   }
 }
 

@@ -3,6 +3,7 @@
 #include "shell/bureau/Bureau.hpp"
 
 #include <cstdint>
+#include <string>
 
 namespace velmaris {
 
@@ -21,13 +22,26 @@ void Laet_MouseMove(Bureau &bureau, int indice);
 /// The mouse over a planet's label.
 /// @param indice  0 Venus, 1 Mars, 2 Jupiter, 3 Saturn
 void LaP_MouseMove(Bureau &bureau, int indice);
+/// The mouse over a planet's disc: its name, and azimuth and height of the disc.
+/// @param indice  as for LaP_MouseMove
+void Shapla_MouseMove(Bureau &bureau, int indice);
 /// The mouse over the Sun's picture.
 void SOL_MouseMove(Bureau &bureau);
 /// The mouse over the Moon's picture.
 void Lune_MouseMove(Bureau &bureau);
 /// The mouse over a body of the chart.
+/// @param astre   its label or picture
+/// @param pointe  what lies under the mouse: that, or the body's mark
+void Survole(Bureau &bureau, const Controle &astre, const Controle &pointe);
+
+/// Whether a click on a body of the chart chooses it: a star only if it is in the list of visible stars of the
+/// position and the moment in the fields.
 /// @param astre  its label or picture
-void Survole(Bureau &bureau, const Controle &astre);
+bool SeChoisit(const Bureau &bureau, const Controle &astre);
+
+/// What the tip of a body tells: a star's letter and constellation, and whether a click can't choose it.
+/// @param astre  its label or picture
+std::string AideAstre(const Bureau &bureau, const Controle &astre);
 
 /// A star chosen in the list is shown on the chart.
 void List1_Click(Bureau &bureau, int indice);

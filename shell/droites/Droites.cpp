@@ -22,21 +22,21 @@ void RetireDroites(Donnees &d) {
   }
 }
 
-/// Clicks on the lines of one state, in their order.
+/// Replays the lines of one state, in their order.
 /// @return how many there were
 int RetraceEtat(Bureau &bureau, Couleur etat) {
   int nombre = 0;
   for (std::size_t i = 0; i < bureau.donnees.LHeure.size(); ++i) {
     if (bureau.donnees.LHeure[i].couleur == etat) {
-      Droite_Click(bureau, static_cast<int>(i));
+      RejoueDroite(bureau, static_cast<int>(i));
       ++nombre;
     }
   }
   return nombre;
 }
 
-/// Clicks on the lines of a list of transports in a mode, in their order.
-/// @param liste  a click that finds no sheet empties it, and ends the run
+/// Replays the lines of a list of transports in a mode, in their order.
+/// @param liste  a line that finds no sheet empties it, and ends the run
 void RetraceTransports(Bureau &bureau, ModeDroite mode, const std::string &liste) {
   if (liste.empty()) {
     return;
@@ -47,7 +47,7 @@ void RetraceTransports(Bureau &bureau, ModeDroite mode, const std::string &liste
   }
   std::size_t rang = 0;
   while (rang < liste.size()) {
-    Droite_Click(bureau, liste[rang++] - '0');
+    RejoueDroite(bureau, liste[rang++] - '0');
   }
 }
 
@@ -75,21 +75,21 @@ void MontreTitresFeuille(Bureau &bureau) {
   bureau.donnees.LabLat.legende = bureau.feuille.LabLat;
 }
 
-std::optional<Hauteurs> PremiereDroite(Bureau &bureau) {
+std::optional<Hauteurs> PremiereDroite(Bureau &bureau, Demande demande) {
   Observation observation = LitPanneau(bureau.donnees);
   NormaliseLecture(observation);
   PrepareVisee(bureau, observation);
-  const std::optional<Hauteurs> hauteurs = ReduitVisee(bureau, observation);
+  const std::optional<Hauteurs> hauteurs = ReduitVisee(bureau, observation, demande);
   TraceDroites(bureau.feuille, bureau.image1, observation, bureau.visee);
   MontreTitresFeuille(bureau);
   MajHeureListes(bureau);
   return hauteurs;
 }
 
-void DroiteSuivante(Bureau &bureau) {
+void DroiteSuivante(Bureau &bureau, Demande demande) {
   Observation observation = LitPanneau(bureau.donnees);
   PrepareVisee(bureau, observation);
-  ReduitVisee(bureau, observation);
+  ReduitVisee(bureau, observation, demande);
   // A planet or a star gives its name also where a reading of 0 has left the reduction undone.
   const Donnees &d = bureau.donnees;
   if (observation.corps == Corps::Planetes) {
@@ -114,7 +114,7 @@ void RetraceDroites(Bureau &bureau) {
   const int premieres = RetraceEtat(bureau, kPremiereDroite);
   const int ajoutees = RetraceEtat(bureau, kDroiteAjoutee);
   if (premieres + ajoutees == 0) {
-    PremiereDroite(bureau);
+    PremiereDroite(bureau, Demande::Retrace);
   }
   RetraceTransports(bureau, ModeDroite::TransporteDroite, bureau.transports.ListeTransportDroite);
   RetraceTransports(bureau, ModeDroite::TransporteEstime, bureau.transports.ListeTransportEstime);

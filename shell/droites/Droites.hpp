@@ -19,17 +19,19 @@ inline constexpr Couleur kDroiteAjoutee = 0x0000FF;  ///< a line added to the sh
 void Command2_Click(Bureau &bureau, int indice);
 
 /// Normalises the fields, reduces the sight of the panel and draws the sheet around its estimated position.
-/// A reading of 0 leaves azimuth and intercept, and the sheet is drawn with those of the sight before.
-std::optional<Hauteurs> PremiereDroite(Bureau &bureau);
+/// A reading of 0 leaves azimuth and intercept, and the sheet is drawn with those of the sight before; so does in a
+/// redraw a sight that can't be reduced.
+std::optional<Hauteurs> PremiereDroite(Bureau &bureau, Demande demande = Demande::Utilisateur);
 
 /// Adds the sight of the panel to the sheet.
-void DroiteSuivante(Bureau &bureau);
+void DroiteSuivante(Bureau &bureau, Demande demande = Demande::Utilisateur);
 
 /// Puts the captions of the sheet on the screen.
 void MontreTitresFeuille(Bureau &bureau);
 
 /// Draws the sheet again from the lines' colours and the lists of transports; with no line on it, from the sight of the
-/// panel. The mode is left at the last one that was needed.
+/// panel. A sight that can't be reduced, or has no star or planet, is drawn with the last azimuth and intercept,
+/// without a word. The mode is left at the last one that was needed.
 void RetraceDroites(Bureau &bureau);
 
 /// The chart is drawn again where it is to be always visible.

@@ -14,7 +14,7 @@
 #include "shell/visee/ReduitVisee.hpp"
 #include "shell/visee/Saisie.hpp"
 
-#include <optional>
+#include <string>
 
 namespace velmaris {
 namespace {
@@ -40,17 +40,31 @@ void DitNonLu(Bureau &bureau, const std::filesystem::path &chemin) {
   bureau.ports.boite({.texte = bureau.donnees.TexteNonLu.legende + "\n" + chemin.string(), .icone = Icone::Attention});
 }
 
-/// Reads a file's lines into the table. Past a table that is full the read fails without taking its line, so that the
-/// end of the file never comes: the program lives on beside it, until it is left.
-/// @return false when there is nothing to apply: the file can't be read, which the user is told, or the program ends
-bool LitLignes(Bureau &bureau, const std::filesystem::path &chemin) {
-  std::optional<std::string> octets;
-  if (!Passe([&] { octets = LitFichier(chemin); })) {
+/// Whether a file can be taken for a sight. One that is too large loads nothing and says nothing, like any other that
+/// isn't a sight; one that can't be read is told.
+/// @param octets  gets what the file holds
+bool LitOctets(Bureau &bureau, const std::filesystem::path &chemin, std::string &octets) {
+  try {
+    octets = LitFichier(chemin);
+    return true;
+  } catch (const FichierTropGrand &) {
+    return false;
+  } catch (const Erreur &) {
     DitNonLu(bureau, chemin);
     return false;
   }
+}
+
+/// Reads a file's lines into the table. Past a table that is full the read fails without taking its line, so that the
+/// end of the file never comes: the program lives on beside it, until it is left.
+/// @return false when there is nothing to apply: no file that can be taken for a sight, or the program ends
+bool LitLignes(Bureau &bureau, const std::filesystem::path &chemin) {
+  std::string octets;
+  if (!LitOctets(bureau, chemin, octets)) {
+    return false;
+  }
   try {
-    LitLignesLoP(*octets, bureau.lignesLoP);
+    LitLignesLoP(octets, bureau.lignesLoP);
   } catch (const Erreur &erreur) {
     if (erreur.numero != kTropDeLignes) {
       throw;
@@ -96,7 +110,7 @@ void Command3_Click(Bureau &bureau, int /*indice*/) {
     return;
   }
   try {
-    SauveLoP(chemin, LitPanneau(d));
+    SauveLoP(chemin, LitPanneau(d), bureau.dossiers.utilisateur);
   } catch (const Erreur &erreur) {
     bureau.ports.boite(
         {.texte = MotsErreur(d, erreur.numero) + "\n\n" + d.TexteNonEcrit.legende + "\n" + chemin.string(),
@@ -113,8 +127,7 @@ void Command4_Click(Bureau &bureau, int /*indice*/) {
 }
 
 void OuvreVisee(Bureau &bureau, const std::filesystem::path &chemin) {
-  if (!Passe([&] { LitFichier(chemin); })) {
-    DitNonLu(bureau, chemin);
+  if (std::string octets; !LitOctets(bureau, chemin, octets)) {
     return;
   }
   RemetFeuille(bureau);
@@ -122,6 +135,10 @@ void OuvreVisee(Bureau &bureau, const std::filesystem::path &chemin) {
     bureau.TitreFichier = SansExtension(chemin.filename().string());
   }
 }
+
+std::filesystem::path FichierSecours(const Bureau &bureau) { return bureau.dossiers.utilisateur / "secours.LoP"; }
+
+void PU_Secours_Click(Bureau &bureau, int /*indice*/) { OuvreVisee(bureau, FichierSecours(bureau)); }
 
 bool ChargeVisee(Bureau &bureau, const std::filesystem::path &chemin) {
   if (!LitLignes(bureau, chemin)) {

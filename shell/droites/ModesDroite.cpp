@@ -14,7 +14,7 @@ namespace {
 
 std::size_t Rang(int ligne) { return static_cast<std::size_t>(ligne); }
 
-void Enregistre(Bureau &bureau, int ligne) {
+void Enregistre(Bureau &bureau, int ligne, Demande /*demande*/) {
   EnregistreDroite(bureau, ligne);
   PoseMode(bureau, ModeDroite::Affiche);
   MajListeDroites(bureau);
@@ -22,9 +22,9 @@ void Enregistre(Bureau &bureau, int ligne) {
 }
 
 /// The line starts a sheet.
-void AffichePremiere(Bureau &bureau, int ligne) {
+void AffichePremiere(Bureau &bureau, int ligne, Demande demande) {
   Donnees &d = bureau.donnees;
-  PremiereDroite(bureau);
+  PremiereDroite(bureau, demande);
   MarqueDroite(d, Rang(ligne), kPremiereDroite);
   MajHeureListes(bureau);
   PoseTexte(bureau, d.Combo5, std::to_string(ligne + 1));
@@ -34,15 +34,15 @@ void AffichePremiere(Bureau &bureau, int ligne) {
 }
 
 /// The line joins the sheet; whether it is there already isn't asked.
-void AfficheSuivante(Bureau &bureau, int ligne) {
+void AfficheSuivante(Bureau &bureau, int ligne, Demande demande) {
   Donnees &d = bureau.donnees;
-  DroiteSuivante(bureau);
+  DroiteSuivante(bureau, demande);
   MarqueDroite(d, Rang(ligne), kDroiteAjoutee);
   MajHeureListes(bureau);
   PublieLigneImpression(bureau, ligne, ligne);
 }
 
-void Affiche(Bureau &bureau, int ligne) {
+void Affiche(Bureau &bureau, int ligne, Demande demande) {
   Donnees &d = bureau.donnees;
   d.Combo6.visible = true;
   d.Combo8.visible = false;
@@ -51,9 +51,9 @@ void Affiche(Bureau &bureau, int ligne) {
     bureau.ports.boite(
         {.texte = bureau.messages[11], .titre = d.TexteTitreErreur.legende, .icone = Icone::Information});
   } else if (bureau.feuille.OrigineFeuille == kSansFeuille) {
-    AffichePremiere(bureau, ligne);
+    AffichePremiere(bureau, ligne, demande);
   } else {
-    AfficheSuivante(bureau, ligne);
+    AfficheSuivante(bureau, ligne, demande);
   }
 }
 
@@ -65,7 +65,7 @@ void LitAzimutIntercept(Bureau &bureau, int ligne) {
 
 /// `TransportEnCours` stays 1 when there is no sheet, no target or no intercept: mile ticks are then left out until a
 /// transport runs to its end.
-void TransporteDroite(Bureau &bureau, int ligne) {
+void TransporteDroite(Bureau &bureau, int ligne, Demande /*demande*/) {
   Donnees &d = bureau.donnees;
   bureau.feuille.TransportEnCours = 1;
   if (bureau.feuille.OrigineFeuille.latitude == kSansFeuille.latitude) {
@@ -95,7 +95,7 @@ void TransporteDroite(Bureau &bureau, int ligne) {
   bureau.feuille.TransportEnCours = 0;
 }
 
-void TransporteEstime(Bureau &bureau, int ligne) {
+void TransporteEstime(Bureau &bureau, int ligne, Demande /*demande*/) {
   const Donnees &d = bureau.donnees;
   LitAzimutIntercept(bureau, ligne);
   if (!TransporteAEstime(bureau.feuille, bureau.image1, bureau.transports, bureau.visee, Val(d.Text15.texte),
@@ -108,7 +108,7 @@ void TransporteEstime(Bureau &bureau, int ligne) {
 }
 
 /// The sheet is left as it is: an erased line stays drawn until the next redraw.
-void Efface(Bureau &bureau, int ligne) {
+void Efface(Bureau &bureau, int ligne, Demande /*demande*/) {
   Donnees &d = bureau.donnees;
   if (!bureau.sansQuestion && !bureau.ports.boite({.texte = bureau.messages[13],
                                                    .titre = d.TexteAttention.legende,
@@ -128,7 +128,7 @@ void Efface(Bureau &bureau, int ligne) {
   PoseMode(bureau, ModeDroite::Affiche);
 }
 
-void Centre(Bureau &bureau, int ligne) {
+void Centre(Bureau &bureau, int ligne, Demande /*demande*/) {
   Donnees &d = bureau.donnees;
   std::array<bool, kNombreDroites> presente{};
   for (std::size_t i = 0; i < presente.size(); ++i) {
@@ -145,7 +145,7 @@ void Centre(Bureau &bureau, int ligne) {
   RetraceDroites(bureau);
 }
 
-void Retire(Bureau &bureau, int ligne) {
+void Retire(Bureau &bureau, int ligne, Demande /*demande*/) {
   MarqueDroite(bureau.donnees, Rang(ligne), kHorsFeuille);
   bureau.impression.Frame4[Rang(ligne)].visible = false;
   RetraceDroites(bureau);
@@ -153,7 +153,7 @@ void Retire(Bureau &bureau, int ligne) {
 
 struct Operation {
   ModeDroite mode;
-  void (*fonction)(Bureau &, int);
+  void (*fonction)(Bureau &, int, Demande);
 };
 
 /// In the order in which the options are tried.
@@ -164,6 +164,15 @@ constexpr std::array<Operation, 7> kOperations = {{{ModeDroite::Enregistre, Enre
                                                    {ModeDroite::Efface, Efface},
                                                    {ModeDroite::Centre, Centre},
                                                    {ModeDroite::Retire, Retire}}};
+
+void Opere(Bureau &bureau, int ligne, Demande demande) {
+  for (const Operation &operation : kOperations) {
+    if (bureau.donnees.Option1[static_cast<std::size_t>(operation.mode)].choisi) {
+      operation.fonction(bureau, ligne, demande);
+      return;
+    }
+  }
+}
 
 } // namespace
 
@@ -176,18 +185,14 @@ void Option1_Click(Bureau &bureau, int indice) {
 }
 
 void Droite_Click(Bureau &bureau, int ligne) {
-  const Donnees &d = bureau.donnees;
-  if (d.Frame2.visible) {
+  if (bureau.donnees.Frame2.visible) {
     RemplitBoutRoute(bureau, ligne);
-    return;
-  }
-  for (const Operation &operation : kOperations) {
-    if (d.Option1[static_cast<std::size_t>(operation.mode)].choisi) {
-      operation.fonction(bureau, ligne);
-      return;
-    }
+  } else {
+    Opere(bureau, ligne, Demande::Utilisateur);
   }
 }
+
+void RejoueDroite(Bureau &bureau, int ligne) { Opere(bureau, ligne, Demande::Retrace); }
 
 void Command8_Click(Bureau &bureau, int /*indice*/) {
   if (!bureau.ports.boite({.texte = bureau.messages[10],

@@ -29,6 +29,11 @@ void Option1_Click(Bureau &bureau, int indice);
 /// @param ligne  0 to 3
 void Droite_Click(Bureau &bureau, int ligne);
 
+/// Draws a line again in the selected mode, one of those that draw: no click of the user, so that "Caps et distances"
+/// is left alone, and a sight that can't be reduced is skipped.
+/// @param ligne  0 to 3
+void RejoueDroite(Bureau &bureau, int ligne);
+
 /// "Mémoire": erases the four lines after one question.
 void Command8_Click(Bureau &bureau, int indice);
 

@@ -5,11 +5,15 @@
 #include "lines/CapsDistances.hpp"
 #include "lines/Estime.hpp"
 #include "shell/bureau/Evenements.hpp"
+#include "shell/bureau/Explication.hpp"
 #include "shell/droites/MemoireDroites.hpp"
 #include "shell/visee/Saisie.hpp"
 
 namespace velmaris {
 namespace {
+
+constexpr int kArgument = 5;
+constexpr int kDivision = 11;
 
 std::string HeureDesListes(const Controle &heures, const Controle &minutes) {
   return Format(heures.texte, "00") + ":" + Format(minutes.texte, "00");
@@ -50,6 +54,17 @@ void Remplit(Bureau &bureau, const Bout &b, int ligne) {
   PoseTexte(bureau, b.longitudeMinutes, lit("T7("));
   PoseOption(bureau, lit("Hem(") == "Nord" ? b.nord : b.sud);
   PoseOption(bureau, lit("Lon(") == "Est" ? b.est : b.ouest);
+}
+
+/// Course and distance; two places that have none are told as such.
+CapDistance CalculeOuExplique(const Donnees &d, const PlaceRoute &depart, const PlaceRoute &arrivee) {
+  try {
+    return CalculeCapDistance(depart, arrivee);
+  } catch (const Erreur &erreur) {
+    throw ErreurExpliquee(erreur.numero, erreur.numero == kArgument || erreur.numero == kDivision
+                                             ? d.TexteDeuxPoints.legende
+                                             : std::string());
+  }
 }
 
 } // namespace
@@ -114,7 +129,7 @@ void Command10_Click(Bureau &bureau, int /*indice*/) {
   const PlaceRoute arrivee = Lit(Arrivee(d));
   MontreDegres(Depart(d), depart);
   MontreDegres(Arrivee(d), arrivee);
-  const CapDistance resultat = CalculeCapDistance(depart, arrivee);
+  const CapDistance resultat = CalculeOuExplique(d, depart, arrivee);
   if (resultat.memePoint) {
     bureau.ports.boite({.texte = bureau.messages[4], .titre = bureau.messages[5], .icone = Icone::Attention});
     return;

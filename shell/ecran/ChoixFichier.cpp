@@ -270,6 +270,7 @@ fs::path ChoisitFichier(Bureau &bureau, const std::string &titre, const std::str
   FSelect &f = bureau.fselect;
   f.cadre.titre = titre;
   f.motif = motif;
+  f.nomPropose = nom != motif;
   f.FName.texte = nom;
   f.FName.toutSelectionne = true;
   f.OK.actif = true;
@@ -309,6 +310,18 @@ void File1_DblClick(Bureau &bureau, int /*indice*/) { ClicControle(bureau, burea
 void File1_Entre(Bureau &bureau, int indice) { File1_Click(bureau, indice); }
 
 void Dir1_DblClick(Bureau &bureau, int /*indice*/) { Entre(bureau, DossierChoisi(bureau.fselect)); }
+
+void Dir1_Valide(Bureau &bureau, int /*indice*/) {
+  FSelect &f = bureau.fselect;
+  if (!Entre(bureau, DossierChoisi(f))) {
+    return;
+  }
+  if (!f.nomPropose) {
+    RetourAuMotif(f);
+  }
+  f.FName.toutSelectionne = true;
+  bureau.focus = &f.FName;
+}
 
 void Drive1_Click(Bureau &bureau, int /*indice*/) {
   FSelect &f = bureau.fselect;

@@ -24,6 +24,9 @@ void File1_DblClick(Bureau &bureau, int indice);
 void File1_Entre(Bureau &bureau, int indice);
 /// A folder pressed twice is entered.
 void Dir1_DblClick(Bureau &bureau, int indice);
+/// Return on a folder: it is entered, and the name field takes the focus, with the name that is to be saved or, where
+/// none was proposed, the pattern.
+void Dir1_Valide(Bureau &bureau, int indice);
 /// Another volume: its folders and files.
 void Drive1_Click(Bureau &bureau, int indice);
 /// Typing a name makes "Ok" usable again after a deletion.

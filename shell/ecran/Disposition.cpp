@@ -15,6 +15,8 @@ void Deplace(Controle &controle, double gauche, double haut) {
   controle.place.haut = haut;
 }
 
+constexpr double kBordTitre = 60; ///< right of the caption of latitude
+
 /// A result as one small line.
 void Rapetisse(Controle &resultat, double haut) {
   resultat.place = {480, haut, 1350, 300};
@@ -33,7 +35,9 @@ void DisposeFenetre(Bureau &bureau, const Ecran &ecran) {
   Dimensionne(bureau.picAZ, d.PicAZ.place);
   Dimensionne(bureau.picHE, d.PicHE.place);
   const Place &surface = d.Image1.place;
-  d.LabLat.place.haut = (surface.hauteur - d.LabLat.place.hauteur) / 2;
+  // At the right edge: the left one lies under the sight's module.
+  Deplace(d.LabLat, surface.largeur - d.LabLat.place.largeur - kBordTitre,
+          (surface.hauteur - d.LabLat.place.hauteur) / 2);
   // Under the figures of the scale bar, or beside them where a low surface has no room under them.
   const double pied = surface.hauteur - d.LabLon.place.hauteur;
   const bool place = surface.hauteur / 1.08 + surface.largeur / 60 + kLigneFigures <= pied;

@@ -3,6 +3,7 @@
 #include "shell/bureau/Evenements.hpp"
 #include "shell/visee/PanneauDirect.hpp"
 
+#include <algorithm>
 #include <array>
 
 namespace velmaris {
@@ -11,6 +12,8 @@ namespace {
 constexpr double kHautModules = 1080.0; ///< top of the right-hand modules under the toolbar
 constexpr double kHautCarteSousSoleil = 3370.0;
 constexpr double kGaucheDroites = 3060.0; ///< left of module 10 beside module 7
+constexpr double kResteTitre = 900.0;     ///< of a module's title that stays in the window
+constexpr double kHautTitre = 300.0;      ///< of its title line
 constexpr double kHautRange = 1215.0;     ///< top of module 10 once all are put away
 
 constexpr std::size_t kLegendeMemoire = 5; ///< caption under "Mémoire"
@@ -29,11 +32,6 @@ constexpr std::array<ModuleNumerote, 8> kModules = {{{1, &Donnees::Frame1},
                                                      {8, &Donnees::Frame8},
                                                      {9, &Donnees::FOptionCarte},
                                                      {10, &Donnees::Frame10}}};
-
-void LacheModule(Bureau &bureau) {
-  bureau.ModuleDeplace = 0;
-  bureau.donnees.Label62.visible = false;
-}
 
 /// "Mémoire" and its caption in the toolbar.
 void MontreMemoire(Donnees &d, bool visible) {
@@ -65,6 +63,19 @@ Controle *Module(Donnees &d, int numero) {
     }
   }
   return nullptr;
+}
+
+void LacheModule(Bureau &bureau) {
+  bureau.ModuleDeplace = 0;
+  bureau.donnees.Label62.visible = false;
+}
+
+void TireModule(Bureau &bureau, Controle &module, double gauche, double haut) {
+  LacheModule(bureau);
+  const Place &surface = bureau.donnees.Image1.place;
+  module.place.gauche =
+      std::clamp(gauche, kResteTitre - module.place.largeur, surface.gauche + surface.largeur - kResteTitre);
+  module.place.haut = std::clamp(haut, 0.0, surface.haut + surface.hauteur - kHautTitre);
 }
 
 void SaisitModule(Bureau &bureau, int numero) {

@@ -16,6 +16,13 @@ template <int Numero> void SaisitModule(Bureau &bureau, int /*indice*/) { Saisit
 void FermeModule(Bureau &bureau, int numero);
 template <int Numero> void FermeModule(Bureau &bureau, int /*indice*/) { FermeModule(bureau, Numero); }
 
+/// A module whose title is drawn along with the button held goes to a place; its title stays in reach.
+/// @param gauche, haut  1/1440 inch, in the window
+void TireModule(Bureau &bureau, Controle &module, double gauche, double haut);
+
+/// Lets go of the module that is held, if any.
+void LacheModule(Bureau &bureau);
+
 /// The held module, if any, goes to a place with its help label.
 /// @param x, y  1/1440 inch, on the drawing surface
 void DeplaceModule(Bureau &bureau, double x, double y);

@@ -13,7 +13,6 @@ void Impression_Activate(Bureau &bureau) {
   page.image = bureau.image1;
   ++page.prises;
   page.paysage = true;
-  bureau.ports.respire();
 }
 
 void Impression_Ferme(Bureau &bureau) {
@@ -29,7 +28,7 @@ void Command1_Click(Bureau &bureau, int /*indice*/) {
   Impression &page = bureau.impression;
   page.Frame1.visible = false;
   if (!bureau.ports.imprime(page)) {
-    bureau.ports.boite({.texte = bureau.messages[24], .icone = Icone::Erreur});
+    bureau.ports.boite({.texte = bureau.messages[24], .icone = Icone::Erreur, .fenetre = kFenetreImpression});
     return; // past the step that shows the button again
   }
   page.Frame1.visible = true;

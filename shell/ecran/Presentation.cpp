@@ -6,12 +6,19 @@
 #include "shell/ecran/Modules.hpp"
 
 #include <cmath>
+#include <string_view>
 #include <utility>
 
 namespace velmaris {
 namespace {
 
 constexpr double kEcartImages = 0.00001; ///< days between two swaps of the pictures
+
+/// An address as one would write it down: that of a letter without its scheme and its subject.
+std::string_view AdresseLisible(std::string_view adresse) {
+  constexpr std::string_view kLettre = "mailto:";
+  return adresse.starts_with(kLettre) ? adresse.substr(kLettre.size(), adresse.find('?') - kLettre.size()) : adresse;
+}
 
 } // namespace
 
@@ -29,7 +36,9 @@ void PU_Apropos_Click(Bureau &bureau, int /*indice*/) {
 
 void OuvreAdresse(Bureau &bureau, const std::string &adresse) {
   bureau.ports.ouvre(adresse, [&bureau, adresse] {
-    bureau.ports.boite({.texte = bureau.donnees.TexteAdresse.legende, .icone = Icone::Information, .adresse = adresse});
+    bureau.ports.boite({.texte = bureau.donnees.TexteAdresse.legende,
+                        .icone = Icone::Information,
+                        .adresse = std::string(AdresseLisible(adresse))});
   });
 }
 

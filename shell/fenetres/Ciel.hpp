@@ -30,10 +30,11 @@ struct Ciel {
   Controle Check2, Command1, Command4;
   Controle Label1; ///< carries the last equatorial place, two numbers joined by "X"
   Controle SOL, Lune;
-  std::array<Controle, 4> Shapla, LaP;                          ///< planets: marks and labels
-  std::array<Controle, kEtoilesCiel + 1> Shet;                  ///< marks of the stars; number 0 stands for nothing
-  std::array<Controle, kEtoilesCiel + 1> Laet;                  ///< labels of the stars; number 0 stands for nothing
-  Controle TexteSoleil, TexteLune, TexteEtoiles, TexteRotation; ///< words that no control shows
+  std::array<Controle, 4> Shapla, LaP;         ///< planets: marks and labels
+  std::array<Controle, kEtoilesCiel + 1> Shet; ///< marks of the stars; number 0 stands for nothing
+  std::array<Controle, kEtoilesCiel + 1> Laet; ///< labels of the stars; number 0 stands for nothing
+  /// Words that no control shows.
+  Controle TexteSoleil, TexteLune, TexteEtoiles, TexteRotation, TexteCarte, TexteHorsListe;
 
   CadreFenetre cadre{kFenetreCiel, "", 0, 0};
   bool minuterie = false;                 ///< `Timer1` runs: every `kPeriodeCiel` the chart is drawn anew

@@ -70,6 +70,7 @@ struct Controle {
   bool accent = false;       ///< the caption stands out
   bool cadre = false;        ///< drawn as a light well, for results
   bool opaque = false;       ///< of a caption on the drawing surface: it takes the surface's background
+  bool dessus = false;       ///< lies over all others when it shows
   bool renvoi = false;       ///< of a caption: a click on it does something
   bool raccourci = false;    ///< an ampersand in the caption marks its key
   bool lectureSeule = false; ///< of a field: it shows a result

@@ -3,8 +3,8 @@
 namespace velmaris {
 
 std::span<const std::span<const LigneDonnees>> TableDonnees() {
-  static const std::array<std::span<const LigneDonnees>, 5> morceaux = {TableBarre(), TableVisee(), TableDroites(),
-                                                                        TableModules(), TableMenu()};
+  static const std::array<std::span<const LigneDonnees>, 6> morceaux = {TableNoms(),    TableBarre(),   TableVisee(),
+                                                                        TableDroites(), TableModules(), TableMenu()};
   return morceaux;
 }
 

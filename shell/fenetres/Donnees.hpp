@@ -21,7 +21,7 @@ struct Donnees {
 
   // The menu of the drawing surface.
   Controle PopUp, PU_Carte, PU_Centre, PU_Distance, PU_Coord, PU_Modules, PU_DM, PU_D, PU_S, PU_C, PU_E, PU_Caps;
-  Controle PU_Clear, PU_Exit, PU_Apropos, PU_Nuit, PU_Quitter;
+  Controle PU_Clear, PU_Exit, PU_Apropos, PU_Nuit, PU_Secours, PU_Quitter;
   std::array<Controle, 5> PU_Trait;
 
   // Module 7, "Données": the sight.
@@ -77,12 +77,18 @@ struct Donnees {
   Controle Label47, Text18, Label48, Option3, Label49, Text20, Label52, Text19, Label53, Label54, Text22;
   Controle Label55, Text21, Label57, Command10, Label58, Text24, Label71, Label73, Text23, Label74;
 
+  std::array<Controle, 48> Nom; ///< what a screen reader calls other controls
+
   // Words that no control shows: boxes and tool tips.
   Controle TexteAdresse, TexteCopier, TexteSansAide, TexteOui, TexteNon, TexteOk, TexteErreur, TexteSecours,
       TexteMagasinAbime;
   Controle TexteMagasinMuet, TexteSansSecours, TexteAttention, TexteTitreErreur, TexteTempsRoute, TexteSauve;
   Controle TexteCharge, TexteNonEcrit, TexteNonLu, TexteJournalMuet, TexteSansAstre;
+  Controle TexteMagasinRetenu, TexteJournalRetenu;
   std::array<Controle, kErreursNommees.size()> TexteSens; ///< meaning of each run-time error
+  std::array<Controle, 2> TexteVide;                      ///< after a field's name: a planet needs it, a star needs it
+  std::array<Controle, 4> TexteDefaut; ///< after a field's name: what is wrong with it, in the order of `Defaut`
+  Controle TexteSansDate, TexteDeuxPoints;
 };
 
 /// Name of the main window, in language files and among the windows.
@@ -101,6 +107,7 @@ std::span<const LigneDonnees> TableMenu();
 std::span<const LigneDonnees> TableVisee();
 std::span<const LigneDonnees> TableModules();
 std::span<const LigneDonnees> TableDroites();
+std::span<const LigneDonnees> TableNoms();
 
 /// Fills the record with its controls as the table has them.
 void InitialiseDonnees(Donnees &donnees);

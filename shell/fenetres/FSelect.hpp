@@ -18,6 +18,7 @@ struct FSelect {
 
   CadreFenetre cadre{kFenetreFSelect, "Fichier", 9300, 6300};
   bool chargee = false;                       ///< it has been loaded, with its language; it stays so for the run
+  bool nomPropose = false;                    ///< it was opened with a name to save under, not with its pattern
   bool accepte = false;                       ///< a name was accepted since it was last shown
   std::filesystem::path dossier;              ///< path of `Dir1` and `File1`
   std::string motif = "*.*";                  ///< pattern of `File1`

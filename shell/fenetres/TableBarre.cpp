@@ -11,7 +11,7 @@ using Fenetre = Donnees;
 // NOLINTNEXTLINE(cppcoreguidelines-avoid-c-arrays,modernize-avoid-c-arrays)
 constexpr LigneDonnees kBarre[] = {
     // The toolbar and what lies on the drawing surface.
-    {SEUL(Image1), Genre::Surface, "", {50, 1040, 15200, 9867}},
+    {SEUL(Image1), Genre::Surface, "", {50, 1040, 15200, 9867}, "", "", {.par = "Nom", .parIndice = 36}},
     {SEUL(LabLat), Genre::Etiquette, "Image1", {60, 3300, 240, 3900}, "", "", {.cote = Cote::Centre}},
     {SEUL(LabLon), Genre::Etiquette, "Image1", {8200, 9500, 3000, 225}},
     {SEUL(LabC), Genre::Etiquette, "Image1", {0, 0, 2300, 225}, "", "", {.visible = false}},
@@ -72,9 +72,18 @@ constexpr LigneDonnees kBarre[] = {
     {RANG(TexteSens, 5), Genre::Texte, "", {0, 0, 0, 0}, "Nom ou numéro de fichier incorrect"},
     {RANG(TexteSens, 6), Genre::Texte, "", {0, 0, 0, 0}, "Fichier introuvable"},
     {RANG(TexteSens, 7), Genre::Texte, "", {0, 0, 0, 0}, "Erreur dans le chemin d'accès"},
+    {RANG(TexteVide, 0), Genre::Texte, "", {0, 0, 0, 0}, "est vide : une planète en a besoin."},
+    {RANG(TexteVide, 1), Genre::Texte, "", {0, 0, 0, 0}, "est vide : une étoile en a besoin."},
+    {RANG(TexteDefaut, 0), Genre::Texte, "", {0, 0, 0, 0}, "n'est pas un nombre : écrivez-le ainsi, 2,5."},
+    {RANG(TexteDefaut, 1), Genre::Texte, "", {0, 0, 0, 0}, "est sous la mer : écrivez zéro ou plus."},
+    {RANG(TexteDefaut, 2), Genre::Texte, "", {0, 0, 0, 0}, "va de 0 à 23."},
+    {RANG(TexteDefaut, 3), Genre::Texte, "", {0, 0, 0, 0}, "va de 0 à 59."},
+    {SEUL(TexteSansDate), Genre::Texte, "", {0, 0, 0, 0}, "La date n'existe pas : corrigez le jour, le mois ou l'année."},
+    {SEUL(TexteDeuxPoints), Genre::Texte, "", {0, 0, 0, 0}, "Le départ et l'arrivée se confondent presque, ou sont opposés : changez l'un des deux."},
     {SEUL(TexteSecours), Genre::Texte, "", {0, 0, 0, 0}, "La visée du module est conservée dans :"},
     {SEUL(TexteMagasinAbime), Genre::Texte, "", {0, 0, 0, 0}, "Les réglages conservés étaient abîmés. Ils sont mis de côté ici, et le programme repart des valeurs de premier démarrage :"},
     {SEUL(TexteMagasinMuet), Genre::Texte, "", {0, 0, 0, 0}, "Les réglages ne peuvent pas être conservés. Le programme fonctionne, mais ce qui change sera perdu en quittant :"},
+    {SEUL(TexteMagasinRetenu), Genre::Texte, "", {0, 0, 0, 0}, "Un autre programme retient les réglages. Ce qui change est gardé en mémoire, et sera écrit dès qu'il les rend, au plus tard en quittant :"},
     {SEUL(TexteSansAstre), Genre::Texte, "", {0, 0, 0, 0}, "sélectionnez un astre dans la liste"},
     {SEUL(TexteAttention), Genre::Texte, "", {0, 0, 0, 0}, "Attention"},
     {SEUL(TexteTitreErreur), Genre::Texte, "", {0, 0, 0, 0}, "Erreur"},
@@ -84,6 +93,7 @@ constexpr LigneDonnees kBarre[] = {
     {SEUL(TexteNonEcrit), Genre::Texte, "", {0, 0, 0, 0}, "Le fichier n'a pas pu être écrit. Un ancien fichier de ce nom est resté entier :"},
     {SEUL(TexteNonLu), Genre::Texte, "", {0, 0, 0, 0}, "Le fichier n'a pas pu être lu :"},
     {SEUL(TexteJournalMuet), Genre::Texte, "", {0, 0, 0, 0}, "La visée n'a pas pu être inscrite au journal :"},
+    {SEUL(TexteJournalRetenu), Genre::Texte, "", {0, 0, 0, 0}, "Un autre programme retient le journal. La visée y sera inscrite dès qu'il le rend, au plus tard en quittant :"},
     {SEUL(TexteSansSecours), Genre::Texte, "", {0, 0, 0, 0}, "La visée du module n'a pas pu être conservée."},
 };
 // clang-format on

@@ -16,7 +16,7 @@ constexpr int kPointsEtoile = 8; ///< of a star's label
 // clang-format off
 // NOLINTNEXTLINE(cppcoreguidelines-avoid-c-arrays,modernize-avoid-c-arrays)
 constexpr LigneCiel kCiel[] = {
-    {SEUL(Picture1), Genre::Surface, "", {2100, 120, 0, 0}},
+    {SEUL(Picture1), Genre::Surface, "", {2100, 120, 0, 0}, "", "", {.par = "TexteCarte"}},
     {SEUL(List1), Genre::ListeBoite, "", {120, 120, 1900, 0}, "", "", {.par = "TexteEtoiles"}},
     {SEUL(HScroll1), Genre::Curseur, "", {2100, 0, 0, 255}, "", "", {.par = "TexteRotation"}},
     {SEUL(Frame8), Genre::Groupe, "", {0, 0, 12900, 2070}},
@@ -48,6 +48,8 @@ constexpr LigneCiel kCiel[] = {
     {SEUL(TexteLune), Genre::Texte, "", {}, "Lune"},
     {SEUL(TexteEtoiles), Genre::Texte, "", {}, "Etoiles"},
     {SEUL(TexteRotation), Genre::Texte, "", {}, "Rotation du ciel"},
+    {SEUL(TexteCarte), Genre::Texte, "", {}, "Carte du ciel"},
+    {SEUL(TexteHorsListe), Genre::Texte, "", {}, "Absente de la liste des étoiles visibles : un clic ne la choisit pas"},
 };
 // clang-format on
 

@@ -31,6 +31,7 @@ constexpr LigneDonnees kMenu[] = {
     {SEUL(PU_Exit), Genre::Entree, "PopUp", {}, "Exit (ne rien faire et retourner sur la carte)"},
     {SEUL(PU_Apropos), Genre::Entree, "PopUp", {}, "A propos"},
     {SEUL(PU_Nuit), Genre::Entree, "PopUp", {}, "Vue de nuit (rouge)", "Ctrl+N"},
+    {SEUL(PU_Secours), Genre::Entree, "PopUp", {}, "Ouvrir la visée de secours"},
     {RANG(PU_Trait, 4), Genre::Separateur, "PopUp", {}},
     {SEUL(PU_Quitter), Genre::Entree, "PopUp", {}, "Quitter"},
 };

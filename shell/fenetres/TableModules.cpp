@@ -11,19 +11,19 @@ using Fenetre = Donnees;
 // NOLINTNEXTLINE(cppcoreguidelines-avoid-c-arrays,modernize-avoid-c-arrays)
 constexpr LigneDonnees kModules[] = {
     // Module 8, "Position du Soleil": azimuth and height on two dials.
-    {SEUL(Frame8), Genre::Cadre, "", {11475, 3450, 3690, 2280}, "", "", {.visible = false, .titre = true}},
+    {SEUL(Frame8), Genre::Cadre, "", {11475, 3450, 3690, 2280}, "", "", {.visible = false, .titre = true, .par = "Label64"}},
     {SEUL(Label64), Genre::Etiquette, "Frame8", {60, 30, 3260, 255}, "Position du Soleil", "", {.titre = true}},
-    {SEUL(Image8), Genre::Image, "Frame8", {3375, 30, 255, 255}, "", "Ferme le module", {.image = "ferme"}},
-    {SEUL(PicAZ), Genre::Surface, "Frame8", {90, 315, 1650, 1650}},
-    {SEUL(PicHE), Genre::Surface, "Frame8", {1920, 315, 1650, 1650}},
+    {SEUL(Image8), Genre::Image, "Frame8", {3375, 30, 255, 255}, "", "Ferme le module", {.image = "ferme", .par = "Nom", .parIndice = 45}},
+    {SEUL(PicAZ), Genre::Surface, "Frame8", {90, 315, 1650, 1650}, "", "", {.par = "Nom", .parIndice = 37}},
+    {SEUL(PicHE), Genre::Surface, "Frame8", {1920, 315, 1650, 1650}, "", "", {.par = "Nom", .parIndice = 38}},
     {SEUL(Label23), Genre::Etiquette, "Frame8", {90, 1995, 660, 225}, "Azimut"},
     {SEUL(Label35), Genre::Etiquette, "Frame8", {750, 1995, 1000, 225}, "", "", {.cote = Cote::Droite}},
     {SEUL(Label24), Genre::Etiquette, "Frame8", {1920, 1995, 720, 225}, "Hauteur"},
     {SEUL(Label36), Genre::Etiquette, "Frame8", {2640, 1995, 930, 225}, "", "", {.cote = Cote::Droite}},
     // Module 9, "Carte:": what the chart shows.
-    {SEUL(FOptionCarte), Genre::Cadre, "", {11475, 1050, 3690, 2400}, "", "", {.visible = false, .titre = true}},
+    {SEUL(FOptionCarte), Genre::Cadre, "", {11475, 1050, 3690, 2400}, "", "", {.visible = false, .titre = true, .par = "Label51"}},
     {SEUL(Label51), Genre::Etiquette, "FOptionCarte", {60, 30, 3260, 255}, "Carte:", "", {.titre = true}},
-    {SEUL(Image7), Genre::Image, "FOptionCarte", {3375, 30, 255, 255}, "", "Ferme le module", {.image = "ferme"}},
+    {SEUL(Image7), Genre::Image, "FOptionCarte", {3375, 30, 255, 255}, "", "Ferme le module", {.image = "ferme", .par = "Nom", .parIndice = 44}},
     {RANG(OpCarte, 0), Genre::Option, "FOptionCarte", {90, 345, 1770, 270}, "Carte globale", "", {.groupe = 30}},
     {RANG(OpCarte, 1), Genre::Option, "FOptionCarte", {90, 630, 1770, 270}, "Contours précis", "", {.groupe = 30}},
     {SEUL(Check2), Genre::Case, "FOptionCarte", {90, 960, 1770, 270}, "Toujours Visible"},
@@ -37,9 +37,9 @@ constexpr LigneDonnees kModules[] = {
     {SEUL(Command24), Genre::Bouton, "FOptionCarte", {90, 1920, 1740, 390}, "Distance"},
     {SEUL(Command25), Genre::Bouton, "FOptionCarte", {1860, 1920, 1740, 390}, "Coordonnées"},
     // Module 1, " Distance  et  Route": legs measured on the chart.
-    {SEUL(Frame1), Genre::Cadre, "", {13035, 4740, 2100, 3600}, "", "", {.visible = false, .titre = true}},
+    {SEUL(Frame1), Genre::Cadre, "", {13035, 4740, 2100, 3600}, "", "", {.visible = false, .titre = true, .par = "Label25"}},
     {SEUL(Label25), Genre::Etiquette, "Frame1", {60, 30, 1740, 255}, " Distance  et  Route", "", {.titre = true}},
-    {SEUL(Image4), Genre::Image, "Frame1", {1815, 30, 255, 255}, "", "Ferme le module", {.image = "ferme"}},
+    {SEUL(Image4), Genre::Image, "Frame1", {1815, 30, 255, 255}, "", "Ferme le module", {.image = "ferme", .par = "Nom", .parIndice = 41}},
     {SEUL(List1), Genre::ListeBoite, "Frame1", {60, 345, 1980, 1800}, "", "", {.par = "Label25"}},
     {SEUL(Label26), Genre::Etiquette, "Frame1", {60, 2235, 600, 240}, "Dist."},
     {SEUL(Label56), Genre::Etiquette, "Frame1", {690, 2235, 1350, 240}, "", "", {.cote = Cote::Droite}},

@@ -44,6 +44,7 @@ constexpr LigneUtilisateur kUtilisateur[] = {
     {SEUL(Text2), Genre::Champ, "Frame6", {2430, 780, 1200, 330}, "", "", {.lectureSeule = true, .cote = Cote::Droite, .par = "Label5"}},
     {SEUL(TexteLigne), Genre::Texte, "", {}, "Ligne"},
     {SEUL(TexteDeCote), Genre::Texte, "", {}, "Ce qui n'a pas été lu n'est pas perdu : avant d'être remplacé, le fichier est mis de côté sous le nom Utilisateur.ancien.txt."},
+    {SEUL(TexteAutreMain), Genre::Texte, "", {}, "Le fichier des objets a été changé par un autre programme ou à la main depuis sa lecture. Ce qu'il contenait n'est pas perdu, mais mis de côté ici :"},
     {SEUL(TexteNonEcrit), Genre::Texte, "", {}, "La liste des objets n'a pas pu être écrite. L'ancien fichier est resté entier :"},
     {SEUL(TexteRienPerdu), Genre::Texte, "", {}, "Rien n'est perdu : l'objet reste dans la liste."},
     {SEUL(TexteFermer), Genre::Texte, "", {}, "Fermer quand même ? Ce qui a changé depuis l'ouverture de cette fenêtre serait perdu."},
@@ -63,6 +64,7 @@ void InitialiseUtilisateur(Utilisateur &fenetre) {
   fenetre.Precision = 60;
   fenetre.Modifie = 0;
   fenetre.fidele = true;
+  fenetre.octetsLus.reset();
 }
 
 std::size_t CompteObjets(const Utilisateur &fenetre) {

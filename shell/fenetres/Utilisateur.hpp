@@ -5,6 +5,7 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <span>
 #include <string>
 #include <vector>
@@ -36,7 +37,7 @@ struct Utilisateur {
   std::array<Controle, 2> OptE;
   Controle Command1, Command3, Command4, Command2, Label4, Text1, Label5, Text2;
   // Words of its boxes.
-  Controle TexteLigne, TexteDeCote, TexteNonEcrit, TexteRienPerdu, TexteFermer;
+  Controle TexteLigne, TexteDeCote, TexteAutreMain, TexteNonEcrit, TexteRienPerdu, TexteFermer;
 
   CadreFenetre cadre{kFenetreUtilisateur, "", 8100, 5640};
   std::vector<Objet> tables;     ///< while it is open, all the entries
@@ -45,6 +46,8 @@ struct Utilisateur {
   std::int16_t Precision = 60;   ///< parts of a degree that are typed: 60 minutes, or 100 hundredths
   std::int16_t Modifie = 0;      ///< -1 while the tables differ from the file
   bool fidele = true;            ///< a write would give back every line of the file that was read
+  /// What the user's own file held when it was last read or written; none where there was none to read.
+  std::optional<std::string> octetsLus;
 };
 
 using LigneUtilisateur = LigneDe<Utilisateur>;

@@ -175,6 +175,16 @@ TEST_F(Carte, AMissingOrUnreadableListOfPlacesIsToldByItsOwnMessage) {
   ASSERT_EQ(Textes(bureau.image1).size(), 1U) << "what came before the failure stays";
 }
 
+TEST_F(Carte, AFileOverSixtyFourMegabytesIsToldByItsOwnMessageAndTheRestIsDrawn) {
+  for (const char *nom : {"Iles.Asc", "Villes.txt", "Utilisateur.txt"}) {
+    std::filesystem::resize_file(bureau.dossiers.utilisateur / nom, std::uintmax_t{1} << 42U);
+  }
+  OuvreCartes(bureau);
+  EXPECT_EQ(Couleurs(), (std::vector<Couleur>{kContours, kRivieres, kLacs}));
+  EXPECT_EQ(TextesBoites(),
+            (std::vector<std::string>{bureau.messages[3] + "Iles.Asc", bureau.messages[1], bureau.messages[2]}));
+}
+
 TEST_F(Carte, WithNoOutlineReadableBeforeAFirstSheetPlacesHaveNoScale) {
   for (const char *nom : {"Contours.Asc", "Iles.Asc", "Rivieres.Asc", "Lacs.Asc"}) {
     OteDonnees(nom);
@@ -291,6 +301,30 @@ TEST_F(Carte, WithToujoursVisibleCalculZoomAndGridDrawTheChart) {
   EXPECT_EQ(carte(), 1);
   ClicControle(bureau, d.Command14);
   EXPECT_EQ(carte(), 1);
+}
+
+TEST_F(Carte, AZoomAfterRecentringWithoutASheetShowsTheWholeWorldAlone) {
+  OuvreCartes(bureau);
+  const std::vector<Trace> monde = bureau.image1.traces;
+  d.Check2.valeur = 1;
+  Image1_MouseDown(bureau, BoutonSouris::Gauche, bureau.feuille.CentreX + 600.0, bureau.feuille.CentreY + 300.0);
+  ClicControle(bureau, d.PU_Centre);
+  EXPECT_FALSE(EstMonde(bureau.feuille));
+  EXPECT_FALSE(bureau.image1.traces == monde);
+  ZoomeCrans(bureau, 1);
+  EXPECT_EQ(bureau.feuille.OrigineFeuille, kSansFeuille);
+  EXPECT_FALSE(monde.empty());
+  EXPECT_TRUE(bureau.image1.traces == monde);
+  ZoomeCrans(bureau, 1);
+  EXPECT_TRUE(bureau.image1.traces == monde);
+}
+
+TEST_F(Carte, WhatWasDrawnByHandOverAChartStaysWhenTheSameChartIsDrawnAgain) {
+  OuvreCartes(bureau);
+  Ligne(bureau.image1, {10, 10}, {20, 20}, kMagenta);
+  OuvreCartes(bureau);
+  const std::vector<Couleur> couleurs = Couleurs();
+  EXPECT_EQ(std::count(couleurs.begin(), couleurs.end(), kMagenta), 1);
 }
 
 TEST_F(Carte, TheSunStandsOverTheWholeWorldAtItsSubsolarPointOnTheScalesOfTheMouse) {

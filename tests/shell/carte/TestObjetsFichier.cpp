@@ -96,6 +96,19 @@ TEST_F(FichierObjets, ALineWhoseFieldsCantBeFoundEndsTheReadingAndIsTold) {
   }
 }
 
+TEST_F(FichierObjets, AFileOverSixtyFourMegabytesIsToldAndSetAsideByTheFirstWrite) {
+  Pose(fichier, kBonne);
+  constexpr std::uintmax_t kGrand = std::uintmax_t{1} << 42U;
+  fs::resize_file(fichier, kGrand);
+  Ouvre();
+  ASSERT_EQ(boites.size(), 1U);
+  EXPECT_THAT(boites[0].texte, StartsWith(bureau.messages[2] + "\n" + fichier.string()));
+  Nouveau("A");
+  Ferme();
+  EXPECT_EQ(Ecrit(), "+47.25 +05.50 4 A\n");
+  EXPECT_EQ(fs::file_size(fichier.parent_path() / "Utilisateur.ancien.txt"), kGrand);
+}
+
 TEST_F(FichierObjets, AByteOrderMarkWithinTheFileMovesNoPlaceSilently) {
   const std::string ancien = "; deux fichiers mis bout a bout\n\xEF\xBB\xBF+43.50 -005.00 2 Est\n";
   OuvreSur(ancien);
@@ -139,6 +152,69 @@ TEST_F(FichierObjets, WhatWasSetAsideIsNeverOverwritten) {
   EXPECT_EQ(Contenu(fichier.parent_path() / "Utilisateur.ancien.txt"), "un");
   EXPECT_EQ(Contenu(fichier.parent_path() / "Utilisateur.ancien.2.txt"), "deux");
   EXPECT_EQ(Contenu(fichier.parent_path() / "Utilisateur.ancien.3.txt"), "trois");
+}
+
+TEST_F(FichierObjets, WhatAnotherHandWroteSinceTheReadingIsSetAsideAndTold) {
+  const fs::path deCote = fichier.parent_path() / "Utilisateur.ancien.txt";
+  const std::string sienne = "+01.00 +001.00 2 Sienne\n";
+  OuvreSur(kBonne);
+  Nouveau("A");
+  Pose(fichier, sienne);
+  Ferme();
+  EXPECT_EQ(Ecrit(), std::string(kBonne) + "+47.25 +05.50 4 A\n");
+  EXPECT_EQ(Contenu(deCote), sienne);
+  ASSERT_EQ(boites.size(), 1U);
+  EXPECT_EQ(boites[0].texte, u.TexteAutreMain.legende + "\n" + deCote.string());
+  EXPECT_EQ(boites[0].icone, Icone::Attention);
+}
+
+TEST_F(FichierObjets, TwoProgramsThatEditAtOnceKeepBothLists) {
+  OuvreSur(kBonne);
+  Bureau second;
+  Branche(second);
+  second.dossiers = bureau.dossiers;
+  Donnees_Charge(second, {});
+  second.donnees.FOptionCarte.visible = true;
+  ClicControle(second, second.donnees.Command18);
+  Nouveau("A");
+  Ferme();
+  EXPECT_THAT(boites, IsEmpty());
+  ChoisitLigne(second, second.utilisateur.List1, 0);
+  ClicControle(second, second.utilisateur.Command4);
+  EXPECT_EQ(boites.size(), 1U);
+  ClicControle(second, second.utilisateur.Command2);
+  EXPECT_EQ(boites.size(), 1U) << "told once for one change";
+  EXPECT_EQ(Ecrit(), "");
+  EXPECT_EQ(Contenu(fichier.parent_path() / "Utilisateur.ancien.txt"), std::string(kBonne) + "+47.25 +05.50 4 A\n");
+}
+
+TEST_F(FichierObjets, AFileThatAppearedOrWentSinceTheReadingIsNotLostEither) {
+  Ouvre();
+  Nouveau("A");
+  Pose(fichier, kBonne);
+  Ferme();
+  EXPECT_EQ(boites.size(), 1U);
+  EXPECT_EQ(Contenu(fichier.parent_path() / "Utilisateur.ancien.txt"), kBonne);
+  Ouvre();
+  Nouveau("B");
+  fs::remove(fichier);
+  Ferme();
+  EXPECT_EQ(boites.size(), 1U);
+  EXPECT_EQ(Ecrit(), "+47.25 +05.50 4 A\n+47.25 +05.50 4 B\n");
+  EXPECT_EQ(Autres().size(), 1U);
+}
+
+TEST_F(FichierObjets, TheProgramsOwnWritesAreNoOtherHand) {
+  OuvreSur(kBonne);
+  Nouveau("A");
+  Choisit(0);
+  Supprime();
+  Nouveau("B");
+  Choisit(0);
+  Supprime();
+  Ferme();
+  EXPECT_THAT(boites, IsEmpty());
+  EXPECT_THAT(Autres(), IsEmpty());
 }
 
 TEST_F(FichierObjets, CommentsAndCutFieldsAreSetAsideToo) {

@@ -161,6 +161,14 @@ TEST_F(SaisieObjets, DegreesOfMoreThanOneDigitOrWithAFractionAreRoundedByTheirMa
   EXPECT_EQ(u.tables[0].Longitude, "+05.00");
 }
 
+TEST_F(SaisieObjets, ACommaIsADecimalSignInEveryNumberOfAnObject) {
+  Ouvre();
+  Saisit("A", "3,5", "47,0", "30,6", 'N', "4,5", "15,0", 'W');
+  Nouveau();
+  EXPECT_THAT(boites, IsEmpty());
+  EXPECT_EQ(u.tables[0], (Objet{"+47.51", "+05.25", 4, "A"})) << "30.6 minutes are 51 hundredths";
+}
+
 TEST_F(SaisieObjets, TheRadiusIsTheNumberAtItsStartRoundedTiesToEven) {
   Ouvre();
   const std::vector<std::pair<std::string, int>> cas = {{"4", 4},    {"2.5", 2},         {"3.5", 4},
@@ -185,7 +193,7 @@ TEST_F(SaisieObjets, ARadiusOutOfSixteenBitsIsAnOverflow) {
 TEST_F(SaisieObjets, APositionFieldThatIsNoNumberIsATypeMismatchAndNothingChanges) {
   Ouvre();
   for (Controle *champ : {&u.Text8, &u.Text9, &u.Text6, &u.Text7}) {
-    for (const char *texte : {"", " ", "x", "4x", "4,5", "4 5", "--1"}) {
+    for (const char *texte : {"", " ", "x", "4x", "4,5,6", "4 5", "--1"}) {
       SaisitAvec(*champ, texte);
       Refuse(13, *champ);
     }

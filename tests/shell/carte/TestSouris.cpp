@@ -1,5 +1,6 @@
 #include "tests/shell/carte/OutilsCarte.hpp"
 
+#include <algorithm>
 #include <cmath>
 
 namespace velmaris::essais {
@@ -17,7 +18,7 @@ protected:
   void ClicDroit(double x, double y) {
     Image1_MouseMove(bureau, false, x, y);
     Image1_MouseDown(bureau, BoutonSouris::Droit, x, y);
-    Image1_MouseUp(bureau);
+    Image1_MouseUp(bureau, BoutonSouris::Droit);
   }
   void ClicGauche(double x, double y) { Image1_MouseDown(bureau, BoutonSouris::Gauche, x, y); }
 
@@ -79,7 +80,7 @@ TEST_F(Souris, WithAModuleHeldTheLeftButtonMovesItAndOpensNoMenu) {
   Image1_MouseMove(bureau, false, 5000, 4000);
   EXPECT_EQ(d.Frame7.place.gauche, 3000) << "only with the button down";
   EXPECT_TRUE(d.Label62.visible);
-  Image1_MouseUp(bureau);
+  Image1_MouseUp(bureau, BoutonSouris::Gauche);
   EXPECT_FALSE(d.Label62.visible);
 }
 
@@ -90,9 +91,9 @@ TEST_F(Souris, TheEntriesOfTheMenuStandInTheirOrderBetweenTheirSeparators) {
       ordre.push_back(c->genre == Genre::Separateur ? "-" : c->nom);
     }
   }
-  EXPECT_EQ(ordre,
-            (std::vector<std::string>{"PU_Carte", "-", "PU_Centre", "-", "PU_Distance", "PU_Coord", "-", "PU_Modules",
-                                      "PU_Clear", "-", "PU_Exit", "PU_Apropos", "PU_Nuit", "-", "PU_Quitter"}));
+  EXPECT_EQ(ordre, (std::vector<std::string>{"PU_Carte", "-", "PU_Centre", "-", "PU_Distance", "PU_Coord", "-",
+                                             "PU_Modules", "PU_Clear", "-", "PU_Exit", "PU_Apropos", "PU_Nuit",
+                                             "PU_Secours", "-", "PU_Quitter"}));
 }
 
 TEST_F(Souris, TheEntriesOfModulesDoWhatTheirButtonsDo) {
@@ -106,6 +107,14 @@ TEST_F(Souris, TheEntriesOfModulesDoWhatTheirButtonsDo) {
     ClicControle(bureau, *entree);
     EXPECT_EQ(module->visible, avant) << entree->nom;
   }
+}
+
+TEST_F(Souris, TheRescuedSightCanBeOpenedFromTheMenuWhileThereIsOne) {
+  ClicGauche(3000, 4000);
+  EXPECT_FALSE(d.PU_Secours.actif);
+  Pose(bureau.dossiers.utilisateur / "secours.LoP", "12\r\n");
+  ClicGauche(3000, 4000);
+  EXPECT_TRUE(d.PU_Secours.actif);
 }
 
 TEST_F(Souris, ExitDoesNothingQuitterAsksAndTheChartEntryDrawsIt) {
@@ -245,6 +254,42 @@ TEST_F(Souris, LegsChainAndTheListTellsLegTotalAndCourse) {
   EXPECT_EQ(branches[0].points.back(), branches[1].points.front());
 }
 
+TEST_F(Souris, OnlyTheRightButtonEndsALeg) {
+  ClicControle(bureau, d.PU_Distance);
+  ClicDroit(5000, 8000);
+  Image1_MouseMove(bureau, false, 5000 + Unites(30), 8000 - Unites(40));
+  const std::vector<Trace> avant = bureau.image1.traces;
+  for (const BoutonSouris bouton : {BoutonSouris::Gauche, BoutonSouris::Autre}) {
+    d.Label62.visible = true;
+    Image1_MouseDown(bureau, bouton, 5000 + Unites(30), 8000 - Unites(40));
+    Image1_MouseUp(bureau, bouton);
+    EXPECT_TRUE(d.List1.liste.empty());
+    EXPECT_EQ(d.Label15.legende, "0") << "the total is that of the right clicks";
+    EXPECT_EQ(bureau.souris.DebutX, 5000.0F);
+    EXPECT_EQ(bureau.image1.traces, avant);
+    EXPECT_FALSE(d.Label62.visible) << "the help hides with any button";
+  }
+  ClicDroit(5000 + Unites(30), 8000 - Unites(40));
+  EXPECT_EQ(d.List1.liste, (std::vector<std::string>{" 050  :  050  :  037 °"}));
+}
+
+TEST_F(Souris, MovingAModuleInDistanceModeAddsNoLeg) {
+  ClicControle(bureau, d.PU_Distance);
+  ClicDroit(5000, 8000);
+  ClicDroit(5000 + Unites(30), 8000 - Unites(40));
+  SaisitModule(bureau, 7);
+  ClicGauche(9000, 9000);
+  Image1_MouseMove(bureau, true, 9100, 9000);
+  Image1_MouseUp(bureau, BoutonSouris::Gauche);
+  EXPECT_EQ(d.List1.liste.size(), 1U);
+  EXPECT_EQ(d.Label15.legende, "50");
+}
+
+TEST_F(Souris, AMiddleClickOpensNoMenu) {
+  Image1_MouseDown(bureau, BoutonSouris::Autre, 3000, 4000);
+  EXPECT_EQ(bureau.menu, nullptr);
+}
+
 TEST_F(Souris, AStartAtTheVeryEdgeCountsAsNoStart) {
   ClicControle(bureau, d.PU_Distance);
   ClicDroit(0, 5000);
@@ -312,6 +357,40 @@ TEST_F(Souris, WithToujoursVisibleResetWipesTheLegsAndKeepsSheetAndChart) {
   for (const Polyligne &ligne : TracesDe<Polyligne>(bureau.image1)) {
     EXPECT_FALSE(ligne.plume.style == Style::TiretPoint && ligne.plume.couleur == kMagenta);
   }
+}
+
+TEST_F(Souris, WithToujoursVisibleEachResetLeavesTheChartOnceOverTheSheetAndItsLines) {
+  d.Check2.valeur = 1;
+  Calcule();
+  const std::vector<Trace> depart = bureau.image1.traces;
+  ClicControle(bureau, d.PU_Distance);
+  for (int i = 0; i < 5; ++i) {
+    ClicDroit(5000, 8000);
+    ClicDroit(9000, 8000);
+    ASSERT_GT(bureau.image1.traces.size(), depart.size());
+    ClicControle(bureau, d.Command19);
+    EXPECT_EQ(bureau.image1.traces, depart) << i;
+  }
+}
+
+TEST_F(Souris, ResetTakesEveryChartDrawnSinceTheSurfaceWasCleared) {
+  OuvreCartes(bureau);
+  ClicControle(bureau, d.PU_Distance);
+  ClicDroit(5000, 8000);
+  ClicDroit(9000, 8000);
+  ClicControle(bureau, d.Command17);
+  const auto cotes = [&] {
+    const auto traces = TracesDe<Polyligne>(bureau.image1);
+    return std::count_if(traces.begin(), traces.end(),
+                         [](const Polyligne &l) { return l.plume.couleur == Rvb(100, 100, 100); });
+  };
+  ASSERT_EQ(cotes(), 2) << "the coast's one segment, drawn twice";
+  d.Check2.valeur = 1;
+  ClicControle(bureau, d.Command19);
+  EXPECT_EQ(cotes(), 1);
+  const std::size_t traces = bureau.image1.traces.size();
+  ClicControle(bureau, d.Command19);
+  EXPECT_EQ(bureau.image1.traces.size(), traces) << "also without a leg";
 }
 
 TEST_F(Souris, RecentringDrawsTheChartAloneAroundThePlaceUnderThePointer) {

@@ -259,7 +259,8 @@ int Travaille(Bureau &bureau, int programme) {
       Enregistre(bureau, 2 * programme + rang % 2, rang >= 10);
     }
   }
-  return bureau.valeurs->etat() == EtatMagasin::Sain ? 0 : 1;
+  AttendEcrit(*bureau.valeurs);
+  return bureau.valeurs->etat() == EtatMagasin::Sain && !bureau.valeurs->enAttente() ? 0 : 1;
 }
 
 TEST_F(Coupure, TwoProgramsOnOneStoreKeepAllTheirKeysAndLines) {

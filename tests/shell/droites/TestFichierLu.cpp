@@ -267,6 +267,18 @@ TEST_F(FichierLu, AMissingFileOrADirectoryIsToldAndThePanelStays) {
   EXPECT_EQ(bureau.image1.police.famille, "serif");
 }
 
+TEST_F(FichierLu, AFileOverSixtyFourMegabytesLoadsNothingAndShowsNoBox) {
+  Pose(lieu / "grand.LoP", Joint(LignesSoleil()));
+  std::filesystem::resize_file(lieu / "grand.LoP", (64U << 20U) + 1U);
+  Ouvre("grand.LoP");
+  EXPECT_EQ(Panneau(), avant);
+  SansFeuille();
+  std::filesystem::resize_file(lieu / "grand.LoP", std::uintmax_t{1} << 42U);
+  OuvreVisee(bureau, lieu / "grand.LoP");
+  EXPECT_EQ(Panneau(), avant);
+  EXPECT_TRUE(boites.empty());
+}
+
 TEST_F(FichierLu, AFileWithoutPermissionIsToldAndThePanelStays) {
   ::chmod(dossier.chemin().c_str(), 0755);
   Pose(lieu / "closed.LoP", Joint(LignesSoleil()));

@@ -1,7 +1,10 @@
 #include "tests/shell/droites/OutilsFichierVisee.hpp"
 
+#include <chrono>
 #include <csignal>
+#include <optional>
 #include <sys/resource.h>
+#include <sys/wait.h>
 
 /// "Sauve" and "Ouvre": a sight to a file and back, and what a load leaves on the sheet and in the modules.
 namespace velmaris::essais {
@@ -46,6 +49,61 @@ protected:
     SaisitTexte(bureau, d.TDate[2], annee);
   }
 };
+
+TEST_F(FichierVisee, SaveOverAProtectedFileIsError75AndNothingIsWritten) {
+  TapeVisee();
+  ::chmod(dossier.chemin().c_str(), 0777);
+  ::chmod(lieu.c_str(), 0777);
+  Pose(lieu / "mine.LoP", "old");
+  ::chmod((lieu / "mine.LoP").c_str(), 0444);
+  std::optional<UtilisateurSansDroit> utilisateur;
+  Jouera([&] {
+    Donne("mine.LoP");
+    utilisateur.emplace();
+  });
+  ClicControle(bureau, d.Command3);
+  const bool essaye = utilisateur && utilisateur->reussi;
+  utilisateur.reset();
+  if (!essaye) {
+    GTEST_SKIP() << "the superuser can't become another user here";
+  }
+  ASSERT_EQ(boites.size(), 1U);
+  EXPECT_EQ(boites[0].texte,
+            MotsErreur(d, 75) + "\n\n" + d.TexteNonEcrit.legende + "\n" + (lieu / "mine.LoP").string());
+  EXPECT_EQ(Contenu(lieu / "mine.LoP"), "old");
+  EXPECT_EQ(NombreFichiers(), 1);
+}
+
+TEST_F(FichierVisee, WhatASaveThatWasKilledLeftGoesADayLaterAtTheNextStart) {
+  const pid_t enfant = ::fork();
+  if (enfant == 0) {
+    d.Text3.texte = std::string(1000, '9');
+    Jouera([&] {
+      Donne("mine.LoP");
+      const rlimit plein{500, 500}; // a note fits, the sight doesn't
+      setrlimit(RLIMIT_FSIZE, &plein);
+      const rlimit sansImage{0, 0};
+      setrlimit(RLIMIT_CORE, &sansImage);
+    });
+    ClicControle(bureau, d.Command3);
+    ::_exit(0);
+  }
+  int etat = 0;
+  ::waitpid(enfant, &etat, 0);
+  ASSERT_TRUE(WIFSIGNALED(etat));
+  EXPECT_EQ(NombreFichiers(), 1);
+  for (const int heures : {23, 25}) {
+    for (const fs::path &ou : {lieu, bureau.dossiers.utilisateur}) {
+      for (const auto &entree : fs::directory_iterator(ou)) {
+        fs::last_write_time(entree.path(), fs::file_time_type::clock::now() - std::chrono::hours(heures));
+      }
+    }
+    Bureau suivant;
+    Branche(suivant);
+    Donnees_Charge(suivant, {});
+    EXPECT_EQ(NombreFichiers(), heures < 24 ? 1 : 0);
+  }
+}
 
 TEST_F(FichierVisee, SaveProposesDateAndTimeAmongTheSights) {
   TapeVisee();

@@ -1,6 +1,7 @@
 #include "tests/shell/droites/OutilsDroites.hpp"
 
 #include <algorithm>
+#include <functional>
 
 namespace velmaris::essais {
 namespace {
@@ -285,6 +286,115 @@ TEST_F(Retrace, CalculTakesTheLinesOffSoThatAChangeOfZoomDrawsThePanel) {
   Zoome(80);
   AttendTraits(kTraitPremiere, {Attendue(2, kMidi, kMidi)});
   EXPECT_TRUE(Traits(kTraitAjoute).empty());
+}
+
+/// A star or a planet in the panel after a sight of the Sun, and redraws by slider and grid.
+class RetraceInacheve : public Retrace {
+protected:
+  void SetUp() override {
+    DemarreSansCarte();
+    TapeSoleil(kMatin);
+    Calcule();
+  }
+
+  /// Each redraw draws the sheet with these, and says nothing.
+  void AttendRedessins(const ValeursVisee &v) {
+    const double latitude = LatitudeDe(kMatin);
+    const double longitude = LongitudeDe(kMatin);
+    const std::vector<std::function<void()>> gestes = {[&] { Zoome(120); }, [&] { ClicControle(bureau, d.Command14); },
+                                                       [&] { Zoome(60); }, [&] { ClicControle(bureau, d.Command12); },
+                                                       [&] { ClicControle(bureau, d.Command16); }};
+    for (std::size_t i = 0; i < gestes.size(); ++i) {
+      EXPECT_NO_THROW(gestes[i]()) << i;
+      AttendTraits(kTraitPremiere,
+                   {LigneDepuis(Lieu(latitude, longitude, latitude, longitude), v.Azimut, v.Intercept)});
+      EXPECT_EQ(bureau.visee.Azimut, v.Azimut) << i;
+      EXPECT_EQ(bureau.visee.Intercept, v.Intercept) << i;
+    }
+    EXPECT_TRUE(boites.empty());
+  }
+};
+
+TEST_F(RetraceInacheve, WithoutAStarOrAPlanetChosenTheSheetIsRedrawnWithTheSightBefore) {
+  const ValeursVisee avant = bureau.visee;
+  for (const std::size_t corps : {2U, 3U}) {
+    ClicOption(bureau, d.Option7[corps]);
+    d.Combo6.rang = -1;
+    AttendRedessins(avant);
+  }
+  Calcule();
+  ASSERT_EQ(boites.size(), 1U) << "the user who asks for it is told";
+  EXPECT_EQ(boites[0].texte, d.TexteSansAstre.legende);
+}
+
+TEST_F(RetraceInacheve, AStarOrAPlanetThatCannotBeReducedIsSkippedAndTheSheetIsRedrawn) {
+  for (const std::size_t corps : {2U, 3U}) {
+    ClicOption(bureau, d.Option7[corps]);
+    PoseRang(bureau, corps == 2 ? d.Combo7 : d.Combo6, 1, 4);
+    for (Controle *champ : {&d.Text10, &d.Text11}) {
+      const std::string garde = champ->texte;
+      Tape(*champ, "");
+      const ValeursVisee avant = bureau.visee; // the live panel has written its azimuth
+      AttendRedessins(avant);
+      EXPECT_THROW(Calcule(), Erreur) << "the button lets it reach the program's edge";
+      Tape(*champ, garde);
+    }
+  }
+}
+
+TEST_F(Retrace, AStoredStarThatCannotBeReducedAnyMoreLeavesTheOthersOnTheSheet) {
+  TapeSoleil(kMidi);
+  ClicOption(bureau, d.Option7[3]);
+  PoseRang(bureau, d.Combo6, 10, 246);
+  Calcule();
+  Presse(ModeDroite::Enregistre, 3);
+  ClicControle(bureau, d.Command6);
+  Montre(0);
+  Montre(3);
+  Montre(1);
+  EcritReglage(bureau, "T10(3)", "");
+  EXPECT_NO_THROW(Zoome(80));
+  EXPECT_TRUE(boites.empty());
+  AttendTraits(kTraitPremiere, {Attendue(0, kMatin, kMatin)});
+  const auto ajoutees = Traits(kTraitAjoute);
+  ASSERT_EQ(ajoutees.size(), 2U);
+  EXPECT_TRUE(MemeTrait(ajoutees[0], Attendue(1, kApresMidi, kMatin)));
+  EXPECT_TRUE(Marque(3, kDroiteAjoutee));
+}
+
+TEST_F(Retrace, WithTheTrackModuleOpenARedrawBringsTheLinesBackAndFillsNoField) {
+  Montre(0);
+  EstimeVersLOuest();
+  Montre(1);
+  Transporte(2, "2");
+  Presse(ModeDroite::TransporteEstime, 1);
+  ClicControle(bureau, d.Command9);
+  Presse(ModeDroite::Affiche, 2);
+  const std::array<Controle *, 8> champs = {&d.Text14, &d.Text16, &d.Text17, &d.Text18,
+                                            &d.Text20, &d.Text19, &d.Text22, &d.Text21};
+  PoseTexte(bureau, d.Text20, "12");
+  const auto textes = [&] {
+    std::string tout;
+    for (const Controle *champ : champs) {
+      tout += champ->texte + " ";
+    }
+    for (const auto *options : {&d.OptN, &d.OptE}) {
+      for (std::size_t i = 2; i < options->size(); ++i) {
+        tout += (*options)[i].choisi ? '1' : '0';
+      }
+    }
+    return tout + (d.Option2.choisi ? "2" : "3");
+  };
+  const std::string avant = textes();
+  const std::vector<std::function<void()>> gestes = {[&] { Zoome(80); }, [&] { ClicControle(bureau, d.Command14); },
+                                                     [&] { Zoome(120); }, [&] { ClicControle(bureau, d.Command16); }};
+  for (const auto &geste : gestes) {
+    geste();
+    EXPECT_EQ(textes(), avant);
+    AttendTraits(kTraitPremiere, {Attendue(0, kMatin, kMatin)});
+    AttendTraits(kTraitAjoute, {Attendue(1, kApresMidi, kMatin)});
+    AttendTraits(kTraitTransporte, {Attendue(2, kApresMidi, kMatin), LigneEstimee(1)});
+  }
 }
 
 } // namespace

@@ -110,6 +110,23 @@ TEST_F(AvecLiens, AnAddressThatNothingOpensIsShownToBeCopied) {
   EXPECT_EQ(boites[0].texte, d.TexteAdresse.legende);
 }
 
+TEST_F(AvecLiens, WithoutAMailProgramThePlainAddressOfTheAuthorsIsShown) {
+  Demarre();
+  bureauOuvre = false;
+  Montre([this] { ClicControle(bureau, a.Label3); });
+  ASSERT_EQ(boites.size(), 1U);
+  EXPECT_EQ(boites[0].adresse, Courriel());
+}
+
+TEST_F(AvecLiens, TheTextOfTheoriesTellsTheSunsOwnShortOne) {
+  Demarre();
+  for (const auto &[langue, mots] : {std::pair<std::size_t, const char *>{1, "Sun: a short theory of its own."},
+                                     {0, "Soleil : une courte théorie propre."}}) {
+    ClicControle(bureau, d.Image10[langue]);
+    EXPECT_NE(bureau.messages[23].find(mots), std::string::npos) << bureau.messages[23];
+  }
+}
+
 TEST_F(AvecLiens, TheTextWithAMessageBehindItShowsIt) {
   Demarre();
   Montre([this] { ClicControle(bureau, a.Label4); });

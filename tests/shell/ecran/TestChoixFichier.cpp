@@ -45,11 +45,19 @@ TEST_F(ListesDuDialogue, ItsFirstUseReadsTheLanguageWithTheKeysOfItsCaptions) {
   });
 }
 
-TEST_F(ListesDuDialogue, LaterUsesKeepTheLanguageOfTheFirst) {
-  Demande([] {});
+TEST_F(ListesDuDialogue, ItsTextsFollowAChangeOfLanguageAndItIsLoadedOnce) {
+  Dossier("a");
+  Demande([&] { Donne("a/"); });
   ClicControle(bureau, d.Image10[1]);
+  EXPECT_EQ(f.Quitter.legende, "&Cancel") << "as the main window's do";
+  Demande([&] {
+    EXPECT_EQ(f.Command1.legende, "&Delete");
+    EXPECT_EQ(f.dossier, lieu / "a") << "folder and pattern persist";
+    ClicControle(bureau, f.Quitter);
+  });
+  ClicControle(bureau, d.Image10[0]);
   Demande([&] { EXPECT_EQ(f.Quitter.legende, "&Annuler"); });
-  EXPECT_EQ(ouvertures, 2);
+  EXPECT_EQ(ouvertures, 3);
 }
 
 TEST_F(ListesDuDialogue, TheFrenchFileBearsTheBuiltInCaptions) {

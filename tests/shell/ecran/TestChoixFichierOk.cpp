@@ -60,6 +60,64 @@ TEST_F(BoutonsDuDialogue, OkEntersAChosenFolderAlsoUpTheTree) {
   });
 }
 
+TEST_F(BoutonsDuDialogue, ReturnOnAFolderEntersItKeepsTheNameToBeSavedAndLeadsToItsField) {
+  Dossier("a/b");
+  EXPECT_EQ(Demande(
+                [&] {
+                  for (const char *nom : {"a", "b", "b"}) {
+                    bureau.focus = nullptr;
+                    f.FName.toutSelectionne = false;
+                    ClicDossier(nom);
+                    EXPECT_TRUE(ValideControle(bureau, f.Dir1));
+                    EXPECT_EQ(f.FName.texte, "15MAR09 120530.LoP");
+                    EXPECT_TRUE(f.FName.toutSelectionne);
+                    EXPECT_EQ(bureau.focus, &f.FName);
+                    EXPECT_TRUE(f.cadre.visible) << "also on the folder on show";
+                  }
+                  TapeNom("mine.LoP");
+                  ClicDossier("a");
+                  ValideControle(bureau, f.Dir1);
+                  Ok();
+                },
+                "15MAR09 120530.LoP"),
+            lieu / "a" / "mine.LoP");
+}
+
+TEST_F(BoutonsDuDialogue, ReturnOnAFolderBringsThePatternBackWhenNothingIsToBeSaved) {
+  Dossier("a");
+  Fichiers({"out.LoP"});
+  Demande([&] {
+    ClicFichier("out.LoP");
+    ClicDossier("a");
+    ValideControle(bureau, f.Dir1);
+    Attend(lieu / "a", "*LoP");
+    EXPECT_EQ(bureau.focus, &f.FName);
+  });
+}
+
+TEST_F(BoutonsDuDialogue, ReturnOnAFolderThatHasVanishedChangesNothing) {
+  Dossier("a");
+  Demande([&] {
+    TapeNom("mine.LoP");
+    ClicDossier("a");
+    fs::remove(lieu / "a");
+    bureau.focus = nullptr;
+    EXPECT_TRUE(ValideControle(bureau, f.Dir1));
+    EXPECT_EQ(f.dossier, lieu);
+    EXPECT_EQ(f.FName.texte, "mine.LoP");
+    EXPECT_EQ(bureau.focus, nullptr);
+  });
+}
+
+TEST_F(BoutonsDuDialogue, OnOtherListsReturnMeansOk) {
+  Fichiers({"a.LoP"});
+  Demande([&] {
+    ClicFichier("a.LoP");
+    EXPECT_FALSE(ValideControle(bureau, f.File1));
+    EXPECT_TRUE(f.cadre.visible);
+  });
+}
+
 TEST_F(BoutonsDuDialogue, AChosenFolderThatHasVanishedLeavesTheDialogAsItWas) {
   Dossier("a");
   Demande([&] {

@@ -128,6 +128,7 @@ TEST_F(PageImprimee, AFailureIsToldAndLeavesTheButtonHiddenUntilThePageComesToTh
   ASSERT_EQ(boites.size(), 1U);
   EXPECT_EQ(boites[0].texte, bureau.messages[24]);
   EXPECT_NE(boites[0].texte, "");
+  EXPECT_EQ(boites[0].fenetre, kFenetreImpression) << "so that it is the page that is there when it goes";
   EXPECT_FALSE(page.Frame1.visible);
   EXPECT_TRUE(page.cadre.visible);
   ActiveFenetre(bureau, kFenetreImpression);
