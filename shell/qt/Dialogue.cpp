@@ -28,6 +28,7 @@ bool AParDefaut(const Rendu &rendu) {
 Dialogue::Dialogue(Scene &scene, CadreFenetre &cadre, QWidget *parent, bool etirable)
     : QDialog(parent), scene_(scene), cadre_(cadre), rendu_(scene, *this, ControlesDe(scene.bureau(), cadre.nom)),
       parDefaut_(AParDefaut(rendu_)) {
+  setObjectName(QString::fromUtf8(cadre.nom.data(), static_cast<qsizetype>(cadre.nom.size())));
   const double f = PixelsParTwip(*this);
   const QSize taille(static_cast<int>(std::lround(cadre.largeur * f)),
                      static_cast<int>(std::lround(cadre.hauteur * f)));
@@ -81,8 +82,23 @@ void Dialogue::changeEvent(QEvent *event) {
   QDialog::changeEvent(event);
 }
 
+/// Return on the control that has the keyboard, where it has a use of its own for it.
+bool Dialogue::Valide() {
+  const auto &liens = rendu_.liens();
+  const auto lien =
+      std::find_if(liens.begin(), liens.end(), [this](const Lien &l) { return l.widget == focusWidget(); });
+  bool faite = false;
+  if (lien != liens.end()) {
+    scene_.Joue([&] { faite = ValideControle(scene_.bureau(), *lien->controle); });
+  }
+  return faite;
+}
+
 void Dialogue::keyPressEvent(QKeyEvent *event) {
   const bool retour = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+  if (retour && Valide()) {
+    return;
+  }
   if (auto *bouton = qobject_cast<QPushButton *>(focusWidget()); retour && !parDefaut_ && bouton != nullptr) {
     bouton->click();
   } else {

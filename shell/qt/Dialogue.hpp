@@ -34,6 +34,8 @@ protected:
   void paintEvent(QPaintEvent *event) override;
 
 private:
+  bool Valide();
+
   Scene &scene_;
   CadreFenetre &cadre_;
   Rendu rendu_;

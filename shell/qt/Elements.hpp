@@ -1,24 +1,35 @@
 #pragma once
 
+#include <QComboBox>
 #include <QFrame>
 #include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QToolButton>
 
 #include <functional>
 
 namespace velmaris::qt {
 
-/// A module: a light panel with a title band, that can be taken with the mouse.
+/// A module: a light panel with a title band, that can be taken with the mouse, or drawn along by its title.
 class Volet : public QFrame {
 public:
   Volet(bool titre, QWidget *parent);
   std::function<void()> auClic;
+  std::function<void(QPoint)> auTrait; ///< its title is drawn along: the corner's new place in its parent, pixels
+  std::function<void()> auLache;       ///< the button is up after that
 
 protected:
   void paintEvent(QPaintEvent *event) override;
   void mousePressEvent(QMouseEvent *event) override;
+  void mouseMoveEvent(QMouseEvent *event) override;
+  void mouseReleaseEvent(QMouseEvent *event) override;
 
 private:
   bool titre_;
+  bool presse_ = false; ///< the button went down on the title band
+  bool tire_ = false;   ///< the title is drawn along
+  QPoint prise_;        ///< where the button went down
 };
 
 /// A caption that does something: a click, Return or the space bar.
@@ -33,6 +44,15 @@ protected:
   void paintEvent(QPaintEvent *event) override;
 };
 
+/// A picture that is pressed like a button; the second press of a double click is none.
+class Poussoir : public QToolButton {
+public:
+  explicit Poussoir(QWidget *parent);
+
+protected:
+  void mouseDoubleClickEvent(QMouseEvent *event) override;
+};
+
 /// A picture that tells when the mouse moves over it.
 class Figure : public QLabel {
 public:
@@ -41,6 +61,37 @@ public:
 
 protected:
   void mouseMoveEvent(QMouseEvent *event) override;
+};
+
+/// A field whose cursor, which the toolkit draws as the negative of the ground, is red by night.
+class Champ : public QLineEdit {
+public:
+  using QLineEdit::QLineEdit;
+
+protected:
+  void paintEvent(QPaintEvent *event) override;
+};
+
+/// A closed list that the wheel turns only while it has the keyboard: a wheel that passes over it chooses nothing.
+class Deroulante : public QComboBox {
+public:
+  explicit Deroulante(QWidget *parent);
+
+protected:
+  void changeEvent(QEvent *event) override;
+  void wheelEvent(QWheelEvent *event) override;
+
+private:
+  void Noircit();
+};
+
+/// A list that chooses nothing by itself when the keyboard comes to it.
+class ListeSansChoix : public QListWidget {
+public:
+  using QListWidget::QListWidget;
+
+protected:
+  void focusInEvent(QFocusEvent *event) override;
 };
 
 } // namespace velmaris::qt

@@ -11,14 +11,12 @@
 #include "shell/qt/Toile.hpp"
 #include "shell/qt/Widgets.hpp"
 
-#include <QAbstractItemView>
 #include <QApplication>
 #include <QCloseEvent>
-#include <QComboBox>
 #include <QKeyEvent>
-#include <QLineEdit>
 #include <QPainter>
 #include <QPushButton>
+#include <QToolButton>
 
 #include <cmath>
 #include <optional>
@@ -40,11 +38,7 @@ int CranDeZoom(int touche) {
   }
 }
 
-/// Whether a widget has a use of its own for signs typed into it.
-bool EcritOuChoisit(const QWidget &widget) {
-  return qobject_cast<const QLineEdit *>(&widget) != nullptr || qobject_cast<const QComboBox *>(&widget) != nullptr ||
-         qobject_cast<const QAbstractItemView *>(&widget) != nullptr;
-}
+bool EstRetour(int touche) { return touche == Qt::Key_Return || touche == Qt::Key_Enter; }
 
 } // namespace
 
@@ -84,6 +78,7 @@ void Fenetre::AccordeHorloge() {
 void Fenetre::BrancheDessin() {
   Toile &toile = Dessin();
   toile.auClic = nullptr;
+  toile.setFocusPolicy(Qt::ClickFocus);
   toile.auMouvement = [this](bool gauche, double x, double y) {
     if (SuitPointeur(bureau_)) {
       scene_.Joue([&] { Image1_MouseMove(bureau_, gauche, x, y); });
@@ -92,7 +87,13 @@ void Fenetre::BrancheDessin() {
   toile.auPresse = [this](bool gauche, double x, double y) {
     scene_.Joue([&] { Image1_MouseDown(bureau_, gauche ? BoutonSouris::Gauche : BoutonSouris::Droit, x, y); });
   };
-  toile.auRelache = [this] { scene_.Joue([this] { Image1_MouseUp(bureau_); }); };
+  toile.auRelache = [this](Qt::MouseButton bouton) {
+    scene_.Joue([&] {
+      Image1_MouseUp(bureau_, bouton == Qt::RightButton  ? BoutonSouris::Droit
+                              : bouton == Qt::LeftButton ? BoutonSouris::Gauche
+                                                         : BoutonSouris::Autre);
+    });
+  };
   toile.auZoom = [this](int crans) { scene_.Joue([&] { ZoomeCrans(bureau_, crans); }); };
 }
 
@@ -122,15 +123,28 @@ void Fenetre::closeEvent(QCloseEvent *event) {
   event->setAccepted(bureau_.termine);
 }
 
-bool Fenetre::Touche(QObject *objet, int touche) {
-  const auto *widget = qobject_cast<QWidget *>(objet);
+/// Return presses the button that has the keyboard, and in a field the "Calcul" of its module.
+bool Fenetre::Retour(QWidget &widget) {
+  if (qobject_cast<QPushButton *>(&widget) != nullptr || qobject_cast<QToolButton *>(&widget) != nullptr) {
+    qobject_cast<QAbstractButton *>(&widget)->click();
+    return true;
+  }
+  Controle *champ = rendu_.ControleDe(widget);
+  if (champ == nullptr || champ->genre != Genre::Champ) {
+    return false;
+  }
+  bool prise = false;
+  scene_.Joue([&] { prise = RetourDansChamp(bureau_, *champ); });
+  return prise;
+}
+
+bool Fenetre::Touche(QObject *objet, int touche, bool controle) {
+  auto *widget = qobject_cast<QWidget *>(objet);
   if (widget == nullptr || widget->window() != this || QApplication::activeModalWidget() != nullptr) {
     return false;
   }
-  if (auto *bouton = qobject_cast<QPushButton *>(objet);
-      bouton != nullptr && (touche == Qt::Key_Return || touche == Qt::Key_Enter)) {
-    bouton->click();
-    return true;
+  if (EstRetour(touche)) {
+    return Retour(*widget);
   }
   if (touche == Qt::Key_Menu) {
     scene_.Joue([this] {
@@ -138,8 +152,9 @@ bool Fenetre::Touche(QObject *objet, int touche) {
     });
     return true;
   }
-  if (const int cran = CranDeZoom(touche); cran != 0 && !EcritOuChoisit(*widget)) {
-    scene_.Joue([&] { ZoomeCrans(bureau_, cran); });
+  // Signs are typed: only on the surface they are the zoom's, or with the control key.
+  if (const int cran = CranDeZoom(touche); cran != 0 && (controle || widget == &Dessin())) {
+    scene_.Joue([&] { ZoomeTouche(bureau_, cran); });
     return true;
   }
   if (touche < Qt::Key_F1 || touche > Qt::Key_F12) {
@@ -165,7 +180,7 @@ bool Fenetre::eventFilter(QObject *objet, QEvent *event) {
     }
     return true;
   }
-  return Touche(objet, appui.key());
+  return Touche(objet, appui.key(), appui.modifiers().testFlag(Qt::ControlModifier));
 }
 
 void Fenetre::paintEvent(QPaintEvent *event) {

@@ -28,7 +28,8 @@ private:
   void BrancheDessin();
   void AccordeFenetre();
   Toile &Dessin();
-  bool Touche(QObject *objet, int touche);
+  bool Retour(QWidget &widget);
+  bool Touche(QObject *objet, int touche, bool controle);
 
   Scene &scene_;
   Bureau &bureau_;

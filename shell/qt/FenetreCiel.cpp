@@ -36,8 +36,8 @@ FenetreCiel::FenetreCiel(Scene &scene, QWidget *parent)
   windowHandle()->setTransientParent(nullptr);
   setMinimumSize(kPlusPetite);
   resize(size().boundedTo(screen()->availableSize() - QSize(0, kBarreTitre)));
-  // In the middle of the screen its title would leave it.
-  move(screen()->availableGeometry().topLeft() + QPoint(kBord, kBarreTitre - kBord));
+  // In the middle of the screen its title would leave it; a place is that of the frame, title included.
+  move(screen()->availableGeometry().topLeft() + QPoint(kBord, 0));
   const double f = PixelsParTwip(*this);
   for (Surface *surface : {&bureau_.ciel.picture1, &bureau_.ciel.picAZ, &bureau_.ciel.picHE}) {
     surface->interligne = QFontMetricsF(PoliceQt(surface->police), this).height() / f;
@@ -50,7 +50,10 @@ void FenetreCiel::Branche() {
   toile_.auMouvement = [this](bool /*gauche*/, double x, double y) {
     scene().Joue([&] { ciel::Picture1_MouseMove(bureau_, x, y); });
   };
-  toile_.auSurvol = [this](Controle &corps) { scene().Joue([&] { ciel::Survole(bureau_, corps); }); };
+  toile_.auSurvol = [this](Controle &astre, Controle &pointe) {
+    scene().Joue([&] { ciel::Survole(bureau_, astre, pointe); });
+  };
+  toile_.auAide = [this](const Controle &astre) { return ciel::AideAstre(bureau_, astre); };
   toile_.auChoix = [this](Controle &corps) { scene().Joue([&] { ClicControle(bureau_, corps); }); };
   toile_.auTouche = [this](int touche) { return Touche(touche); };
 }
@@ -87,7 +90,6 @@ void FenetreCiel::AccordeFenetre() {
   } else if (!horloge_.isActive()) {
     horloge_.start();
   }
-  toile_.setAccessibleName(QString::fromStdString(c.cadre.titre));
   toile_.setAccessibleDescription(QString::fromStdString(c.Label2.legende));
 }
 

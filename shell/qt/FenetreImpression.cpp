@@ -28,7 +28,19 @@ FenetreImpression::FenetreImpression(Scene &scene, QWidget *parent)
                  Qt::WindowCloseButtonHint);
   create();
   windowHandle()->setTransientParent(nullptr);
-  setFixedSize(size().boundedTo(screen()->availableSize() - QSize(0, kBarreTitre)));
+  const QRect libre = screen()->availableGeometry();
+  setFixedSize(size().boundedTo(libre.size() - QSize(0, kBarreTitre)));
+  // The toolkit would set it over the middle of the main window, without a thought for its title.
+  const QSize reste = libre.size() - size() - QSize(0, kBarreTitre);
+  move(libre.topLeft() + QPoint(reste.width() / 2, reste.height() / 2));
+  connect(qGuiApp, &QGuiApplication::focusWindowChanged, this, [this](const QWindow *devant) { Note(devant); });
+}
+
+/// Notes what takes the keyboard while the page hasn't it. A list that opens is no window of its own.
+void FenetreImpression::Note(const QWindow *devant) {
+  if (devant != windowHandle() && QApplication::activePopupWidget() == nullptr) {
+    sousBoite_ = QApplication::activeModalWidget() != nullptr;
+  }
 }
 
 void FenetreImpression::AccordeFenetre() {
@@ -44,15 +56,17 @@ void FenetreImpression::AccordeFenetre() {
       voulus.push_back(c);
     }
   });
-  if (voulus != peints_ || prise_ != page_.prises || nuit_ != EstNuit()) {
+  const bool prise = std::exchange(prise_, page_.prises) != page_.prises;
+  if (voulus != peints_ || nuit_ != EstNuit() || prise) {
     peints_ = std::move(voulus);
-    prise_ = page_.prises;
     nuit_ = EstNuit();
-    update();
+    // A new picture is on show when the page has come to the front; no event is let in for that.
+    prise ? repaint() : update();
   }
 }
 
-/// A box that goes, or the dialog that chooses the printer, doesn't bring the page to the front: it was there.
+/// A box that goes, or the dialog that chooses the printer, doesn't bring the page to the front: it was there. Anything
+/// else does, also when it came between.
 bool FenetreImpression::VientDevant() {
   if (!isActiveWindow()) {
     sousBoite_ = QApplication::activeModalWidget() != nullptr;

@@ -7,6 +7,7 @@
 
 #include <QBuffer>
 #include <QDir>
+#include <QLineEdit>
 #include <QPainter>
 #include <QPdfWriter>
 #include <QPrintDialog>
@@ -33,7 +34,7 @@ QString FichierPropose() {
 
 } // namespace
 
-bool Imprime(const Impression &page, QWidget *parent) {
+bool Imprime(const Impression &page, QWidget *parent, const std::filesystem::path &registre) {
   QPrinter imprimante(QPrinter::HighResolution);
   imprimante.setDocName("Velmaris");
   imprimante.setCreator("Velmaris");
@@ -43,17 +44,23 @@ bool Imprime(const Impression &page, QWidget *parent) {
   }
   QPrintDialog choix(&imprimante, parent);
   choix.setOptions(QAbstractPrintDialog::PrintToFile);
+  // The toolkit's list of the folder's files opens over the field when the disk has answered, and takes the Return that
+  // was meant for the dialog.
+  for (QLineEdit *champ : choix.findChildren<QLineEdit *>()) {
+    champ->setCompleter(nullptr);
+  }
   if (choix.exec() != QDialog::Accepted) {
     return true;
   }
   imprimante.setPageOrientation(Orientation(page)); // whatever else was chosen for it
   if (imprimante.outputFormat() == QPrinter::PdfFormat) {
-    return EcritPdf(page, imprimante.outputFileName().toStdString(), imprimante.pageLayout());
+    return EcritPdf(page, imprimante.outputFileName().toStdString(), imprimante.pageLayout(), registre);
   }
   return PeintFeuille(page, imprimante) && imprimante.printerState() != QPrinter::Error;
 }
 
-bool EcritPdf(const Impression &page, const std::filesystem::path &fichier, QPageLayout feuille) {
+bool EcritPdf(const Impression &page, const std::filesystem::path &fichier, QPageLayout feuille,
+              const std::filesystem::path &registre) {
   QBuffer pdf;
   QPdfWriter ecrivain(&pdf);
   feuille.setOrientation(Orientation(page));
@@ -64,7 +71,7 @@ bool EcritPdf(const Impression &page, const std::filesystem::path &fichier, QPag
   if (!pdf.open(QIODevice::WriteOnly) || !PeintFeuille(page, ecrivain)) {
     return false;
   }
-  return Passe([&] { EcritFichier(fichier, pdf.data().toStdString()); });
+  return Passe([&] { EcritFichier(fichier, pdf.data().toStdString(), registre); });
 }
 
 bool PeintFeuille(const Impression &page, QPagedPaintDevice &imprimante) {

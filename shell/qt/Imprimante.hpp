@@ -13,13 +13,16 @@ namespace velmaris::qt {
 
 /// Lets the user choose a printer or a PDF file, and prints the page there.
 /// @param parent  window that the dialog lies over
+/// @param registre  folder in which an unfinished file is noted
 /// @return false when it failed; true also when the user gave up
-bool Imprime(const Impression &page, QWidget *parent);
+bool Imprime(const Impression &page, QWidget *parent, const std::filesystem::path &registre);
 
 /// Writes the page as a PDF file of one landscape sheet; an old file of that name is replaced once it is whole.
-/// @param feuille  size and margins of the sheet
+/// @param feuille   size and margins of the sheet
+/// @param registre  folder in which the unfinished file is noted; empty for none
 /// @return false when it can't be written
-bool EcritPdf(const Impression &page, const std::filesystem::path &fichier, QPageLayout feuille);
+bool EcritPdf(const Impression &page, const std::filesystem::path &fichier, QPageLayout feuille,
+              const std::filesystem::path &registre = {});
 
 /// Paints the page on the sheet of a printer, at its full size and in the middle; smaller when the sheet is too small.
 /// @return false when the printer fails

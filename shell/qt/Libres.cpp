@@ -29,8 +29,7 @@ void Libres::Accorde() {
     Dialogue *fenetre = ouvertes_.value(cadre);
     if (!cadre->visible && fenetre != nullptr) {
       ouvertes_.remove(cadre);
-      fenetre->hide();
-      fenetre->deleteLater();
+      scene_.Congedie(*fenetre);
     } else if (cadre->visible && fenetre == nullptr && !bureau.termine) {
       fenetre = Cree(scene_, *cadre, principale_);
       ouvertes_.insert(cadre, fenetre);

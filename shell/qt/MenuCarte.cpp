@@ -1,6 +1,7 @@
 #include "shell/qt/MenuCarte.hpp"
 
 #include "shell/bureau/Evenements.hpp"
+#include "shell/qt/Widgets.hpp"
 
 #include <QMenu>
 
@@ -25,7 +26,7 @@ void Remplit(QMenu &qt, QWidget &parent, Scene &scene, const ListeControles &con
       entree->setEnabled(c->actif);
       entree->setCheckable(c->valeur != 0);
       entree->setChecked(c->valeur != 0);
-      entree->setToolTip(QString::fromStdString(c->infobulle));
+      entree->setToolTip(Infobulle(c->infobulle));
       // Once the menu has gone: a drawing lets the interface live, which would take the menu away under its own entry.
       QObject::connect(
           entree, &QAction::triggered, &parent,

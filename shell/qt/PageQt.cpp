@@ -6,8 +6,6 @@
 #include <QFontDatabase>
 #include <QPainter>
 
-#include <vector>
-
 namespace velmaris::qt {
 namespace {
 
@@ -52,8 +50,7 @@ struct Peintre {
     painter.fillRect(zone, Fond(CouleurQt(surface.fond)));
     painter.translate(zone.topLeft());
     painter.scale(place.largeur / surface.largeur, place.hauteur / surface.hauteur);
-    std::vector<QRectF> figures;
-    PeintTraces(painter, surface, facteur, 0, figures, {.nuit = nuit, .pixel = facteur * kTwipsParPixel});
+    PeintTraces(painter, surface, facteur, {.nuit = nuit, .pixel = facteur * kTwipsParPixel});
     painter.restore();
   }
 

@@ -19,6 +19,7 @@
 #include <QScreen>
 #include <QWidget>
 
+#include <system_error>
 #include <utility>
 
 namespace velmaris::qt {
@@ -55,6 +56,17 @@ QAbstractButton *MontreAdresse(QMessageBox &qt, const Donnees &d, const QString 
   return qt.addButton(QString::fromStdString(d.TexteCopier.legende), QMessageBox::ActionRole);
 }
 
+/// Puts a file into the desktop's trash, or deletes it where that can't be. A name that isn't UTF-8 the toolkit can't
+/// spell: it would take another file for it.
+bool Jette(const std::filesystem::path &fichier) {
+  const QString nom = QFile::decodeName(fichier.c_str());
+  if (QFile::encodeName(nom) == fichier.c_str()) {
+    return QFile::moveToTrash(nom) || QFile::remove(nom);
+  }
+  std::error_code refus;
+  return std::filesystem::remove(fichier, refus);
+}
+
 bool MontreBoite(const Bureau &bureau, const Boite &boite, QWidget *parent) {
   const Donnees &d = bureau.donnees;
   AccordeNuit(bureau.nuit);
@@ -83,14 +95,26 @@ bool MontreBoite(const Bureau &bureau, const Boite &boite, QWidget *parent) {
   return qt.clickedButton() == oui;
 }
 
+/// The window of that name that is on show beside the main one, or the one that the user is in; the main one at last. A
+/// menu that is open is closed first: it goes while a box still stands, and would take the box with it.
+QWidget *FenetreDevant(QWidget &principale, std::string_view nom) {
+  while (QWidget *menu = QApplication::activePopupWidget()) {
+    menu->close();
+  }
+  const QString objet = QString::fromUtf8(nom.data(), static_cast<qsizetype>(nom.size()));
+  QWidget *active = QApplication::activeWindow();
+  QWidget *trouvee = active == nullptr || active->windowType() == Qt::Popup ? &principale : active;
+  for (QWidget *fille : principale.findChildren<QWidget *>(QString(), Qt::FindDirectChildrenOnly)) {
+    trouvee = !nom.empty() && fille->isVisible() && fille->objectName() == objet ? fille : trouvee;
+  }
+  return trouvee;
+}
+
 } // namespace
 
 Boites::Boites(Bureau &bureau) : bureau_(bureau) {
   bureau.ports.boite = [this](const Boite &boite) { return Montre(boite); };
-  bureau.ports.jette = [](const std::filesystem::path &fichier) {
-    const QString nom = QString::fromStdString(fichier.string());
-    return QFile::moveToTrash(nom) || QFile::remove(nom);
-  };
+  bureau.ports.jette = Jette;
   bureau.ports.largeurTexte = [](const std::string &texte, double taille, bool gras) {
     QFont police = QApplication::font();
     police.setPointSizeF(taille);
@@ -113,26 +137,30 @@ bool Boites::Montre(const Boite &boite) {
     return true;
   }
   QApplication::restoreOverrideCursor(); // a question is asked with the usual pointer
-  // Over the window that the user is in: beside the main one it would hide under it.
-  QWidget *devant = fenetre_ == nullptr ? nullptr : QApplication::activeWindow();
-  return MontreBoite(bureau_, boite, devant == nullptr ? fenetre_ : devant);
+  // Beside the main window it would hide under it.
+  return MontreBoite(bureau_, boite, fenetre_ == nullptr ? nullptr : FenetreDevant(*fenetre_, boite.fenetre));
 }
 
 void Boites::Ouvre(Scene &scene, QWidget &fenetre) {
   fenetre_ = &fenetre;
-  bureau_.ports.modale = [&scene, &fenetre](CadreFenetre &cadre) { Dialogue(scene, cadre, &fenetre).Montre(); };
+  bureau_.ports.modale = [&scene, &fenetre](CadreFenetre &cadre) {
+    FenetreDevant(fenetre, {}); // no menu stays open under it
+    Dialogue(scene, cadre, &fenetre).Montre();
+  };
   bureau_.ports.attend = [&scene] {
     scene.Accorde();
     QApplication::processEvents(QEventLoop::WaitForMoreEvents);
   };
   bureau_.ports.respire = [&scene] {
     scene.AccordePointeur();
-    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+    // What waits to be painted is painted, and nothing else: a timer, the slider's own among them, or a window that
+    // comes to the front would start a second drawing within the first.
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::UpdateRequest);
   };
-  bureau_.ports.imprime = [this, &scene](const Impression &page) {
+  bureau_.ports.imprime = [this, &scene, &fenetre](const Impression &page) {
     QApplication::restoreOverrideCursor();
     scene.Accorde(); // the page stands as it will be printed while the printer is chosen
-    return Imprime(page, QApplication::activeWindow());
+    return Imprime(page, FenetreDevant(fenetre, kFenetreImpression), bureau_.dossiers.utilisateur);
   };
   bureau_.ports.ouvre = [&scene, &fenetre](const std::string &adresse, const std::function<void()> &sansProgramme) {
     OuvreLien(fenetre, adresse, [&scene, sansProgramme] { scene.Joue(sansProgramme); });

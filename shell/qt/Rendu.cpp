@@ -1,24 +1,19 @@
 #include "shell/qt/Rendu.hpp"
 
 #include "shell/bureau/Evenements.hpp"
-#include "shell/qt/Elements.hpp"
 #include "shell/qt/Nuit.hpp"
 #include "shell/qt/Toile.hpp"
 #include "shell/qt/ToileCiel.hpp"
-#include "shell/qt/Widgets.hpp"
 
 #include <QAbstractButton>
 #include <QApplication>
 #include <QButtonGroup>
-#include <QCheckBox>
-#include <QComboBox>
 #include <QFocusEvent>
 #include <QLabel>
 #include <QLineEdit>
-#include <QListWidget>
 #include <QRadioButton>
-#include <QSlider>
 
+#include <algorithm>
 #include <utility>
 
 namespace velmaris::qt {
@@ -44,13 +39,15 @@ void Rendu::CreeWidgets(const ListeControles &controles) {
       ciel->Ajoute(*c);
       continue;
     }
-    QWidget *widget = CreeWidget(bureau_, *c, parent == nullptr ? &fenetre_ : parent->widget);
-    liens_.push_back({c, widget, {}});
+    std::unique_ptr<Adaptateur> adaptateur =
+        CreeAdaptateur(bureau_, *c, parent == nullptr ? &fenetre_ : parent->widget);
+    QWidget *widget = adaptateur == nullptr ? nullptr : &adaptateur->widget();
+    liens_.push_back({c, widget, std::move(adaptateur), {}, c});
     if (widget == nullptr) {
       continue;
     }
     widget->setObjectName(QString::fromStdString(c->nom) + (c->indice < 0 ? QString() : QString::number(c->indice)));
-    Branche(widget, *c);
+    Branche(liens_.back());
     if (widget->focusPolicy() != Qt::NoFocus) {
       if (precedent != nullptr) {
         QWidget::setTabOrder(precedent, widget);
@@ -60,65 +57,30 @@ void Rendu::CreeWidgets(const ListeControles &controles) {
   }
 }
 
-void Rendu::Branche(QWidget *widget, Controle &c) {
-  const auto clic = [this, &c] { Joue([this, &c] { ClicControle(bureau_, c); }); };
-  if (auto *toile = dynamic_cast<Toile *>(widget)) {
-    toile->auClic = clic;
-  } else if (auto *volet = dynamic_cast<Volet *>(widget)) {
-    volet->auClic = [volet, clic] {
-      volet->raise();
-      clic();
-    };
-  } else if (auto *figure = dynamic_cast<Figure *>(widget)) {
-    figure->auSurvol = [this, &c] { Joue([this, &c] { SurvoleControle(bureau_, c); }); };
-  } else if (auto *renvoi = dynamic_cast<Renvoi *>(widget)) {
-    renvoi->auClic = clic;
-  } else if (auto *champ = qobject_cast<QLineEdit *>(widget)) {
-    champs_.insert(champ, &c);
-    connect(champ, &QLineEdit::textEdited, this,
-            [this, &c](const QString &t) { Joue([&] { SaisitTexte(bureau_, c, t.toStdString()); }); });
-  } else if (auto *option = qobject_cast<QRadioButton *>(widget)) {
-    BrancheOption(*option, c);
-  } else if (auto *coche = qobject_cast<QCheckBox *>(widget)) {
-    connect(coche, &QCheckBox::clicked, this, [this, &c] { Joue([this, &c] { ClicCase(bureau_, c); }); });
-  } else if (auto *bouton = qobject_cast<QAbstractButton *>(widget)) {
-    connect(bouton, &QAbstractButton::clicked, this, clic);
-  } else if (auto *curseur = qobject_cast<QSlider *>(widget)) {
-    connect(curseur, &QSlider::valueChanged, this,
-            [this, &c](int v) { Joue([this, &c, v] { BougeCurseur(bureau_, c, v); }); });
-  } else {
-    BrancheListe(widget, c);
+void Rendu::Branche(const Lien &lien) {
+  Controle &c = *lien.controle;
+  lien.adaptateur->Ecoute(bureau_, c, [this](const std::function<void()> &evenement) { Joue(evenement); });
+  if (lien.adaptateur->EstChamp()) {
+    champs_.insert(lien.widget, &c);
+  }
+  if (auto *option = qobject_cast<QRadioButton *>(lien.widget)) {
+    QButtonGroup *&groupe = groupes_[c.groupe];
+    if (groupe == nullptr) {
+      groupe = new QButtonGroup(this);
+    }
+    groupe->addButton(option);
   }
 }
 
-void Rendu::BrancheListe(QWidget *widget, Controle &c) {
-  const auto choisit = [this, &c](int rang) { Joue([this, &c, rang] { ChoisitLigne(bureau_, c, rang); }); };
-  if (auto *deroulante = qobject_cast<QComboBox *>(widget)) {
-    connect(deroulante, &QComboBox::activated, this, choisit);
-  } else if (auto *liste = qobject_cast<QListWidget *>(widget)) {
-    champs_.insert(liste, &c);
-    connect(liste, &QListWidget::currentRowChanged, this, choisit);
-    connect(liste, &QListWidget::itemPressed, this,
-            [liste, choisit](QListWidgetItem *ligne) { choisit(liste->row(ligne)); });
-    connect(liste, &QListWidget::itemDoubleClicked, this,
-            [this, &c] { Joue([this, &c] { DoubleClicControle(bureau_, c); }); });
-  }
-}
-
-void Rendu::BrancheOption(QRadioButton &option, Controle &c) {
-  QButtonGroup *&groupe = groupes_[c.groupe];
-  if (groupe == nullptr) {
-    groupe = new QButtonGroup(this);
-  }
-  groupe->addButton(&option);
-  connect(&option, &QRadioButton::clicked, this, [this, &c] { Joue([this, &c] { ClicOption(bureau_, c); }); });
-}
-
-/// A caption with a key of its own leads to the control that it names.
+/// A caption names the control that it belongs to; with a key of its own it leads there.
 void Rendu::BrancheLibelles() {
-  for (const Lien &lien : liens_) {
+  for (Lien &lien : liens_) {
     const Lien *libelle = lien.controle->par.empty() ? nullptr : Trouve(lien.controle->par, lien.controle->parIndice);
-    if (libelle == nullptr || !libelle->controle->raccourci) {
+    if (libelle == nullptr) {
+      continue;
+    }
+    lien.nomme = libelle->controle;
+    if (!libelle->controle->raccourci) {
       continue;
     }
     if (auto *label = qobject_cast<QLabel *>(libelle->widget); label != nullptr && label->buddy() == nullptr) {
@@ -136,6 +98,15 @@ const Lien *Rendu::Trouve(std::string_view nom, int indice) const {
   return nullptr;
 }
 
+Controle *Rendu::ControleDe(const QWidget &widget) const {
+  for (const Lien &lien : liens_) {
+    if (lien.widget == &widget) {
+      return lien.controle;
+    }
+  }
+  return nullptr;
+}
+
 QWidget *Rendu::WidgetDe(const Controle &controle) const {
   for (const Lien &lien : liens_) {
     if (lien.controle == &controle) {
@@ -145,38 +116,42 @@ QWidget *Rendu::WidgetDe(const Controle &controle) const {
   return nullptr;
 }
 
-/// The words that name a control to a screen reader: its own caption, that of its label, or its tool tip.
-QString Rendu::NomLisible(const Controle &c) const {
-  const Lien *libelle = c.par.empty() ? nullptr : Trouve(c.par, c.parIndice);
-  const Controle &nomme = libelle == nullptr ? c : *libelle->controle;
+/// The words that name a control to a screen reader: those that its table gives it, its own caption, or its tool tip.
+QString Rendu::NomLisible(const Lien &lien) {
+  const Controle &c = *lien.controle;
+  const Controle &nomme = *lien.nomme;
+  if (lien.widget->focusPolicy() == Qt::NoFocus && &nomme == &c) {
+    return {}; // plain words speak for themselves
+  }
   QString nom = QString::fromStdString(nomme.legende.empty() ? c.infobulle : nomme.legende).simplified();
+  if (c.genre == Genre::Etiquette && &nomme != &c) { // a result says what it is, and how much
+    nom += ' ' + QString::fromStdString(c.legende);
+  }
   if (nomme.raccourci) {
     nom.remove('&');
   }
   return nom;
 }
 
-void Rendu::AccordeWidget(Lien &lien, bool tout) {
-  if (lien.widget == nullptr) {
+void Rendu::AccordeLien(Lien &lien, bool tout) {
+  Controle &c = *lien.controle;
+  const QString nom = NomLisible(lien);
+  if (!tout && c == lien.vu && lien.adaptateur->EnAccord(c, nom)) {
     return;
   }
-  if (!tout && *lien.controle == lien.vu && !lien.controle->toutSelectionne) {
-    // A box or an option that the toolkit has switched by itself follows its control all the same.
-    if (auto *bouton = qobject_cast<QAbstractButton *>(lien.widget); bouton == nullptr || !bouton->isCheckable()) {
-      return;
-    }
-  }
-  Controle &c = *lien.controle;
-  qt::AccordeWidget(*lien.widget, c, lien.vu, tout);
-  const QString nom = NomLisible(c);
-  if (lien.widget->focusPolicy() != Qt::NoFocus && lien.widget->accessibleName() != nom) {
-    lien.widget->setAccessibleName(nom);
-  }
-  if (auto *champ = qobject_cast<QLineEdit *>(lien.widget); champ != nullptr && c.toutSelectionne) {
-    champ->selectAll();
+  lien.adaptateur->Accorde(c, lien.vu, nom, tout);
+  if (c.toutSelectionne) {
+    lien.adaptateur->SelectionneTout();
   }
   c.toutSelectionne = false;
   lien.vu = c;
+}
+
+const Controle *Rendu::Ecart() const {
+  const auto ecart = std::find_if(liens_.begin(), liens_.end(), [](const Lien &lien) {
+    return lien.adaptateur != nullptr && !lien.adaptateur->EnAccord(*lien.controle, NomLisible(lien));
+  });
+  return ecart == liens_.end() ? nullptr : ecart->controle;
 }
 
 /// The keyboard enters a group of options at its chosen one, or at each while none is chosen.
@@ -185,29 +160,61 @@ void Rendu::AccordeGroupes() {
     for (QAbstractButton *option : groupe->buttons()) {
       const bool entree = option->isChecked() || groupe->checkedButton() == nullptr;
       option->setFocusPolicy(entree ? Qt::StrongFocus : Qt::ClickFocus);
+      if (option->hasFocus() && !entree) { // the core has chosen another one
+        groupe->checkedButton()->setFocus(Qt::OtherFocusReason);
+      }
+    }
+  }
+}
+
+/// What has the keyboard in this window, null for nothing of it.
+const Lien *Rendu::LienDuClavier() const {
+  const QWidget *widget = fenetre_.focusWidget();
+  const auto lien = std::find_if(liens_.begin(), liens_.end(),
+                                 [&](const Lien &l) { return widget != nullptr && l.widget == widget; });
+  return lien == liens_.end() || !lien->widget->hasFocus() ? nullptr : &*lien;
+}
+
+/// Of two controls of one name on one spot, the one that shows now takes the keyboard from the one that has gone.
+void Rendu::PasseClavier(const Lien *tenu) const {
+  if (tenu == nullptr || tenu->controle->visible) {
+    return;
+  }
+  const Controle &parti = *tenu->controle;
+  for (const Lien &lien : liens_) {
+    const Controle &c = *lien.controle;
+    if (lien.widget != nullptr && &c != &parti && c.visible && c.nom == parti.nom && c.place == parti.place) {
+      lien.widget->setFocus(Qt::OtherFocusReason);
+      return;
     }
   }
 }
 
 void Rendu::Accorde() {
   const bool change = std::exchange(nuit_, EstNuit()) != EstNuit() || premier_;
+  const Lien *tenu = LienDuClavier();
   for (Lien &lien : liens_) {
-    AccordeWidget(lien, premier_);
-    if (change && lien.widget != nullptr) {
-      AccordeTeintes(*lien.widget, *lien.controle);
+    if (lien.adaptateur == nullptr) {
+      continue;
+    }
+    AccordeLien(lien, premier_);
+    if (change) {
+      lien.adaptateur->AccordeTeintes(*lien.controle);
     }
     if (auto *toile = dynamic_cast<Toile *>(lien.widget)) {
       toile->Accorde();
     }
   }
   premier_ = false;
+  PasseClavier(tenu);
   AccordeGroupes();
 }
 
-bool Rendu::DonneFocus(const Controle &controle) const {
+bool Rendu::DonneFocus(const Controle &controle) {
   QWidget *widget = WidgetDe(controle);
   if (widget != nullptr) {
     widget->setFocus(Qt::OtherFocusReason);
+    champDonne_ = widget;
   }
   return widget != nullptr;
 }
@@ -222,6 +229,9 @@ void Rendu::Champ(QObject *objet, QEvent *event) {
     return;
   }
   Controle &c = **trouve;
+  if (event->type() == QEvent::FocusOut && objet == champDonne_) {
+    champDonne_ = nullptr;
+  }
   if (event->type() == QEvent::FocusIn) {
     champPresse_ = raison == Qt::MouseFocusReason ? objet : nullptr;
     Joue([&] { EntreChamp(bureau_, c); });
@@ -235,6 +245,15 @@ bool Rendu::eventFilter(QObject *objet, QEvent *event) {
   case QEvent::FocusIn:
   case QEvent::FocusOut:
     Champ(objet, event);
+    break;
+  case QEvent::KeyPress:
+    champDonne_ = objet == champDonne_ ? nullptr : champDonne_;
+    break;
+  case QEvent::MouseButtonPress:
+    // The first click in a field that the core has given the keyboard to is as one that brings it there.
+    if (objet == champDonne_ && champs_.contains(objet)) {
+      champPresse_ = std::exchange(champDonne_, nullptr);
+    }
     break;
   case QEvent::MouseButtonRelease:
     // The press that brought the focus has set the cursor: the whole text is selected once the button is up.

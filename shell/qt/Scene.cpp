@@ -1,26 +1,70 @@
 #include "shell/qt/Scene.hpp"
 
+#include "shell/Reprise.hpp"
 #include "shell/Sortie.hpp"
 #include "shell/qt/Apparence.hpp"
 #include "shell/qt/Nuit.hpp"
 #include "shell/qt/Rendu.hpp"
 
 #include <QApplication>
+#include <QTimer>
 
+#include <algorithm>
 #include <utility>
 
 namespace velmaris::qt {
 
 void Scene::Joue(const std::function<void()> &evenement) {
+  ++jeux_;
   try {
     evenement();
+    Accorde();
   } catch (const std::exception &erreur) {
     bureau_.termine = true;
     Secours(bureau_, erreur);
     QApplication::exit(1);
+  }
+  --jeux_;
+  SupprimeRetirees();
+}
+
+/// Does something to each renderer; one that goes meanwhile is passed over.
+void Scene::PourChaqueRendu(const std::function<void(Rendu &)> &geste) {
+  for (Rendu *rendu : std::vector(rendus_)) {
+    if (std::count(rendus_.begin(), rendus_.end(), rendu) > 0) {
+      geste(*rendu);
+    }
+  }
+}
+
+void Scene::Congedie(QWidget &fenetre) {
+  fenetre.hide();
+  retirees_.emplace_back(&fenetre);
+  SupprimeRetirees();
+}
+
+/// Deletes what has been put away, from the event loop and while nothing plays. The toolkit's own deferred deletion
+/// would come in any nested loop that lies less deep than the event that asked for it.
+void Scene::SupprimeRetirees() {
+  if (jeux_ > 0 || retirees_.empty()) {
     return;
   }
-  Accorde();
+  QTimer::singleShot(0, &contexte_, [this] {
+    if (jeux_ == 0) {
+      for (const QPointer<QWidget> &fenetre : std::exchange(retirees_, {})) {
+        delete fenetre.data();
+      }
+    }
+  });
+}
+
+const Controle *Scene::Ecart() const {
+  for (const Rendu *rendu : rendus_) {
+    if (const Controle *ecart = rendu->Ecart()) {
+      return ecart;
+    }
+  }
+  return nullptr;
 }
 
 void Scene::AccordePointeur() const {
@@ -44,26 +88,21 @@ void Scene::Accorde() {
     encore_ = false;
     AccordeNuit(bureau_.nuit);
     AccordeLangue(bureau_.FichierLangue == "\\FR.txt");
-    const std::vector<Rendu *> rendus = rendus_;
-    for (Rendu *rendu : rendus) {
-      rendu->Accorde();
-    }
+    PourChaqueRendu([](Rendu &rendu) { rendu.Accorde(); });
     if (const Controle *voulu = std::exchange(bureau_.focus, nullptr)) {
       bool donne = false;
-      for (Rendu *rendu : rendus) {
-        donne = rendu->DonneFocus(*voulu) || donne;
-      }
+      PourChaqueRendu([&](Rendu &rendu) { donne = rendu.DonneFocus(*voulu) || donne; });
       if (!donne && bureau_.focus == nullptr) {
         bureau_.focus = voulu; // its window isn't there yet
       }
     }
   }
   accorde_ = false;
-  for (const std::vector<Rendu *> rendus = rendus_; Rendu * rendu : rendus) {
-    rendu->AccordeFenetre();
-  }
+  PourChaqueRendu([](Rendu &rendu) { rendu.AccordeFenetre(); });
   if (bureau_.termine) {
     QApplication::quit();
+  } else {
+    GardeSession(bureau_);
   }
 }
 

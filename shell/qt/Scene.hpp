@@ -2,6 +2,9 @@
 
 #include "shell/bureau/Bureau.hpp"
 
+#include <QPointer>
+#include <QWidget>
+
 #include <exception>
 #include <functional>
 #include <vector>
@@ -27,12 +30,26 @@ public:
   /// The pointer tells whether the program works.
   void AccordePointeur() const;
 
+  /// Hides a window, and deletes it once no event of the core is being played: what plays may come from that window,
+  /// and let the interface live meanwhile.
+  void Congedie(QWidget &fenetre);
+
+  /// A control, in any window, whose widget shows something else than it holds.
+  /// @return null when all agree
+  const Controle *Ecart() const;
+
   void Ajoute(Rendu &rendu) { rendus_.push_back(&rendu); }
   void Retire(const Rendu &rendu) { std::erase(rendus_, &rendu); }
 
 private:
+  void PourChaqueRendu(const std::function<void(Rendu &)> &geste);
+  void SupprimeRetirees();
+
   Bureau &bureau_;
   std::vector<Rendu *> rendus_;
+  std::vector<QPointer<QWidget>> retirees_; ///< windows put away, still to be deleted
+  QObject contexte_;                        ///< of the deletion to come, which goes with the scene
+  int jeux_ = 0;                            ///< events that are being played, one within the other
   bool accorde_ = false;
   bool encore_ = false; ///< something changed while widgets were brought in line
 };

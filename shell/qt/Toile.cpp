@@ -39,7 +39,6 @@ QPen PlumeQt(const Plume &plume, const QColor &couleur, double pixel) {
 }
 
 constexpr double kContrasteFaible = 0.25; ///< of lightness, under which a bright colour needs a border to be seen
-constexpr double kEcartFigures = 3.0;     ///< pixels between two figures
 const QColor kLisere(96, 84, 0, 150);
 
 /// Whether a bright colour would be lost on the background: the yellow line on the white sheet.
@@ -53,10 +52,8 @@ struct Peintre {
   QPainter &painter;
   double facteur = 1.0;
   QColor fond;
-  std::vector<QRectF> &figures;
   bool nuit = false;
   double pixel = 1.0;
-  double bas = kPortee; ///< unit that no text goes under
 
   QColor Encre(Couleur couleur) const { return nuit ? EncreDeNuit(CouleurQt(couleur), fond) : CouleurQt(couleur); }
   QPointF Place(Point p) const { return {p.x * facteur, p.y * facteur}; }
@@ -111,28 +108,22 @@ struct Peintre {
     painter.setRenderHint(QPainter::Antialiasing);
     painter.drawEllipse(Place(cercle.centre), cercle.rayon * facteur, cercle.rayon * facteur);
   }
-  /// Where a text is painted.
-  QRectF Zone(const TexteTrace &texte) const {
-    const QFontMetricsF metrique(PoliceQt(texte.police), painter.device());
-    QPointF place = Place(texte.position);
-    if (place.y() < bas) {
-      place.setY(std::min(place.y(), bas - metrique.ascent()));
-    }
-    return {place, QSizeF(metrique.horizontalAdvance(QString::fromStdString(texte.texte)) + kEcartFigures * pixel,
-                          metrique.ascent())};
-  }
+  void operator()(const TexteTrace & /*texte*/) const {} // texts have their own turn
 
-  void operator()(const TexteTrace &texte) const {
-    const QRectF zone = Zone(texte);
-    if (texte.couleur != kNoir && !texte.insistant) {
-      if (std::any_of(figures.begin(), figures.end(), [&](const QRectF &f) { return f.intersects(zone); })) {
-        return;
+  /// A text; over lines it has a thin border of the background, so that none strikes it through.
+  void Texte(const TexteTrace &texte, const ZoneTexte &zone) const {
+    painter.setFont(PoliceQt(texte.police));
+    const QPointF pied =
+        Place({zone.gauche, zone.haut}) + QPointF(0, QFontMetricsF(painter.font(), painter.device()).ascent());
+    const QString mots = QString::fromStdString(texte.texte);
+    if (texte.role.genre != GenreTexte::Libre) {
+      painter.setPen(nuit ? FondDeNuit(fond) : fond);
+      for (const QPointF &ecart : {QPointF(1, 1), QPointF(-1, 1), QPointF(1, -1), QPointF(-1, -1)}) {
+        painter.drawText(pied + ecart * pixel, mots);
       }
-      figures.push_back(zone);
     }
     painter.setPen(Encre(texte.couleur));
-    painter.setFont(PoliceQt(texte.police));
-    painter.drawText(zone.topLeft() + QPointF(0, zone.height()), QString::fromStdString(texte.texte));
+    painter.drawText(pied, mots);
   }
 };
 
@@ -144,7 +135,7 @@ struct Visible {
     return std::all_of(ligne.points.begin(), ligne.points.end(), Peignable);
   }
   bool operator()(const CercleTrace &cercle) const { return Peignable(cercle.centre) && cercle.rayon < kPortee; }
-  bool operator()(const TexteTrace &texte) const { return Peignable(texte.position); }
+  bool operator()(const TexteTrace & /*texte*/) const { return false; }
 };
 
 std::size_t NombrePoints(const Surface &surface) {
@@ -168,25 +159,39 @@ QColor CouleurQt(Couleur couleur) {
           static_cast<int>((couleur >> 16U) & 0xFFU)};
 }
 
-void PeintTraces(QPainter &painter, const Surface &surface, double facteur, std::size_t premier,
-                 std::vector<QRectF> &figures, Maniere maniere) {
-  const double bas = maniere.textesEntiers ? surface.hauteur * facteur : kPortee;
-  const Peintre peintre{painter, facteur, CouleurQt(surface.fond), figures, maniere.nuit, maniere.pixel, bas};
+void PeintLignes(QPainter &painter, const Surface &surface, double facteur, std::size_t premier, Maniere maniere) {
+  const Peintre peintre{painter, facteur, CouleurQt(surface.fond), maniere.nuit, maniere.pixel};
   for (std::size_t i = premier; i < surface.traces.size(); ++i) {
-    const auto *texte = std::get_if<TexteTrace>(&surface.traces[i]);
-    if (texte != nullptr && texte->insistant && Visible{}(*texte)) {
-      figures.push_back(peintre.Zone(*texte));
+    if (std::visit(Visible{}, surface.traces[i])) {
+      std::visit(peintre, surface.traces[i]);
     }
   }
+}
+
+std::vector<TextePlace> TextesPeints(const QPainter &painter, const Surface &surface, double facteur) {
+  return PlaceTextes(surface, [&](const TexteTrace &texte) {
+    const QFontMetricsF metrique(PoliceQt(texte.police), painter.device());
+    const QString mots = QString::fromStdString(texte.texte);
+    const bool lettres = std::any_of(mots.begin(), mots.end(), [](QChar c) { return c.isLetter(); });
+    return TailleTexte{metrique.horizontalAdvance(mots) / facteur,
+                       (lettres ? metrique.ascent() + metrique.descent() : metrique.ascent()) / facteur};
+  });
+}
+
+void PeintTextes(QPainter &painter, const Surface &surface, double facteur, const std::vector<TextePlace> &textes,
+                 Maniere maniere) {
+  const Peintre peintre{painter, facteur, CouleurQt(surface.fond), maniere.nuit, maniere.pixel};
+  for (const TextePlace &place : textes) {
+    peintre.Texte(std::get<TexteTrace>(surface.traces.at(place.rang)), place.zone);
+  }
+}
+
+std::vector<TextePlace> PeintTraces(QPainter &painter, const Surface &surface, double facteur, Maniere maniere) {
+  PeintLignes(painter, surface, facteur, 0, maniere);
+  std::vector<TextePlace> textes = TextesPeints(painter, surface, facteur);
   // Texts come over lines, so that no line strikes a figure through.
-  for (const bool textes : {false, true}) {
-    for (std::size_t i = premier; i < surface.traces.size(); ++i) {
-      const Trace &trace = surface.traces[i];
-      if (std::holds_alternative<TexteTrace>(trace) == textes && std::visit(Visible{}, trace)) {
-        std::visit(peintre, trace);
-      }
-    }
-  }
+  PeintTextes(painter, surface, facteur, textes, maniere);
+  return textes;
 }
 
 Toile::Toile(const Surface &surface, QWidget *parent) : QWidget(parent), surface_(surface) {
@@ -194,29 +199,43 @@ Toile::Toile(const Surface &surface, QWidget *parent) : QWidget(parent), surface
   setMouseTracking(true);
 }
 
+/// Whether a text was recorded from a trace on.
+bool Toile::TexteDepuis(std::size_t premier) const {
+  return std::any_of(surface_.traces.begin() + static_cast<std::ptrdiff_t>(premier), surface_.traces.end(),
+                     [](const Trace &trace) { return std::holds_alternative<TexteTrace>(trace); });
+}
+
 void Toile::Accorde() {
   const QSize taille = size() * devicePixelRatioF();
   // A layer drawn twice in the same place is dropped from the record; what is painted of it stays.
+  const bool retiree = traces_ > surface_.traces.size();
   traces_ = std::min(traces_, surface_.traces.size());
   const bool tourne = std::exchange(nuit_, EstNuit()) != EstNuit();
-  const bool neuve = tourne || image_.size() != taille || effacements_ != surface_.effacements;
-  if (!neuve && traces_ == surface_.traces.size() && points_ == NombrePoints(surface_)) {
+  const bool neuve = tourne || lignes_.size() != taille || effacements_ != surface_.effacements;
+  if (!neuve && !retiree && traces_ == surface_.traces.size() && points_ == NombrePoints(surface_)) {
     return;
   }
-  if (image_.size() != taille) {
-    image_ = QImage(taille, QImage::Format_RGB32);
-    image_.setDevicePixelRatio(devicePixelRatioF());
+  if (lignes_.size() != taille) {
+    lignes_ = QImage(taille, QImage::Format_RGB32);
+    lignes_.setDevicePixelRatio(devicePixelRatioF());
   }
   if (neuve) {
-    image_.fill(nuit_ ? FondDeNuit(CouleurQt(surface_.fond)) : CouleurQt(surface_.fond));
+    lignes_.fill(nuit_ ? FondDeNuit(CouleurQt(surface_.fond)) : CouleurQt(surface_.fond));
     traces_ = 0;
-    figures_.clear();
   }
+  const double facteur = PixelsParTwip(*this);
+  {
+    QPainter painter(&lignes_);
+    // The last polyline may have grown since it was painted: it is painted again.
+    const bool reprise = traces_ > 0 && traces_ <= surface_.traces.size() && points_ != 0;
+    PeintLignes(painter, surface_, facteur, reprise ? traces_ - 1 : traces_, {.nuit = nuit_});
+  }
+  image_ = lignes_;
   QPainter painter(&image_);
-  // The last polyline may have grown since it was painted: it is painted again.
-  const bool reprise = traces_ > 0 && traces_ <= surface_.traces.size() && points_ != 0;
-  PeintTraces(painter, surface_, PixelsParTwip(*this), reprise ? traces_ - 1 : traces_, figures_,
-              {nuit_, textesEntiers_});
+  if (neuve || retiree || TexteDepuis(traces_)) {
+    textes_ = TextesPeints(painter, surface_, facteur);
+  }
+  PeintTextes(painter, surface_, facteur, textes_, {.nuit = nuit_});
   effacements_ = surface_.effacements;
   traces_ = surface_.traces.size();
   points_ = NombrePoints(surface_);
@@ -267,8 +286,10 @@ void Toile::mousePressEvent(QMouseEvent *event) {
     return;
   }
   presseDroite_ = event->position();
-  Mouvement(*event);
   const double facteur = PixelsParTwip(*this);
+  if (auMouvement) { // to the place of the press, with no button held yet
+    auMouvement(false, event->position().x() / facteur, event->position().y() / facteur);
+  }
   auPresse(gauche, event->position().x() / facteur, event->position().y() / facteur);
 }
 
@@ -280,9 +301,9 @@ void Toile::mouseMoveEvent(QMouseEvent *event) {
   }
 }
 
-void Toile::mouseReleaseEvent(QMouseEvent * /*event*/) {
+void Toile::mouseReleaseEvent(QMouseEvent *event) {
   if (auRelache) {
-    auRelache();
+    auRelache(event->button());
   }
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "foundations/PlaceTextes.hpp"
 #include "foundations/Surface.hpp"
 
 #include <QImage>
@@ -28,23 +29,33 @@ QColor CouleurQt(Couleur couleur);
 
 /// How a surface is painted.
 struct Maniere {
-  bool nuit = false;          ///< in red on black
-  bool textesEntiers = false; ///< a text that the lower edge would cut is moved up
-  double pixel = 1.0;         ///< painter's units that a line of width 1 takes
+  bool nuit = false;  ///< in red on black
+  double pixel = 1.0; ///< painter's units that a line of width 1 takes
 };
 
-/// Paints part of what is recorded on a surface, lines first and texts over them. A coloured text that would
-/// overprint one before it, or one that insists, is left out: so the figures of a fine grid and the names of cities
-/// stay readable.
-/// @param painter    its unit is the toolkit's pixel, or a printer's
-/// @param facteur    units per 1/1440 inch
-/// @param premier    first recorded trace to paint
-/// @param maniere    how, beyond what is recorded
-/// @param figures    places of the coloured figures on the image, of this call and those before
-void PeintTraces(QPainter &painter, const Surface &surface, double facteur, std::size_t premier,
-                 std::vector<QRectF> &figures, Maniere maniere = {});
+/// Paints lines and circles of a surface.
+/// @param painter  its unit is the toolkit's pixel, or a printer's
+/// @param facteur  units per 1/1440 inch
+/// @param premier  first recorded trace to paint
+/// @param maniere  how, beyond what is recorded
+void PeintLignes(QPainter &painter, const Surface &surface, double facteur, std::size_t premier, Maniere maniere);
 
-/// Shows a recorded surface: it is painted once into an image at the screen's resolution, then only what is appended.
+/// The texts of a surface that are painted, and where, by the sizes that they have with a painter.
+/// @param painter, facteur  as for PeintLignes
+std::vector<TextePlace> TextesPeints(const QPainter &painter, const Surface &surface, double facteur);
+
+/// Paints texts of a surface in given places.
+/// @param painter, facteur, maniere  as for PeintLignes
+void PeintTextes(QPainter &painter, const Surface &surface, double facteur, const std::vector<TextePlace> &textes,
+                 Maniere maniere);
+
+/// Paints what is recorded on a surface, lines first and over them the texts that are to be seen.
+/// @param painter, facteur, maniere  as for PeintLignes
+/// @return the texts painted, in 1/1440 inch
+std::vector<TextePlace> PeintTraces(QPainter &painter, const Surface &surface, double facteur, Maniere maniere = {});
+
+/// Shows a recorded surface: lines are painted once into an image at the screen's resolution, then only what is
+/// appended; the texts, which give way to one another, over a copy of it.
 class Toile : public QWidget {
 public:
   Toile(const Surface &surface, QWidget *parent);
@@ -63,7 +74,7 @@ public:
   /// A button goes down, after a move to that place: the left one or else the right one.
   std::function<void(bool, double, double)> auPresse;
   /// The left button comes up.
-  std::function<void()> auRelache;
+  std::function<void(Qt::MouseButton)> auRelache;
   /// The wheel with the control key: notches, away from the user above 0.
   std::function<void(int)> auZoom;
   std::function<void()> auClic;
@@ -75,16 +86,16 @@ protected:
   void mouseReleaseEvent(QMouseEvent *event) override;
   void wheelEvent(QWheelEvent *event) override;
 
-  bool textesEntiers_ = false; ///< a text that the lower edge would cut is moved up
-
 private:
   void Mouvement(const QMouseEvent &event) const;
+  bool TexteDepuis(std::size_t premier) const;
 
   const Surface &surface_;
-  QImage image_;
+  QImage lignes_; ///< lines and circles
+  QImage image_;  ///< and the texts over them
   std::uint64_t effacements_ = 0;
   std::size_t traces_ = 0;
-  std::vector<QRectF> figures_;
+  std::vector<TextePlace> textes_;
   std::size_t points_ = 0; ///< of the last trace painted, which may have grown since
   bool nuit_ = false;      ///< the image is painted by night
   std::optional<QLineF> elastique_;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "shell/ciel/LabelsCiel.hpp"
 #include "shell/fenetres/Ciel.hpp"
 #include "shell/qt/Toile.hpp"
 
@@ -8,7 +9,7 @@
 namespace velmaris::qt {
 
 /// The sky's chart: lines and scale as recorded, and over them the bodies, which it paints from their controls without
-/// a widget for each. A label that would overprint a greater one is left out until the pointer finds it.
+/// a widget for each. What is painted is what the pointer finds.
 class ToileCiel : public Toile {
 public:
   ToileCiel(const Ciel &ciel, QWidget *parent);
@@ -18,13 +19,14 @@ public:
 
   void Accorde() override;
 
-  /// The label or picture of the body at a place, in the stacking order; the mark of a star or a planet stands for its
-  /// label, and its disc goes before the labels of other stars.
-  /// @return null for none
-  Controle *CorpsSous(QPointF pixel) const;
+  /// The body at a place.
+  ciel::AstreTrouve CorpsSous(QPointF pixel) const;
 
-  std::function<void(Controle &)> auSurvol; ///< the pointer is over a body
-  std::function<void(Controle &)> auChoix;  ///< the left button goes down on one
+  /// The pointer is over a body: its label or picture, and what lies under the pointer
+  std::function<void(Controle &, Controle &)> auSurvol;
+  /// What is told of a body beside its name
+  std::function<std::string(const Controle &)> auAide;
+  std::function<void(Controle &)> auChoix; ///< the left button goes down on one
   /// A key on the chart; @return whether it does something
   std::function<bool(int)> auTouche;
 
@@ -39,12 +41,11 @@ protected:
 
 private:
   QRectF Zone(const Controle &corps) const;
-  Controle *EtiquetteDe(const Controle &marque) const;
+  QRectF Zone(const ZoneTexte &zone) const;
   QColor Encre(Couleur couleur) const;
   void PeintMarque(QPainter &painter, const Controle &marque) const;
   void PeintImage(QPainter &painter, const Controle &astre) const;
-  void PeintEtiquette(QPainter &painter, const Controle &etiquette) const;
-  std::vector<const Controle *> EtiquettesLisibles() const;
+  void PeintEtiquette(QPainter &painter, const Controle &etiquette, const QRectF &zone) const;
 
   const Ciel &ciel_;
   std::vector<Controle *> corps_;

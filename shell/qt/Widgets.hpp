@@ -2,24 +2,24 @@
 
 #include "shell/bureau/Bureau.hpp"
 
-#include <QColor>
 #include <QWidget>
 
 namespace velmaris::qt {
 
-/// Makes the widget that shows a control; it bears the control's name and index as its object name.
-/// @return null for words that no control shows, and for menus and their entries
-QWidget *CreeWidget(Bureau &bureau, const Controle &controle, QWidget *parent);
+/// A text of the core as the toolkit's.
+QString Texte(const std::string &texte);
 
-/// Brings a widget in line with its control.
-/// @param vu  the control as the widget showed it last
-void AccordeWidget(QWidget &widget, const Controle &controle, const Controle &vu, bool tout);
+/// Whether a caption is the letter of a star, which is shown as a Greek one.
+bool EstLettre(const Controle &controle);
 
-/// Brings the colours and the picture of a widget in line with the day or the night.
-void AccordeTeintes(QWidget &widget, const Controle &controle);
+/// A caption as the toolkit takes it: an ampersand marks a key only where the control has one.
+QString Legende(const Controle &controle);
 
 /// A caption broken into lines so that it fits a width; a single line when it does, or when there is no room for two.
 QString CoupeLegende(const QString &texte, const QWidget &widget, double largeur, double hauteur);
+
+/// A tool tip whose words are shown as they stand: what looks like markup, in a stored name say, is none.
+QString Infobulle(const std::string &texte);
 
 /// The place of a control in the toolkit's pixels.
 QRect PlaceQt(const Place &place, const QWidget &widget);

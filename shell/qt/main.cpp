@@ -1,10 +1,13 @@
+#include "foundations/Sauvegarde.hpp"
 #include "shell/Demarrage.hpp"
+#include "shell/Reprise.hpp"
 #include "shell/Sortie.hpp"
 #include "shell/droites/FichierVisee.hpp"
 #include "shell/qt/Apparence.hpp"
 #include "shell/qt/Commande.hpp"
 #include "shell/qt/Fenetre.hpp"
 #include "shell/qt/PortsQt.hpp"
+#include "shell/qt/Signaux.hpp"
 #include "shell/qt/Toile.hpp"
 
 #include <QApplication>
@@ -48,7 +51,10 @@ int main(int argc, char **argv) {
     velmaris::Secours(bureau, erreur);
     return 1;
   }
+  velmaris::PoseSignauxMortels();
+  velmaris::OuvreReprise(bureau);
   velmaris::qt::Scene scene(bureau);
+  const velmaris::qt::Signaux signaux(scene);
   velmaris::qt::Fenetre fenetre(scene);
   fenetre.show();
   QTimer::singleShot(0, &fenetre, [&] {

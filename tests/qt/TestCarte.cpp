@@ -108,11 +108,11 @@ TEST_F(CarteOuverte, TheWheelWithTheControlKeyTurnsTheZoomByWholeNotches) {
   EXPECT_EQ(d.HScroll1.valeur, 2000);
 }
 
-TEST_F(CarteOuverte, PlusAndMinusTurnTheZoomUnlessTheyAreTyped) {
+TEST_F(CarteOuverte, PlusAndMinusTurnTheZoomOnTheSurfaceAndAreTypedInAField) {
   OuvreFeuille();
-  Touche(Trouve<QWidget>("Command2"), Qt::Key_Minus, "-");
+  Touche(toile, Qt::Key_Minus, "-");
   EXPECT_EQ(d.HScroll1.valeur, 2500);
-  Touche(Trouve<QWidget>("HScroll1"), Qt::Key_Plus, "+");
+  Touche(toile, Qt::Key_Plus, "+");
   EXPECT_EQ(d.HScroll1.valeur, 2000);
   auto *champ = Trouve<QLineEdit>("Text11");
   champ->setFocus();
@@ -144,6 +144,20 @@ TEST_F(CarteOuverte, LegsAreMeasuredByTheMouseAndATremblingHandLosesNone) {
   ASSERT_EQ(d.List1.liste.size(), 1U);
   EXPECT_EQ(d.Label15.legende, milles);
   EXPECT_EQ(std::stoi(d.List1.liste[0]), std::stoi(milles));
+}
+
+TEST_F(CarteOuverte, AMiddleOrLeftClickInDistanceModeEndsNoLeg) {
+  OuvreFeuille();
+  Joue([this] { ClicControle(bureau, d.PU_Distance); });
+  ClicDroit({300, 300});
+  Bouge({500, 300});
+  for (const Qt::MouseButton bouton : {Qt::MiddleButton, Qt::LeftButton}) {
+    Presse({500, 300}, bouton);
+    Lache({500, 300}, bouton);
+    EXPECT_TRUE(d.List1.liste.empty());
+  }
+  ClicDroit({500, 300});
+  EXPECT_EQ(d.List1.liste.size(), 1U);
 }
 
 TEST_F(CarteOuverte, ThePresentLegIsSeenWhileThePointerMovesAndIsNoPartOfTheSurface) {
@@ -231,8 +245,7 @@ QImage Peint(const Surface &surface, double facteur, QSize taille) {
   QImage image(taille, QImage::Format_RGB32);
   image.fill(Qt::white);
   QPainter painter(&image);
-  std::vector<QRectF> figures;
-  qt::PeintTraces(painter, surface, facteur, 0, figures);
+  qt::PeintTraces(painter, surface, facteur);
   return image;
 }
 
@@ -255,33 +268,6 @@ TEST(Peinture, PointsCloserThanAQuarterPixelMakeNoDifferenceThatCanBeSeen) {
     }
   }
   EXPECT_LT(ecarts, 20) << "of some 1500 pixels of the line";
-}
-
-TEST(Peinture, ATextThatInsistsIsPaintedAndTheOthersGiveWay) {
-  const auto peint = [](bool insiste) {
-    Surface surface = SurfaceNeuve(6000, 6000);
-    surface.encre = kRouge;
-    EcritEn(surface, {1000, 1000}, "Brest");
-    surface.encre = kBleu;
-    surface.insistant = insiste;
-    EcritEn(surface, {1000, 1000}, "Phare");
-    return Peint(surface, 1 / 15.0, {400, 400});
-  };
-  const auto compte = [](const QImage &image, auto &&teinte) {
-    int pixels = 0;
-    for (int y = 0; y < image.height(); ++y) {
-      for (int x = 0; x < image.width(); ++x) {
-        pixels += teinte(image.pixelColor(x, y)) ? 1 : 0;
-      }
-    }
-    return pixels;
-  };
-  const auto rouge = [](const QColor &c) { return c.red() > 200 && c.blue() < 100; };
-  const auto bleu = [](const QColor &c) { return c.blue() > 200 && c.red() < 100; };
-  EXPECT_GT(compte(peint(false), rouge), 10);
-  EXPECT_EQ(compte(peint(false), bleu), 0);
-  EXPECT_EQ(compte(peint(true), rouge), 0);
-  EXPECT_GT(compte(peint(true), bleu), 10);
 }
 
 TEST(Peinture, AnIsletUnderAQuarterPixelIsNotPaintedAndIsSeenNearer) {

@@ -74,7 +74,7 @@ protected:
       Controle &label = c.Laet[i];
       const QPointF milieu = Milieu(label);
       if (label.gras && label.legende != "   " && milieu.y() > 20 && milieu.y() < Toile().height() - 20 &&
-          Toile().CorpsSous(milieu) == &label) {
+          Toile().CorpsSous(milieu).astre == &label) {
         return label;
       }
     }
@@ -141,7 +141,7 @@ TEST_F(CielOuvert, TheMarkOfAStarStandsForItsLabel) {
   Ouvre();
   Controle &label = EtoileLibre();
   const QPointF marque = Milieu(c.Shet[static_cast<std::size_t>(label.indice)]);
-  EXPECT_EQ(Toile().CorpsSous(marque), &label);
+  EXPECT_EQ(Toile().CorpsSous(marque).astre, &label);
 }
 
 TEST_F(CielOuvert, AClickOnAStarChoosesItForTheSightAndTheMainWindowComesToTheFront) {
@@ -158,7 +158,7 @@ TEST_F(CielOuvert, AClickOnTheMoonAndAPlanetChoosesThem) {
   temps.heure = 20;
   Ouvre();
   for (auto &[corps, rang] : {std::pair<Controle *, std::size_t>{&c.SOL, 0U}, {&c.Lune, 1U}, {&c.LaP[0], 2U}}) {
-    if (Toile().CorpsSous(Milieu(*corps)) == corps) {
+    if (Toile().CorpsSous(Milieu(*corps)).astre == corps) {
       Clique(Milieu(*corps));
       EXPECT_TRUE(d.Option7.at(rang).choisi) << corps->nom;
     }

@@ -34,8 +34,7 @@ TEST_F(FenetreOuverte, ASurfaceIsPaintedAtAnyDensityWithTheSameDrawing) {
     image.setDevicePixelRatio(densite);
     image.fill(Qt::white);
     QPainter painter(&image);
-    std::vector<QRectF> figures;
-    qt::PeintTraces(painter, bureau.image1, 96 / 1440.0, 0, figures);
+    qt::PeintTraces(painter, bureau.image1, 96 / 1440.0);
     painter.end();
     return image;
   };
@@ -84,12 +83,11 @@ TEST_F(FenetreOuverte, FiguresOfAFineGridDoNotOverprintEachOther) {
   });
   QImage image(1900, 900, QImage::Format_RGB32);
   QPainter painter(&image);
-  std::vector<QRectF> figures;
-  qt::PeintTraces(painter, bureau.image1, 96 / 1440.0, 0, figures);
+  const std::vector<TextePlace> figures = qt::PeintTraces(painter, bureau.image1, 96 / 1440.0);
   EXPECT_GT(figures.size(), 50U);
   for (std::size_t i = 0; i < figures.size(); ++i) {
     for (std::size_t j = i + 1; j < figures.size(); ++j) {
-      EXPECT_FALSE(figures[i].intersects(figures[j]));
+      EXPECT_FALSE(SeCoupent(figures[i].zone, figures[j].zone));
     }
   }
 }

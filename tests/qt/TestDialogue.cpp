@@ -12,6 +12,7 @@
 #include <QPushButton>
 #include <QTimer>
 
+#include <algorithm>
 #include <ctime>
 
 namespace velmaris::essais {
@@ -96,6 +97,24 @@ TEST_F(DialogueOuvert, AFolderIsChosenByTheArrowsAndEnteredByReturn) {
     Touche(dossiers, Qt::Key_Return);
     EXPECT_TRUE(dialogue.isVisible());
     EXPECT_EQ(dialogue.findChild<QListWidget *>("File1")->item(0)->text(), "dedans.LoP");
+    auto *nom = dialogue.findChild<QLineEdit *>("FName");
+    EXPECT_EQ(nom->text(), "15MAR09 120530.LoP");
+    EXPECT_EQ(nom->selectedText(), nom->text());
+    EXPECT_EQ(dialogue.focusWidget(), nom);
+    Touche(nom, Qt::Key_Return);
+  };
+  EXPECT_EQ(Choisit(), Accueil() / "croisière" / "15MAR09 120530.LoP");
+}
+
+TEST_F(DialogueOuvert, OkOnAChosenFolderEntersItAndBringsThePattern) {
+  Ouvre(kPetitEcran);
+  std::filesystem::create_directories(Accueil() / "croisière");
+  joue = [&](qt::Dialogue &dialogue) {
+    auto *dossiers = dialogue.findChild<QListWidget *>("Dir1");
+    dossiers->setFocus(Qt::TabFocusReason);
+    Touche(dossiers, Qt::Key_Down);
+    dialogue.findChild<QPushButton *>("OK")->click();
+    EXPECT_TRUE(dialogue.isVisible());
     EXPECT_EQ(dialogue.findChild<QLineEdit *>("FName")->text(), "*LoP");
     dialogue.reject();
   };
@@ -162,6 +181,29 @@ TEST_F(DialogueOuvert, ADeletedFileGoesToTheDesktopsTrash) {
   EXPECT_FALSE(std::filesystem::exists(Accueil() / "vieux.LoP"));
   EXPECT_EQ(Contenu(dossier.chemin() / "xdg" / "Trash" / "files" / "vieux.LoP"), "contenu");
   ancien.isEmpty() ? qunsetenv("XDG_DATA_HOME") : qputenv("XDG_DATA_HOME", ancien);
+}
+
+TEST_F(DialogueOuvert, AFileWhoseNameIsNoUtf8IsChosenByTheListAndDeletedWhileItsNeighboursStay) {
+  Ouvre(kPetitEcran);
+  const std::string nom = "no\xEBl.LoP";
+  for (const std::string &voisin : {nom, std::string("no\xE9l.LoP"), std::string("no\xEF\xBF\xBDl.LoP")}) {
+    Pose(Accueil() / voisin, voisin);
+  }
+  const qt::Boites ports(bureau);
+  joue = [&](qt::Dialogue &dialogue) {
+    auto *liste = dialogue.findChild<QListWidget *>("File1");
+    ASSERT_EQ(liste->count(), 3);
+    const auto &noms = bureau.fselect.File1.liste;
+    liste->setCurrentRow(static_cast<int>(std::find(noms.begin(), noms.end(), nom) - noms.begin()));
+    EXPECT_EQ(bureau.fselect.FName.texte, nom);
+    dialogue.findChild<QPushButton *>("Command1")->click();
+    EXPECT_EQ(liste->count(), 2);
+    dialogue.reject();
+  };
+  Choisit();
+  EXPECT_FALSE(std::filesystem::exists(Accueil() / nom));
+  EXPECT_EQ(Contenu(Accueil() / "no\xE9l.LoP"), "no\xE9l.LoP");
+  EXPECT_EQ(Contenu(Accueil() / "no\xEF\xBF\xBDl.LoP"), "no\xEF\xBF\xBDl.LoP");
 }
 
 TEST_F(DialogueOuvert, AFileThatNeverEndsLeavesTheInterfaceAliveAndIdleAndTheProgramCanBeLeft) {

@@ -6,6 +6,7 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QSlider>
+#include <QTextDocument>
 
 namespace velmaris::essais {
 namespace {
@@ -183,6 +184,17 @@ TEST_F(FenetreOuverte, TheLitLimbStandsOutWithinItsPlaceInBothLanguages) {
 TEST_F(FenetreOuverte, ToolTipsAreInTheLanguageOfTheWindow) {
   Ouvre(kPetitEcran, true);
   EXPECT_EQ(Trouve<QWidget>("Command6")->toolTip(), "Clears the screen");
+}
+
+TEST_F(FenetreOuverte, AStoredNameThatLooksLikeMarkupIsShownAsItStandsInAToolTip) {
+  Ouvre(kPetitEcran);
+  for (const std::string nom : {"<b>Véga</b><img src='/etc/x'>", "<qt>a &amp; b", "Véga", "a < b"}) {
+    Joue([&] { d.Droite[0].infobulle = nom; });
+    const QString bulle = Trouve<QWidget>("Droite0")->toolTip();
+    QTextDocument shown;
+    Qt::mightBeRichText(bulle) ? shown.setHtml(bulle) : shown.setPlainText(bulle);
+    EXPECT_EQ(shown.toPlainText().toStdString(), nom);
+  }
 }
 
 TEST_F(FenetreOuverte, TheGuidesKeyHeldDownOpensItOnce) {

@@ -4,6 +4,7 @@
 #include "shell/qt/Imprimante.hpp"
 #include "shell/qt/PortsQt.hpp"
 
+#include <QEventLoop>
 #include <QMessageBox>
 #include <QPageSize>
 #include <QPrintDialog>
@@ -224,6 +225,54 @@ TEST_F(PageOuverte, ABoxThatGoesIsNoComingToTheFront) {
   EXPECT_EQ(bureau.impression.prises, prises);
 }
 
+TEST_F(PageOuverte, AWindowThatCameBetweenABoxAndThePageBringsThePageToTheFront) {
+  OuvrePage();
+  bureau.impression.Frame1.visible = false; // as a failed printing leaves it
+  const unsigned prises = bureau.impression.prises;
+  QMessageBox boite(Page());
+  QTimer::singleShot(0, &boite, [&] {
+    boite.activateWindow();
+    QApplication::processEvents();
+    boite.accept();
+    fenetre->activateWindow();
+    QApplication::processEvents();
+  });
+  boite.exec();
+  fenetre->activateWindow();
+  QApplication::processEvents();
+  Page()->activateWindow();
+  QApplication::processEvents();
+  EXPECT_EQ(bureau.impression.prises, prises + 1);
+  EXPECT_TRUE(Page()->findChild<QPushButton *>("Command1")->isVisible());
+}
+
+TEST_F(PageOuverte, TheBoxOfAFailedPrintingBelongsToThePage) {
+  OuvrePage();
+  qt::Boites ports(bureau);
+  ports.Ouvre(scene, *fenetre);
+  bureau.ports.imprime = [](const Impression &) { return false; };
+  fenetre->activateWindow(); // as when the printer's dialog has given the focus to another window
+  QApplication::processEvents();
+  const QWidget *parent = nullptr;
+  QTimer::singleShot(0, fenetre.get(), [&] {
+    QWidget *boite = QApplication::activeModalWidget();
+    ASSERT_NE(boite, nullptr);
+    parent = boite->parentWidget();
+    boite->close();
+  });
+  Joue([this] { ClicControle(bureau, bureau.impression.Command1); });
+  EXPECT_NE(Page(), nullptr);
+  EXPECT_EQ(parent, Page());
+}
+
+TEST_F(PageOuverte, ItsTitleLiesOnTheScreen) {
+  OuvrePage(kPetitEcran);
+  const QRect libre = Page()->screen()->availableGeometry();
+  EXPECT_GE(Page()->frameGeometry().top(), libre.top());
+  EXPECT_LE(Page()->frameGeometry().top() + 32 + Page()->height(), libre.bottom() + 1) << "its title over it";
+  EXPECT_GE(Page()->geometry().left(), libre.left());
+}
+
 TEST_F(PageOuverte, ASmallScreenShowsThePageSmallerWithItsButtonInReach) {
   OuvrePage(kEcranBas);
   auto *bouton = Page()->findChild<QPushButton *>("Command1");
@@ -298,6 +347,33 @@ TEST_F(Imprimeur, APrintingThatFailsIsToldByItsMessage) {
   EXPECT_EQ(boites[0].texte, bureau.messages[24]);
   EXPECT_FALSE(bureau.impression.Frame1.visible);
   EXPECT_TRUE(Page()->isVisible());
+}
+
+TEST_F(Imprimeur, ReturnPrintsToTheNameThatIsTypedWhateverFilesLieThere) {
+  OuvrePage();
+  Pose(dossier / "page.pdf.ancien", "avant");
+  Imprime([this](QPrintDialog &dialogue) {
+    auto *nom = dialogue.findChild<QLineEdit *>("filename");
+    ASSERT_NE(nom, nullptr);
+    nom->setFocus();
+    nom->clear();
+    for (const QChar &lettre : Pdf()) {
+      Touche(nom, 0, lettre);
+    }
+    // A list of the folder's files would be filled from the disk, and open by itself over the field.
+    for (int i = 0; i < 20 && QApplication::activePopupWidget() == nullptr; ++i) {
+      QEventLoop pause;
+      QTimer::singleShot(50, &pause, &QEventLoop::quit);
+      pause.exec();
+    }
+    QWidget *cible = QApplication::activePopupWidget();
+    Touche(cible == nullptr ? nom : cible, Qt::Key_Return);
+    EXPECT_FALSE(dialogue.isVisible());
+    if (dialogue.isVisible()) {
+      dialogue.reject();
+    }
+  });
+  EXPECT_EQ(Contenu(Pdf().toStdString()).substr(0, 5), "%PDF-");
 }
 
 TEST_F(Imprimeur, TheDialogSpeaksTheLanguageOfTheProgram) {

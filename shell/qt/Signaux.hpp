@@ -1,0 +1,27 @@
+#pragma once
+
+#include <QSocketNotifier>
+
+#include <memory>
+
+namespace velmaris::qt {
+
+class Scene;
+
+/// The signals that ask a program to end (from a session that closes, a terminal that goes, a hand): the program then
+/// ends in order, without a question, and leaves the recovery file. A second signal of the kind kills.
+class Signaux {
+public:
+  explicit Signaux(Scene &scene);
+  ~Signaux();
+  Signaux(const Signaux &) = delete;
+  Signaux &operator=(const Signaux &) = delete;
+  Signaux(Signaux &&) = delete;
+  Signaux &operator=(Signaux &&) = delete;
+
+private:
+  int numero_; ///< that a handler writes to, and the event loop waits at
+  std::unique_ptr<QSocketNotifier> guet_;
+};
+
+} // namespace velmaris::qt

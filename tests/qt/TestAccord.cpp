@@ -1,0 +1,238 @@
+#include "OutilsFenetre.hpp"
+
+#include "shell/qt/Dialogue.hpp"
+#include "shell/qt/Toile.hpp"
+
+#include <QAbstractItemView>
+#include <QComboBox>
+#include <QListWidget>
+#include <QSlider>
+#include <QTimer>
+#include <QWheelEvent>
+
+#include <cstdlib>
+#include <random>
+
+/// What stands on the screen is what is worked with: every widget shows what its control holds.
+namespace velmaris::essais {
+namespace {
+
+/// How many random events are sent to each window; a long run sets the variable.
+int Evenements() {
+  const char *nombre = std::getenv("VELMARIS_EVENEMENTS");
+  return nombre == nullptr ? 1500 : std::atoi(nombre);
+}
+
+class Accord : public FenetreOuverte {
+protected:
+  void Verifie(const std::string &apres) {
+    if (const Controle *ecart = scene.Ecart()) {
+      ADD_FAILURE() << ecart->fenetre << " " << ecart->nom << " " << ecart->indice << " after " << apres;
+      scene.Accorde();
+      fin = true;
+    }
+  }
+
+  void Lettre(QWidget *widget, QChar lettre) {
+    const int touche = lettre.isLetterOrNumber() ? lettre.toUpper().unicode() : lettre.unicode();
+    Touche(widget, touche, lettre);
+  }
+
+  /// Types a text into a field key by key, in the place of what is there, and leaves it.
+  void TapeDans(QLineEdit *champ, const QString &texte) {
+    champ->setFocus(Qt::TabFocusReason);
+    champ->selectAll();
+    for (const QChar lettre : texte) {
+      Lettre(champ, lettre);
+      Verifie(champ->objectName().toStdString() + " " + texte.toStdString());
+    }
+    champ->clearFocus();
+    QApplication::processEvents();
+    Verifie(champ->objectName().toStdString() + " left");
+  }
+
+  std::size_t Tire(std::size_t nombre) { return std::uniform_int_distribution<std::size_t>(0, nombre - 1)(hasard); }
+
+  void Souris(QWidget *widget, QEvent::Type genre, QPointF place, Qt::MouseButton bouton) {
+    const Qt::MouseButtons boutons = genre == QEvent::MouseButtonRelease ? Qt::NoButton : Qt::MouseButtons(bouton);
+    QMouseEvent souris(genre, place, widget->mapToGlobal(place), bouton, boutons, Qt::NoModifier);
+    QApplication::sendEvent(widget, &souris);
+  }
+
+  /// One event that a user could bring about in a window.
+  void EvenementAuHasard(QWidget &dans) {
+    QList<QWidget *> widgets;
+    for (auto *widget : dans.findChildren<QWidget *>()) {
+      if (widget->isVisible() && widget->isEnabled()) {
+        widgets << widget;
+      }
+    }
+    if (widgets.isEmpty()) {
+      return;
+    }
+    QWidget *widget = widgets[static_cast<qsizetype>(Tire(static_cast<std::size_t>(widgets.size())))];
+    const QPointer<QObject> vie = widget;
+    dernier = widget->objectName().toStdString() + " of " + widget->metaObject()->className();
+    const QPointF place(static_cast<double>(Tire(static_cast<std::size_t>(widget->width() + 1))),
+                        static_cast<double>(Tire(static_cast<std::size_t>(widget->height() + 1))));
+    constexpr std::array kTouches = {Qt::Key_Tab,  Qt::Key_Backtab, Qt::Key_Up,     Qt::Key_Down, Qt::Key_Space,
+                                     Qt::Key_Home, Qt::Key_End,     Qt::Key_Delete, Qt::Key_F3,   Qt::Key_Backspace};
+    switch (Tire(7)) {
+    case 0:
+    case 1:
+      Souris(widget, QEvent::MouseButtonPress, place, Qt::LeftButton);
+      if (!vie.isNull()) {
+        Souris(widget, QEvent::MouseButtonRelease, place, Qt::LeftButton);
+      }
+      break;
+    case 2:
+      widget->setFocus(Qt::MouseFocusReason);
+      break;
+    case 3: {
+      QWheelEvent molette(place, widget->mapToGlobal(place), {}, QPoint(0, Tire(2) == 0 ? 120 : -120), Qt::NoButton,
+                          Qt::NoModifier, Qt::NoScrollPhase, false);
+      QApplication::sendEvent(widget, &molette);
+      break;
+    }
+    case 4:
+      Touche(widget, kTouches.at(Tire(kTouches.size())));
+      break;
+    default:
+      if (QWidget *actif = dans.focusWidget(); actif != nullptr) {
+        constexpr std::string_view kSignes = "0123456789.,-NSaZ ";
+        Lettre(actif, QLatin1Char(kSignes.at(Tire(kSignes.size()))));
+      }
+    }
+    QApplication::processEvents();
+  }
+
+  /// So many events in a window, as long as it shows.
+  void AuHasard(QWidget &dans) {
+    for (int i = 0; i < Evenements() && dans.isVisible() && !bureau.termine && !fin; ++i) {
+      EvenementAuHasard(dans);
+      Verifie(dernier);
+    }
+  }
+
+  /// The window of a frame beside the main one.
+  QWidget *Libre(const CadreFenetre &cadre) {
+    for (auto *fille : fenetre->findChildren<QDialog *>(QString(), Qt::FindDirectChildrenOnly)) {
+      if (fille->isVisible() && fille->windowTitle().toStdString() == cadre.titre) {
+        return fille;
+      }
+    }
+    return nullptr;
+  }
+
+  std::mt19937 hasard{20261122};
+  std::string dernier;
+  bool fin = false;
+};
+
+TEST_F(Accord, AFieldShowsWhatTheSightIsReducedWith) {
+  Ouvre(kGrandEcran);
+  auto *fraction = Trouve<QLineEdit>("Text25");
+  TapeDans(fraction, "345");
+  EXPECT_EQ(d.Text25.texte, "34");
+  EXPECT_EQ(fraction->text(), "34");
+}
+
+TEST_F(Accord, EveryFieldOfTheMainWindowShowsItsControlWhateverIsTyped) {
+  Ouvre(kGrandEcran);
+  for (Controle *module : {&d.Frame4, &d.Frame2}) {
+    module->visible = true;
+  }
+  scene.Accorde();
+  for (auto *champ : fenetre->findChildren<QLineEdit *>()) {
+    if (!champ->isVisible() || champ->isReadOnly()) {
+      continue;
+    }
+    for (const char *texte : {"345", "0", "61", "-7", "12,5", "12.5", "abc", "1e3", "99999", "  8"}) {
+      TapeDans(champ, texte);
+    }
+  }
+}
+
+TEST_F(Accord, RandomEventsInTheMainWindowLeaveNoDifference) {
+  Ouvre(kGrandEcran);
+  reponse = false; // questions are answered with No
+  for (Controle *module : {&d.Frame10, &d.Frame4, &d.Frame2, &d.Frame8, &d.FOptionCarte}) {
+    module->visible = true;
+  }
+  d.Check2.valeur = 0;
+  scene.Accorde();
+  AuHasard(*fenetre);
+}
+
+TEST_F(Accord, RandomEventsInTheEditorOfObjectsLeaveNoDifference) {
+  Ouvre(kGrandEcran);
+  for (int tour = 0; tour < 3; ++tour) {
+    d.FOptionCarte.visible = true;
+    Joue([this] { ClicControle(bureau, d.Command18); });
+    QWidget *editeur = Libre(bureau.utilisateur.cadre);
+    ASSERT_NE(editeur, nullptr);
+    AuHasard(*editeur);
+  }
+}
+
+TEST_F(Accord, RandomEventsInTheSkyLeaveNoDifference) {
+  Ouvre(kGrandEcran);
+  for (int tour = 0; tour < 3; ++tour) {
+    Joue([this] { ClicControle(bureau, d.Command13); });
+    QWidget *ciel = Libre(bureau.ciel.cadre);
+    ASSERT_NE(ciel, nullptr);
+    AuHasard(*ciel);
+  }
+}
+
+TEST_F(Accord, RandomEventsInTheDialogsLeaveNoDifference) {
+  Ouvre(kGrandEcran);
+  for (const char *nom : {"a.LoP", "b.LoP", "c.txt"}) {
+    Pose(bureau.dossiers.accueil / nom, "x");
+  }
+  std::filesystem::create_directories(bureau.dossiers.accueil / "dossier");
+  bureau.ports.ouvre = [](const std::string &, const std::function<void()> &) {};
+  bureau.ports.modale = [this](CadreFenetre &cadre) {
+    for (int tour = 0; tour < 3 && !fin; ++tour) {
+      cadre.visible = true;
+      qt::Dialogue dialogue(scene, cadre, fenetre.get());
+      dialogue.MontreACote();
+      AuHasard(dialogue);
+    }
+    cadre.visible = false;
+  };
+  Joue([this] { ClicControle(bureau, d.Command3); });
+  Joue([this] { ClicControle(bureau, d.Command4); });
+  Joue([this] { ClicControle(bureau, d.PU_Apropos); });
+}
+
+TEST_F(Accord, TheWheelOverAClosedListChoosesNothing) {
+  Ouvre(kGrandEcran);
+  Joue([this] {
+    ClicOption(bureau, d.Option7[3]);
+    d.Combo6.visible = true;
+    d.Combo8.visible = false;
+  });
+  auto *liste = Trouve<QComboBox>("Combo6");
+  ASSERT_TRUE(liste->isVisible());
+  const int rang = d.Combo6.rang;
+  Trouve<QLineEdit>("Text13")->setFocus();
+  QWheelEvent molette(QPointF(5, 5), liste->mapToGlobal(QPointF(5, 5)), {}, QPoint(0, -120), Qt::NoButton,
+                      Qt::NoModifier, Qt::NoScrollPhase, false);
+  QApplication::sendEvent(liste, &molette);
+  EXPECT_EQ(d.Combo6.rang, rang);
+  liste->setFocus();
+  QApplication::sendEvent(liste, &molette);
+  EXPECT_EQ(d.Combo6.rang, rang + 1);
+}
+
+TEST_F(Accord, NamesForAScreenReaderFollowTheLanguage) {
+  Ouvre(kGrandEcran);
+  const QString francais = Trouve<QLineEdit>("Text13")->accessibleName();
+  Joue([this] { ClicControle(bureau, d.Image10[1]); });
+  EXPECT_NE(Trouve<QLineEdit>("Text13")->accessibleName(), francais);
+  Verifie("the flag");
+}
+
+} // namespace
+} // namespace velmaris::essais

@@ -1,0 +1,123 @@
+#include "OutilsFenetre.hpp"
+
+#include "shell/ecran/PageImprimee.hpp"
+#include "shell/qt/FenetreImpression.hpp"
+#include "shell/qt/PortsQt.hpp"
+
+#include <QEventLoop>
+#include <QMenu>
+#include <QMessageBox>
+#include <QMetaObject>
+#include <QPointer>
+#include <QTimer>
+
+/// How events go into the core, and what happens to windows meanwhile.
+namespace velmaris::essais {
+namespace {
+
+class SceneOuverte : public FenetreOuverte {
+protected:
+  qt::FenetreImpression *OuvrePage() {
+    Joue([this] { ClicControle(bureau, d.Command11); });
+    for (QWidget *fille : fenetre->findChildren<QWidget *>(QString(), Qt::FindDirectChildrenOnly)) {
+      if (auto *page = dynamic_cast<qt::FenetreImpression *>(fille)) {
+        return page;
+      }
+    }
+    return nullptr;
+  }
+};
+
+TEST_F(SceneOuverte, AWindowPutAwayLivesAsLongAsAnEventIsPlayed) {
+  Ouvre(kGrandEcran);
+  qt::FenetreImpression *page = OuvrePage();
+  ASSERT_NE(page, nullptr);
+  const QPointer<QObject> vie = page;
+  scene.Joue([&] {
+    scene.Joue([&] { ClicControle(bureau, bureau.impression.Image1); });
+    EXPECT_FALSE(page->isVisible());
+    QApplication::processEvents(); // as a long drawing does
+    QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    EXPECT_FALSE(vie.isNull());
+  });
+  QApplication::processEvents();
+  EXPECT_TRUE(vie.isNull());
+}
+
+TEST_F(SceneOuverte, AWindowThatAsksForItsOwnEndLivesUntilItsEventIsOver) {
+  Ouvre(kGrandEcran);
+  qt::FenetreImpression *page = OuvrePage();
+  ASSERT_NE(page, nullptr);
+  const QPointer<QObject> vie = page;
+  page->reject();
+  EXPECT_FALSE(vie.isNull());
+  QApplication::processEvents();
+  EXPECT_TRUE(vie.isNull());
+}
+
+TEST_F(SceneOuverte, APageThatComesToTheFrontLetsNoEventIn) {
+  Ouvre(kGrandEcran);
+  bureau.ports.respire = [] { ADD_FAILURE() << "events are let in"; };
+  bureau.ports.attend = bureau.ports.respire;
+  const unsigned prises = bureau.impression.prises;
+  Impression_Activate(bureau);
+  EXPECT_EQ(bureau.impression.prises, prises + 1);
+}
+
+TEST_F(SceneOuverte, ALongDrawingPaintsTheWindowsAndLetsNoEventIn) {
+  Ouvre(kGrandEcran);
+  qt::Boites ports(bureau);
+  ports.Ouvre(scene, *fenetre);
+  bool minuterie = false;
+  bool evenement = false;
+  QTimer::singleShot(0, fenetre.get(), [&] { minuterie = true; });
+  QMetaObject::invokeMethod(
+      fenetre.get(), [&] { evenement = true; }, Qt::QueuedConnection);
+  bureau.ports.respire();
+  EXPECT_FALSE(minuterie);
+  EXPECT_FALSE(evenement);
+  QApplication::processEvents();
+  EXPECT_TRUE(evenement);
+}
+
+TEST_F(SceneOuverte, ABoxOutlivesTheMenuThatWasOpenWhenItCame) {
+  Ouvre(kGrandEcran);
+  qt::Boites ports(bureau);
+  ports.Ouvre(scene, *fenetre);
+  auto *menu = new QMenu(fenetre.get());
+  menu->addAction("entree");
+  QObject::connect(menu, &QMenu::aboutToHide, menu, &QObject::deleteLater);
+  menu->popup(QPoint(50, 50));
+  ASSERT_EQ(QApplication::activePopupWidget(), menu);
+  bool vue = false;
+  QTimer::singleShot(0, fenetre.get(), [&] {
+    QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    auto *boite = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
+    vue = boite != nullptr && boite->parentWidget() == fenetre.get();
+    EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
+    boite == nullptr ? void() : boite->reject();
+  });
+  bureau.ports.boite({.texte = "Un mot", .icone = Icone::Attention});
+  EXPECT_TRUE(vue);
+  QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+  QApplication::processEvents();
+}
+
+TEST_F(SceneOuverte, APageThatComesToTheFrontIsPaintedAtOnce) {
+  Ouvre(kGrandEcran);
+  qt::FenetreImpression *page = OuvrePage();
+  ASSERT_NE(page, nullptr);
+  struct Guet : QObject {
+    bool eventFilter(QObject * /*objet*/, QEvent *event) override {
+      peinte = peinte || event->type() == QEvent::Paint;
+      return false;
+    }
+    bool peinte = false;
+  } guet;
+  page->installEventFilter(&guet);
+  scene.Joue([&] { Impression_Activate(bureau); });
+  EXPECT_TRUE(guet.peinte);
+}
+
+} // namespace
+} // namespace velmaris::essais
