@@ -4,8 +4,7 @@
 # Usage: astres.sh PROGRAMME IMAGES fr|en EXEMPLES
 PROGRAMME=$1 IMAGES=$2 LANGUE=$3 EXEMPLES=$4
 . "$(dirname "$0")/outils.sh"
-openbox 2>/dev/null &
-sleep 0.5
+gestionnaire
 TAILLE=$(xdpyinfo | awk '/dimensions/ {print $2}' | cut -dx -f1)
 NOM=astres-$LANGUE-$TAILLE
 stocke() { [ "$(reglage "$1")" = "$2" ]; }
@@ -30,7 +29,7 @@ ouvre "24SEP26 203025.LoP" F7 lune
 attends stocke 'AS(2)' 1
 clic 2400 8100 # the details
 image "$NOM-lune-details"
-touche F5; sleep 0.3 # the star again, from its line
+touche F5; pause 0.3 # the star again, from its line
 
 # Without a height of eye the star's sight fails: told, kept, status 1.
 clic 2700 7590; touche ctrl+a BackSpace Tab

@@ -4,13 +4,12 @@
 # Usage: carte.sh PROGRAMME IMAGES fr|en
 PROGRAMME=$1 IMAGES=$2 LANGUE=$3
 . "$(dirname "$0")/outils.sh"
-openbox 2>/dev/null &
-sleep 0.5
+gestionnaire
 TAILLE=$(xdpyinfo | awk '/dimensions/ {print $2}' | cut -dx -f1)
 NOM=carte-$LANGUE-$TAILLE
 
 # Presses the right button at a place of the window in 1/1440 inch.
-point() { va "$1" "$2"; xdotool click 3; sleep 0.2; }
+point() { va "$1" "$2"; xdotool click 3; pause 0.2; }
 # Dark pixels of a result's well in the panel of the sight.
 chiffres() { convert "$IMAGES/$1.png" -crop 180x30+10+590 +repage -threshold 40% -negate -format '%[fx:int(mean*w*h+0.5)]' info:; }
 
@@ -22,31 +21,31 @@ attend_pixels "$NOM-monde" '#0000ff' 500 # lakes
 
 # Three lines on one sheet, the chart with them.
 clic 7700 520
-visee_bretagne; touche space; sleep 0.3
-mode $MODE_ENREGISTRE; touche F6; sleep 0.5
-visee_suivante 08 30 00 47 50 05 50 37 47 20; clic 700 8300; sleep 0.3
-mode $MODE_ENREGISTRE; touche F5; sleep 0.5
-visee_suivante 16 40 00 47 15 04 35 33 41 10; clic 700 8300; sleep 0.3
-mode $MODE_ENREGISTRE; touche F7; sleep 0.5
+visee_bretagne; touche space; pause 0.3
+mode $MODE_ENREGISTRE; touche F6; pause 0.5
+visee_suivante 08 30 00 47 50 05 50 37 47 20; clic 700 8300; pause 0.3
+mode $MODE_ENREGISTRE; touche F5; pause 0.5
+visee_suivante 16 40 00 47 15 04 35 33 41 10; clic 700 8300; pause 0.3
+mode $MODE_ENREGISTRE; touche F7; pause 0.5
 clic 6200 520
-touche F6; touche F5; touche F7; sleep 0.3
+touche F6; touche F5; touche F7; pause 0.3
 clic 7700 520 # the four lines' module goes, the sheet shows
 attend_pixels "$NOM-bretagne" '#646464' 500
 image "$NOM-bretagne"
 
 # The wheel with the control key, and back by the key of the plus sign.
 va 8000 6000
-xdotool keydown ctrl click 5 click 5 click 5 keyup ctrl; sleep 0.5
+xdotool keydown ctrl click 5 click 5 click 5 keyup ctrl; pause 0.5
 image "$NOM-molette"
-touche plus plus plus; sleep 0.5
+touche ctrl+plus ctrl+plus ctrl+plus; pause 0.5
 
 # The menu under the left button; its second entry takes the place as centre: the Channel.
 clic 10200 520; clic 12400 3200; clic 14200 3200 # the module of the chart, its distances and coordinates
 clic 8500 2200
 attends xdotool search --onlyvisible --class velmaris >/dev/null
 image "$NOM-menu"
-touche Down Down Return; sleep 0.5
-clic 8500 2200; touche Down Down Return; sleep 0.5
+touche Down Down Return; pause 0.5
+clic 8500 2200; touche Down Down Return; pause 0.5
 clic 10200 520
 image "$NOM-centre"
 for place in "4500 5000" "6500 4400" "8200 5300" "9000 6500"; do point $place; done
@@ -56,7 +55,7 @@ attend_pixels "$NOM-route" '#ff00ff' 150
 image "$NOM-route"
 
 # "Reset" wipes the legs, as the chart is always visible; the module goes by its close picture.
-clic $((13035 + 1000)) $((4740 + 3300)); sleep 0.3
+clic $((13035 + 1000)) $((4740 + 3300)); pause 0.3
 image "$NOM-reset"
 [ "$(pixels '#ff00ff' "$NOM-reset")" -le 60 ] || echoue "les branches restent"
 quitte "$NOM-quitter"

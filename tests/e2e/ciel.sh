@@ -5,8 +5,7 @@
 PROGRAMME=$1 IMAGES=$2 LANGUE=$3
 . "$(dirname "$0")/outils.sh"
 . "$(dirname "$0")/outils_ciel.sh"
-openbox 2>/dev/null &
-sleep 0.5
+gestionnaire
 TAILLE=$(xdpyinfo | awk '/dimensions/ {print $2}' | cut -dx -f1)
 NOM=ciel-$LANGUE-$TAILLE
 stocke() { [ "$(reglage "$1")" = "$2" ]; }
@@ -27,18 +26,18 @@ bas 6960 840 # the equatorial chart
 equateur 78.9 -8.2 # Rigel
 image "$NOM-orion"
 [ "$(pixels '#ff0000' "$NOM-orion")" -ge 60 ] || echoue "Orion ne s'allume pas"
-touche ctrl+n; sleep 0.5
+touche ctrl+n; pause 0.5
 image "$NOM-orion-nuit"
 [ "$(autres "$NOM-orion-nuit")" -eq 0 ] || echoue "la nuit n'est pas rouge"
 bas 6960 510
 horizon 180 43.2 # Sirius
 image "$NOM-sirius-nuit"
-touche ctrl+n; sleep 0.5
+touche ctrl+n; pause 0.5
 attendu "le jour est revenu" "$(reglage Nuit)" 0
 
 # A click takes it for the sight.
 horizon 180 43.2
-xdotool click 1; sleep 0.7
+xdotool click 1; pause 0.7
 image "$NOM-choisie"
 xdotool windowfocus --sync "$FENETRE"
 clic 7700 520

@@ -5,8 +5,7 @@
 # Usage: clavier.sh PROGRAMME IMAGES EXEMPLES
 PROGRAMME=$1 IMAGES=$2 EXEMPLES=$(realpath "$3")
 . "$(dirname "$0")/outils.sh"
-openbox 2>/dev/null &
-sleep 0.5
+gestionnaire
 export HOME="$XDG_DATA_HOME/maison" CUPS_SERVER=/nulle/part
 mkdir -p "$HOME"
 stocke() { [ "$(reglage "$1")" = "$2" ]; }
@@ -22,7 +21,7 @@ MODES=15                                                                       #
 ouvre() {
   recule $OUVRE; touche space
   attends boite_ouverte "$CHARGE"
-  sleep 0.3
+  pause 0.3
   tape "$1"
   touche Return
   reprend "$CHARGE"
@@ -34,46 +33,46 @@ mode_clavier() { avance $MODES; repete Up 6; [ "$1" = 0 ] || repete Down "$1"; }
 demarre
 image clavier-1-depart
 recule $MULTIPLES; touche space
-recule $JOUR; tape_bretagne; touche space; sleep 0.3
+recule $JOUR; tape_bretagne; touche space; pause 0.3
 repete Tab 7; repete Up 6; touche F5 # the modes, the first of them
 attends stocke 'AS(0)' 0
 recule $JOUR; tape_suivante 16 40 00 47 15 04 35 33 41 10
-repete Tab 5; touche space; sleep 0.3
+repete Tab 5; touche space; pause 0.3
 repete Tab 7; repete Up 6; touche F6
 attends stocke 'AS(1)' 0
-recule $ECRAN; touche space; touche F5 F6; sleep 0.3
-mode_clavier 5; touche Tab Down; sleep 0.2 # to the point of line 2
+recule $ECRAN; touche space; touche F5 F6; pause 0.3
+mode_clavier 5; touche Tab Down; pause 0.2 # to the point of line 2
 touche F5
 attend_pixels clavier-2-soleil-soleil '#008000' 100
 
 vise_etoiles "$HOME"
 for visee in "1 Altair:F5" "2 Dubhe:F6" "3 Arcturus:F7"; do
-  ouvre "$HOME/${visee%:*}.LoP" 2; touche "${visee#*:}"; sleep 0.2
+  ouvre "$HOME/${visee%:*}.LoP" 2; touche "${visee#*:}"; pause 0.2
 done
 attends stocke 'Nom(2)' Arcturus
-recule $ECRAN; touche space; touche F7 F5 F6; sleep 0.3
-mode_clavier 5; touche Tab End Up; sleep 0.2 # to the point of line 3
+recule $ECRAN; touche space; touche F7 F5 F6; pause 0.3
+mode_clavier 5; touche Tab End Up; pause 0.2 # to the point of line 3
 touche F5 F6
 attend_pixels clavier-3-etoiles '#008000' 100
 
 ouvre "$EXEMPLES/24SEP26 203025.LoP" 0
 image clavier-4-lune
-recule $ECRAN; touche space F6 F4; sleep 0.5
+recule $ECRAN; touche space F6 F4; pause 0.5
 DETOUR=2 # the line brings its star back
 image clavier-5-carte
 
 recule $ASTRES; touche space
 attends boite_ouverte '^Astres$'
-sleep 0.5
-touche Right Right Up; sleep 0.3
+pause 0.5
+touche Right Right Up; pause 0.3
 image clavier-6-ciel
-touche Return; sleep 0.3
+touche Return; pause 0.3
 xdotool windowfocus --sync "$FENETRE"
 image clavier-6-astre
 
 recule $IMPRIME; touche space
 attends boite_ouverte '^Impression$'
-sleep 0.5
+pause 0.5
 image clavier-7-page
 touche Return
 repond '^Imprimer$' alt+f ctrl+a

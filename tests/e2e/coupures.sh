@@ -4,8 +4,7 @@
 # Usage: coupures.sh PROGRAMME IMAGES EXEMPLES [DEATHS]
 PROGRAMME=$1 IMAGES=$2 EXEMPLES=$3 MORTS=${4:-${VELMARIS_COUPURES_FENETRE:-4}}
 . "$(dirname "$0")/outils.sh"
-openbox 2>/dev/null &
-sleep 0.5
+gestionnaire
 export HOME="$XDG_DATA_HOME/maison"
 mkdir -p "$HOME"
 DONNEES="$XDG_DATA_HOME/velmaris" SAUVE="^(Sauvegarder le|Save the) "
@@ -26,14 +25,14 @@ croit() { [ "$(journal)" -gt "$1" ]; }
 # Stores the opened sight as the first line, reduces it again for the journal, saves it over the old file, leaves.
 geste() {
   local avant
-  touche F5; sleep 0.2
+  touche F5; pause 0.2
   avant=$(journal)
   clic 700 8300
   attends croit "$avant"
   clic 400 500
-  attends boite_ouverte "$SAUVE"; sleep 0.2
+  attends boite_ouverte "$SAUVE"; pause 0.2
   tape "$FICHIER"; touche Return
-  attends boite_fermee "$SAUVE"; sleep 0.1
+  attends boite_fermee "$SAUVE"; pause 0.1
   touche F2
   attends boite_ouverte "$EXIT_BOX"
   touche Return

@@ -4,8 +4,7 @@
 # Usage: deux.sh PROGRAMME IMAGES EXEMPLES
 PROGRAMME=$1 IMAGES=$2 EXEMPLES=$3
 . "$(dirname "$0")/outils.sh"
-openbox 2>/dev/null &
-sleep 0.5
+gestionnaire
 export HOME="$XDG_DATA_HOME/maison"
 mkdir -p "$HOME"
 stocke() { [ "$(reglage "$1")" = "$2" ]; }
@@ -17,7 +16,7 @@ titre_dit() { xdotool getwindowname "$FENETRE" | grep -q "$1"; }
 prend() {
   PID=${PIDS[$1]} FENETRE=${FENETRES[$1]}
   xdotool windowraise "$FENETRE" windowfocus --sync "$FENETRE"
-  sleep 0.4
+  pause 0.4
 }
 
 # Both start on a folder that isn't there yet.

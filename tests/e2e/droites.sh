@@ -4,8 +4,7 @@
 # Usage: droites.sh PROGRAMME IMAGES fr|en
 PROGRAMME=$1 IMAGES=$2 LANGUE=$3
 . "$(dirname "$0")/outils.sh"
-openbox 2>/dev/null &
-sleep 0.5
+gestionnaire
 TAILLE=$(xdpyinfo | awk '/dimensions/ {print $2}' | cut -dx -f1)
 NOM=droites-$LANGUE-$TAILLE
 SAUVE="^(Sauvegarder le|Save the) "
@@ -19,11 +18,11 @@ demarre
 clic 7700 520 # the module of the four lines
 
 # The noon sight first, then the morning's and the afternoon's, each stored by its key.
-visee_bretagne; touche space; sleep 0.3
+visee_bretagne; touche space; pause 0.3
 mode $MODE_ENREGISTRE; touche F6; attends stocke 'AS(1)' 0
-visee_suivante 08 30 00 47 50 05 50 37 47 20; clic 700 8300; sleep 0.3
+visee_suivante 08 30 00 47 50 05 50 37 47 20; clic 700 8300; pause 0.3
 mode $MODE_ENREGISTRE; touche F5; attends stocke 'AS(0)' 0
-visee_suivante 16 40 00 47 15 04 35 33 41 10; clic 700 8300; sleep 0.3
+visee_suivante 16 40 00 47 15 04 35 33 41 10; clic 700 8300; pause 0.3
 mode $MODE_ENREGISTRE; touche F7; attends stocke 'AS(2)' 0
 attendu "la première droite" "$(reglage 'T3(0)'):$(reglage 'T4(0)') $(reglage 'T13(0)') $(reglage 'Nom(0)')" "08:30 37 $([ "$LANGUE" = en ] && echo Sun || echo Soleil)"
 attendu "la deuxième droite" "$(reglage 'T3(1)'):$(reglage 'T4(1)') $(reglage 'T13(1)')" "12:05 65"
@@ -36,7 +35,7 @@ attend_pixels "$NOM-affichees" '#ff0000' 300
 
 # The morning's line carried to the afternoon's point: green, beside its old place.
 avant=$(pixels '#008000' "$NOM-affichees")
-mode $MODE_DROITE; clic 6045 4762; sleep 0.3; touche Home Down Down Return; sleep 0.2
+mode $MODE_DROITE; clic 6045 4762; pause 0.3; touche Home Down Down Return; pause 0.2
 touche F5
 attend_pixels "$NOM-transportee" '#008000' $((avant + 100))
 
@@ -50,9 +49,9 @@ attend_pixels "$NOM-zoom-200" '#008000' $((avant + 100))
 # Dead reckoning from the present position, and the noon line carried there with its run in red dots.
 clic 10900 520
 clic 4665 5865; champ 245; champ 6
-clic 5895 6210; sleep 0.3
+clic 5895 6210; pause 0.3
 image "$NOM-estime"
-mode $MODE_ESTIME; touche F6; sleep 0.3
+mode $MODE_ESTIME; touche F6; pause 0.3
 clic 10900 520 # the module goes, the sheet shows
 attend_pixels "$NOM-estime-transportee" '#008000' $((avant + 200))
 
@@ -65,13 +64,13 @@ FICHIER=$(ls "$HOME"/*.LoP)
 attendu "le nom proposé" "$(basename "$FICHIER")" "21JUN26 164000.LoP"
 attendu "les lignes du fichier" "$(wc -l <"$FICHIER")" 21
 mode $MODE_EFFACE; touche F7
-repond "$([ "$LANGUE" = en ] && echo '^Warning$' || echo '^Attention$')" Tab Return; sleep 0.3
+repond "$([ "$LANGUE" = en ] && echo '^Warning$' || echo '^Attention$')" Tab Return; pause 0.3
 attends stocke 'Nom(2)' '(F7)'
 attendu "la droite est effacée" "$(reglage 'T3(2)')$(reglage 'AS(2)')" ""
 reprend Attention
 clic 1100 500
 attends boite_ouverte "$CHARGE"
-touche Tab Down; sleep 0.2 # the list, its first file
+touche Tab Down; pause 0.2 # the list, its first file
 image "$NOM-ouvre"
 touche Return; attends boite_fermee "$CHARGE"; reprend "$CHARGE"
 touche F7; attends stocke 'T3(2)' 16

@@ -4,8 +4,7 @@
 # Usage: objets.sh PROGRAMME IMAGES fr|en
 PROGRAMME=$1 IMAGES=$2 LANGUE=$3
 . "$(dirname "$0")/outils.sh"
-openbox 2>/dev/null &
-sleep 0.5
+gestionnaire
 NOM=objets-$LANGUE
 TITRE="^(Objets de|User's obj)"
 FICHIER="$XDG_DATA_HOME/velmaris/Utilisateur.txt"
@@ -16,7 +15,7 @@ entree() {
   champ "$1"; champ "$2"; touche Tab
   champ "$3"; champ "$4"; touche "$5" Tab
   champ "$6"; champ "$7"; touche "$8" Tab
-  touche Return; sleep 0.3
+  touche Return; pause 0.3
 }
 
 demarre
@@ -24,7 +23,7 @@ demarre
 clic 10200 520
 clic $((11475 + 3000)) $((1080 + 1665)) # "Config" in the module of the chart
 attends boite_ouverte "$TITRE"
-sleep 0.3
+pause 0.3
 entree "Phare de la Jument" 4 48 25 Left 5 8 Right
 entree "Ouessant ; mouillage" 2 48 28 Left 5 5 Right
 entree "Cap de Bonne-Esperance" 3 34 21 Right 18 28 Left
@@ -38,7 +37,7 @@ attendu "le fichier" "$(cat "$FICHIER")" "+48.42 +05.13 4 Phare de la Jument
 # The chart around the first two.
 xdotool windowfocus --sync "$FENETRE"
 clic 10200 520
-visee_bretagne; touche space; sleep 0.5
+visee_bretagne; touche space; pause 0.5
 image "$NOM-carte"
 [ "$(pixels '#006400' "$NOM-carte")" -ge 150 ] || echoue "pas d'objets sur la carte"
 quitte "$NOM-quitter"

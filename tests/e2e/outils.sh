@@ -13,13 +13,45 @@ mkdir -p "$IMAGES" "$XDG_DATA_HOME"
 
 echoue() { echo "ÉCHEC : $*" >&2; exit 1; }
 
-# Waits up to twenty seconds for a command to succeed: a busy machine takes its time.
+# Waits up to three minutes for a command to succeed: a busy machine takes its time.
 attends() {
-  for _ in $(seq 200); do
+  for _ in $(seq 1800); do
     "$@" && return 0
     sleep 0.1
   done
   echoue "attendu en vain : $*"
+}
+
+# What those have done who have a share in a key press: the program, the window manager, the screen. Each has its state
+# and how often it has had the processor.
+activite() {
+  local numero etat tranches
+  for numero in ${PID:-} ${GESTIONNAIRE:-} $(cat "/tmp/.X${DISPLAY#*:}-lock" 2>/dev/null); do
+    read -r _ _ etat _ <"/proc/$numero/stat" && read -r _ _ tranches <"/proc/$numero/schedstat" || continue
+    printf '%s%s ' "$etat" "$tranches"
+  done 2>/dev/null || true
+}
+# Waits until none of them has anything left to do.
+calme() {
+  local avant=debut maintenant fois=0
+  for _ in $(seq 3000); do
+    maintenant=$(activite)
+    if [ "$maintenant" = "$avant" ] && [[ $maintenant != *[RD]* ]]; then fois=$((fois + 1)); else fois=0; fi
+    [ $fois -ge 2 ] && return 0
+    avant=$maintenant
+    sleep 0.02
+  done
+  echoue "le programme ne se calme pas"
+}
+# Waits for a moment, and then for the calm: where the time itself counts, as between two clicks.
+pause() { sleep "$1"; calme; }
+
+# The window manager, once it manages.
+gere() { xprop -root _NET_SUPPORTING_WM_CHECK 2>/dev/null | grep -q 'window id'; }
+gestionnaire() {
+  openbox 2>/dev/null &
+  GESTIONNAIRE=$!
+  attends gere
 }
 boite_ouverte() { xdotool search --onlyvisible --name "$1" >/dev/null 2>&1; }
 boite_fermee() { ! boite_ouverte "$1"; }
@@ -30,7 +62,7 @@ TOLD_BOX='^Velmaris$'
 # Presses keys in the box of that title once it is there.
 repond() {
   attends boite_ouverte "$1"
-  sleep 0.3
+  pause 0.3
   touche "${@:2}"
 }
 
@@ -38,14 +70,14 @@ repond() {
 reprend() {
   attends boite_fermee "$1"
   xdotool windowfocus --sync "$FENETRE"
-  sleep 0.2
+  pause 0.2
 }
 
 # Gives another window the keyboard again, once a box over it has gone.
 revient() {
   attends boite_fermee "$1"
   xdotool windowfocus "$(xdotool search --onlyvisible --name "$2" | head -n 1)"
-  sleep 0.3
+  pause 0.3
 }
 # Finds the program's main window, whose title ends with the file's name once the clock has ticked.
 fenetre_principale() {
@@ -59,7 +91,7 @@ demarre() {
   PID=$!
   attends fenetre_principale
   xdotool windowfocus --sync "$FENETRE"
-  sleep 0.4
+  pause 0.4
 }
 
 # Starts the program where it has something to tell first: a picture of the box, then Return. Arguments follow the
@@ -75,15 +107,15 @@ demarre_apres_boite() {
 }
 
 # Clicks at a place of the window in 1/1440 inch, as the table of controls counts.
-clic() { xdotool mousemove --window "$FENETRE" $(($1 / 15)) $(($2 / 15)) click 1; sleep 0.15; }
+clic() { xdotool mousemove --window "$FENETRE" $(($1 / 15)) $(($2 / 15)) click 1; pause 0.15; }
 # Goes to a place of the window, as the table counts, and presses nothing.
-va() { xdotool mousemove --window "$FENETRE" $(($1 / 15)) $(($2 / 15)); sleep 0.2; }
-touche() { xdotool key --clearmodifiers --delay 30 "$@"; }
-tape() { xdotool type --delay 15 -- "$1"; }
+va() { xdotool mousemove --window "$FENETRE" $(($1 / 15)) $(($2 / 15)); pause 0.2; }
+touche() { xdotool key --clearmodifiers --delay 30 "$@"; calme; }
+tape() { xdotool type --delay 15 -- "$1"; calme; }
 # Types into the field that has the focus and goes on to the next.
 champ() { tape "$1"; touche Tab; }
 
-image() { sleep 0.3; import -window root "$IMAGES/$1.png"; }
+image() { pause 0.3; import -window root "$IMAGES/$1.png"; }
 reglage() { sqlite3 "$MAGASIN" "SELECT valeur FROM valeurs WHERE cle='$1'"; }
 attendu() { [ "$2" = "$3" ] || echoue "$1 : attendu « $3 », lu « $2 »"; }
 
@@ -120,7 +152,7 @@ CHARGE="^(Charger un|Load a) "
 ouvre_visee() {
   clic 1100 500
   attends boite_ouverte "$CHARGE"
-  sleep 0.3
+  pause 0.3
   tape "$1"
   touche Return
   reprend "$CHARGE"

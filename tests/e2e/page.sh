@@ -13,11 +13,11 @@ demarre
 visee_bretagne
 touche space
 clic 7700 520
-mode $MODE_ENREGISTRE; touche F5; sleep 0.3
+mode $MODE_ENREGISTRE; touche F5; pause 0.3
 visee_suivante 16 40 00 47 15 04 35 33 41 10
-touche Tab Tab Tab Tab Tab; touche space; sleep 0.3
-mode $MODE_ENREGISTRE; touche F6; sleep 0.3
-clic 6200 520; touche F5; touche F6; sleep 0.3
+touche Tab Tab Tab Tab Tab; touche space; pause 0.3
+mode $MODE_ENREGISTRE; touche F6; pause 0.3
+clic 6200 520; touche F5; touche F6; pause 0.3
 
 clic 1900 520
 attends boite_ouverte '^Impression$'

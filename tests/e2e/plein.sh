@@ -13,14 +13,13 @@ DONNEES="$XDG_DATA_HOME/velmaris"
 mkdir -p "$DONNEES"
 mount -t tmpfs -o size=512k velmaris "$DONNEES" || { echo "no small disk can be mounted here"; exit 77; }
 trap 'umount -l "$DONNEES"; rm -rf "$TRAVAIL" || true' EXIT
-openbox 2>/dev/null &
-sleep 0.5
+gestionnaire
 export HOME="$XDG_DATA_HOME/maison"
 mkdir -p "$HOME"
 SAUVE="^(Sauvegarder le|Save the) "
 stocke() { [ "$(reglage "$1")" = "$2" ]; }
 dit() { repond "$TOLD_BOX" Return; reprend "$TOLD_BOX"; }
-sans_boite() { sleep 0.5; ! boite_ouverte "$TOLD_BOX" || echoue "dit deux fois : $1"; }
+sans_boite() { pause 0.5; ! boite_ouverte "$TOLD_BOX" || echoue "dit deux fois : $1"; }
 
 demarre "$EXEMPLES/21JUN26 120530.LoP"
 touche F5; attends stocke 'T3(0)' 12
@@ -35,7 +34,7 @@ clic 700 8300
 attends boite_ouverte "$TOLD_BOX"; image plein-journal; dit
 clic 700 8300; sans_boite "le journal"
 clic 400 500
-attends boite_ouverte "$SAUVE"; sleep 0.3
+attends boite_ouverte "$SAUVE"; pause 0.3
 tape "$DONNEES/vieille.LoP"; touche Return
 attends boite_ouverte "$TOLD_BOX"; image plein-sauve; dit
 cmp "$EXEMPLES/21JUN26 092005.LoP" "$DONNEES/vieille.LoP" || echoue "l'ancien fichier n'est plus entier"

@@ -6,8 +6,7 @@
 PROGRAMME=$1 IMAGES=$2 EXEMPLES=$(realpath "$3") LANGUE=fr
 . "$(dirname "$0")/outils.sh"
 . "$(dirname "$0")/outils_ciel.sh"
-openbox 2>/dev/null &
-sleep 0.5
+gestionnaire
 export HOME="$XDG_DATA_HOME/maison" CUPS_SERVER=/nulle/part
 mkdir -p "$HOME"
 stocke() { [ "$(reglage "$1")" = "$2" ]; }
@@ -23,24 +22,24 @@ cp "$EXEMPLES/24SEP26 203025.LoP" "$HOME/lune.LoP"
 rangs=("1 Altair" "2 Dubhe" "3 Arcturus" a b lune)
 
 # A click in another window, in pixels from its corner; the button may be told.
-dans() { xdotool mousemove --window "$1" "$2" "$3" click --repeat "${5:-1}" --delay 80 "${4:-1}"; sleep 0.3; }
+dans() { xdotool mousemove --window "$1" "$2" "$3" click --repeat "${5:-1}" --delay 80 "${4:-1}"; pause 0.3; }
 fenetre_nommee() { xdotool search --onlyvisible --name "$1" | head -n 1; }
 ouvre() {
   local i
   for i in "${!rangs[@]}"; do [ "${rangs[$i]}" = "$1" ] && break; done
   clic 1100 500
   attends boite_ouverte "$CHARGE"
-  sleep 0.4
+  pause 0.4
   dans "$(fenetre_nommee "$CHARGE")" 60 $((81 + 14 * i)) 1 2
   attends boite_fermee "$CHARGE"
-  sleep 0.3
+  pause 0.3
 }
 DROITES=(1590 2010 2430 2850)
-droite() { clic 3600 "${DROITES[$1]}"; sleep 0.2; }
+droite() { clic 3600 "${DROITES[$1]}"; pause 0.2; }
 # Presses the button of a box, by its place from the lower right corner in pixels; a picture may be named.
 presse_boite() {
   attends boite_ouverte "$1"
-  sleep 0.4
+  pause 0.4
   local WIDTH HEIGHT
   eval "$(xdotool getwindowgeometry --shell "$(fenetre_nommee "$1")" | grep -E '^(WIDTH|HEIGHT)=')"
   [ -z "${4:-}" ] || image "$4"
@@ -54,8 +53,8 @@ ouvre b; droite 1; attends stocke 'AS(1)' 0
 attendu "la seconde visée" "$(reglage 'T3(1)'):$(reglage 'T4(1)') $(reglage 'T13(1)') $(reglage 'T7(1)')" "16:40 33 35"
 clic 6200 520; droite 0; droite 1
 mode $MODE_DROITE
-clic 6045 4762; sleep 0.4
-xdotool mousemove --window "$FENETRE" $((6045 / 15)) $((4762 / 15 + 22)) click 1; sleep 0.3
+clic 6045 4762; pause 0.4
+xdotool mousemove --window "$FENETRE" $((6045 / 15)) $((4762 / 15 + 22)) click 1; pause 0.3
 droite 0
 attend_pixels souris-2-soleil-soleil '#008000' 100
 
@@ -73,38 +72,38 @@ clic 6200 520; droite 1
 clic 10200 520
 image souris-5-module
 clic 12400 3200; clic 14200 3200
-va 8200 5000; xdotool click 3; sleep 0.3
-va 9500 7200; xdotool click 3; sleep 0.3
+va 8200 5000; xdotool click 3; pause 0.3
+va 9500 7200; xdotool click 3; pause 0.3
 va 11000 8000
 attend_pixels souris-5-route '#ff00ff' 80
 clic 12400 3200; clic 14200 3200; clic 10200 520
 clic 8500 5200
 image souris-5-menu
-xdotool mousemove_relative 60 40 click 1; sleep 0.5
+xdotool mousemove_relative 60 40 click 1; pause 0.5
 image souris-5-centre
 clic 6200 520; droite 1
 
 # The sky: Capella, which never sets here, taken for a sight.
 clic 12400 520
 attends fenetre_ciel
-sleep 0.5
+pause 0.5
 mesure_ciel
 place=$("$(dirname "$PROGRAMME")/velmaris-calcul" horizon "$(date -u +%d/%m/%Y)" "$(date -u +%H:%M:%S)" 79.68 46.02 47.667 -5.167 |
   sed 's/.*"texte":"\([^"]*\)".*/\1/')
 horizon "${place%X*}" "${place#*X}"
 image souris-6-ciel
-xdotool click 1; sleep 0.7
-clic 700 8165; sleep 0.3 # "Calcul"
+xdotool click 1; pause 0.7
+clic 700 8165; pause 0.3 # "Calcul"
 mode $MODE_ENREGISTRE; droite 3
 attends stocke 'Nom(3)' Capella
 image souris-6-astre
-clic 12400 520; sleep 0.5 # the sky comes to the front again, and is closed
+clic 12400 520; pause 0.5 # the sky comes to the front again, and is closed
 bas 11900 370
 attends boite_fermee "$TITRE"
 
 clic 1900 520
 attends boite_ouverte '^Impression$'
-sleep 0.5
+pause 0.5
 dans "$(fenetre_nommee '^Impression$')" 915 218
 presse_boite '^Imprimer$' 137 23 souris-7-imprimante
 attends test -s "$HOME/Velmaris.pdf"

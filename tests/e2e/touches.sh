@@ -3,8 +3,7 @@
 # Usage: touches.sh PROGRAMME IMAGES
 PROGRAMME=$1 IMAGES=$2
 . "$(dirname "$0")/outils.sh"
-openbox 2>/dev/null &
-sleep 0.5
+gestionnaire
 
 demarre
 visee_bretagne
@@ -14,10 +13,10 @@ touche F9; image touches-zoom-400
 touche F3            # the present time, and the reading takes the focus
 tape 66; touche Tab
 image touches-lecture-66
-clic 1000 1200; sleep 0.1 # take the module by its title
-xdotool mousemove --window "$FENETRE" 500 300 mousedown 1; sleep 0.1
-xdotool mousemove --window "$FENETRE" 520 320; sleep 0.1
-xdotool mousemove --window "$FENETRE" 540 140; sleep 0.2
+clic 1000 1200; pause 0.1 # take the module by its title
+xdotool mousemove --window "$FENETRE" 500 300 mousedown 1; pause 0.1
+xdotool mousemove --window "$FENETRE" 520 320; pause 0.1
+xdotool mousemove --window "$FENETRE" 540 140; pause 0.2
 xdotool mouseup 1
 image touches-module-deplace
 quitte touches-quitter

@@ -3,8 +3,7 @@
 # Usage: visee-soleil.sh PROGRAMME IMAGES fr|en
 PROGRAMME=$1 IMAGES=$2 LANGUE=$3
 . "$(dirname "$0")/outils.sh"
-openbox 2>/dev/null &
-sleep 0.5
+gestionnaire
 TAILLE=$(xdpyinfo | awk '/dimensions/ {print $2}' | cut -dx -f1)
 
 # Pixels of one colour, told as xx xx xx, on the last picture: the casing of the line of position, or its yellow.
@@ -27,6 +26,7 @@ image "visee-$LANGUE-$TAILLE-complete"
 touche F2; repond "$EXIT_BOX" Escape; reprend "$EXIT_BOX"
 kill -0 "$PID" || echoue "Non ferme le programme"
 attendu "rien n'est conservé après Non" "$(reglage T8)" ""
+attendu "la date au journal" "$(tail -n 1 "$XDG_DATA_HOME/velmaris/journal.csv" | cut -d, -f4-6)" 21,06,2026
 touche alt+F4; repond "$EXIT_BOX" Escape; reprend "$EXIT_BOX"
 kill -0 "$PID" || echoue "Non à la fermeture ferme le programme"
 

@@ -1,0 +1,74 @@
+#!/usr/bin/env bash
+# The program on a Wayland compositor, at a scale of one and a quarter, by keyboard: a start, one sight, the sky, the print
+# page, the way out. The compositor shows itself as a window of the virtual screen; what windows the program has is told
+# by what it says to the compositor.
+# Usage: wayland.sh PROGRAMME IMAGES
+PROGRAMME=$1 IMAGES=$2
+. "$(dirname "$0")/outils.sh"
+
+chmod 700 "$XDG_RUNTIME_DIR"
+COMPOSITEUR=velmaris-essai
+# A release that a busy machine brings late isn't a key held down.
+printf '[keyboard]\nrepeat-delay=600000\n[shell]\npanel-position=none\n' >"$TRAVAIL/weston.ini"
+weston --backend=x11-backend.so --use-pixman --config="$TRAVAIL/weston.ini" --width=1900 --height=1040 --socket=$COMPOSITEUR --idle-time=0 \
+  >"$TRAVAIL/weston.txt" 2>&1 &
+GESTIONNAIRE=$!
+trap 'kill "$GESTIONNAIRE" 2>/dev/null || true; rm -rf "$TRAVAIL" || true' EXIT
+attends test -S "$XDG_RUNTIME_DIR/$COMPOSITEUR"
+ecran() { FENETRE=$(xwininfo -root -tree | awk '/"Weston Compositor/ { print $1; exit }'); [ -n "$FENETRE" ]; }
+attends ecran
+
+DIT="$TRAVAIL/dit.txt"
+# How often the program has given a window this title; how many windows it has made and put away.
+titres() { grep -c "set_title(\"$1" "$DIT" || true; }
+titree() { [ "$(titres "$1")" -gt 0 ]; }
+compte() { grep -cE "$1" "$DIT" || true; }
+ouvertes() { echo $(($(compte '\.get_toplevel\(') - $(compte 'xdg_toplevel@[0-9]+\.destroy\('))); }
+a_fenetres() { [ "$(ouvertes)" = "$1" ]; }
+repete() { local touches=(); for _ in $(seq "$2"); do touches+=("$1"); done; touche "${touches[@]}"; }
+# Steps of the keyboard back from the reading, where "Top" leads it.
+recule() { touche F3; repete shift+Tab "$1"; }
+JOUR=13 ASTRES=19 IMPRIME=29
+
+demarre_wayland() {
+  WAYLAND_DEBUG=client WAYLAND_DISPLAY=$COMPOSITEUR QT_QPA_PLATFORM=wayland QT_SCALE_FACTOR=1.25 \
+    QT_SCALE_FACTOR_ROUNDING_POLICY=PassThrough "$PROGRAMME" 2>"$DIT" &
+  PID=$!
+  attends titree ''
+  attends a_fenetres 1
+  xdotool windowfocus "$FENETRE"
+  calme
+}
+
+demarre_wayland
+image wayland-1-depart
+recule $JOUR
+tape_bretagne
+touche space
+attends test -s "$XDG_DATA_HOME/velmaris/journal.csv"
+image wayland-2-visee
+attendu "l'astre au journal" "$(tail -n 1 "$XDG_DATA_HOME/velmaris/journal.csv" | cut -d, -f2)" Soleil
+
+recule $ASTRES; touche space
+attends titree Astres
+attends a_fenetres 2
+image wayland-3-ciel
+touche Escape
+attends a_fenetres 1
+
+recule $IMPRIME; touche space
+attends titree Impression
+attends a_fenetres 2
+image wayland-4-page
+touche Escape
+attends a_fenetres 1
+
+touche F2
+attends titree 'Velmaris - '
+attends a_fenetres 2
+image wayland-5-quitter
+touche Return
+attends finie
+wait "$PID" || echoue "le programme finit par une erreur"
+grep -vE '^\[ *[0-9.]+\]|^QStandardPaths' "$DIT" >&2 || true
+echo "sous Wayland : bien"
