@@ -11,8 +11,8 @@ TACHES := 2
 # Seconds that each fuzz target runs.
 DUREE := 60
 # What the chart's data are made from; a build needs none of it.
-PAQUETS_CARTE := gmt gmt-gshhg-high libgeonames-common python3 python3-numpy
-CIBLES_FUZZ := fuzz-lop fuzz-langue fuzz-nombre fuzz-polygone fuzz-lieux fuzz-objets fuzz-magasin
+PAQUETS_CARTE := gmt gmt-gshhg-high gmt-gshhg-full libgeonames-common python3 python3-numpy
+CIBLES_FUZZ := fuzz-lop fuzz-langue fuzz-nombre fuzz-polygone fuzz-lieux fuzz-objets fuzz-magasin fuzz-reprise
 DOSSIERS := foundations ephemerides sights lines chart sky shell calcul
 vide :=
 SOURCES := ($(subst $(vide) $(vide),|,$(DOSSIERS)))/.*\.cpp$$
