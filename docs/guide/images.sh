@@ -8,8 +8,7 @@ PROGRAMME=$1 IMAGES=$2 LANGUE=$3 SORTIE=$4 EXEMPLES=$5
 OUTILS="$(dirname "$0")/../../tests/e2e"
 . "$OUTILS/outils.sh"
 . "$OUTILS/outils_ciel.sh"
-openbox 2>/dev/null &
-sleep 0.5
+gestionnaire
 export HOME="$TRAVAIL/marin" # what the file dialog shows
 mkdir -p "$HOME/visees"
 cp "$EXEMPLES"/*26*.LoP "$HOME/visees"
@@ -57,13 +56,13 @@ demarre
 clic 10200 520 # the module of the chart, while it has its title
 piece module-carte 11475 1050 3700 2420
 clic 10200 520
-touche F4; sleep 0.5
+touche F4; pause 0.5
 fenetre monde
 
 # The first sight: the fields, the result, the sheet, the details.
 visee_bretagne
 piece champs 0 1050 3040 6740
-touche space; sleep 0.5
+touche space; pause 0.5
 pastilles 246 72 108 168 165 597 575 385 690 385 590 560 640 660
 fenetre fenetre "${PASTILLES[@]}"
 piece barre 0 20 15900 1040
@@ -79,15 +78,15 @@ clic 8500 520
 
 # Two lines stored, then on one sheet, the first carried to the second's point.
 clic 7700 520
-mode $MODE_ENREGISTRE; touche F5; sleep 0.3
-visee_suivante 16 40 00 47 15 04 35 33 41 10; clic 700 8300; sleep 0.3
-mode $MODE_ENREGISTRE; touche F6; sleep 0.3
+mode $MODE_ENREGISTRE; touche F5; pause 0.3
+visee_suivante 16 40 00 47 15 04 35 33 41 10; clic 700 8300; pause 0.3
+mode $MODE_ENREGISTRE; touche F6; pause 0.3
 clic 6200 520
-touche F5; touche F6; sleep 0.3
-for _ in 1 2 3 4; do va 8000 6000; xdotool keydown ctrl click 4 keyup ctrl; sleep 0.2; done
+touche F5; touche F6; pause 0.3
+for _ in 1 2 3 4; do va 8000 6000; xdotool keydown ctrl click 4 keyup ctrl; pause 0.2; done
 piece droites 3030 1050 3430 4330
-mode $MODE_DROITE; clic 6045 4762; sleep 0.3; touche Home Down Return; sleep 0.2
-touche F5; sleep 0.3
+mode $MODE_DROITE; clic 6045 4762; pause 0.3; touche Home Down Return; pause 0.2
+touche F5; pause 0.3
 clic 10200 520; clic 14200 3200; clic 10200 520 # the coordinates
 clic 7700 520; clic 8500 520
 va 10331 8441 # where the carried line crosses the second one
@@ -101,22 +100,22 @@ clic 10200 520; clic 14200 3200; clic 10200 520
 # The first one carried to the dead-reckoning point: its panel, its run.
 clic 8500 520
 clic 6200 520
-touche F5; sleep 0.3
+touche F5; pause 0.3
 clic 10900 520
-clic 4430 7310; sleep 0.3; tape 16; touche Return
-clic 5630 7310; sleep 0.3; tape 40; touche Return
+clic 4430 7310; pause 0.3; tape 16; touche Return
+clic 5630 7310; pause 0.3; tape 40; touche Return
 clic 4665 5865; champ 122; tape 6
-clic 5895 6210; sleep 0.3
+clic 5895 6210; pause 0.3
 piece estime 3030 5370 3430 2690
-mode $MODE_ESTIME; touche F5; sleep 0.3
+mode $MODE_ESTIME; touche F5; pause 0.3
 clic 10900 520; clic 7700 520; clic 8500 520
 piece estime-feuille 1700 1050 13200 9970
 clic 8500 520
 
 # Course and distance between the two stored points.
 clic 11600 520
-touche F5 F6; sleep 0.3
-clic 8450 4015; sleep 0.3
+touche F5 F6; pause 0.3
+clic 8450 4015; pause 0.3
 piece caps 3030 1035 8450 4340
 clic 11600 520; clic 7700 520
 clic 8500 520
@@ -131,7 +130,7 @@ ouvre_visee "$HOME/visees/14FEV26 201015.LoP"
 piece etoile 0 1050 3040 9650
 clic 1100 500
 attends boite_ouverte "$CHARGE"
-touche Tab Down; sleep 0.2
+touche Tab Down; pause 0.2
 boite "$CHARGE" ouvre
 touche Escape; reprend "$CHARGE"
 
@@ -140,22 +139,22 @@ ouvre_visee "$HOME/visees/21JUN26 120530.LoP"
 clic 7700 520
 clic 10200 520; clic 12400 3200; clic 14200 3200; clic 10200 520
 clic 7500 2200
-sleep 0.5
+pause 0.5
 piece menu 6500 1400 8000 5200
-touche Down Down Return; sleep 0.5
-clic 7500 2200; touche Down Down Return; sleep 0.5
-for place in "3900 5700" "5400 4800" "7400 5100" "9300 6600"; do va $place; xdotool click 3; sleep 0.3; done
+touche Down Down Return; pause 0.5
+clic 7500 2200; touche Down Down Return; pause 0.5
+for place in "3900 5700" "5400 4800" "7400 5100" "9300 6600"; do va $place; xdotool click 3; pause 0.3; done
 va 10500 7800
 piece route 3050 1050 12300 9970
-touche ctrl+n; sleep 0.4
+touche ctrl+n; pause 0.4
 fenetre nuit
-touche ctrl+n; sleep 0.4
+touche ctrl+n; pause 0.4
 clic 10200 520; clic 12400 3200; clic 14200 3200
 clic 14475 2745
 attends boite_ouverte "$OBJETS"
-sleep 0.3
+pause 0.3
 xdotool mousemove --window "$(xdotool search --onlyvisible --name "$OBJETS" | tail -n 1)" 60 34 click 1
-sleep 0.2
+pause 0.2
 boite "$OBJETS" objets
 touche Escape
 attends boite_fermee "$OBJETS"
