@@ -18,18 +18,6 @@ constexpr std::string_view kManque = " missing"; ///< after an option's name and
 
 } // namespace
 
-Langue LangueDuSysteme(const char *lcAll, const char *lcMessages, const char *lang) {
-  for (const char *valeur : {lcAll, lcMessages, lang}) {
-    if (valeur != nullptr && *valeur != '\0') {
-      const std::string_view locale = valeur;
-      // "fr" alone, or before a country, a character set or a modifier.
-      return {locale.starts_with("fr") &&
-              (locale.size() == 2 || std::string_view("_.@").find(locale[2]) != std::string_view::npos)};
-    }
-  }
-  return {};
-}
-
 std::string DitEnLangue(const std::string &mots, const Langue &langue) {
   if (!langue.francais) {
     return mots == "A subcommand is required" ? "a command is required" : mots;

@@ -104,8 +104,10 @@ Controle *MarqueAu(const std::vector<Controle *> &marques, Point point, double a
 
 } // namespace
 
-std::vector<LabelMontre> LabelsMontres(const Ciel &c, std::span<Controle *const> corps) {
+std::vector<LabelMontre> LabelsMontres(const Ciel &c, std::span<Controle *const> corps,
+                                       std::span<const ZoneTexte> pris) {
   PlanTextes plan(c.picture1.largeur, c.picture1.hauteur);
+  std::for_each(pris.begin(), pris.end(), [&](const ZoneTexte &zone) { plan.Prend(zone); });
   std::vector<LabelMontre> montres;
   for (const Nomme &nomme : Nommes(c, corps)) {
     const Place &p = nomme.label->place;
@@ -142,8 +144,9 @@ std::vector<Controle *> MarquesMontrees(std::span<Controle *const> corps) {
   return resultat;
 }
 
-AstreTrouve AstreAu(const Ciel &c, std::span<Controle *const> corps, Point point, double prise) {
-  const std::vector<LabelMontre> labels = LabelsMontres(c, corps);
+AstreTrouve AstreAu(const Ciel &c, std::span<Controle *const> corps, Point point, double prise,
+                    std::span<const ZoneTexte> pris) {
+  const std::vector<LabelMontre> labels = LabelsMontres(c, corps, pris);
   const std::vector<Controle *> marques = MarquesMontrees(corps);
   const auto nomAu = [&](bool devant) -> Controle * {
     const auto trouve = std::find_if(labels.begin(), labels.end(), [&](const LabelMontre &l) {

@@ -19,7 +19,9 @@ struct LabelMontre {
 /// be. Then stars that are lit with their constellation and all others, each below, above or beside its mark, or left
 /// out.
 /// @param corps  marks, labels and pictures of the chart
-std::vector<LabelMontre> LabelsMontres(const Ciel &ciel, std::span<Controle *const> corps);
+/// @param pris   where the chart shows texts of its own, the figures of its scales: no name overprints them
+std::vector<LabelMontre> LabelsMontres(const Ciel &ciel, std::span<Controle *const> corps,
+                                       std::span<const ZoneTexte> pris = {});
 
 /// The marks on show from the back to the front: planets, white stars, navigation stars with the brightest over all.
 std::vector<Controle *> MarquesMontrees(std::span<Controle *const> corps);
@@ -32,8 +34,9 @@ struct AstreTrouve {
 
 /// The body at a point of the chart, by what is shown there: the star brought to the front, the mark whose disc it is,
 /// a name that is shown, a picture, and last a mark close by. Names that aren't shown take nothing.
-/// @param corps  as for LabelsMontres
+/// @param corps, pris  as for LabelsMontres
 /// @param prise  how close to a mark still counts, 1/1440 inch
-AstreTrouve AstreAu(const Ciel &ciel, std::span<Controle *const> corps, Point point, double prise);
+AstreTrouve AstreAu(const Ciel &ciel, std::span<Controle *const> corps, Point point, double prise,
+                    std::span<const ZoneTexte> pris = {});
 
 } // namespace velmaris::ciel

@@ -15,6 +15,7 @@ inline constexpr std::string_view kFenetreFSelect = "FSelect";
 /// The dialog for choosing a file to open or to save.
 struct FSelect {
   Controle Label1, FName, Label2, File1, Label3, Dir1, Drive1, OK, Quitter, Command1;
+  Controle TexteVolume; ///< what `Drive1` chooses
 
   CadreFenetre cadre{kFenetreFSelect, "Fichier", 9300, 6300};
   bool chargee = false;                       ///< it has been loaded, with its language; it stays so for the run

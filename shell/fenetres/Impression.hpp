@@ -30,6 +30,7 @@ struct Impression {
   std::array<Controle, 4> Label34;                  ///< longitude
   std::array<Controle, 4> Label35;                  ///< azimuth
   std::array<Controle, 4> Label36;                  ///< intercept
+  Controle TextePage;                               ///< names the picture to a screen reader
 
   CadreFenetre cadre{kFenetreImpression, "Impression", 15150, 10860};
   Surface image;        ///< the drawing surface as it was when the page last came to the front

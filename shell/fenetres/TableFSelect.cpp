@@ -16,10 +16,11 @@ constexpr LigneFSelect kFSelect[] = {
     {SEUL(File1), Genre::ListeBoite, "", {150, 1080, 4500, 4455}, "", "", {.par = "Label2"}},
     {SEUL(Label3), Genre::Etiquette, "", {4800, 825, 4350, 240}, "&Chemin", "", {.raccourci = true}},
     {SEUL(Dir1), Genre::ListeBoite, "", {4800, 1080, 4350, 4455}, "", "", {.par = "Label3"}},
-    {SEUL(Drive1), Genre::Liste, "", {4800, 375, 4350, 330}, "", "", {.par = "Label3"}},
+    {SEUL(Drive1), Genre::Liste, "", {4800, 375, 4350, 330}, "", "", {.par = "TexteVolume"}},
     {SEUL(OK), Genre::Bouton, "", {150, 5715, 1440, 405}, "&Ok", "", {.raccourci = true, .role = Role::Defaut}},
     {SEUL(Quitter), Genre::Bouton, "", {1710, 5715, 1440, 405}, "&Annuler", "", {.raccourci = true, .role = Role::Annule}},
     {SEUL(Command1), Genre::Bouton, "", {7710, 5715, 1440, 405}, "&Supprimer", "", {.raccourci = true}},
+    {SEUL(TexteVolume), Genre::Texte, "", {}, "Volume"},
 };
 // clang-format on
 

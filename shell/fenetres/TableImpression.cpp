@@ -19,13 +19,14 @@ constexpr std::array<std::string_view, kEntetesRangee> kEntetes = {"heure", "Lat
 // clang-format off
 // NOLINTNEXTLINE(cppcoreguidelines-avoid-c-arrays,modernize-avoid-c-arrays)
 constexpr LigneImpression kPage[] = {
-    {SEUL(Image1), Genre::Surface, "", {15, 15, 15120, 9330}, "", "", {.peint = true}},
+    {SEUL(Image1), Genre::Surface, "", {15, 15, 15120, 9330}, "", "", {.peint = true, .par = "TextePage"}},
     {SEUL(Frame1), Genre::Groupe, "", {12810, 2910, 1995, 750}},
     {SEUL(Command1), Genre::Bouton, "Frame1", {120, 120, 1755, 510}, "Imprimer", "", {.role = Role::Defaut, .image = "imprime"}},
     {RANG(Frame4, 0), Genre::Groupe, "", {60, 9240, 2660, 1600}, "", "", {.visible = false, .peint = true}},
     {RANG(Frame4, 1), Genre::Groupe, "", {2850, 9240, 2660, 1600}, "", "", {.visible = false, .peint = true}},
     {RANG(Frame4, 2), Genre::Groupe, "", {5610, 9240, 2660, 1600}, "", "", {.visible = false, .peint = true}},
     {RANG(Frame4, 3), Genre::Groupe, "", {8355, 9240, 2660, 1600}, "", "", {.visible = false, .peint = true}},
+    {SEUL(TextePage), Genre::Texte, "", {}, "Page à imprimer"},
 };
 // clang-format on
 

@@ -38,6 +38,7 @@ struct Utilisateur {
   Controle Command1, Command3, Command4, Command2, Label4, Text1, Label5, Text2;
   // Words of its boxes.
   Controle TexteLigne, TexteDeCote, TexteAutreMain, TexteNonEcrit, TexteRienPerdu, TexteFermer;
+  std::array<Controle, 6> TexteChamp; ///< what the fields of a place hold, and in what unit
 
   CadreFenetre cadre{kFenetreUtilisateur, "", 8100, 5640};
   std::vector<Objet> tables;     ///< while it is open, all the entries

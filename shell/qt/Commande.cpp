@@ -9,7 +9,7 @@
 namespace velmaris::qt {
 namespace {
 
-constexpr std::string_view kUsage = R"(Usage: velmaris [OPTION] [FILE.LoP]
+constexpr const char *kUsageAnglais = R"(Usage: velmaris [OPTION] [FILE.LoP]
 
 Celestial navigation: reduces sextant sights and draws lines of position.
 With a file, the sight in it is loaded, reduced and drawn.
@@ -18,6 +18,17 @@ With a file, the sight in it is loaded, reduced and drawn.
   -v, --version  print the version and end
 
 Options of the toolkit, such as -platform, are taken too.
+)";
+
+constexpr const char *kUsage = R"(Usage : velmaris [OPTION] [FICHIER.LoP]
+
+Navigation astronomique : réduit des visées au sextant et trace les droites.
+Avec un fichier, la visée qu'il contient est chargée, réduite et tracée.
+
+  -h, --help     dire ceci, et finir
+  -v, --version  dire la version, et finir
+
+Les options de la boîte à outils, comme -platform, sont acceptées aussi.
 )";
 
 /// Where an option would stand that is an argument all the same.
@@ -31,13 +42,13 @@ std::filesystem::path Absolu(const std::string &fichier) {
 
 } // namespace
 
-std::optional<std::string> ReponseSansFenetre(const std::vector<std::string> &arguments) {
+std::optional<std::string> ReponseSansFenetre(const std::vector<std::string> &arguments, const Langue &dit) {
   const auto fin = std::find(arguments.begin(), arguments.end(), kFinOptions);
   const auto demande = [&](const char *court, const char *longue) {
     return std::any_of(arguments.begin(), fin, [&](const std::string &a) { return a == court || a == longue; });
   };
   if (demande("-h", "--help")) {
-    return std::string(kUsage);
+    return dit(kUsage, kUsageAnglais);
   }
   if (demande("-v", "--version")) {
     return "velmaris " + std::string(TexteVersion()) + "\n";

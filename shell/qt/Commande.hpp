@@ -1,5 +1,7 @@
 #pragma once
 
+#include "foundations/Langue.hpp"
+
 #include <filesystem>
 #include <optional>
 #include <string>
@@ -9,8 +11,9 @@ namespace velmaris::qt {
 
 /// The answer to "--help" and "--version", which needs no window.
 /// @param arguments  of the command line, without the program's name
+/// @param dit        the language of the help
 /// @return nothing when neither is asked
-std::optional<std::string> ReponseSansFenetre(const std::vector<std::string> &arguments);
+std::optional<std::string> ReponseSansFenetre(const std::vector<std::string> &arguments, const Langue &dit);
 
 /// What a command line asks of the program once the toolkit has taken its own options out.
 struct Commande {

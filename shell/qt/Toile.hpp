@@ -80,6 +80,8 @@ public:
   std::function<void()> auClic;
 
 protected:
+  /// The surface's texts as they are painted.
+  const std::vector<TextePlace> &textes() const { return textes_; }
   void paintEvent(QPaintEvent *event) override;
   void mousePressEvent(QMouseEvent *event) override;
   void mouseMoveEvent(QMouseEvent *event) override;

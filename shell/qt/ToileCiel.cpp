@@ -12,6 +12,7 @@
 #include <QToolTip>
 
 #include <algorithm>
+#include <iterator>
 
 namespace velmaris::qt {
 namespace {
@@ -70,9 +71,17 @@ QRectF ToileCiel::Zone(const ZoneTexte &zone) const {
   return {zone.gauche * f, zone.haut * f, zone.largeur * f, zone.hauteur * f};
 }
 
+/// Where the scales' figures stand.
+std::vector<ZoneTexte> ToileCiel::Pris() const {
+  std::vector<ZoneTexte> pris;
+  std::transform(textes().begin(), textes().end(), std::back_inserter(pris),
+                 [](const TextePlace &place) { return place.zone; });
+  return pris;
+}
+
 ciel::AstreTrouve ToileCiel::CorpsSous(QPointF pixel) const {
   const double f = PixelsParTwip(*this);
-  return ciel::AstreAu(ciel_, corps_, {pixel.x() / f, pixel.y() / f}, kPrise / f);
+  return ciel::AstreAu(ciel_, corps_, {pixel.x() / f, pixel.y() / f}, kPrise / f, Pris());
 }
 
 void ToileCiel::PeintMarque(QPainter &painter, const Controle &marque) const {
@@ -125,7 +134,7 @@ void ToileCiel::paintEvent(QPaintEvent *event) {
   }
   const Controle *courant = ciel_.astreCourant;
   QRectF cadre = courant == nullptr ? QRectF() : Zone(*courant);
-  for (const ciel::LabelMontre &montre : ciel::LabelsMontres(ciel_, corps_)) {
+  for (const ciel::LabelMontre &montre : ciel::LabelsMontres(ciel_, corps_, Pris())) {
     const QRectF zone = Zone(montre.zone);
     PeintEtiquette(painter, *montre.label, zone);
     cadre = montre.label == courant ? zone : cadre;

@@ -40,6 +40,7 @@ protected:
   void paintEvent(QPaintEvent *event) override;
 
 private:
+  std::vector<ZoneTexte> Pris() const;
   QRectF Zone(const Controle &corps) const;
   QRectF Zone(const ZoneTexte &zone) const;
   QColor Encre(Couleur couleur) const;

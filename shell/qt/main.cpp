@@ -3,6 +3,7 @@
 #include "shell/Reprise.hpp"
 #include "shell/Sortie.hpp"
 #include "shell/droites/FichierVisee.hpp"
+#include "shell/qt/Accessible.hpp"
 #include "shell/qt/Apparence.hpp"
 #include "shell/qt/Commande.hpp"
 #include "shell/qt/Fenetre.hpp"
@@ -15,7 +16,9 @@
 #include <QTimer>
 
 #include <cstdio>
+#include <cstdlib>
 #include <exception>
+#include <string>
 
 namespace {
 
@@ -30,17 +33,22 @@ velmaris::Ecran EcranPrincipal() {
 } // namespace
 
 int main(int argc, char **argv) {
-  if (const auto reponse = velmaris::qt::ReponseSansFenetre({argv + 1, argv + argc})) {
+  const velmaris::Langue dit =
+      velmaris::LangueDuSysteme(std::getenv("LC_ALL"), std::getenv("LC_MESSAGES"), std::getenv("LANG"));
+  if (const auto reponse = velmaris::qt::ReponseSansFenetre({argv + 1, argv + argc}, dit)) {
     std::fputs(reponse->c_str(), stdout);
     return 0;
   }
   const QApplication application(argc, argv);
   const velmaris::qt::Commande commande = velmaris::qt::LitCommande({argv + 1, argv + argc});
   if (!commande.inconnue.empty()) {
-    std::fprintf(stderr, "velmaris: unknown option %s (see velmaris --help)\n", commande.inconnue.c_str());
+    const std::string plainte = dit("velmaris : option inconnue ", "velmaris: unknown option ") + commande.inconnue +
+                                dit(" (voir velmaris --help)", " (see velmaris --help)") + "\n";
+    std::fputs(plainte.c_str(), stderr);
     return kCommandeInconnue;
   }
   velmaris::qt::PoseApparence();
+  velmaris::qt::PoseRolesAccessibles();
 
   velmaris::Bureau bureau;
   velmaris::qt::Boites boites(bureau);

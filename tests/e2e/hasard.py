@@ -26,7 +26,7 @@ CHORDS = [("Shift_L", "Tab"), ("Control_L", "n"), ("Control_L", "a"), ("Control_
           ("Alt_L", "o"), ("Alt_L", "a"), ("Shift_L", "F10"), ("Control_L", "plus"), ("Control_L", "minus")]
 SILENCE = 30.0  # seconds without an answer
 CLOCK_STOPPED = re.compile("(?i)objets|objects")  # the editor of the user's objects stops the main window's clock
-KNOWN_ENDS = (0, 1, -9)  # -9: the window manager, when asked twice to close what is slow to answer
+KNOWN_ENDS = (0, 1)
 
 
 class Hands:
@@ -74,6 +74,12 @@ class Hands:
                                       data=(32, (list(data) + [0] * 5)[:5]))
         (target or self.root).send_event(message, event_mask=X.SubstructureRedirectMask | X.SubstructureNotifyMask)
 
+    def close(self, window):
+        """Asks a window to close, as a manager does; by way of the manager, a second wish would kill what is slow."""
+        message = event.ClientMessage(window=window, client_type=self.atom("WM_PROTOCOLS"),
+                                      data=(32, [self.atom("WM_DELETE_WINDOW"), X.CurrentTime, 0, 0, 0]))
+        window.send_event(message)
+
     def drain(self):
         while self.d.pending_events():
             self.d.next_event()
@@ -116,7 +122,7 @@ class Hands:
         """What the window manager does, by itself or at its user's wish."""
         doing = self.rng.randrange(8)
         if doing == 0:
-            self.tell(window, "_NET_CLOSE_WINDOW", [X.CurrentTime, 2])
+            self.close(window)
         elif doing == 1:
             self.tell(window, "WM_CHANGE_STATE", [3])  # iconic
         elif doing == 2:

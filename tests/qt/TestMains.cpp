@@ -2,6 +2,7 @@
 
 #include "shell/qt/Toile.hpp"
 
+#include <QAccessible>
 #include <QRadioButton>
 #include <QToolButton>
 
@@ -240,6 +241,14 @@ TEST_F(Mains, EachFieldIsNamedByWhatItHoldsAndItsUnit) {
   EXPECT_TRUE(Trouve<QWidget>("Affichage_Intercept")
                   ->accessibleName()
                   .endsWith(QString::fromStdString(d.Affichage_Intercept.legende)));
+}
+
+TEST_F(Mains, AModuleIsAGroupTheSheetACanvasAndACaptionThatActsALink) {
+  const auto role = [this](const char *nom) { return QAccessible::queryAccessibleInterface(Trouve<QWidget>(nom))->role(); };
+  EXPECT_EQ(role("Frame7"), QAccessible::Grouping);
+  EXPECT_EQ(role("Image1"), QAccessible::Canvas);
+  EXPECT_EQ(role("PicAZ"), QAccessible::Canvas);
+  EXPECT_EQ(role("Image6"), QAccessible::Button);
 }
 
 } // namespace

@@ -149,12 +149,15 @@ TEST_F(AvecDesktop, TheAboutBoxFitsInBothLanguagesAndItsLinksTakeTheKeyboard) {
 }
 
 TEST(LigneDeCommande, HelpAndVersionNeedNoWindow) {
-  const auto aide = qt::ReponseSansFenetre({"--help"});
-  ASSERT_TRUE(aide.has_value());
-  EXPECT_NE(aide->find("Usage: velmaris [OPTION] [FILE.LoP]"), std::string::npos);
-  EXPECT_EQ(qt::ReponseSansFenetre({"a.LoP", "-v"}), "velmaris " + std::string(TexteVersion()) + "\n");
-  EXPECT_FALSE(qt::ReponseSansFenetre({"a.LoP"}).has_value());
-  EXPECT_FALSE(qt::ReponseSansFenetre({"--", "--help"}).has_value()) << "a file of that name";
+  for (const auto &[dit, usage] : {std::pair(Langue{false}, "Usage: velmaris [OPTION] [FILE.LoP]"),
+                                   std::pair(Langue{true}, "Usage : velmaris [OPTION] [FICHIER.LoP]")}) {
+    const auto aide = qt::ReponseSansFenetre({"--help"}, dit);
+    ASSERT_TRUE(aide.has_value());
+    EXPECT_EQ(aide->find(usage), 0U);
+  }
+  EXPECT_EQ(qt::ReponseSansFenetre({"a.LoP", "-v"}, {}), "velmaris " + std::string(TexteVersion()) + "\n");
+  EXPECT_FALSE(qt::ReponseSansFenetre({"a.LoP"}, {}).has_value());
+  EXPECT_FALSE(qt::ReponseSansFenetre({"--", "--help"}, {}).has_value()) << "a file of that name";
 }
 
 TEST(LigneDeCommande, TheFirstArgumentThatIsNoOptionNamesTheSight) {

@@ -1,3 +1,4 @@
+#include "shell/qt/Accessible.hpp"
 #include "shell/qt/Apparence.hpp"
 
 #include <QApplication>
@@ -10,5 +11,6 @@ int main(int argc, char **argv) {
   }
   const QApplication application(argc, argv);
   velmaris::qt::PoseApparence();
+  velmaris::qt::PoseRolesAccessibles();
   return RUN_ALL_TESTS();
 }

@@ -91,6 +91,24 @@ TEST_F(CielLabels, NamesOfNavigationStarsStandAtAllHoursOnBothChartsAndWhatIsSho
   EXPECT_GT(verts, 600U);
 }
 
+TEST_F(CielLabels, NoNameOverprintsAFigureOfTheScaleAndGreenOnesAreMovedAside) {
+  Ouvre();
+  const std::vector<ciel::LabelMontre> libres = Montres();
+  for (const ciel::LabelMontre &libre : libres) {
+    const std::vector<ZoneTexte> figure{libre.zone};
+    bool vu = false;
+    for (const ciel::LabelMontre &montre : ciel::LabelsMontres(c, Corps(), figure)) {
+      EXPECT_FALSE(SeCoupent(montre.zone, figure[0])) << montre.label->legende;
+      vu = vu || montre.label == libre.label;
+    }
+    EXPECT_TRUE(vu || !libre.label->gras) << libre.label->legende;
+    verts += libre.label->gras ? 1 : 0;
+    const ciel::AstreTrouve trouve = ciel::AstreAu(c, Corps(), Milieu(libre.zone), 0, figure);
+    EXPECT_TRUE(trouve.pointe == nullptr || trouve.pointe->genre != Genre::Etiquette) << libre.label->legende;
+  }
+  EXPECT_GT(verts, 5U);
+}
+
 TEST_F(CielLabels, PointingAtTheCrossFindsAcruxByItsNameAndItsMark) {
   Tape(d.Text8, "35");
   ClicOption(bureau, d.OptN[1]);
