@@ -10,8 +10,8 @@ using Fenetre = Apropos;
 // clang-format off
 // NOLINTNEXTLINE(cppcoreguidelines-avoid-c-arrays,modernize-avoid-c-arrays)
 constexpr LigneApropos kApropos[] = {
-    {RANG(Image1, 0), Genre::Image, "", {300, 300, 1440, 1440}, "", "", {.image = "velmaris-jour"}},
-    {RANG(Image1, 1), Genre::Image, "", {300, 300, 1440, 1440}, "", "", {.visible = false, .image = "velmaris-nuit"}},
+    {RANG(Image1, 0), Genre::Image, "", {300, 300, 1440, 1440}, "", "", {.image = "velmaris-jour", .par = "Label1"}},
+    {RANG(Image1, 1), Genre::Image, "", {300, 300, 1440, 1440}, "", "", {.visible = false, .image = "velmaris-nuit", .par = "Label1"}},
     {SEUL(Label1), Genre::Etiquette, "", {2040, 300, 4110, 570}, "Velmaris", "", {.titre = true, .taille = 22}},
     {RANG(Label2, 0), Genre::Etiquette, "", {2040, 930, 4110, 255}, "Navigation astronomique à la mer", "", {.taille = 10}},
     {RANG(Label2, 3), Genre::Etiquette, "", {2040, 1245, 4110, 255}},

@@ -15,7 +15,7 @@ constexpr LigneDonnees kBarre[] = {
     {SEUL(LabLat), Genre::Etiquette, "Image1", {60, 3300, 240, 3900}, "", "", {.cote = Cote::Centre}},
     {SEUL(LabLon), Genre::Etiquette, "Image1", {8200, 9500, 3000, 225}},
     {SEUL(LabC), Genre::Etiquette, "Image1", {0, 0, 2300, 225}, "", "", {.visible = false}},
-    {SEUL(Soleil), Genre::Image, "Image1", {-2000, 0, 480, 480}, "", "", {.image = "soleil"}},
+    {SEUL(Soleil), Genre::Image, "Image1", {-2000, 0, 480, 480}, "", "", {.image = "soleil", .par = "Option7", .parIndice = 0}},
     {SEUL(Label62), Genre::Etiquette, "", {8300, 5900, 3600, 240}, "Cliquer sur le module pour l'immobiliser", "", {.visible = false}},
     {SEUL(Frame3), Genre::Cadre, "", {20, 20, 15885, 1035}},
     {SEUL(Command3), Genre::Bouton, "Frame3", {60, 225, 720, 525}, "", "Sauvegarde le Fichier", {.image = "sauve"}},

@@ -2,7 +2,9 @@
 
 #include "shell/qt/Toile.hpp"
 
+#include <QAbstractItemView>
 #include <QAccessible>
+#include <QComboBox>
 #include <QRadioButton>
 #include <QToolButton>
 
@@ -244,11 +246,30 @@ TEST_F(Mains, EachFieldIsNamedByWhatItHoldsAndItsUnit) {
 }
 
 TEST_F(Mains, AModuleIsAGroupTheSheetACanvasAndACaptionThatActsALink) {
-  const auto role = [this](const char *nom) { return QAccessible::queryAccessibleInterface(Trouve<QWidget>(nom))->role(); };
+  const auto role = [this](const char *nom) {
+    return QAccessible::queryAccessibleInterface(Trouve<QWidget>(nom))->role();
+  };
   EXPECT_EQ(role("Frame7"), QAccessible::Grouping);
   EXPECT_EQ(role("Image1"), QAccessible::Canvas);
   EXPECT_EQ(role("PicAZ"), QAccessible::Canvas);
   EXPECT_EQ(role("Image6"), QAccessible::Button);
+}
+
+TEST_F(Mains, AClosedListTellsWhatItIsForAndWhatItHasChosen) {
+  auto *liste = Trouve<QComboBox>("Combo1");
+  QAccessibleInterface *dit = QAccessible::queryAccessibleInterface(liste);
+  EXPECT_EQ(dit->role(), QAccessible::ComboBox);
+  EXPECT_EQ(dit->text(QAccessible::Name), "Départ de l'estime, heure");
+  EXPECT_EQ(dit->text(QAccessible::Value), liste->currentText());
+  ASSERT_EQ(dit->childCount(), 1);
+  EXPECT_EQ(dit->indexOfChild(dit->child(0)), 0);
+  EXPECT_EQ(dit->child(0)->childCount(), liste->count());
+  QAccessibleActionInterface *actions = dit->actionInterface();
+  ASSERT_NE(actions, nullptr);
+  actions->doAction(QAccessibleActionInterface::pressAction());
+  EXPECT_TRUE(liste->view()->isVisible());
+  actions->doAction(QAccessibleActionInterface::pressAction());
+  EXPECT_FALSE(liste->view()->isVisible());
 }
 
 } // namespace
