@@ -11,6 +11,7 @@
 #include <QFontMetricsF>
 #include <QGroupBox>
 #include <QListWidget>
+#include <QPointer>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QTimer>
@@ -182,7 +183,7 @@ TEST_F(CielOuvert, TheArrowsMoveThroughTheBodiesReturnTakesOneAndEscapeCloses) {
 
 TEST_F(CielOuvert, ItsTimerRunsWhileTheBoxIsTickedAndStopsWithTheWindow) {
   Ouvre();
-  QTimer *horloge = Horloge();
+  const QPointer<QTimer> horloge = Horloge();
   ASSERT_NE(horloge, nullptr);
   EXPECT_TRUE(horloge->isActive());
   EXPECT_EQ(horloge->interval(), 10000);
@@ -191,8 +192,9 @@ TEST_F(CielOuvert, ItsTimerRunsWhileTheBoxIsTickedAndStopsWithTheWindow) {
   Joue([this] { ClicCase(bureau, c.Check2); });
   EXPECT_TRUE(horloge->isActive());
   Joue([this] { ClicControle(bureau, c.Command4); });
-  EXPECT_FALSE(horloge->isActive());
+  EXPECT_FALSE(horloge != nullptr && horloge->isActive()); // the window may be deleted already
   QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+  EXPECT_EQ(horloge, nullptr);
   EXPECT_EQ(Horloge(), nullptr);
   EXPECT_TRUE(fenetre->isActiveWindow());
 }
