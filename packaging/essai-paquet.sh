@@ -16,7 +16,7 @@ mkdir -p "$images"
 # A screen outside, whose socket is seen in the root.
 ouvre_ecran() {
   mkdir -p /tmp/.X11-unix
-  Xvfb -displayfd 3 -screen 0 1366x768x24 -nolisten tcp -ac 3>"$racine/ecran" >"$racine/xvfb.log" 2>&1 &
+  Xvfb -displayfd 3 -screen 0 1366x768x24 -nolisten tcp -noreset -ac 3>"$racine/ecran" >"$racine/xvfb.log" 2>&1 &
   processus+=($!)
   for _ in $(seq 100); do
     [ -s "$racine/ecran" ] && break

@@ -63,7 +63,7 @@ quitte fin-2-quitter
 
 # A screen that goes: the program ends, and what was typed stays.
 NUMERO=$((200 + $$ % 700))
-Xvfb ":$NUMERO" -screen 0 1024x768x24 2>/dev/null &
+Xvfb ":$NUMERO" -screen 0 1024x768x24 -noreset 2>/dev/null &
 ECRAN=$!
 attends test -S "/tmp/.X11-unix/X$NUMERO"
 export DISPLAY=":$NUMERO"
