@@ -66,7 +66,18 @@ attends boite_ouverte '^Astres$'
 pause 0.5
 touche Right Right Up; pause 0.3
 image clavier-6-ciel
+# Which body the arrows lead to goes by the time of day, and by the body how many controls lie on the way.
+REPRISE="$XDG_DATA_HOME/velmaris/reprise.txt"
+gardee() {
+  local avant
+  avant=$(cksum <"$REPRISE")
+  pause 1
+  [ "$(cksum <"$REPRISE")" = "$avant" ] && [ "$(tail -n 1 "$REPRISE")" = fin ]
+}
 touche Return; pause 0.3
+attends gardee
+DETOURS=(0 0 1 2)
+DETOUR=${DETOURS[$(sed -n 's/^controle\tOption7\t\([0-3]\)\t1$/\1/p' "$REPRISE")]}
 xdotool windowfocus --sync "$FENETRE"
 image clavier-6-astre
 

@@ -63,15 +63,21 @@ for n in $(seq "$MORTS"); do
   vie=$((RANDOM % (DUREE + 300)))
   (sleep "$(printf '%d.%03d' $((vie / 1000)) $((vie % 1000)))"; kill -KILL "$PID" 2>/dev/null) &
   tueur=$!
+  # Hands of a group of their own: what they have begun to type is typed to its end before the next program comes. Cut off
+  # between a key's press and its release they would leave it held down for good.
+  set -m
   (until fenetre_principale && titre_dit '[ab]$'; do sleep 0.05; done; xdotool windowfocus --sync "$FENETRE"; geste) \
     >/dev/null 2>&1 &
   mains=$!
+  set +m
   code=0; wait "$PID" 2>/dev/null || code=$?
   [ "$code" = 0 ] && finies=$((finies + 1))
-  kill "$tueur" "$mains" 2>/dev/null || true
+  kill "$tueur" 2>/dev/null || true
+  kill "$mains" 2>/dev/null || true
+  while pgrep -g "$mains" >/dev/null; do sleep 0.05; done
   wait "$tueur" "$mains" 2>/dev/null || true
   attendu "l'état du magasin, $n" "$(sqlite3 "$MAGASIN" 'PRAGMA integrity_check')" ok
-  case $(droite 0) in "${DROITES[0]}" | "${DROITES[1]}") ;; *) echoue "une droite mêlée, $n" ;; esac
+  case $(droite 0) in "${DROITES[0]}" | "${DROITES[1]}") ;; *) echoue "une droite mêlée, $n : $(diff <(echo "${DROITES[0]}") <(droite 0); diff <(echo "${DROITES[1]}") <(droite 0))" ;; esac
   case $(cat "$FICHIER") in "${SAUVES[0]}" | "${SAUVES[1]}") ;; *) echoue "un fichier mêlé, $n" ;; esac
   [ "$(journal)" -ge "$avant" ] || echoue "le journal a perdu une ligne, $n"
   avant=$(journal)

@@ -23,22 +23,27 @@ attends() {
 }
 
 # What those have done who have a share in a key press: the program, the window manager, the screen. Each has its state
-# and how often it has had the processor.
+# and how often it has had the processor. Sets MAINTENANT, and starts no process for it: a busy machine would let that
+# wait for as long as a cursor takes to blink.
 activite() {
-  local numero etat tranches
-  for numero in ${PID:-} ${GESTIONNAIRE:-} $(cat "/tmp/.X${DISPLAY#*:}-lock" 2>/dev/null); do
+  local numero ecran='' etat tranches
+  MAINTENANT=''
+  read -r ecran <"/tmp/.X${DISPLAY#*:}-lock" || true
+  for numero in ${PID:-} ${GESTIONNAIRE:-} $ecran; do
     read -r _ _ etat _ <"/proc/$numero/stat" && read -r _ _ tranches <"/proc/$numero/schedstat" || continue
-    printf '%s%s ' "$etat" "$tranches"
-  done 2>/dev/null || true
+    MAINTENANT+="$etat$tranches "
+  done
 }
-# Waits until none of them has anything left to do.
+# Waits until none of them has anything left to do: three looks without a change, or, on a machine so busy that a cursor
+# blinks between any two, twenty without one of them waiting for the processor.
 calme() {
-  local avant=debut maintenant fois=0
-  for _ in $(seq 3000); do
-    maintenant=$(activite)
-    if [ "$maintenant" = "$avant" ] && [[ $maintenant != *[RD]* ]]; then fois=$((fois + 1)); else fois=0; fi
-    [ $fois -ge 2 ] && return 0
-    avant=$maintenant
+  local avant=debut MAINTENANT fois=0 oisifs=0
+  for _ in $(seq 9000); do
+    activite 2>/dev/null
+    if [[ $MAINTENANT == *[RD]* ]]; then oisifs=0; else oisifs=$((oisifs + 1)); fi
+    if [ "$MAINTENANT" = "$avant" ] && [ $oisifs -gt 0 ]; then fois=$((fois + 1)); else fois=0; fi
+    [ $fois -ge 2 ] || [ $oisifs -ge 20 ] && return 0
+    avant=$MAINTENANT
     sleep 0.02
   done
   echoue "le programme ne se calme pas"
