@@ -74,7 +74,7 @@ for n in $(seq "$MORTS"); do
   [ "$code" = 0 ] && finies=$((finies + 1))
   kill "$tueur" 2>/dev/null || true
   kill "$mains" 2>/dev/null || true
-  while pgrep -g "$mains" >/dev/null; do sleep 0.05; done
+  while pgrep -g "$mains" -r D,R,S >/dev/null; do sleep 0.05; done
   wait "$tueur" "$mains" 2>/dev/null || true
   attendu "l'état du magasin, $n" "$(sqlite3 "$MAGASIN" 'PRAGMA integrity_check')" ok
   case $(droite 0) in "${DROITES[0]}" | "${DROITES[1]}") ;; *) echoue "une droite mêlée, $n : $(diff <(echo "${DROITES[0]}") <(droite 0); diff <(echo "${DROITES[1]}") <(droite 0))" ;; esac
