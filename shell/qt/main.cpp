@@ -3,13 +3,13 @@
 #include "shell/Reprise.hpp"
 #include "shell/Sortie.hpp"
 #include "shell/droites/FichierVisee.hpp"
-#include "shell/qt/Accessible.hpp"
-#include "shell/qt/Apparence.hpp"
-#include "shell/qt/Commande.hpp"
-#include "shell/qt/Fenetre.hpp"
-#include "shell/qt/PortsQt.hpp"
-#include "shell/qt/Signaux.hpp"
-#include "shell/qt/Toile.hpp"
+#include "shell/qt/cadre/Fenetre.hpp"
+#include "shell/qt/cadre/PortsQt.hpp"
+#include "shell/qt/peinture/Apparence.hpp"
+#include "shell/qt/peinture/Toile.hpp"
+#include "shell/qt/systeme/Commande.hpp"
+#include "shell/qt/systeme/Signaux.hpp"
+#include "shell/qt/widgets/Accessible.hpp"
 
 #include <QApplication>
 #include <QScreen>

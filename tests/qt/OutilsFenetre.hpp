@@ -1,7 +1,7 @@
 #pragma once
 
-#include "shell/qt/Fenetre.hpp"
-#include "shell/qt/Widgets.hpp"
+#include "shell/qt/cadre/Fenetre.hpp"
+#include "shell/qt/widgets/Widgets.hpp"
 #include "tests/shell/bureau/OutilsBureau.hpp"
 
 #include <QAbstractButton>

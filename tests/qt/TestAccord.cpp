@@ -1,7 +1,7 @@
 #include "OutilsFenetre.hpp"
 
-#include "shell/qt/Dialogue.hpp"
-#include "shell/qt/Toile.hpp"
+#include "shell/qt/cadre/Dialogue.hpp"
+#include "shell/qt/peinture/Toile.hpp"
 
 #include <QAbstractItemView>
 #include <QComboBox>

@@ -1,6 +1,6 @@
 #include "OutilsFenetre.hpp"
 
-#include "shell/qt/Toile.hpp"
+#include "shell/qt/peinture/Toile.hpp"
 
 #include <QMenu>
 #include <QPainter>

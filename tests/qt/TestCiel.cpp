@@ -1,11 +1,11 @@
 #include "OutilsFenetre.hpp"
 
 #include "shell/ciel/EcranCiel.hpp"
-#include "shell/qt/FenetreCiel.hpp"
-#include "shell/qt/Nuit.hpp"
-#include "shell/qt/PortsQt.hpp"
-#include "shell/qt/ToileCiel.hpp"
-#include "shell/qt/Widgets.hpp"
+#include "shell/qt/cadre/FenetreCiel.hpp"
+#include "shell/qt/cadre/PortsQt.hpp"
+#include "shell/qt/peinture/Nuit.hpp"
+#include "shell/qt/peinture/ToileCiel.hpp"
+#include "shell/qt/widgets/Widgets.hpp"
 
 #include <QElapsedTimer>
 #include <QFontMetricsF>

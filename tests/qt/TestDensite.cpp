@@ -1,7 +1,7 @@
 #include "OutilsFenetre.hpp"
 
-#include "shell/qt/Icones.hpp"
-#include "shell/qt/Toile.hpp"
+#include "shell/qt/peinture/Icones.hpp"
+#include "shell/qt/peinture/Toile.hpp"
 
 #include <QImage>
 #include <QPainter>

@@ -2,8 +2,8 @@
 
 #include "shell/droites/FichierVisee.hpp"
 #include "shell/ecran/ChoixFichier.hpp"
-#include "shell/qt/Dialogue.hpp"
-#include "shell/qt/PortsQt.hpp"
+#include "shell/qt/cadre/Dialogue.hpp"
+#include "shell/qt/cadre/PortsQt.hpp"
 
 #include <QComboBox>
 #include <QDialog>

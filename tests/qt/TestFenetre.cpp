@@ -1,6 +1,6 @@
 #include "OutilsFenetre.hpp"
 
-#include "shell/qt/Widgets.hpp"
+#include "shell/qt/widgets/Widgets.hpp"
 
 #include <QFontMetricsF>
 #include <QPushButton>

@@ -1,8 +1,8 @@
 #include "OutilsFenetre.hpp"
 
-#include "shell/qt/FenetreImpression.hpp"
-#include "shell/qt/Imprimante.hpp"
-#include "shell/qt/PortsQt.hpp"
+#include "shell/qt/cadre/FenetreImpression.hpp"
+#include "shell/qt/cadre/PortsQt.hpp"
+#include "shell/qt/systeme/Imprimante.hpp"
 
 #include <QEventLoop>
 #include <QMessageBox>

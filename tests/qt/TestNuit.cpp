@@ -1,9 +1,9 @@
 #include "OutilsFenetre.hpp"
 
 #include "shell/ecran/ChoixFichier.hpp"
-#include "shell/qt/Dialogue.hpp"
-#include "shell/qt/Nuit.hpp"
-#include "shell/qt/PortsQt.hpp"
+#include "shell/qt/cadre/Dialogue.hpp"
+#include "shell/qt/cadre/PortsQt.hpp"
+#include "shell/qt/peinture/Nuit.hpp"
 
 #include <QComboBox>
 #include <QMenu>

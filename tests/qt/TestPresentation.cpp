@@ -1,10 +1,10 @@
 #include "OutilsFenetre.hpp"
 
 #include "shell/bureau/Identite.hpp"
-#include "shell/qt/Commande.hpp"
-#include "shell/qt/Dialogue.hpp"
-#include "shell/qt/Liens.hpp"
-#include "shell/qt/PortsQt.hpp"
+#include "shell/qt/cadre/Dialogue.hpp"
+#include "shell/qt/cadre/PortsQt.hpp"
+#include "shell/qt/systeme/Commande.hpp"
+#include "shell/qt/systeme/Liens.hpp"
 
 #include <QClipboard>
 #include <QElapsedTimer>

@@ -1,8 +1,8 @@
 #include "OutilsFenetre.hpp"
 
 #include "shell/ecran/PageImprimee.hpp"
-#include "shell/qt/FenetreImpression.hpp"
-#include "shell/qt/PortsQt.hpp"
+#include "shell/qt/cadre/FenetreImpression.hpp"
+#include "shell/qt/cadre/PortsQt.hpp"
 
 #include <QEventLoop>
 #include <QMenu>

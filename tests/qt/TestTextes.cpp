@@ -2,7 +2,7 @@
 
 #include "chart/Lieux.hpp"
 #include "foundations/Fichiers.hpp"
-#include "shell/qt/Toile.hpp"
+#include "shell/qt/peinture/Toile.hpp"
 
 #include <QImage>
 #include <QPainter>

@@ -1,9 +1,9 @@
 #include "OutilsFenetre.hpp"
 
 #include "shell/carte/Objets.hpp"
-#include "shell/qt/Dialogue.hpp"
-#include "shell/qt/PortsQt.hpp"
-#include "shell/qt/Widgets.hpp"
+#include "shell/qt/cadre/Dialogue.hpp"
+#include "shell/qt/cadre/PortsQt.hpp"
+#include "shell/qt/widgets/Widgets.hpp"
 
 #include <QFontMetricsF>
 #include <QGroupBox>

@@ -1,5 +1,5 @@
-#include "shell/qt/Accessible.hpp"
-#include "shell/qt/Apparence.hpp"
+#include "shell/qt/peinture/Apparence.hpp"
+#include "shell/qt/widgets/Accessible.hpp"
 
 #include <QApplication>
 #include <gtest/gtest.h>

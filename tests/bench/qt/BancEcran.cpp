@@ -5,9 +5,9 @@
 #include "shell/ciel/EcranCiel.hpp"
 #include "shell/ciel/SourisCiel.hpp"
 #include "shell/droites/Droites.hpp"
-#include "shell/qt/Dialogue.hpp"
-#include "shell/qt/Fenetre.hpp"
-#include "shell/qt/Toile.hpp"
+#include "shell/qt/cadre/Dialogue.hpp"
+#include "shell/qt/cadre/Fenetre.hpp"
+#include "shell/qt/peinture/Toile.hpp"
 
 #include <QApplication>
 #include <QDir>

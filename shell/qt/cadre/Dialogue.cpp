@@ -1,0 +1,114 @@
+#include "shell/qt/cadre/Dialogue.hpp"
+
+#include "shell/bureau/Evenements.hpp"
+#include "shell/qt/peinture/Nuit.hpp"
+#include "shell/qt/peinture/Toile.hpp"
+#include "shell/qt/widgets/Widgets.hpp"
+
+#include <QEvent>
+#include <QKeyEvent>
+#include <QPaintEvent>
+#include <QPainter>
+#include <QPushButton>
+
+#include <algorithm>
+#include <cmath>
+
+namespace velmaris::qt {
+namespace {
+
+/// Whether Return has a button of its own among the controls.
+bool AParDefaut(const Rendu &rendu) {
+  return std::any_of(rendu.liens().begin(), rendu.liens().end(),
+                     [](const Lien &lien) { return lien.controle->role == Role::Defaut; });
+}
+
+} // namespace
+
+Dialogue::Dialogue(Scene &scene, CadreFenetre &cadre, QWidget *parent, bool etirable)
+    : QDialog(parent), scene_(scene), cadre_(cadre), rendu_(scene, *this, ControlesDe(scene.bureau(), cadre.nom)),
+      parDefaut_(AParDefaut(rendu_)) {
+  setObjectName(QString::fromUtf8(cadre.nom.data(), static_cast<qsizetype>(cadre.nom.size())));
+  const double f = PixelsParTwip(*this);
+  const QSize taille(static_cast<int>(std::lround(cadre.largeur * f)),
+                     static_cast<int>(std::lround(cadre.hauteur * f)));
+  etirable ? resize(taille) : setFixedSize(taille);
+  for (const Lien &lien : rendu_.liens()) {
+    if (auto *bouton = qobject_cast<QPushButton *>(lien.widget)) {
+      bouton->setAutoDefault(parDefaut_); // else the toolkit would give Return to the first one
+      bouton->setDefault(lien.controle->role == Role::Defaut);
+    }
+  }
+  rendu_.AccordeFenetre = [this] { AccordeFenetre(); };
+}
+
+void Dialogue::AccordeFenetre() {
+  setWindowTitle(QString::fromStdString(cadre_.titre));
+  if ((!cadre_.visible || scene_.bureau().termine) && isVisible()) {
+    done(QDialog::Accepted);
+  }
+}
+
+void Dialogue::Montre() {
+  scene_.Accorde();
+  if (cadre_.visible) {
+    exec();
+  }
+}
+
+void Dialogue::MontreACote() {
+  scene_.Accorde();
+  if (cadre_.visible) {
+    show();
+  }
+}
+
+void Dialogue::reject() {
+  for (const Lien &lien : rendu_.liens()) {
+    if (lien.controle->role == Role::Annule) {
+      scene_.Joue([&] { ClicControle(scene_.bureau(), *lien.controle); });
+      return;
+    }
+  }
+  QDialog::reject();
+}
+
+bool Dialogue::VientDevant() { return isActiveWindow(); }
+
+void Dialogue::changeEvent(QEvent *event) {
+  if (event->type() == QEvent::ActivationChange && VientDevant()) {
+    scene_.Joue([this] { ActiveFenetre(scene_.bureau(), cadre_.nom); });
+  }
+  QDialog::changeEvent(event);
+}
+
+/// Return on the control that has the keyboard, where it has a use of its own for it.
+bool Dialogue::Valide() {
+  const auto &liens = rendu_.liens();
+  const auto lien =
+      std::find_if(liens.begin(), liens.end(), [this](const Lien &l) { return l.widget == focusWidget(); });
+  bool faite = false;
+  if (lien != liens.end()) {
+    scene_.Joue([&] { faite = ValideControle(scene_.bureau(), *lien->controle); });
+  }
+  return faite;
+}
+
+void Dialogue::keyPressEvent(QKeyEvent *event) {
+  const bool retour = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+  if (retour && Valide()) {
+    return;
+  }
+  if (auto *bouton = qobject_cast<QPushButton *>(focusWidget()); retour && !parDefaut_ && bouton != nullptr) {
+    bouton->click();
+  } else {
+    QDialog::keyPressEvent(event);
+  }
+}
+
+void Dialogue::paintEvent(QPaintEvent *event) {
+  QPainter p(this);
+  p.fillRect(event->rect(), TeintesDe(EstNuit()).fenetre);
+}
+
+} // namespace velmaris::qt

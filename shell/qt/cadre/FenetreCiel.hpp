@@ -1,0 +1,32 @@
+#pragma once
+
+#include "shell/qt/cadre/Dialogue.hpp"
+
+#include <QTimer>
+
+namespace velmaris::qt {
+
+class ToileCiel;
+
+/// The sky's window: its chart, its own clock, and a size that the user chooses.
+class FenetreCiel : public Dialogue {
+public:
+  /// Makes the widgets; the core has opened the window.
+  FenetreCiel(Scene &scene, QWidget *parent);
+
+protected:
+  void AccordeFenetre() override;
+  void resizeEvent(QResizeEvent *event) override;
+
+private:
+  void Branche();
+  bool Touche(int touche);
+  void Redimensionne();
+
+  Bureau &bureau_;
+  ToileCiel &toile_;
+  QTimer horloge_;
+  bool enTaille_ = false; ///< a new size is being drawn: one that comes meanwhile waits
+};
+
+} // namespace velmaris::qt

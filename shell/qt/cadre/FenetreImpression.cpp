@@ -1,0 +1,98 @@
+#include "shell/qt/cadre/FenetreImpression.hpp"
+
+#include "shell/bureau/Evenements.hpp"
+#include "shell/qt/peinture/Nuit.hpp"
+#include "shell/qt/peinture/PageQt.hpp"
+#include "shell/qt/peinture/Toile.hpp"
+
+#include <QApplication>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QScreen>
+#include <QWindow>
+
+#include <algorithm>
+#include <utility>
+
+namespace velmaris::qt {
+namespace {
+
+constexpr int kBarreTitre = 32; ///< pixels that a window manager's title takes, near enough
+
+} // namespace
+
+FenetreImpression::FenetreImpression(Scene &scene, QWidget *parent)
+    : Dialogue(scene, scene.bureau().impression.cadre, parent), page_(scene.bureau().impression) {
+  // A window of its own: as a dialog of the main one it would stay over it.
+  setWindowFlags(Qt::Window | Qt::WindowTitleHint | Qt::WindowSystemMenuHint | Qt::WindowMinimizeButtonHint |
+                 Qt::WindowCloseButtonHint);
+  create();
+  windowHandle()->setTransientParent(nullptr);
+  const QRect libre = screen()->availableGeometry();
+  setFixedSize(size().boundedTo(libre.size() - QSize(0, kBarreTitre)));
+  // The toolkit would set it over the middle of the main window, without a thought for its title.
+  const QSize reste = libre.size() - size() - QSize(0, kBarreTitre);
+  move(libre.topLeft() + QPoint(reste.width() / 2, reste.height() / 2));
+  connect(qGuiApp, &QGuiApplication::focusWindowChanged, this, [this](const QWindow *devant) { Note(devant); });
+}
+
+/// Notes what takes the keyboard while the page hasn't it. A list that opens is no window of its own.
+void FenetreImpression::Note(const QWindow *devant) {
+  if (devant != windowHandle() && QApplication::activePopupWidget() == nullptr) {
+    sousBoite_ = QApplication::activeModalWidget() != nullptr;
+  }
+}
+
+void FenetreImpression::AccordeFenetre() {
+  Dialogue::AccordeFenetre();
+  // On a small screen the button stays in reach.
+  if (QWidget *cadre = rendu().WidgetDe(page_.Frame1)) {
+    const QSize reste = size() - cadre->size();
+    cadre->move(std::min(cadre->x(), reste.width()), std::min(cadre->y(), reste.height()));
+  }
+  std::vector<Controle> voulus;
+  PourChaque(page_, [&](const LigneImpression &, const Controle &c) {
+    if (c.peint) {
+      voulus.push_back(c);
+    }
+  });
+  const bool prise = std::exchange(prise_, page_.prises) != page_.prises;
+  if (voulus != peints_ || nuit_ != EstNuit() || prise) {
+    peints_ = std::move(voulus);
+    nuit_ = EstNuit();
+    // A new picture is on show when the page has come to the front; no event is let in for that.
+    prise ? repaint() : update();
+  }
+}
+
+/// A box that goes, or the dialog that chooses the printer, doesn't bring the page to the front: it was there. Anything
+/// else does, also when it came between.
+bool FenetreImpression::VientDevant() {
+  if (!isActiveWindow()) {
+    sousBoite_ = QApplication::activeModalWidget() != nullptr;
+    return false;
+  }
+  return !std::exchange(sousBoite_, false);
+}
+
+void FenetreImpression::mouseReleaseEvent(QMouseEvent *event) {
+  if (event->button() == Qt::LeftButton && rect().contains(event->position().toPoint())) {
+    reject();
+  }
+}
+
+void FenetreImpression::reject() {
+  scene().Joue([this] { ClicControle(scene().bureau(), page_.Image1); });
+}
+
+void FenetreImpression::paintEvent(QPaintEvent *event) {
+  Dialogue::paintEvent(event);
+  QPainter painter(this);
+  const double facteur = PixelsParTwip(*this);
+  const double echelle =
+      std::min({1.0, width() / (page_.cadre.largeur * facteur), height() / (page_.cadre.hauteur * facteur)});
+  painter.scale(echelle, echelle);
+  PeintPage(painter, page_, facteur, EstNuit());
+}
+
+} // namespace velmaris::qt

@@ -1,0 +1,48 @@
+#include "shell/qt/cadre/MenuCarte.hpp"
+
+#include "shell/bureau/Evenements.hpp"
+#include "shell/qt/widgets/Widgets.hpp"
+
+#include <QMenu>
+
+namespace velmaris::qt {
+namespace {
+
+/// The entries of a menu, and those of the menus in it.
+void Remplit(QMenu &qt, QWidget &parent, Scene &scene, const ListeControles &controles, std::string_view menu) {
+  qt.setToolTipsVisible(true);
+  for (Controle *c : controles) {
+    if (c->parent != menu) {
+      continue;
+    }
+    const QString legende = QString::fromStdString(c->legende);
+    if (c->genre == Genre::Menu) {
+      Remplit(*qt.addMenu(legende), parent, scene, controles, c->nom);
+    } else if (c->genre == Genre::Separateur) {
+      qt.addSeparator();
+    } else if (c->genre == Genre::Entree) {
+      QAction *entree = qt.addAction(legende);
+      entree->setObjectName(QString::fromStdString(c->nom));
+      entree->setEnabled(c->actif);
+      entree->setCheckable(c->valeur != 0);
+      entree->setChecked(c->valeur != 0);
+      entree->setToolTip(Infobulle(c->infobulle));
+      // Once the menu has gone: a drawing lets the interface live, which would take the menu away under its own entry.
+      QObject::connect(
+          entree, &QAction::triggered, &parent,
+          [&scene, c] { scene.Joue([&scene, c] { ClicControle(scene.bureau(), *c); }); }, Qt::QueuedConnection);
+    }
+  }
+}
+
+} // namespace
+
+void OuvreMenu(Scene &scene, const Controle &menu, QWidget &parent, const QPoint &place) {
+  auto *qt = new QMenu(&parent);
+  qt->setObjectName(QString::fromStdString(menu.nom));
+  Remplit(*qt, parent, scene, ControlesDe(scene.bureau(), menu.fenetre), menu.nom);
+  QObject::connect(qt, &QMenu::aboutToHide, qt, &QObject::deleteLater);
+  qt->popup(place);
+}
+
+} // namespace velmaris::qt

@@ -1,0 +1,115 @@
+#include "shell/qt/widgets/Adaptateur.hpp"
+
+#include "shell/qt/peinture/Nuit.hpp"
+#include "shell/qt/peinture/Toile.hpp"
+#include "shell/qt/widgets/Widgets.hpp"
+
+#include <QApplication>
+
+namespace velmaris::qt {
+namespace {
+
+constexpr double kPlusPetite = 7.0; ///< points of a caption that stands out
+
+/// The background of a caption on the drawing surface. Not quite opaque: an opaque widget that moves is copied from
+/// place to place by the toolkit, which then paints what lies under it over the modules.
+void PoseFond(QWidget &widget) {
+  QPalette palette = widget.palette();
+  QColor fond = QApplication::palette().color(QPalette::Base);
+  fond.setAlpha(254);
+  palette.setColor(QPalette::Base, fond);
+  widget.setPalette(palette);
+}
+
+void PoseCouleur(QWidget &widget, const Controle &c) {
+  QPalette palette = widget.palette();
+  const QColor couleur = EstNuit() ? EncreDeNuit(CouleurQt(c.couleur)) : CouleurQt(c.couleur);
+  palette.setColor(QPalette::Active, widget.foregroundRole(), couleur);
+  palette.setColor(QPalette::Inactive, widget.foregroundRole(), couleur);
+  widget.setPalette(palette);
+}
+
+/// The font of a control; a caption that stands out takes no more room than its place has.
+void PosePolice(QWidget &widget, const Controle &c) {
+  QFont font = widget.font();
+  font.setPointSizeF(c.taille);
+  font.setBold(c.gras || c.accent);
+  font.setUnderline(c.accent);
+  const double place = widget.width() - LargeurMarque(widget);
+  while (c.accent && font.pointSizeF() > kPlusPetite && QFontMetricsF(font).horizontalAdvance(Legende(c)) > place) {
+    font.setPointSizeF(font.pointSizeF() - 0.5);
+  }
+  widget.setFont(font);
+}
+
+bool Actif(const QWidget &widget) { return !widget.testAttribute(Qt::WA_ForceDisabled); }
+
+} // namespace
+
+void Adaptateur::Ecoute(Bureau & /*bureau*/, Controle & /*controle*/, const Joueur & /*joue*/) {}
+
+bool Adaptateur::EnAccord(const Controle &c, const QString &nom) const {
+  return Montre() == Voulu(c) && Actif(widget_) == c.actif && widget_.isHidden() != c.visible &&
+         widget_.accessibleName() == nom;
+}
+
+/// Place, font, picture, words and colour.
+void Adaptateur::AccordeAspect(const Controle &c, const Controle &vu, bool tout) {
+  if (tout || c.place != vu.place) {
+    widget_.setGeometry(PlaceQt(c.place, widget_));
+  }
+  if (tout || c.taille != vu.taille || c.gras != vu.gras || c.accent != vu.accent ||
+      (c.accent && c.legende != vu.legende)) {
+    PosePolice(widget_, c);
+  }
+  if ((tout || c.image != vu.image) && (!c.image.empty() || !vu.image.empty())) {
+    PoseImage(c);
+  }
+  if (tout || c.legende != vu.legende || c.place != vu.place || c.accent != vu.accent) {
+    PoseLegende(c);
+  }
+  if (c.couleur != vu.couleur || (tout && c.couleur != kNoir)) {
+    PoseCouleur(widget_, c);
+  }
+}
+
+void Adaptateur::Accorde(const Controle &c, const Controle &vu, const QString &nom, bool tout) {
+  AccordeAspect(c, vu, tout);
+  if (tout || Montre() != Voulu(c) || c.liste != vu.liste) {
+    const QSignalBlocker silence(&widget_);
+    PoseContenu(c, vu, tout);
+  }
+  if (const QString bulle = Infobulle(c.infobulle); widget_.toolTip() != bulle) {
+    widget_.setToolTip(bulle);
+  }
+  if (c.pointeur != vu.pointeur) {
+    widget_.setCursor(c.pointeur == Pointeur::Croix ? Qt::CrossCursor : Qt::ArrowCursor);
+  }
+  if (widget_.accessibleName() != nom) {
+    widget_.setAccessibleName(nom);
+  }
+  if (Actif(widget_) != c.actif) {
+    widget_.setEnabled(c.actif);
+  }
+  if (tout || widget_.isHidden() == c.visible) {
+    widget_.setVisible(c.visible);
+    if (c.visible && (c.genre == Genre::Cadre || c.couleur != kNoir || c.dessus)) {
+      widget_.raise();
+    }
+  }
+}
+
+void Adaptateur::AccordeTeintes(const Controle &c) {
+  if (c.opaque) {
+    PoseFond(widget_);
+  }
+  if (!c.image.empty()) {
+    PoseImage(c);
+  }
+  if (widget_.palette().isBrushSet(QPalette::Active, widget_.foregroundRole()) &&
+      widget_.testAttribute(Qt::WA_SetPalette)) {
+    PoseCouleur(widget_, c);
+  }
+}
+
+} // namespace velmaris::qt

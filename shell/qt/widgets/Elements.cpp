@@ -1,0 +1,151 @@
+#include "shell/qt/widgets/Elements.hpp"
+
+#include "shell/qt/peinture/Nuit.hpp"
+
+#include <QApplication>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QSignalBlocker>
+#include <QStyle>
+#include <QStyleOptionFocusRect>
+#include <QWheelEvent>
+
+#include <utility>
+
+namespace velmaris::qt {
+namespace {
+
+constexpr int kHautTitre = 20; ///< pixels of a module's title band
+
+} // namespace
+
+Volet::Volet(bool titre, QWidget *parent) : QFrame(parent), titre_(titre) {}
+
+void Volet::paintEvent(QPaintEvent * /*event*/) {
+  QPainter p(this);
+  const Teintes &teintes = TeintesDe(EstNuit());
+  p.fillRect(rect(), teintes.carte);
+  if (titre_) {
+    p.fillRect(QRect(0, 0, width(), kHautTitre), teintes.bande);
+  }
+  p.setPen(teintes.bord);
+  p.drawRect(rect().adjusted(0, 0, -1, -1));
+}
+
+void Volet::mousePressEvent(QMouseEvent *event) {
+  if (event->button() != Qt::LeftButton || !auClic) {
+    return;
+  }
+  prise_ = event->position().toPoint();
+  presse_ = titre_ && prise_.y() < kHautTitre;
+  tire_ = false;
+  auClic();
+}
+
+void Volet::mouseMoveEvent(QMouseEvent *event) {
+  const QPoint chemin = event->position().toPoint() - prise_;
+  tire_ = presse_ && (tire_ || chemin.manhattanLength() >= QApplication::startDragDistance());
+  if (tire_ && auTrait) {
+    auTrait(pos() + chemin);
+  }
+}
+
+void Volet::mouseReleaseEvent(QMouseEvent * /*event*/) {
+  presse_ = false;
+  if (std::exchange(tire_, false) && auLache) {
+    auLache();
+  }
+}
+
+Renvoi::Renvoi(QWidget *parent) : QLabel(parent) {
+  setFocusPolicy(Qt::TabFocus);
+  setCursor(Qt::PointingHandCursor);
+}
+
+void Renvoi::mousePressEvent(QMouseEvent *event) {
+  if (event->button() == Qt::LeftButton && auClic) {
+    auClic();
+  }
+}
+
+void Renvoi::keyPressEvent(QKeyEvent *event) {
+  const int touche = event->key();
+  if ((touche == Qt::Key_Return || touche == Qt::Key_Enter || touche == Qt::Key_Space) && auClic) {
+    auClic();
+  } else {
+    QLabel::keyPressEvent(event);
+  }
+}
+
+void Renvoi::paintEvent(QPaintEvent *event) {
+  QLabel::paintEvent(event);
+  if (hasFocus()) {
+    QPainter p(this);
+    QStyleOptionFocusRect option;
+    option.initFrom(this);
+    option.rect = rect().adjusted(1, 1, -1, -1);
+    style()->drawPrimitive(QStyle::PE_FrameFocusRect, &option, &p, this);
+  }
+}
+
+void Champ::paintEvent(QPaintEvent *event) {
+  QLineEdit::paintEvent(event);
+  if (EstNuit()) {
+    QPainter p(this);
+    p.setCompositionMode(QPainter::CompositionMode_Darken);
+    p.fillRect(event->rect(), palette().color(QPalette::BrightText));
+  }
+}
+
+Deroulante::Deroulante(QWidget *parent) : QComboBox(parent) {
+  setFocusPolicy(Qt::StrongFocus);
+  Noircit();
+}
+
+/// A text that is no line of the list, as a stored star's, is as good as one that is.
+void Deroulante::Noircit() {
+  QPalette egale = palette();
+  const QColor encre = egale.color(QPalette::Active, QPalette::Text);
+  if (egale.color(QPalette::Active, QPalette::PlaceholderText) != encre) {
+    egale.setColor(QPalette::PlaceholderText, encre);
+    setPalette(egale);
+  }
+}
+
+void Deroulante::changeEvent(QEvent *event) {
+  QComboBox::changeEvent(event);
+  if (event->type() == QEvent::PaletteChange) {
+    Noircit();
+  }
+}
+
+void Deroulante::wheelEvent(QWheelEvent *event) {
+  if (hasFocus()) {
+    QComboBox::wheelEvent(event);
+  } else {
+    event->ignore();
+  }
+}
+
+void ListeSansChoix::focusInEvent(QFocusEvent *event) {
+  const bool sansChoix = !currentIndex().isValid();
+  const QSignalBlocker silence(this);
+  QListWidget::focusInEvent(event);
+  if (sansChoix) {
+    setCurrentIndex({});
+  }
+}
+
+Poussoir::Poussoir(QWidget *parent) : QToolButton(parent) {
+  setAutoRaise(true);
+  setFocusPolicy(Qt::TabFocus);
+}
+
+void Poussoir::mouseDoubleClickEvent(QMouseEvent *event) { event->accept(); }
+
+Figure::Figure(QWidget *parent) : QLabel(parent) { setMouseTracking(true); }
+
+void Figure::mouseMoveEvent(QMouseEvent * /*event*/) { auSurvol(); }
+
+} // namespace velmaris::qt

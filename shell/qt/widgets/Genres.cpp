@@ -1,0 +1,389 @@
+#include "shell/qt/widgets/Adaptateur.hpp"
+
+#include "shell/bureau/Evenements.hpp"
+#include "shell/ecran/Modules.hpp"
+#include "shell/qt/peinture/Icones.hpp"
+#include "shell/qt/peinture/Toile.hpp"
+#include "shell/qt/peinture/ToileCiel.hpp"
+#include "shell/qt/widgets/Elements.hpp"
+#include "shell/qt/widgets/Widgets.hpp"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QGroupBox>
+#include <QListWidget>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QSlider>
+
+#include <algorithm>
+
+/// The kinds of controls, each with its widget.
+namespace velmaris::qt {
+namespace {
+
+constexpr int kMargePoussoir = 8; ///< pixels that a button keeps around its caption
+
+Qt::Alignment Alignement(Cote cote) {
+  switch (cote) {
+  case Cote::Centre:
+    return Qt::AlignCenter;
+  case Cote::Droite:
+    return Qt::AlignRight | Qt::AlignVCenter;
+  case Cote::Gauche:
+  default:
+    return Qt::AlignLeft | Qt::AlignVCenter;
+  }
+}
+
+/// What all kinds share: a widget of a type.
+template <class W> class De : public Adaptateur {
+public:
+  explicit De(W *widget) : Adaptateur(*widget), w(*widget) {}
+
+protected:
+  W &w;
+};
+
+/// A click, as the core takes it.
+auto Clic(Bureau &bureau, Controle &c, const Joueur &joue) {
+  return [&bureau, &c, joue] { joue([&] { ClicControle(bureau, c); }); };
+}
+
+class ASurface : public De<Toile> {
+public:
+  using De::De;
+  void Ecoute(Bureau &bureau, Controle &c, const Joueur &joue) override { w.auClic = Clic(bureau, c, joue); }
+};
+
+class ACadre : public De<Volet> {
+public:
+  using De::De;
+  void Ecoute(Bureau &bureau, Controle &c, const Joueur &joue) override {
+    w.auClic = [this, clic = Clic(bureau, c, joue)] {
+      w.raise();
+      clic();
+    };
+    w.auTrait = [this, &bureau, &c, joue](QPoint place) {
+      const double f = PixelsParTwip(w);
+      joue([&] { TireModule(bureau, c, place.x() / f, place.y() / f); });
+    };
+    w.auLache = [&bureau, joue] { joue([&] { LacheModule(bureau); }); };
+  }
+};
+
+/// A plain part of a module: a click on it is none on the module.
+class APlan : public De<QWidget> {
+public:
+  explicit APlan(QWidget *plan) : De(plan) { w.setAttribute(Qt::WA_NoMousePropagation); }
+};
+
+class AGroupe : public De<QGroupBox> {
+public:
+  explicit AGroupe(QGroupBox *groupe) : De(groupe) { w.setAttribute(Qt::WA_NoMousePropagation); }
+
+protected:
+  void PoseLegende(const Controle &c) override { w.setTitle(Legende(c)); }
+};
+
+class AEtiquette : public De<QLabel> {
+public:
+  AEtiquette(QLabel *label, const Controle &c) : De(label) {
+    w.setTextFormat(Qt::PlainText);
+    w.setAlignment(Alignement(c.cote));
+    if (c.cadre) {
+      w.setFrameStyle(static_cast<int>(QFrame::StyledPanel) | static_cast<int>(QFrame::Sunken));
+    }
+    if (c.opaque || c.cadre) {
+      w.setAutoFillBackground(true);
+      w.setBackgroundRole(QPalette::Base);
+    }
+    // A click on a plain caption or a result is none on the module that it lies in.
+    w.setAttribute(Qt::WA_NoMousePropagation, !c.titre && !velmaris::Ecoute(c, Evenement::Clic));
+  }
+
+protected:
+  void PoseLegende(const Controle &c) override {
+    w.setText(CoupeLegende(EstLettre(c) ? Legende(c) : Texte(c.legende), w, w.width(), w.height()));
+  }
+  void PoseImage(const Controle &c) override { w.setPixmap(Icone(c.image).pixmap(w.size(), w.devicePixelRatioF())); }
+};
+
+class ARenvoi : public AEtiquette {
+public:
+  ARenvoi(Renvoi *renvoi, const Controle &c) : AEtiquette(renvoi, c), renvoi_(*renvoi) {}
+  void Ecoute(Bureau &bureau, Controle &c, const Joueur &joue) override { renvoi_.auClic = Clic(bureau, c, joue); }
+
+private:
+  Renvoi &renvoi_;
+};
+
+class AImage : public De<QLabel> {
+public:
+  using De::De;
+
+protected:
+  void PoseImage(const Controle &c) override { w.setPixmap(Icone(c.image).pixmap(w.size(), w.devicePixelRatioF())); }
+};
+
+class AFigure : public De<Figure> {
+public:
+  using De::De;
+  void Ecoute(Bureau &bureau, Controle &c, const Joueur &joue) override {
+    w.auSurvol = [&bureau, &c, joue] { joue([&] { SurvoleControle(bureau, c); }); };
+  }
+
+protected:
+  void PoseImage(const Controle &c) override { w.setPixmap(Icone(c.image).pixmap(w.size(), w.devicePixelRatioF())); }
+};
+
+class ABouton : public De<QAbstractButton> {
+public:
+  ABouton(QAbstractButton *bouton, int marge) : De(bouton), marge_(marge) {}
+  void Ecoute(Bureau &bureau, Controle &c, const Joueur &joue) override {
+    QObject::connect(&w, &QAbstractButton::clicked, &w, Clic(bureau, c, joue));
+  }
+
+protected:
+  void PoseLegende(const Controle &c) override {
+    w.setText(CoupeLegende(Legende(c), w, w.width() - marge_, w.height()));
+  }
+  void PoseImage(const Controle &c) override {
+    const int cote = std::min(w.height() - 8, 26);
+    w.setIcon(Icone(c.image));
+    w.setIconSize(c.genre == Genre::Image ? w.size() - QSize(4, 4) : QSize(cote, cote));
+  }
+
+private:
+  int marge_; ///< pixels beside the caption
+};
+
+class AOption : public ABouton {
+public:
+  explicit AOption(QRadioButton *option) : ABouton(option, LargeurMarque(*option)) {}
+  void Ecoute(Bureau &bureau, Controle &c, const Joueur &joue) override {
+    QObject::connect(&w, &QAbstractButton::clicked, &w, [&bureau, &c, joue] { joue([&] { ClicOption(bureau, c); }); });
+  }
+  Contenu Montre() const override { return {{}, w.isChecked() ? 1 : 0}; }
+  Contenu Voulu(const Controle &c) const override { return {{}, c.choisi ? 1 : 0}; }
+
+protected:
+  void PoseContenu(const Controle &c, const Controle & /*vu*/, bool /*tout*/) override { w.setChecked(c.choisi); }
+};
+
+class ACase : public ABouton {
+public:
+  explicit ACase(QCheckBox *coche) : ABouton(coche, LargeurMarque(*coche)), coche_(*coche) {}
+  void Ecoute(Bureau &bureau, Controle &c, const Joueur &joue) override {
+    QObject::connect(&w, &QAbstractButton::clicked, &w, [&bureau, &c, joue] { joue([&] { ClicCase(bureau, c); }); });
+  }
+  Contenu Montre() const override { return {{}, static_cast<int>(coche_.checkState())}; }
+  Contenu Voulu(const Controle &c) const override { return {{}, static_cast<int>(Etat(c))}; }
+
+protected:
+  void PoseContenu(const Controle &c, const Controle & /*vu*/, bool /*tout*/) override {
+    coche_.setCheckState(Etat(c));
+  }
+
+private:
+  static Qt::CheckState Etat(const Controle &c) {
+    return c.valeur == 2 ? Qt::PartiallyChecked : c.valeur == 0 ? Qt::Unchecked : Qt::Checked;
+  }
+  QCheckBox &coche_;
+};
+
+class AChamp : public De<Champ> {
+public:
+  AChamp(Champ *champ, const Controle &c) : De(champ) {
+    w.setAlignment(Alignement(c.cote));
+    w.setReadOnly(c.lectureSeule);
+  }
+  void Ecoute(Bureau &bureau, Controle &c, const Joueur &joue) override {
+    QObject::connect(&w, &QLineEdit::textEdited, &w, [&bureau, &c, joue](const QString &texte) {
+      joue([&] { SaisitTexte(bureau, c, texte.toStdString()); });
+    });
+  }
+  bool EstChamp() const override { return true; }
+  void SelectionneTout() override { w.selectAll(); }
+  Contenu Montre() const override { return {w.text()}; }
+  Contenu Voulu(const Controle &c) const override { return {Texte(c.texte)}; }
+
+protected:
+  void PoseContenu(const Controle &c, const Controle & /*vu*/, bool /*tout*/) override {
+    // Where the core has only cut what was typed, the cursor stays by it.
+    const int curseur = w.cursorPosition();
+    w.setText(Texte(c.texte));
+    if (w.hasFocus()) {
+      w.setCursorPosition(curseur);
+    }
+  }
+};
+
+class ACurseur : public De<QSlider> {
+public:
+  ACurseur(QSlider *curseur, const Controle &c) : De(curseur) {
+    w.setRange(c.minimum, c.maximum);
+    w.setSingleStep(c.petitPas);
+    w.setPageStep(c.grandPas);
+  }
+  void Ecoute(Bureau &bureau, Controle &c, const Joueur &joue) override {
+    QObject::connect(&w, &QSlider::valueChanged, &w,
+                     [&bureau, &c, joue](int valeur) { joue([&] { BougeCurseur(bureau, c, valeur); }); });
+  }
+  Contenu Montre() const override { return {{}, w.value()}; }
+  Contenu Voulu(const Controle &c) const override { return {{}, std::clamp(c.valeur, c.minimum, c.maximum)}; }
+
+protected:
+  void PoseContenu(const Controle &c, const Controle & /*vu*/, bool /*tout*/) override { w.setValue(c.valeur); }
+};
+
+/// The line of a list that a control chooses, -1 for none.
+int Ligne(const Controle &c) { return c.rang >= 0 && static_cast<std::size_t>(c.rang) < c.liste.size() ? c.rang : -1; }
+
+/// A closed list. A text that is no line of it is shown all the same.
+class AListe : public De<Deroulante> {
+public:
+  using De::De;
+  void Ecoute(Bureau &bureau, Controle &c, const Joueur &joue) override {
+    QObject::connect(&w, &QComboBox::activated, &w,
+                     [&bureau, &c, joue](int rang) { joue([&] { ChoisitLigne(bureau, c, rang); }); });
+  }
+  Contenu Montre() const override {
+    return {w.currentIndex() < 0 ? w.placeholderText() : w.currentText(), w.currentIndex(), w.count()};
+  }
+  Contenu Voulu(const Controle &c) const override {
+    const int ligne = Ligne(c);
+    return {Texte(ligne < 0 ? c.texte : c.liste[static_cast<std::size_t>(ligne)]), ligne,
+            static_cast<qsizetype>(c.liste.size())};
+  }
+
+protected:
+  void PoseContenu(const Controle &c, const Controle &vu, bool tout) override {
+    if (tout || c.liste != vu.liste || w.count() != static_cast<int>(c.liste.size())) {
+      w.clear();
+      for (const std::string &ligne : c.liste) {
+        w.addItem(Texte(ligne));
+      }
+    }
+    w.setPlaceholderText(Texte(c.texte));
+    w.setCurrentIndex(Ligne(c));
+  }
+};
+
+class AListeBoite : public De<QListWidget> {
+public:
+  using De::De;
+  void Ecoute(Bureau &bureau, Controle &c, const Joueur &joue) override {
+    const auto choisit = [&bureau, &c, joue](int rang) { joue([&] { ChoisitLigne(bureau, c, rang); }); };
+    QObject::connect(&w, &QListWidget::currentRowChanged, &w, choisit);
+    QObject::connect(&w, &QListWidget::itemPressed, &w,
+                     [this, choisit](QListWidgetItem *ligne) { choisit(w.row(ligne)); });
+    QObject::connect(&w, &QListWidget::itemDoubleClicked, &w,
+                     [&bureau, &c, joue] { joue([&] { DoubleClicControle(bureau, c); }); });
+  }
+  bool EstChamp() const override { return true; }
+  Contenu Montre() const override {
+    const QListWidgetItem *ligne = w.currentItem();
+    return {ligne == nullptr ? QString() : ligne->text(), w.currentRow(), w.count()};
+  }
+  Contenu Voulu(const Controle &c) const override {
+    const int ligne = Ligne(c);
+    return {ligne < 0 ? QString() : Texte(c.liste[static_cast<std::size_t>(ligne)]), ligne,
+            static_cast<qsizetype>(c.liste.size())};
+  }
+
+protected:
+  void PoseContenu(const Controle &c, const Controle &vu, bool tout) override {
+    const auto montrees = static_cast<std::size_t>(w.count());
+    const bool ajout = !tout && montrees == vu.liste.size() && c.liste.size() == vu.liste.size() + 1 &&
+                       std::equal(vu.liste.begin(), vu.liste.end(), c.liste.begin());
+    if (ajout) {
+      w.addItem(Texte(c.liste.back()));
+      w.scrollToBottom();
+    } else if (tout || c.liste != vu.liste || montrees != c.liste.size()) {
+      QStringList lignes;
+      lignes.reserve(static_cast<qsizetype>(c.liste.size()));
+      for (const std::string &ligne : c.liste) {
+        lignes << Texte(ligne);
+      }
+      w.clear();
+      w.addItems(lignes);
+    }
+    if (w.currentRow() != Ligne(c)) {
+      w.setCurrentRow(Ligne(c));
+    }
+  }
+};
+
+std::unique_ptr<Adaptateur> CreeSurface(Bureau &bureau, const Controle &c, QWidget *parent) {
+  return &c == &bureau.ciel.Picture1 ? std::make_unique<ASurface>(new ToileCiel(bureau.ciel, parent))
+                                     : std::make_unique<ASurface>(new Toile(*SurfaceDe(bureau, c), parent));
+}
+
+std::unique_ptr<Adaptateur> CreeImage(const Controle &c, QWidget *parent) {
+  if (velmaris::Ecoute(c, Evenement::Clic)) {
+    auto *bouton = new Poussoir(parent);
+    return std::make_unique<ABouton>(bouton, LargeurMarque(*bouton));
+  }
+  if (velmaris::Ecoute(c, Evenement::Survol)) {
+    return std::make_unique<AFigure>(new Figure(parent));
+  }
+  return std::make_unique<AImage>(new QLabel(parent));
+}
+
+std::unique_ptr<Adaptateur> CreeEtiquette(const Controle &c, QWidget *parent) {
+  if (c.renvoi) {
+    return std::make_unique<ARenvoi>(new Renvoi(parent), c);
+  }
+  return std::make_unique<AEtiquette>(new QLabel(parent), c);
+}
+
+std::unique_ptr<Adaptateur> CreeListeBoite(QWidget *parent) {
+  auto *liste = new ListeSansChoix(parent);
+  liste->setUniformItemSizes(true);
+  liste->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+  return std::make_unique<AListeBoite>(liste);
+}
+
+} // namespace
+
+std::unique_ptr<Adaptateur> CreeAdaptateur(Bureau &bureau, const Controle &c, QWidget *parent) {
+  switch (c.genre) {
+  case Genre::Surface:
+    return CreeSurface(bureau, c, parent);
+  case Genre::Cadre:
+    return std::make_unique<ACadre>(new Volet(c.titre, parent));
+  case Genre::Groupe:
+    if (c.legende.empty()) {
+      return std::make_unique<APlan>(new QWidget(parent));
+    }
+    return std::make_unique<AGroupe>(new QGroupBox(parent));
+  case Genre::Etiquette:
+    return CreeEtiquette(c, parent);
+  case Genre::Champ:
+    return std::make_unique<AChamp>(new Champ(parent), c);
+  case Genre::Bouton:
+    return std::make_unique<ABouton>(new QPushButton(parent), kMargePoussoir);
+  case Genre::Option:
+    return std::make_unique<AOption>(new QRadioButton(parent));
+  case Genre::Case:
+    return std::make_unique<ACase>(new QCheckBox(parent));
+  case Genre::Liste:
+    return std::make_unique<AListe>(new Deroulante(parent));
+  case Genre::ListeBoite:
+    return CreeListeBoite(parent);
+  case Genre::Curseur:
+    return std::make_unique<ACurseur>(new QSlider(Qt::Horizontal, parent), c);
+  case Genre::Image:
+    return CreeImage(c, parent);
+  case Genre::Marque: // the sky's chart paints its own
+  case Genre::Texte:
+  case Genre::Menu:
+  case Genre::Entree:
+  case Genre::Separateur:
+  default:
+    return nullptr;
+  }
+}
+
+} // namespace velmaris::qt
