@@ -15,6 +15,7 @@
 #include "shell/droites/ModesDroite.hpp"
 #include "shell/droites/Route.hpp"
 #include "shell/ecran/ChoixFichier.hpp"
+#include "shell/ecran/Echelle.hpp"
 #include "shell/ecran/Modules.hpp"
 #include "shell/ecran/Nuit.hpp"
 #include "shell/ecran/PageImprimee.hpp"
@@ -177,6 +178,10 @@ constexpr Abonnement kDonnees[] = {
     {"PU_Clear", Evenement::Clic, PU_Clear_Click},
     {"PU_Apropos", Evenement::Clic, PU_Apropos_Click},
     {"PU_Nuit", Evenement::Clic, PU_Nuit_Click},
+    {"PU_TailleAuto", Evenement::Clic, PU_TailleAuto_Click},
+    {"PU_TailleMoins", Evenement::Clic, PU_TailleMoins_Click},
+    {"PU_TaillePlus", Evenement::Clic, PU_TaillePlus_Click},
+    {"PU_PleinEcran", Evenement::Clic, PU_PleinEcran_Click},
     {"PU_Secours", Evenement::Clic, PU_Secours_Click},
     {"PU_Quitter", Evenement::Clic, Sortie_Click},
 };

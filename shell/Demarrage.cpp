@@ -14,6 +14,7 @@
 #include "shell/droites/MemoireDroites.hpp"
 #include "shell/droites/ModesDroite.hpp"
 #include "shell/ecran/Disposition.hpp"
+#include "shell/ecran/Echelle.hpp"
 #include "shell/ecran/Nuit.hpp"
 #include "shell/visee/Journal.hpp"
 #include "shell/visee/PanneauDirect.hpp"
@@ -79,6 +80,7 @@ void ReprendReglages(Bureau &bureau) {
     return;
   }
   LitNuit(bureau);
+  LitTaille(bureau);
   LitOptionsCarte(bureau);
   PoseOption(bureau, bureau.donnees.Option4[Val(LitReglage(bureau, "Prec", "0")) == 1 ? 1 : 0]);
   Image10_Click(bureau, Val(LitReglage(bureau, "Langue", "0")) == 1 ? 1 : 0);
@@ -110,6 +112,7 @@ bool Touche(Bureau &bureau, int code) {
   constexpr int kF5 = kToucheF1 + 4; ///< F5 to F8, the four lines
   constexpr int kF9 = kToucheF1 + 8;
   constexpr int kF10 = kToucheF1 + 9;
+  constexpr int kF11 = kToucheF1 + 10;
   Controle &zoom = bureau.donnees.HScroll1;
   const auto deplace = [&](int pas) {
     const int valeur = zoom.valeur + pas;
@@ -141,6 +144,9 @@ bool Touche(Bureau &bureau, int code) {
     return true;
   case kF10:
     deplace(-kPasTouches);
+    return true;
+  case kF11:
+    PU_PleinEcran_Click(bureau, -1);
     return true;
   default:
     return false;

@@ -34,7 +34,7 @@ boite() {
 piece() {
   image "$1"
   mesure "$FENETRE"
-  publie "$1" "$1" "$(($4 / 15))x$(($5 / 15))+$(($2 / 15 + X))+$(($3 / 15 + Y))" "${@:6}"
+  publie "$1" "$1" "$(px "$4")x$(px "$5")+$(($(px "$2") + X))+$(($(px "$3") + Y))" "${@:6}"
 }
 # The whole main window with its title.
 fenetre() { piece "$1" 0 -300 16480 10980 "${@:2}"; }
@@ -153,7 +153,7 @@ clic 10200 520; clic 12400 3200; clic 14200 3200
 clic 14475 2745
 attends boite_ouverte "$OBJETS"
 pause 0.3
-xdotool mousemove --window "$(xdotool search --onlyvisible --name "$OBJETS" | tail -n 1)" 60 34 click 1
+xdotool mousemove --window "$(xdotool search --onlyvisible --name "$OBJETS" | tail -n 1)" "$(px 900)" "$(px 510)" click 1
 pause 0.2
 boite "$OBJETS" objets
 touche Escape

@@ -41,7 +41,11 @@ struct Ecran {
   double largeur = 28800.0; ///< 1/1440 inch
   double hauteur = 16200.0; ///< 1/1440 inch
   int pixelsHaut = 1080;
+  double echelle = 1.0; ///< pixels of the toolkit per 15/1440 inch
 };
+
+/// Percent of the scale that the screen gives, at first.
+inline constexpr int kTailleAutomatique = 100;
 
 /// Place and scales by which a chart is drawn.
 struct LieuCarte {
@@ -82,6 +86,8 @@ struct Bureau {
   const Controle *focus = nullptr;     ///< control that asks for the focus
   const Controle *menu = nullptr;      ///< menu that asks to be opened at the pointer
   bool nuit = false;                   ///< everything is painted in red on black
+  int taille = kTailleAutomatique;     ///< percent of the scale that the screen gives
+  bool pleinEcran = false;             ///< the main window fills the whole screen
   bool pointeurOccupe = false;         ///< the pointer tells that the program works
   bool termine = false;                ///< the exit sequence has run
   std::string_view premierPlan;        ///< name of the window that asks to come to the front

@@ -3,10 +3,10 @@
 #include "shell/Reprise.hpp"
 #include "shell/Sortie.hpp"
 #include "shell/droites/FichierVisee.hpp"
+#include "shell/ecran/Echelle.hpp"
 #include "shell/qt/cadre/Fenetre.hpp"
 #include "shell/qt/cadre/PortsQt.hpp"
 #include "shell/qt/peinture/Apparence.hpp"
-#include "shell/qt/peinture/Toile.hpp"
 #include "shell/qt/systeme/Commande.hpp"
 #include "shell/qt/systeme/Signaux.hpp"
 #include "shell/qt/widgets/Accessible.hpp"
@@ -15,6 +15,7 @@
 #include <QScreen>
 #include <QTimer>
 
+#include <cmath>
 #include <cstdio>
 #include <cstdlib>
 #include <exception>
@@ -26,8 +27,9 @@ constexpr int kCommandeInconnue = 2; ///< status of a command line that isn't un
 
 velmaris::Ecran EcranPrincipal() {
   const QScreen &ecran = *QGuiApplication::primaryScreen();
-  const double twips = velmaris::qt::kTwipsParPouce / ecran.logicalDotsPerInch();
-  return {ecran.geometry().width() * twips, ecran.geometry().height() * twips, ecran.geometry().height()};
+  const QSize libre = ecran.availableSize();
+  return velmaris::EcranDe(libre.width(), libre.height(),
+                           static_cast<int>(std::lround(ecran.geometry().height() * ecran.devicePixelRatio())));
 }
 
 } // namespace

@@ -111,10 +111,14 @@ demarre_apres_boite() {
   reprend "$TOLD_BOX"
 }
 
+# Pixels of 1/1440 inch by the scale that this screen gives: its height less a title bar's counts 12,592.5 of them, with
+# a scale of 0.8 at least.
+ECHELLE=$(xdpyinfo | awk '/dimensions/ {split($2, taille, "x"); e = (taille[2] - 32) / 839.5; printf "%d", 1e6 * (e > 0.8 ? e : 0.8)}')
+px() { echo $(($1 * ECHELLE / 15000000)); }
 # Clicks at a place of the window in 1/1440 inch, as the table of controls counts.
-clic() { xdotool mousemove --window "$FENETRE" $(($1 / 15)) $(($2 / 15)) click 1; pause 0.15; }
+clic() { xdotool mousemove --window "$FENETRE" "$(px "$1")" "$(px "$2")" click 1; pause 0.15; }
 # Goes to a place of the window, as the table counts, and presses nothing.
-va() { xdotool mousemove --window "$FENETRE" $(($1 / 15)) $(($2 / 15)); pause 0.2; }
+va() { xdotool mousemove --window "$FENETRE" "$(px "$1")" "$(px "$2")"; pause 0.2; }
 touche() { xdotool key --clearmodifiers --delay 30 "$@"; calme; }
 tape() { xdotool type --delay 15 -- "$1"; calme; }
 # Types into the field that has the focus and goes on to the next.
@@ -148,8 +152,8 @@ tape_suivante() {
 }
 
 # Chooses what a click on a line does: the place of its option from the top.
-MODE_ENREGISTRE=3255 MODE_AFFICHE=3540 MODE_EFFACE=3825 MODE_CENTRE=4110 MODE_RETIRE=4395 MODE_DROITE=4770
-MODE_ESTIME=5145
+MODE_ENREGISTRE=3240 MODE_AFFICHE=3540 MODE_EFFACE=3840 MODE_CENTRE=4140 MODE_RETIRE=4440 MODE_DROITE=4815
+MODE_ESTIME=5190
 mode() { clic 3200 "$1"; }
 
 # Opens a saved sight by its path.

@@ -11,14 +11,14 @@ LON=$(awk -v t="$(date +%s)" 'BEGIN {
 fenetre_ciel() { CIEL=$(xdotool search --onlyvisible --pid "$PID" --name "$TITRE" 2>/dev/null | tail -n 1); [ -n "$CIEL" ]; }
 mesure_ciel() {
   eval "$(xdotool getwindowgeometry --shell "$CIEL" | grep -E '^(X|Y|WIDTH|HEIGHT)=')"
-  W=$((WIDTH - 2300 / 15)) H=$((HEIGHT - 2725 / 15))
+  W=$((WIDTH - $(px 2300))) H=$((HEIGHT - $(px 2725))) GAUCHE=$(px 2100) HAUT=$(px 120)
 }
 survole() { xdotool mousemove --window "$CIEL" "$1" "$2"; pause 0.2; xdotool mousemove_relative 1 0; pause 0.4; }
 # Goes to a place of the sky: horizontal az h, or equatorial right ascension and declination, all in degrees.
-horizon() { survole $(awk -v w=$W -v h=$H -v a="$1" -v b="$2" 'BEGIN {printf "%d %d", 140 + a / 360 * w, 8 + h - b / 90 * h}'); }
-equateur() { survole $(awk -v w=$W -v h=$H -v a="$1" -v b="$2" 'BEGIN {printf "%d %d", 140 + w - a / 360 * w, 8 + h - (b + 90) / 180 * h}'); }
+horizon() { survole $(awk -v w=$W -v h=$H -v x=$GAUCHE -v y=$HAUT -v a="$1" -v b="$2" 'BEGIN {printf "%d %d", x + a / 360 * w, y + h - b / 90 * h}'); }
+equateur() { survole $(awk -v w=$W -v h=$H -v x=$GAUCHE -v y=$HAUT -v a="$1" -v b="$2" 'BEGIN {printf "%d %d", x + w - a / 360 * w, y + h - (b + 90) / 180 * h}'); }
 # Clicks in the bottom strip, in 1/1440 inch from its own corner.
-bas() { xdotool mousemove --window "$CIEL" $((WIDTH - (200 + 12900 - $1) / 15)) $((8 + H + (255 + $2) / 15)) click 1; pause 0.5; }
+bas() { xdotool mousemove --window "$CIEL" $((WIDTH - $(px $((13100 - $1))))) $((HAUT + H + $(px $((255 + $2))))) click 1; pause 0.5; }
 
 # Types that place and the present moment into the panel of a sight, and opens the sky's window.
 ouvre_ciel() {

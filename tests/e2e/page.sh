@@ -42,7 +42,7 @@ pdftoppm -r 96 -png -singlefile "$HOME/deux droites.pdf" "$IMAGES/page-$LANGUE-p
 revient "$DIALOGUE" '^Impression$'
 
 # A click puts the page away; by night it is red, and printed as by day.
-xdotool mousemove --window "$(xdotool search --onlyvisible --name "^Impression$" | head -n 1)" 300 60 click 1
+xdotool mousemove --window "$(xdotool search --onlyvisible --name "^Impression$" | head -n 1)" "$(px 4500)" "$(px 900)" click 1
 reprend '^Impression$'
 touche ctrl+n
 clic 1900 520

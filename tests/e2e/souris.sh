@@ -21,8 +21,8 @@ vise_etoiles "$HOME"
 cp "$EXEMPLES/24SEP26 203025.LoP" "$HOME/lune.LoP"
 rangs=("1 Altair" "2 Dubhe" "3 Arcturus" a b lune)
 
-# A click in another window, in pixels from its corner; the button may be told.
-dans() { xdotool mousemove --window "$1" "$2" "$3" click --repeat "${5:-1}" --delay 80 "${4:-1}"; pause 0.3; }
+# A click in another window, in 1/1440 inch from its corner; the button may be told.
+dans() { xdotool mousemove --window "$1" "$(px "$2")" "$(px "$3")" click --repeat "${5:-1}" --delay 80 "${4:-1}"; pause 0.3; }
 fenetre_nommee() { xdotool search --onlyvisible --name "$1" | head -n 1; }
 ouvre() {
   local i
@@ -30,20 +30,21 @@ ouvre() {
   clic 1100 500
   attends boite_ouverte "$CHARGE"
   pause 0.4
-  dans "$(fenetre_nommee "$CHARGE")" 60 $((81 + 14 * i)) 1 2
+  dans "$(fenetre_nommee "$CHARGE")" 900 $((1215 + 210 * i)) 1 2
   attends boite_fermee "$CHARGE"
   pause 0.3
 }
 DROITES=(1590 2010 2430 2850)
 droite() { clic 3600 "${DROITES[$1]}"; pause 0.2; }
-# Presses the button of a box, by its place from the lower right corner in pixels; a picture may be named.
+# Presses the button of a box, by its place from the lower right corner in 1/1440 inch; a picture may be named.
 presse_boite() {
   attends boite_ouverte "$1"
   pause 0.4
   local WIDTH HEIGHT
   eval "$(xdotool getwindowgeometry --shell "$(fenetre_nommee "$1")" | grep -E '^(WIDTH|HEIGHT)=')"
   [ -z "${4:-}" ] || image "$4"
-  dans "$(fenetre_nommee "$1")" $((WIDTH - $2)) $((HEIGHT - $3))
+  xdotool mousemove --window "$(fenetre_nommee "$1")" $((WIDTH - $(px "$2"))) $((HEIGHT - $(px "$3"))) click 1
+  pause 0.3
 }
 
 demarre
@@ -54,7 +55,7 @@ attendu "la seconde visée" "$(reglage 'T3(1)'):$(reglage 'T4(1)') $(reglage 'T1
 clic 6200 520; droite 0; droite 1
 mode $MODE_DROITE
 clic 6045 4762; pause 0.4
-xdotool mousemove --window "$FENETRE" $((6045 / 15)) $((4762 / 15 + 22)) click 1; pause 0.3
+clic 6045 $((4762 + 330)); pause 0.2
 droite 0
 attend_pixels souris-2-soleil-soleil '#008000' 100
 
@@ -79,7 +80,7 @@ attend_pixels souris-5-route '#ff00ff' 80
 clic 12400 3200; clic 14200 3200; clic 10200 520
 clic 8500 5200
 image souris-5-menu
-xdotool mousemove_relative 60 40 click 1; pause 0.5
+xdotool mousemove_relative "$(px 900)" "$(px 600)" click 1; pause 0.5
 image souris-5-centre
 clic 6200 520; droite 1
 
@@ -104,23 +105,23 @@ attends boite_fermee "$TITRE"
 clic 1900 520
 attends boite_ouverte '^Impression$'
 pause 0.5
-dans "$(fenetre_nommee '^Impression$')" 915 218
-presse_boite '^Imprimer$' 137 23 souris-7-imprimante
+dans "$(fenetre_nommee '^Impression$')" 13725 3270
+presse_boite '^Imprimer$' 2055 345 souris-7-imprimante
 attends test -s "$HOME/Velmaris.pdf"
 attends boite_fermee '^Imprimer$'
-dans "$(fenetre_nommee '^Impression$')" 300 60
+dans "$(fenetre_nommee '^Impression$')" 4500 900
 attends boite_fermee '^Impression$'
 
 clic 14700 520
 image souris-8-english
 clic 13900 520
-presse_boite "$EXIT_BOX" 150 25 souris-9-quitter
+presse_boite "$EXIT_BOX" 2250 375 souris-9-quitter
 attends finie
 wait "$PID" || echoue "le programme finit par une erreur"
 attendu "la langue" "$(reglage Langue)" 1
 demarre
 image souris-10-retour
 clic 13900 520
-presse_boite "$EXIT_BOX" 150 25
+presse_boite "$EXIT_BOX" 2250 375
 attends finie
 echo "à la souris seule : bien"

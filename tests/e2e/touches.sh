@@ -14,9 +14,9 @@ touche F3            # the present time, and the reading takes the focus
 tape 66; touche Tab
 image touches-lecture-66
 clic 1000 1200; pause 0.1 # take the module by its title
-xdotool mousemove --window "$FENETRE" 500 300 mousedown 1; pause 0.1
-xdotool mousemove --window "$FENETRE" 520 320; pause 0.1
-xdotool mousemove --window "$FENETRE" 540 140; pause 0.2
+va 7500 4500; xdotool mousedown 1; pause 0.1
+va 7800 4800
+va 8100 2100
 xdotool mouseup 1
 image touches-module-deplace
 quitte touches-quitter

@@ -102,7 +102,7 @@ TEST_F(Mains, TheWordsOfAHeldModuleLieOverEverything) {
   QWidget *aide = Trouve<QWidget>("Label62");
   ASSERT_TRUE(aide->isVisible());
   EXPECT_TRUE(aide->autoFillBackground());
-  EXPECT_EQ(fenetre->children().last(), aide);
+  EXPECT_EQ(aide->parentWidget()->children().last(), aide);
 }
 
 TEST_F(Mains, ReturnPressesFlagsAndClosePicturesAndTheOtherFlagTakesTheKeyboard) {

@@ -67,7 +67,8 @@ const TexteTrace &Trace(const Surface &surface, std::size_t rang) {
 /// The ink of a text, pixels of the picture, from what the font says of its outlines.
 QRectF EncreDe(const Surface &surface, const TextePlace &place) {
   const TexteTrace &texte = Trace(surface, place.rang);
-  const QFontMetricsF metrique(qt::PoliceQt(texte.police));
+  const QImage image(1, 1, QImage::Format_RGB32);
+  const QFontMetricsF metrique(qt::PoliceQt(texte.police, 1 / kPixel, image), &image);
   return metrique.tightBoundingRect(QString::fromStdString(texte.texte))
       .translated(place.zone.gauche / kPixel, place.zone.haut / kPixel + metrique.ascent());
 }

@@ -1,21 +1,30 @@
 #include "shell/qt/cadre/Dialogue.hpp"
 
 #include "shell/bureau/Evenements.hpp"
+#include "shell/ecran/Echelle.hpp"
 #include "shell/qt/peinture/Nuit.hpp"
 #include "shell/qt/peinture/Toile.hpp"
 #include "shell/qt/widgets/Widgets.hpp"
 
 #include <QEvent>
+#include <QGuiApplication>
 #include <QKeyEvent>
 #include <QPaintEvent>
 #include <QPainter>
 #include <QPushButton>
+#include <QScreen>
 
 #include <algorithm>
 #include <cmath>
 
 namespace velmaris::qt {
 namespace {
+
+/// The scale of a window: one that the user stretches shows what it has room for.
+double EchelleDe(const Bureau &bureau, const CadreFenetre &cadre, bool etirable) {
+  const QSize libre = QGuiApplication::primaryScreen()->availableSize();
+  return etirable ? EchelleFenetre(bureau) : EchelleDialogue(bureau, cadre, libre.width(), libre.height());
+}
 
 /// Whether Return has a button of its own among the controls.
 bool AParDefaut(const Rendu &rendu) {
@@ -26,13 +35,11 @@ bool AParDefaut(const Rendu &rendu) {
 } // namespace
 
 Dialogue::Dialogue(Scene &scene, CadreFenetre &cadre, QWidget *parent, bool etirable)
-    : QDialog(parent), scene_(scene), cadre_(cadre), rendu_(scene, *this, ControlesDe(scene.bureau(), cadre.nom)),
+    : QDialog(parent), Echelonnee(EchelleDe(scene.bureau(), cadre, etirable)), scene_(scene), cadre_(cadre),
+      rendu_(scene, *this, ControlesDe(scene.bureau(), cadre.nom)), etirable_(etirable),
       parDefaut_(AParDefaut(rendu_)) {
   setObjectName(QString::fromUtf8(cadre.nom.data(), static_cast<qsizetype>(cadre.nom.size())));
-  const double f = PixelsParTwip(*this);
-  const QSize taille(static_cast<int>(std::lround(cadre.largeur * f)),
-                     static_cast<int>(std::lround(cadre.hauteur * f)));
-  etirable ? resize(taille) : setFixedSize(taille);
+  etirable ? resize(Taille()) : setFixedSize(Taille());
   for (const Lien &lien : rendu_.liens()) {
     if (auto *bouton = qobject_cast<QPushButton *>(lien.widget)) {
       bouton->setAutoDefault(parDefaut_); // else the toolkit would give Return to the first one
@@ -42,8 +49,26 @@ Dialogue::Dialogue(Scene &scene, CadreFenetre &cadre, QWidget *parent, bool etir
   rendu_.AccordeFenetre = [this] { AccordeFenetre(); };
 }
 
+/// The record's size in pixels.
+QSize Dialogue::Taille() const {
+  const double f = PixelsParTwip(*this);
+  return {static_cast<int>(std::lround(cadre_.largeur * f)), static_cast<int>(std::lround(cadre_.hauteur * f))};
+}
+
+void Dialogue::Redimensionne() { setFixedSize(Taille()); }
+
+void Dialogue::Echelonne() {
+  const double voulue = EchelleDe(scene_.bureau(), cadre_, etirable_);
+  if (voulue != echelle()) {
+    PoseEchelle(voulue);
+    Redimensionne();
+    rendu_.AccordeEchelle();
+  }
+}
+
 void Dialogue::AccordeFenetre() {
   setWindowTitle(QString::fromStdString(cadre_.titre));
+  Echelonne();
   if ((!cadre_.visible || scene_.bureau().termine) && isVisible()) {
     done(QDialog::Accepted);
   }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "shell/qt/peinture/Grandeur.hpp"
 #include "shell/qt/widgets/Rendu.hpp"
 
 #include <QDialog>
@@ -8,7 +9,7 @@ namespace velmaris::qt {
 
 /// A window over the main one, shown until the core hides it. Return presses its default button, or where it has none
 /// the button with the focus; Escape and the close button press the one that gives up.
-class Dialogue : public QDialog {
+class Dialogue : public QDialog, public Echelonnee {
 public:
   /// Makes the widgets.
   /// @param cadre     the window's record; it must outlive this
@@ -25,6 +26,8 @@ public:
 protected:
   Scene &scene() const { return scene_; }
   const Rendu &rendu() const { return rendu_; }
+  /// Brings the window's size in line with a new scale.
+  virtual void Redimensionne();
   /// Brings in line what the window has beside its controls.
   virtual void AccordeFenetre();
   /// Whether a change of the active window is this one's coming to the front.
@@ -35,10 +38,13 @@ protected:
 
 private:
   bool Valide();
+  void Echelonne();
+  QSize Taille() const;
 
   Scene &scene_;
   CadreFenetre &cadre_;
   Rendu rendu_;
+  bool etirable_;
   bool parDefaut_; ///< Return has a button of its own
 };
 

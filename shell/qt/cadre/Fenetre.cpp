@@ -5,6 +5,7 @@
 #include "shell/Sortie.hpp"
 #include "shell/carte/Souris.hpp"
 #include "shell/droites/Droites.hpp"
+#include "shell/ecran/Echelle.hpp"
 #include "shell/ecran/Nuit.hpp"
 #include "shell/qt/cadre/MenuCarte.hpp"
 #include "shell/qt/peinture/Nuit.hpp"
@@ -16,6 +17,7 @@
 #include <QKeyEvent>
 #include <QPainter>
 #include <QPushButton>
+#include <QResizeEvent>
 #include <QToolButton>
 
 #include <cmath>
@@ -24,6 +26,19 @@
 
 namespace velmaris::qt {
 namespace {
+
+constexpr QSize kPlusPetite(640, 400);
+constexpr double kArrondi = -0.499; ///< pixels: the content is never larger than the window that it fills
+
+/// What is seen of the content. It takes no keyboard and paints no ground of its own.
+void PrepareVue(QScrollArea &vue, QWidget &contenu) {
+  vue.setFrameShape(QFrame::NoFrame);
+  vue.setFocusPolicy(Qt::NoFocus);
+  vue.setAlignment(Qt::AlignCenter);
+  vue.setWidget(&contenu);
+  vue.viewport()->setAutoFillBackground(false);
+  contenu.setAutoFillBackground(false);
+}
 
 /// The notch of the zoom that a key stands for, 0 for none.
 int CranDeZoom(int touche) {
@@ -43,14 +58,17 @@ bool EstRetour(int touche) { return touche == Qt::Key_Return || touche == Qt::Ke
 } // namespace
 
 Fenetre::Fenetre(Scene &scene)
-    : scene_(scene), bureau_(scene.bureau()), rendu_(scene, *this, ControlesDe(bureau_, kFenetreDonnees)),
-      horloge_(this), libres_(scene, *this) {
+    : Echelonnee(scene.bureau().ecran.echelle), scene_(scene), bureau_(scene.bureau()), vue_(this),
+      contenu_(*new QWidget), rendu_(scene, contenu_, ControlesDe(bureau_, kFenetreDonnees)), horloge_(this),
+      libres_(scene, *this) {
   horloge_.setObjectName("Timer1");
+  PrepareVue(vue_, contenu_);
+  setMinimumSize(kPlusPetite);
   const double f = PixelsParTwip(*this);
   resize(static_cast<int>(std::lround(bureau_.largeurFenetre * f)),
          static_cast<int>(std::lround(bureau_.hauteurFenetre * f)));
   for (Surface *surface : {&bureau_.image1, &bureau_.picAZ, &bureau_.picHE}) {
-    surface->interligne = QFontMetricsF(PoliceQt(surface->police), this).height() / f;
+    surface->interligne = Interligne(*surface, *this);
   }
   BrancheDessin();
   rendu_.AccordeFenetre = [this] { AccordeFenetre(); };
@@ -62,6 +80,24 @@ Fenetre::Fenetre(Scene &scene)
     }
   });
   AccordeHorloge();
+}
+
+/// Lays the content out by the scale with which it fills the window.
+void Fenetre::Echelonne() {
+  const double avant = echelle();
+  PoseEchelle(EchelleContenu(bureau_, width(), height()));
+  const double f = PixelsParTwip(*this);
+  const QSizeF taille(bureau_.largeurFenetre * f, bureau_.hauteurFenetre * f);
+  contenu_.resize((taille + QSizeF(kArrondi, kArrondi)).toSize());
+  if (echelle() != avant) {
+    rendu_.AccordeEchelle();
+  }
+}
+
+void Fenetre::AccordePleinEcran() {
+  if (isVisible() && isFullScreen() != bureau_.pleinEcran) {
+    bureau_.pleinEcran ? showFullScreen() : showNormal();
+  }
 }
 
 /// The clock stands still when the core says so, and when the program has ended.
@@ -102,6 +138,8 @@ Toile &Fenetre::Dessin() { return dynamic_cast<Toile &>(*rendu_.WidgetDe(bureau_
 /// What the main window has beside its controls.
 void Fenetre::AccordeFenetre() {
   setWindowTitle(QString::fromStdString(bureau_.titre));
+  Echelonne();
+  AccordePleinEcran();
   AccordeHorloge();
   libres_.Accorde();
   std::optional<QLineF> elastique;
@@ -165,6 +203,21 @@ bool Fenetre::Touche(QObject *objet, int touche, bool controle) {
   return prise;
 }
 
+/// Control and Alt with a sign or a nought: how large everything is. In every window.
+bool Fenetre::ToucheTaille(const QKeyEvent &appui) {
+  if ((appui.modifiers() & (Qt::ControlModifier | Qt::AltModifier)) != (Qt::ControlModifier | Qt::AltModifier)) {
+    return false;
+  }
+  const int cran = CranDeZoom(appui.key());
+  if (cran == 0 && appui.key() != Qt::Key_0) {
+    return false;
+  }
+  scene_.Joue([&] {
+    (cran > 0 ? PU_TaillePlus_Click : cran < 0 ? PU_TailleMoins_Click : PU_TailleAuto_Click)(bureau_, -1);
+  });
+  return true;
+}
+
 bool Fenetre::eventFilter(QObject *objet, QEvent *event) {
   if (event->type() != QEvent::KeyPress || !objet->isWidgetType()) {
     return false;
@@ -180,7 +233,13 @@ bool Fenetre::eventFilter(QObject *objet, QEvent *event) {
     }
     return true;
   }
-  return Touche(objet, appui.key(), appui.modifiers().testFlag(Qt::ControlModifier));
+  return ToucheTaille(appui) || Touche(objet, appui.key(), appui.modifiers().testFlag(Qt::ControlModifier));
+}
+
+void Fenetre::resizeEvent(QResizeEvent *event) {
+  QWidget::resizeEvent(event);
+  vue_.setGeometry(rect());
+  Echelonne();
 }
 
 void Fenetre::paintEvent(QPaintEvent *event) {

@@ -1,8 +1,10 @@
 #pragma once
 
 #include "shell/qt/cadre/Libres.hpp"
+#include "shell/qt/peinture/Grandeur.hpp"
 #include "shell/qt/widgets/Rendu.hpp"
 
+#include <QScrollArea>
 #include <QTimer>
 #include <QWidget>
 
@@ -10,8 +12,9 @@ namespace velmaris::qt {
 
 class Toile;
 
-/// The main window: its controls, the clock, the function keys and the way out, and the windows beside it.
-class Fenetre : public QWidget {
+/// The main window: its controls, the clock, the function keys and the way out, and the windows beside it. Its content
+/// fills it by one scale, centred; made larger by the user it is panned.
+class Fenetre : public QWidget, public Echelonnee {
 public:
   /// Makes the widgets; the start sequence has run.
   explicit Fenetre(Scene &scene);
@@ -22,17 +25,23 @@ protected:
   void closeEvent(QCloseEvent *event) override;
   bool eventFilter(QObject *objet, QEvent *event) override;
   void paintEvent(QPaintEvent *event) override;
+  void resizeEvent(QResizeEvent *event) override;
 
 private:
+  void Echelonne();
+  void AccordePleinEcran();
   void AccordeHorloge();
   void BrancheDessin();
   void AccordeFenetre();
   Toile &Dessin();
   bool Retour(QWidget &widget);
   bool Touche(QObject *objet, int touche, bool controle);
+  bool ToucheTaille(const QKeyEvent &appui);
 
   Scene &scene_;
   Bureau &bureau_;
+  QScrollArea vue_;  ///< what is seen of the content
+  QWidget &contenu_; ///< what the controls lie in; the view's
   Rendu rendu_;
   QTimer horloge_;
   Libres libres_;

@@ -3,6 +3,7 @@
 #include "shell/bureau/Evenements.hpp"
 #include "shell/ciel/EcranCiel.hpp"
 #include "shell/ciel/SourisCiel.hpp"
+#include "shell/ecran/Echelle.hpp"
 #include "shell/qt/peinture/ToileCiel.hpp"
 
 #include <QResizeEvent>
@@ -14,8 +15,7 @@
 namespace velmaris::qt {
 namespace {
 
-constexpr int kBarreTitre = 32; ///< pixels that a window manager's title takes, near enough
-constexpr int kBord = 3;        ///< pixels of its border
+constexpr int kBord = 3; ///< pixels of a window manager's border
 constexpr QSize kPlusPetite(900, 420);
 
 ToileCiel &ToileDe(const Rendu &rendu, const Ciel &ciel) {
@@ -34,13 +34,12 @@ FenetreCiel::FenetreCiel(Scene &scene, QWidget *parent)
   setWindowFlags(Qt::Window);
   create();
   windowHandle()->setTransientParent(nullptr);
-  setMinimumSize(kPlusPetite);
+  setMinimumSize(kPlusPetite.boundedTo(screen()->availableSize()));
   resize(size().boundedTo(screen()->availableSize() - QSize(0, kBarreTitre)));
   // In the middle of the screen its title would leave it; a place is that of the frame, title included.
   move(screen()->availableGeometry().topLeft() + QPoint(kBord, 0));
-  const double f = PixelsParTwip(*this);
   for (Surface *surface : {&bureau_.ciel.picture1, &bureau_.ciel.picAZ, &bureau_.ciel.picHE}) {
-    surface->interligne = QFontMetricsF(PoliceQt(surface->police), this).height() / f;
+    surface->interligne = Interligne(*surface, *this);
   }
   Branche();
   toile_.setFocus(Qt::OtherFocusReason);

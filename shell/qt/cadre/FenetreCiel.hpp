@@ -16,12 +16,12 @@ public:
 
 protected:
   void AccordeFenetre() override;
+  void Redimensionne() override;
   void resizeEvent(QResizeEvent *event) override;
 
 private:
   void Branche();
   bool Touche(int touche);
-  void Redimensionne();
 
   Bureau &bureau_;
   ToileCiel &toile_;

@@ -1,6 +1,7 @@
 #include "shell/qt/cadre/FenetreImpression.hpp"
 
 #include "shell/bureau/Evenements.hpp"
+#include "shell/ecran/Echelle.hpp"
 #include "shell/qt/peinture/Nuit.hpp"
 #include "shell/qt/peinture/PageQt.hpp"
 #include "shell/qt/peinture/Toile.hpp"
@@ -15,11 +16,6 @@
 #include <utility>
 
 namespace velmaris::qt {
-namespace {
-
-constexpr int kBarreTitre = 32; ///< pixels that a window manager's title takes, near enough
-
-} // namespace
 
 FenetreImpression::FenetreImpression(Scene &scene, QWidget *parent)
     : Dialogue(scene, scene.bureau().impression.cadre, parent), page_(scene.bureau().impression) {
@@ -28,12 +24,16 @@ FenetreImpression::FenetreImpression(Scene &scene, QWidget *parent)
                  Qt::WindowCloseButtonHint);
   create();
   windowHandle()->setTransientParent(nullptr);
+  Redimensionne();
+  connect(qGuiApp, &QGuiApplication::focusWindowChanged, this, [this](const QWindow *devant) { Note(devant); });
+}
+
+/// The toolkit would set it over the middle of the main window, without a thought for its title.
+void FenetreImpression::Redimensionne() {
+  Dialogue::Redimensionne();
   const QRect libre = screen()->availableGeometry();
-  setFixedSize(size().boundedTo(libre.size() - QSize(0, kBarreTitre)));
-  // The toolkit would set it over the middle of the main window, without a thought for its title.
   const QSize reste = libre.size() - size() - QSize(0, kBarreTitre);
   move(libre.topLeft() + QPoint(reste.width() / 2, reste.height() / 2));
-  connect(qGuiApp, &QGuiApplication::focusWindowChanged, this, [this](const QWindow *devant) { Note(devant); });
 }
 
 /// Notes what takes the keyboard while the page hasn't it. A list that opens is no window of its own.
@@ -45,11 +45,6 @@ void FenetreImpression::Note(const QWindow *devant) {
 
 void FenetreImpression::AccordeFenetre() {
   Dialogue::AccordeFenetre();
-  // On a small screen the button stays in reach.
-  if (QWidget *cadre = rendu().WidgetDe(page_.Frame1)) {
-    const QSize reste = size() - cadre->size();
-    cadre->move(std::min(cadre->x(), reste.width()), std::min(cadre->y(), reste.height()));
-  }
   std::vector<Controle> voulus;
   PourChaque(page_, [&](const LigneImpression &, const Controle &c) {
     if (c.peint) {
@@ -89,9 +84,6 @@ void FenetreImpression::paintEvent(QPaintEvent *event) {
   Dialogue::paintEvent(event);
   QPainter painter(this);
   const double facteur = PixelsParTwip(*this);
-  const double echelle =
-      std::min({1.0, width() / (page_.cadre.largeur * facteur), height() / (page_.cadre.hauteur * facteur)});
-  painter.scale(echelle, echelle);
   PeintPage(painter, page_, facteur, EstNuit());
 }
 

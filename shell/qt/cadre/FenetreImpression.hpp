@@ -16,6 +16,7 @@ public:
 
 protected:
   void AccordeFenetre() override;
+  void Redimensionne() override;
   bool VientDevant() override;
   void mouseReleaseEvent(QMouseEvent *event) override;
   void paintEvent(QPaintEvent *event) override;

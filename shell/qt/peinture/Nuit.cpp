@@ -1,5 +1,7 @@
 #include "shell/qt/peinture/Nuit.hpp"
 
+#include "shell/qt/peinture/Grandeur.hpp"
+
 #include <QApplication>
 #include <QPainter>
 #include <QStyleFactory>
@@ -185,6 +187,32 @@ void RougitImage(QImage &image, const QColor &fond) {
 }
 
 Apparat::Apparat() : QProxyStyle(QStyleFactory::create("Fusion")) {}
+
+/// Marks, bars and the room beside them grow with the texts; frames stay a hair line.
+int Apparat::pixelMetric(PixelMetric mesure, const QStyleOption *option, const QWidget *widget) const {
+  const int pixels = QProxyStyle::pixelMetric(mesure, option, widget);
+  const auto *fenetre = widget == nullptr ? nullptr : dynamic_cast<const Echelonnee *>(widget->window());
+  const double grandeur = fenetre == nullptr ? grandeur_ : fenetre->echelle();
+  switch (mesure) {
+  case PM_IndicatorWidth:
+  case PM_IndicatorHeight:
+  case PM_ExclusiveIndicatorWidth:
+  case PM_ExclusiveIndicatorHeight:
+  case PM_RadioButtonLabelSpacing:
+  case PM_CheckBoxLabelSpacing:
+  case PM_ScrollBarExtent:
+  case PM_ScrollBarSliderMin:
+  case PM_SliderThickness:
+  case PM_SliderControlThickness:
+  case PM_SliderLength:
+  case PM_SmallIconSize:
+  case PM_ButtonIconSize:
+  case PM_MessageBoxIconSize:
+    return std::max(1, static_cast<int>(std::lround(pixels * grandeur)));
+  default:
+    return pixels;
+  }
+}
 
 void Apparat::drawPrimitive(PrimitiveElement element, const QStyleOption *option, QPainter *painter,
                             const QWidget *widget) const {

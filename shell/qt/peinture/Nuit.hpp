@@ -40,6 +40,10 @@ public:
 
   bool nuit() const { return nuit_; }
   void PoseNuit(bool nuit) { nuit_ = nuit; }
+  double grandeur() const { return grandeur_; }
+  void PoseGrandeur(double grandeur) { grandeur_ = grandeur; }
+
+  int pixelMetric(PixelMetric mesure, const QStyleOption *option, const QWidget *widget) const override;
 
   void drawPrimitive(PrimitiveElement element, const QStyleOption *option, QPainter *painter,
                      const QWidget *widget) const override;
@@ -51,6 +55,7 @@ public:
 
 private:
   bool nuit_ = false;
+  double grandeur_ = 1.0; ///< of what lies in no window with a scale of its own
 };
 
 /// Whether windows are painted by night now.

@@ -15,9 +15,8 @@ constexpr double kMargeTitre = 90.0;  ///< left of it
 constexpr int kEtroite = 82;          ///< percent of the width, where no narrow face is installed
 const QColor kBordure(150, 158, 166); ///< of a row
 
-QFont PolicePage(double taille) {
-  QFont police;
-  police.setPointSizeF(taille);
+QFont PolicePage(double taille, double facteur, const QPaintDevice &support) {
+  QFont police = PoliceA({}, taille, facteur, support);
   for (const char *famille : {"Arial Narrow", "Liberation Sans Narrow", "Nimbus Sans Narrow"}) {
     if (QFontDatabase::hasFamily(famille)) {
       police.setFamily(famille);
@@ -60,7 +59,7 @@ struct Peintre {
     painter.setPen(QPen(Encre(kBordure), facteur * kTwipsParPixel));
     const double titre = kHautTitre * facteur;
     painter.drawRect(zone.adjusted(0, titre / 2, 0, 0));
-    painter.setFont(PolicePage(rangee.taille));
+    painter.setFont(PolicePage(rangee.taille, facteur, *painter.device()));
     const QString texte = QString::fromStdString(rangee.legende);
     const QRectF place(zone.left() + kMargeTitre * facteur, zone.top(),
                        QFontMetricsF(painter.font(), painter.device()).horizontalAdvance(texte + ' '), titre);
@@ -73,7 +72,7 @@ struct Peintre {
     Place place = c.place;
     place.gauche += rangee.place.gauche;
     place.haut += rangee.place.haut;
-    painter.setFont(PolicePage(c.taille));
+    painter.setFont(PolicePage(c.taille, facteur, *painter.device()));
     painter.setPen(Encre(CouleurQt(c.couleur)));
     painter.drawText(Zone(place), static_cast<int>(Qt::AlignLeft) | static_cast<int>(Qt::AlignVCenter),
                      QString::fromStdString(c.legende));

@@ -16,6 +16,7 @@ namespace velmaris::qt {
 namespace {
 
 constexpr double kPasVisible = 0.25; ///< pixels under which two points of a line are one
+constexpr double kGrandTrait = 1.5;  ///< scale from which lines grow with it
 constexpr double kPortee = 1e8;      ///< 1/1440 inch from the surface's corner
 
 QPen PlumeQt(const Plume &plume, const QColor &couleur, double pixel) {
@@ -112,7 +113,7 @@ struct Peintre {
 
   /// A text; over lines it has a thin border of the background, so that none strikes it through.
   void Texte(const TexteTrace &texte, const ZoneTexte &zone) const {
-    painter.setFont(PoliceQt(texte.police));
+    painter.setFont(PoliceQt(texte.police, facteur, *painter.device()));
     const QPointF pied =
         Place({zone.gauche, zone.haut}) + QPointF(0, QFontMetricsF(painter.font(), painter.device()).ascent());
     const QString mots = QString::fromStdString(texte.texte);
@@ -138,6 +139,12 @@ struct Visible {
   bool operator()(const TexteTrace & /*texte*/) const { return false; }
 };
 
+/// Pixels of the toolkit that a line of width 1 takes: a hair line stays one up to a scale where it would be lost.
+double Trait(const QWidget &widget) {
+  const double grandeur = Grandeur(widget);
+  return grandeur < kGrandTrait ? 1 : grandeur;
+}
+
 std::size_t NombrePoints(const Surface &surface) {
   const auto *ligne = surface.traces.empty() ? nullptr : std::get_if<Polyligne>(&surface.traces.back());
   return ligne == nullptr ? 0 : ligne->points.size();
@@ -145,13 +152,15 @@ std::size_t NombrePoints(const Surface &surface) {
 
 } // namespace
 
-double PixelsParTwip(const QWidget &widget) { return widget.logicalDpiX() / kTwipsParPouce; }
-
-QFont PoliceQt(const Police &police) {
-  QFont font;
-  font.setPointSizeF(police.taille);
+QFont PoliceQt(const Police &police, double facteur, const QPaintDevice &support) {
+  QFont font = PoliceA({}, police.taille, facteur, support);
   font.setBold(police.gras);
   return font;
+}
+
+double Interligne(const Surface &surface, const QWidget &widget) {
+  const double facteur = widget.logicalDpiX() / kTwipsParPouce;
+  return QFontMetricsF(PoliceQt(surface.police, facteur, widget), &widget).height() / facteur;
 }
 
 QColor CouleurQt(Couleur couleur) {
@@ -170,7 +179,7 @@ void PeintLignes(QPainter &painter, const Surface &surface, double facteur, std:
 
 std::vector<TextePlace> TextesPeints(const QPainter &painter, const Surface &surface, double facteur) {
   return PlaceTextes(surface, [&](const TexteTrace &texte) {
-    const QFontMetricsF metrique(PoliceQt(texte.police), painter.device());
+    const QFontMetricsF metrique(PoliceQt(texte.police, facteur, *painter.device()), painter.device());
     const QString mots = QString::fromStdString(texte.texte);
     const bool lettres = std::any_of(mots.begin(), mots.end(), [](QChar c) { return c.isLetter(); });
     return TailleTexte{metrique.horizontalAdvance(mots) / facteur,
@@ -211,7 +220,9 @@ void Toile::Accorde() {
   const bool retiree = traces_ > surface_.traces.size();
   traces_ = std::min(traces_, surface_.traces.size());
   const bool tourne = std::exchange(nuit_, EstNuit()) != EstNuit();
-  const bool neuve = tourne || lignes_.size() != taille || effacements_ != surface_.effacements;
+  const double facteur = PixelsParTwip(*this);
+  const bool change = std::exchange(facteur_, facteur) != facteur;
+  const bool neuve = tourne || change || lignes_.size() != taille || effacements_ != surface_.effacements;
   if (!neuve && !retiree && traces_ == surface_.traces.size() && points_ == NombrePoints(surface_)) {
     return;
   }
@@ -223,19 +234,19 @@ void Toile::Accorde() {
     lignes_.fill(nuit_ ? FondDeNuit(CouleurQt(surface_.fond)) : CouleurQt(surface_.fond));
     traces_ = 0;
   }
-  const double facteur = PixelsParTwip(*this);
+  const Maniere maniere{.nuit = nuit_, .pixel = Trait(*this)};
   {
     QPainter painter(&lignes_);
     // The last polyline may have grown since it was painted: it is painted again.
     const bool reprise = traces_ > 0 && traces_ <= surface_.traces.size() && points_ != 0;
-    PeintLignes(painter, surface_, facteur, reprise ? traces_ - 1 : traces_, {.nuit = nuit_});
+    PeintLignes(painter, surface_, facteur, reprise ? traces_ - 1 : traces_, maniere);
   }
   image_ = lignes_;
   QPainter painter(&image_);
   if (neuve || retiree || TexteDepuis(traces_)) {
     textes_ = TextesPeints(painter, surface_, facteur);
   }
-  PeintTextes(painter, surface_, facteur, textes_, {.nuit = nuit_});
+  PeintTextes(painter, surface_, facteur, textes_, maniere);
   effacements_ = surface_.effacements;
   traces_ = surface_.traces.size();
   points_ = NombrePoints(surface_);
@@ -254,7 +265,7 @@ void Toile::paintEvent(QPaintEvent *event) {
   if (elastique_) {
     const double facteur = PixelsParTwip(*this);
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(nuit_ ? EncreDeNuit(CouleurQt(kMagenta)) : CouleurQt(kMagenta), 1, Qt::DotLine));
+    painter.setPen(QPen(nuit_ ? EncreDeNuit(CouleurQt(kMagenta)) : CouleurQt(kMagenta), Trait(*this), Qt::DotLine));
     painter.drawLine(elastique_->p1() * facteur, elastique_->p2() * facteur);
   }
 }

@@ -2,6 +2,7 @@
 
 #include "foundations/PlaceTextes.hpp"
 #include "foundations/Surface.hpp"
+#include "shell/qt/peinture/Grandeur.hpp"
 
 #include <QImage>
 #include <QLineF>
@@ -15,14 +16,14 @@ class QPainter;
 
 namespace velmaris::qt {
 
-/// The unit of all places: 1440 to the inch.
-inline constexpr double kTwipsParPouce = 1440.0;
-
-/// Pixels of the toolkit per 1/1440 inch on a widget's screen.
-double PixelsParTwip(const QWidget &widget);
-
 /// The font of a surface as the toolkit's.
-QFont PoliceQt(const Police &police);
+/// @param facteur  units of what is painted on, per 1/1440 inch
+/// @param support  what is painted on
+QFont PoliceQt(const Police &police, double facteur, const QPaintDevice &support);
+
+/// Height of a surface's line of text in 1/1440 inch. It goes into the record, so it is measured by the screen's own
+/// measure and not by the window's scale.
+double Interligne(const Surface &surface, const QWidget &widget);
 
 /// A colour as the toolkit's.
 QColor CouleurQt(Couleur couleur);
@@ -98,6 +99,7 @@ private:
   std::uint64_t effacements_ = 0;
   std::size_t traces_ = 0;
   std::vector<TextePlace> textes_;
+  double facteur_ = 0.0;   ///< pixels per 1/1440 inch in the image
   std::size_t points_ = 0; ///< of the last trace painted, which may have grown since
   bool nuit_ = false;      ///< the image is painted by night
   std::optional<QLineF> elastique_;

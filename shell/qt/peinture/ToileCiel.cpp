@@ -17,7 +17,7 @@
 namespace velmaris::qt {
 namespace {
 
-constexpr double kPrise = 4;          ///< pixels around a mark that still take the pointer
+constexpr double kPrise = 60;         ///< 1/1440 inch around a mark that still take the pointer
 constexpr double kGrandeMarque = 150; ///< 1/1440 inch from which a mark has a broad border
 
 QString Texte(const std::string &texte) { return QString::fromStdString(texte); }
@@ -27,9 +27,8 @@ bool Eclaire(const Controle &corps) {
   return corps.genre == Genre::Marque ? corps.bordure == kRouge : corps.couleur == kRouge;
 }
 
-QFont PoliceDe(const Controle &etiquette, bool gras) {
-  QFont police = QApplication::font();
-  police.setPointSizeF(etiquette.taille);
+QFont PoliceDe(const Controle &etiquette, bool gras, const QWidget &widget) {
+  QFont police = PoliceA(QApplication::font(), etiquette.taille, PixelsParTwip(widget), widget);
   police.setBold(gras || etiquette.gras);
   return police;
 }
@@ -81,19 +80,20 @@ std::vector<ZoneTexte> ToileCiel::Pris() const {
 
 ciel::AstreTrouve ToileCiel::CorpsSous(QPointF pixel) const {
   const double f = PixelsParTwip(*this);
-  return ciel::AstreAu(ciel_, corps_, {pixel.x() / f, pixel.y() / f}, kPrise / f, Pris());
+  return ciel::AstreAu(ciel_, corps_, {pixel.x() / f, pixel.y() / f}, kPrise, Pris());
 }
 
 void ToileCiel::PeintMarque(QPainter &painter, const Controle &marque) const {
   const bool eclaire = Eclaire(marque) && EstNuit();
-  const double trait = marque.place.largeur >= kGrandeMarque || Eclaire(marque) ? 2 : 1;
+  const double g = Grandeur(*this);
+  const double trait = (marque.place.largeur >= kGrandeMarque || Eclaire(marque) ? 2 : 1) * g;
   const QRectF zone = Zone(marque).adjusted(trait / 2, trait / 2, -trait / 2, -trait / 2);
   painter.setPen(QPen(Encre(eclaire ? kBlanc : marque.bordure), trait));
   painter.setBrush(Encre(marque.couleur));
   painter.drawEllipse(zone);
   if (eclaire) {
     painter.setBrush(Qt::NoBrush);
-    painter.drawEllipse(zone.adjusted(-4, -4, 4, 4));
+    painter.drawEllipse(zone.adjusted(-4 * g, -4 * g, 4 * g, 4 * g));
   }
 }
 
@@ -103,7 +103,7 @@ void ToileCiel::PeintEtiquette(QPainter &painter, const Controle &etiquette, con
     painter.fillRect(zone.adjusted(-2, 0, 2, 0), EstNuit() ? FondDeNuit(fond) : fond);
   }
   const bool eclaire = Eclaire(etiquette);
-  painter.setFont(PoliceDe(etiquette, eclaire));
+  painter.setFont(PoliceDe(etiquette, eclaire, *this));
   painter.setPen(Encre(eclaire && EstNuit() ? kBlanc : etiquette.couleur));
   painter.drawText(zone, static_cast<int>(Qt::AlignCenter) | static_cast<int>(Qt::TextDontClip),
                    Texte(etiquette.legende));

@@ -10,6 +10,8 @@ namespace velmaris::qt {
 namespace {
 
 constexpr double kPlusPetite = 7.0; ///< points of a caption that stands out
+constexpr double kEtroite = 0.88;   ///< of its points, that any other caption keeps
+constexpr double kPas = 0.25;       ///< points by which a caption is made smaller
 
 /// The background of a caption on the drawing surface. Not quite opaque: an opaque widget that moves is copied from
 /// place to place by the toolkit, which then paints what lies under it over the modules.
@@ -29,19 +31,6 @@ void PoseCouleur(QWidget &widget, const Controle &c) {
   widget.setPalette(palette);
 }
 
-/// The font of a control; a caption that stands out takes no more room than its place has.
-void PosePolice(QWidget &widget, const Controle &c) {
-  QFont font = widget.font();
-  font.setPointSizeF(c.taille);
-  font.setBold(c.gras || c.accent);
-  font.setUnderline(c.accent);
-  const double place = widget.width() - LargeurMarque(widget);
-  while (c.accent && font.pointSizeF() > kPlusPetite && QFontMetricsF(font).horizontalAdvance(Legende(c)) > place) {
-    font.setPointSizeF(font.pointSizeF() - 0.5);
-  }
-  widget.setFont(font);
-}
-
 bool Actif(const QWidget &widget) { return !widget.testAttribute(Qt::WA_ForceDisabled); }
 
 } // namespace
@@ -53,20 +42,34 @@ bool Adaptateur::EnAccord(const Controle &c, const QString &nom) const {
          widget_.accessibleName() == nom;
 }
 
+/// Font and words of a control. A caption takes no more room than its place has: widths don't go with the scale to the
+/// pixel, and one that stands out is broader than it was.
+void Adaptateur::PosePolice(const Controle &c) {
+  const double f = PixelsParTwip(widget_);
+  const double moindre = c.accent ? kPlusPetite : c.taille * kEtroite;
+  QFont font = widget_.font();
+  font.setBold(c.gras || c.accent);
+  font.setUnderline(c.accent);
+  for (double points = c.taille; points >= moindre; points -= kPas) {
+    widget_.setFont(PoliceA(font, points, f, widget_));
+    PoseLegende(c);
+    if (Depasse() <= 0) {
+      break;
+    }
+  }
+}
+
 /// Place, font, picture, words and colour.
 void Adaptateur::AccordeAspect(const Controle &c, const Controle &vu, bool tout) {
   if (tout || c.place != vu.place) {
     widget_.setGeometry(PlaceQt(c.place, widget_));
   }
-  if (tout || c.taille != vu.taille || c.gras != vu.gras || c.accent != vu.accent ||
-      (c.accent && c.legende != vu.legende)) {
-    PosePolice(widget_, c);
-  }
   if ((tout || c.image != vu.image) && (!c.image.empty() || !vu.image.empty())) {
     PoseImage(c);
   }
-  if (tout || c.legende != vu.legende || c.place != vu.place || c.accent != vu.accent) {
-    PoseLegende(c);
+  if (tout || c.taille != vu.taille || c.gras != vu.gras || c.accent != vu.accent || c.legende != vu.legende ||
+      c.place != vu.place) {
+    PosePolice(c);
   }
   if (c.couleur != vu.couleur || (tout && c.couleur != kNoir)) {
     PoseCouleur(widget_, c);

@@ -55,6 +55,9 @@ public:
   /// @param tout  also what hasn't changed
   void Accorde(const Controle &controle, const Controle &vu, const QString &nom, bool tout);
 
+  /// Brings place, font, picture and words in line with the window's scale.
+  void AccordeEchelle(const Controle &controle) { AccordeAspect(controle, controle, true); }
+
   /// Brings colours and picture in line with the day or the night.
   virtual void AccordeTeintes(const Controle &controle);
 
@@ -63,9 +66,12 @@ protected:
 
   virtual void PoseContenu(const Controle & /*controle*/, const Controle & /*vu*/, bool /*tout*/) {}
   virtual void PoseLegende(const Controle & /*controle*/) {}
+  /// Pixels by which the caption is wider than its place; 0 or less where it fits, or where there is none.
+  virtual double Depasse() const { return 0; }
   virtual void PoseImage(const Controle & /*controle*/) {}
 
 private:
+  void PosePolice(const Controle &controle);
   void AccordeAspect(const Controle &controle, const Controle &vu, bool tout);
 
   QWidget &widget_; ///< owned by its parent

@@ -1,5 +1,6 @@
 #include "shell/qt/widgets/Elements.hpp"
 
+#include "shell/qt/peinture/Grandeur.hpp"
 #include "shell/qt/peinture/Nuit.hpp"
 
 #include <QApplication>
@@ -16,7 +17,7 @@
 namespace velmaris::qt {
 namespace {
 
-constexpr int kHautTitre = 20; ///< pixels of a module's title band
+constexpr int kHautTitre = 20; ///< pixels of a module's title band at scale 1
 
 } // namespace
 
@@ -27,7 +28,7 @@ void Volet::paintEvent(QPaintEvent * /*event*/) {
   const Teintes &teintes = TeintesDe(EstNuit());
   p.fillRect(rect(), teintes.carte);
   if (titre_) {
-    p.fillRect(QRect(0, 0, width(), kHautTitre), teintes.bande);
+    p.fillRect(QRect(0, 0, width(), Pixels(kHautTitre, *this)), teintes.bande);
   }
   p.setPen(teintes.bord);
   p.drawRect(rect().adjusted(0, 0, -1, -1));
@@ -38,7 +39,7 @@ void Volet::mousePressEvent(QMouseEvent *event) {
     return;
   }
   prise_ = event->position().toPoint();
-  presse_ = titre_ && prise_.y() < kHautTitre;
+  presse_ = titre_ && prise_.y() < Pixels(kHautTitre, *this);
   tire_ = false;
   auClic();
 }

@@ -22,7 +22,9 @@
 namespace velmaris::qt {
 namespace {
 
-constexpr int kMargePoussoir = 8; ///< pixels that a button keeps around its caption
+constexpr int kMargePoussoir = 8; ///< pixels that a button keeps around its caption, at scale 1
+constexpr int kEcartIcone = 4;    ///< between its picture and its caption
+constexpr int kGrandeIcone = 26;  ///< and of the side of its picture, at most
 
 Qt::Alignment Alignement(Cote cote) {
   switch (cote) {
@@ -106,6 +108,7 @@ protected:
   void PoseLegende(const Controle &c) override {
     w.setText(CoupeLegende(EstLettre(c) ? Legende(c) : Texte(c.legende), w, w.width(), w.height()));
   }
+  double Depasse() const override { return LargeurTexte(w.text(), w) - w.width(); }
   void PoseImage(const Controle &c) override { w.setPixmap(Icone(c.image).pixmap(w.size(), w.devicePixelRatioF())); }
 };
 
@@ -139,28 +142,34 @@ protected:
 
 class ABouton : public De<QAbstractButton> {
 public:
-  ABouton(QAbstractButton *bouton, int marge) : De(bouton), marge_(marge) {}
+  /// @param marque  whether a mark stands before the caption
+  ABouton(QAbstractButton *bouton, bool marque) : De(bouton), marque_(marque) {}
   void Ecoute(Bureau &bureau, Controle &c, const Joueur &joue) override {
     QObject::connect(&w, &QAbstractButton::clicked, &w, Clic(bureau, c, joue));
   }
 
 protected:
-  void PoseLegende(const Controle &c) override {
-    w.setText(CoupeLegende(Legende(c), w, w.width() - marge_, w.height()));
-  }
+  void PoseLegende(const Controle &c) override { w.setText(CoupeLegende(Legende(c), w, Place(), w.height())); }
+  double Depasse() const override { return LargeurTexte(w.text(), w) - Place(); }
   void PoseImage(const Controle &c) override {
-    const int cote = std::min(w.height() - 8, 26);
+    const int cote = std::min(w.height() - Pixels(kMargePoussoir, w), Pixels(kGrandeIcone, w));
     w.setIcon(Icone(c.image));
     w.setIconSize(c.genre == Genre::Image ? w.size() - QSize(4, 4) : QSize(cote, cote));
   }
 
 private:
-  int marge_; ///< pixels beside the caption
+  /// Pixels beside mark and picture.
+  double Place() const {
+    const int marge = marque_ ? LargeurMarque(w) : Pixels(kMargePoussoir, w);
+    return w.width() - marge - (w.icon().isNull() ? 0 : w.iconSize().width() + Pixels(kEcartIcone, w));
+  }
+
+  bool marque_;
 };
 
 class AOption : public ABouton {
 public:
-  explicit AOption(QRadioButton *option) : ABouton(option, LargeurMarque(*option)) {}
+  explicit AOption(QRadioButton *option) : ABouton(option, true) {}
   void Ecoute(Bureau &bureau, Controle &c, const Joueur &joue) override {
     QObject::connect(&w, &QAbstractButton::clicked, &w, [&bureau, &c, joue] { joue([&] { ClicOption(bureau, c); }); });
   }
@@ -173,7 +182,7 @@ protected:
 
 class ACase : public ABouton {
 public:
-  explicit ACase(QCheckBox *coche) : ABouton(coche, LargeurMarque(*coche)), coche_(*coche) {}
+  explicit ACase(QCheckBox *coche) : ABouton(coche, true), coche_(*coche) {}
   void Ecoute(Bureau &bureau, Controle &c, const Joueur &joue) override {
     QObject::connect(&w, &QAbstractButton::clicked, &w, [&bureau, &c, joue] { joue([&] { ClicCase(bureau, c); }); });
   }
@@ -322,8 +331,7 @@ std::unique_ptr<Adaptateur> CreeSurface(Bureau &bureau, const Controle &c, QWidg
 
 std::unique_ptr<Adaptateur> CreeImage(const Controle &c, QWidget *parent) {
   if (velmaris::Ecoute(c, Evenement::Clic)) {
-    auto *bouton = new Poussoir(parent);
-    return std::make_unique<ABouton>(bouton, LargeurMarque(*bouton));
+    return std::make_unique<ABouton>(new Poussoir(parent), true);
   }
   if (velmaris::Ecoute(c, Evenement::Survol)) {
     return std::make_unique<AFigure>(new Figure(parent));
@@ -363,7 +371,7 @@ std::unique_ptr<Adaptateur> CreeAdaptateur(Bureau &bureau, const Controle &c, QW
   case Genre::Champ:
     return std::make_unique<AChamp>(new Champ(parent), c);
   case Genre::Bouton:
-    return std::make_unique<ABouton>(new QPushButton(parent), kMargePoussoir);
+    return std::make_unique<ABouton>(new QPushButton(parent), false);
   case Genre::Option:
     return std::make_unique<AOption>(new QRadioButton(parent));
   case Genre::Case:

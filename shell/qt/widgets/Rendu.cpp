@@ -210,6 +210,15 @@ void Rendu::Accorde() {
   AccordeGroupes();
 }
 
+void Rendu::AccordeEchelle() {
+  for (const Lien &lien : liens_) {
+    if (lien.adaptateur != nullptr) {
+      lien.adaptateur->AccordeEchelle(*lien.controle);
+    }
+  }
+  Accorde();
+}
+
 bool Rendu::DonneFocus(const Controle &controle) {
   QWidget *widget = WidgetDe(controle);
   if (widget != nullptr) {

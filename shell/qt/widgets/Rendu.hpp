@@ -39,6 +39,8 @@ public:
 
   /// Brings all widgets in line with their controls.
   void Accorde();
+  /// Brings all widgets in line with a new scale of the window.
+  void AccordeEchelle();
   /// Gives the keyboard to the widget of a control.
   /// @return false when it is none of this window
   bool DonneFocus(const Controle &controle);

@@ -2,7 +2,9 @@
 
 #include "shell/Reprise.hpp"
 #include "shell/Sortie.hpp"
+#include "shell/ecran/Echelle.hpp"
 #include "shell/qt/peinture/Apparence.hpp"
+#include "shell/qt/peinture/Grandeur.hpp"
 #include "shell/qt/peinture/Nuit.hpp"
 #include "shell/qt/widgets/Rendu.hpp"
 
@@ -87,6 +89,7 @@ void Scene::Accorde() {
   while (encore_) {
     encore_ = false;
     AccordeNuit(bureau_.nuit);
+    AccordeGrandeur(EchelleFenetre(bureau_));
     AccordeLangue(bureau_.FichierLangue == "\\FR.txt");
     PourChaqueRendu([](Rendu &rendu) { rendu.Accorde(); });
     if (const Controle *voulu = std::exchange(bureau_.focus, nullptr)) {

@@ -6,6 +6,7 @@
 #include <QStyle>
 #include <QTextDocument>
 
+#include <algorithm>
 #include <cmath>
 
 namespace velmaris::qt {
@@ -32,6 +33,15 @@ QString CoupeLegende(const QString &texte, const QWidget &widget, double largeur
     }
   }
   return texte;
+}
+
+double LargeurTexte(const QString &texte, const QWidget &widget) {
+  const QFontMetricsF metrique(widget.font());
+  double largeur = 0;
+  for (QString ligne : texte.split('\n')) {
+    largeur = std::max(largeur, metrique.horizontalAdvance(ligne.replace(QLatin1String("&&"), QLatin1String("&"))));
+  }
+  return largeur;
 }
 
 QString Infobulle(const std::string &texte) {

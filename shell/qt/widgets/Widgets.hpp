@@ -18,6 +18,9 @@ QString Legende(const Controle &controle);
 /// A caption broken into lines so that it fits a width; a single line when it does, or when there is no room for two.
 QString CoupeLegende(const QString &texte, const QWidget &widget, double largeur, double hauteur);
 
+/// Width of a caption's widest line as a widget shows it, in the toolkit's pixels.
+double LargeurTexte(const QString &texte, const QWidget &widget);
+
 /// A tool tip whose words are shown as they stand: what looks like markup, in a stored name say, is none.
 QString Infobulle(const std::string &texte);
 

@@ -93,7 +93,7 @@ TEST_F(Souris, TheEntriesOfTheMenuStandInTheirOrderBetweenTheirSeparators) {
   }
   EXPECT_EQ(ordre, (std::vector<std::string>{"PU_Carte", "-", "PU_Centre", "-", "PU_Distance", "PU_Coord", "-",
                                              "PU_Modules", "PU_Clear", "-", "PU_Exit", "PU_Apropos", "PU_Nuit",
-                                             "PU_Secours", "-", "PU_Quitter"}));
+                                             "PU_Taille", "PU_PleinEcran", "PU_Secours", "-", "PU_Quitter"}));
 }
 
 TEST_F(Souris, TheEntriesOfModulesDoWhatTheirButtonsDo) {
