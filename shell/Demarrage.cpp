@@ -16,6 +16,7 @@
 #include "shell/ecran/Disposition.hpp"
 #include "shell/ecran/Echelle.hpp"
 #include "shell/ecran/Nuit.hpp"
+#include "shell/ecran/Statut.hpp"
 #include "shell/visee/Journal.hpp"
 #include "shell/visee/PanneauDirect.hpp"
 #include "shell/visee/Saisie.hpp"
@@ -118,6 +119,8 @@ bool Touche(Bureau &bureau, int code) {
     const int valeur = zoom.valeur + pas;
     if (valeur >= zoom.minimum && valeur <= zoom.maximum) {
       PoseValeur(bureau, zoom, valeur);
+    } else {
+      Avise(bureau, bureau.etat.TexteBorneZoom.legende);
     }
   };
   switch (code) {
@@ -204,6 +207,7 @@ void Donnees_Charge(Bureau &bureau, const Ecran &ecran) {
 
 void Timer1_Tick(Bureau &bureau) {
   RetenteEcritures(bureau);
+  VieillitAvis(bureau);
   LitHorloge(bureau.horloge);
   PositionLive(bureau);
   const ValeurDate date = bureau.horloge.locale();
@@ -261,6 +265,8 @@ void Image10_Click(Bureau &bureau, int indice) {
   if (sansFichier) {
     bureau.TitreFichier = bureau.messages[9];
   }
+  ChargeLangue(bureau, kFenetreEtat);
+  PoseDomaines(bureau);
   if (bureau.fselect.chargee) {
     ChargeLangue(bureau, kFenetreFSelect);
   }

@@ -18,6 +18,7 @@ Bureau::Bureau() {
   InitialiseUtilisateur(utilisateur);
   InitialiseCiel(ciel);
   InitialiseApropos(apropos);
+  InitialiseEtat(etat);
 }
 
 Bureau::~Bureau() = default;
@@ -37,6 +38,9 @@ ListeControles ControlesDe(Bureau &bureau, std::string_view fenetre) {
   }
   if (fenetre == kFenetreApropos) {
     return Liste(bureau.apropos);
+  }
+  if (fenetre == kFenetreEtat) {
+    return Liste(bureau.etat);
   }
   return fenetre == kFenetreImpression ? Liste(bureau.impression) : ListeControles();
 }

@@ -16,6 +16,7 @@
 #include "shell/fenetres/Apropos.hpp"
 #include "shell/fenetres/Ciel.hpp"
 #include "shell/fenetres/Donnees.hpp"
+#include "shell/fenetres/Etat.hpp"
 #include "shell/fenetres/FSelect.hpp"
 #include "shell/fenetres/Impression.hpp"
 #include "shell/fenetres/Utilisateur.hpp"
@@ -79,6 +80,7 @@ struct Bureau {
   Utilisateur utilisateur;
   Ciel ciel;
   Apropos apropos;
+  Etat etat;
   Ecran ecran;                         ///< that it has started on
   double largeurFenetre = 0.0;         ///< of the main window, 1/1440 inch
   double hauteurFenetre = 0.0;         ///< of the main window, 1/1440 inch

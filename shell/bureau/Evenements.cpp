@@ -1,5 +1,7 @@
 #include "shell/bureau/Evenements.hpp"
 
+#include "shell/bureau/Avis.hpp"
+
 #include <algorithm>
 #include <utility>
 
@@ -98,7 +100,13 @@ void EntreChamp(Bureau &bureau, Controle &controle) {
   Declenche(bureau, controle, Evenement::Entre);
 }
 
-void QuitteChamp(Bureau &bureau, Controle &controle) { Declenche(bureau, controle, Evenement::Quitte); }
+void QuitteChamp(Bureau &bureau, Controle &controle) {
+  const std::string tape = controle.texte;
+  Declenche(bureau, controle, Evenement::Quitte);
+  if (controle.genre == Genre::Champ && !tape.empty() && controle.texte.empty()) {
+    AviseRefus(bureau, controle, tape);
+  }
+}
 
 void SaisitTexte(Bureau &bureau, Controle &controle, std::string texte) {
   if (Utilisable(controle) && !controle.lectureSeule) {

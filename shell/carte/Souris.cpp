@@ -6,6 +6,7 @@
 #include "shell/droites/Droites.hpp"
 #include "shell/droites/FichierVisee.hpp"
 #include "shell/ecran/Modules.hpp"
+#include "shell/ecran/Statut.hpp"
 
 #include <filesystem>
 #include <system_error>
@@ -99,6 +100,8 @@ void Image1_MouseDown(Bureau &bureau, BoutonSouris bouton, double x, double y) {
   if (bouton == BoutonSouris::Droit) {
     if (bureau.souris.ModeDistance != 0) {
       PointDeRoute(bureau, x, y);
+    } else {
+      Avise(bureau, bureau.etat.TexteSansDistance.legende);
     }
     return;
   }
@@ -115,6 +118,7 @@ void Image1_MouseMove(Bureau &bureau, bool boutonGauche, double x, double y) {
   if (boutonGauche) {
     DeplaceModule(bureau, x, y);
   }
+  SuitPosition(bureau, {x, y});
   if (bureau.souris.AfficheCoord != 0) {
     SuitCoordonnees(bureau, {x, y});
   }
@@ -131,7 +135,7 @@ void Image1_MouseUp(Bureau &bureau, BoutonSouris bouton) {
 }
 
 bool SuitPointeur(const Bureau &bureau) {
-  return bureau.ModuleDeplace != 0 || bureau.souris.AfficheCoord != 0 || Mesure(bureau);
+  return bureau.ModuleDeplace != 0 || bureau.souris.AfficheCoord != 0 || Mesure(bureau) || AUneEchelle(bureau.feuille);
 }
 
 std::optional<Elastique> BrancheEnCours(const Bureau &bureau) {

@@ -17,6 +17,14 @@ void Deplace(Controle &controle, double gauche, double haut) {
 
 constexpr double kBordTitre = 60; ///< right of the caption of latitude
 
+/// The status line, in the strip under the surface.
+void DisposeEtat(Etat &etat, const Place &surface, double largeur) {
+  const double haut = surface.haut + surface.hauteur + kBordTitre;
+  Deplace(etat.Dit, kBordTitre, haut);
+  Deplace(etat.Position, largeur - etat.Position.place.largeur - 3 * kBordTitre, haut);
+  etat.Dit.place.largeur = etat.Position.place.gauche - 2 * kBordTitre;
+}
+
 /// A result as one small line.
 void Rapetisse(Controle &resultat, double haut) {
   resultat.place = {480, haut, 1350, 300};
@@ -43,6 +51,7 @@ void DisposeFenetre(Bureau &bureau, const Ecran &ecran) {
   const bool place = surface.hauteur / 1.08 + surface.largeur / 60 + kLigneFigures <= pied;
   const double marge = surface.largeur - d.LabLon.place.largeur;
   Deplace(d.LabLon, place ? marge / 2 : marge, pied);
+  DisposeEtat(bureau.etat, surface, ecran.largeur);
   bureau.feuille.CentreX = static_cast<float>(surface.largeur / 2);
   bureau.feuille.CentreY = static_cast<float>(surface.hauteur / 2);
 }
@@ -54,6 +63,8 @@ void DispositionCompacte(Donnees &d) {
   d.Command26.place = {1890, 7000, 1050, 600};
   d.Command1.place = {1890, 6600, 1050, 360};
   d.Frame17.place.haut = 4050;
+  d.Frame17.place.hauteur = 1750;
+  d.Option6[2].place.hauteur = 280;
   d.Frame6.place.haut = 5800;
   d.Label18.visible = false;
   d.Label20.visible = false;

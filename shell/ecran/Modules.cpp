@@ -1,5 +1,6 @@
 #include "shell/ecran/Modules.hpp"
 
+#include "shell/bureau/Avis.hpp"
 #include "shell/bureau/Evenements.hpp"
 #include "shell/visee/PanneauDirect.hpp"
 
@@ -182,6 +183,8 @@ void Command26_Click(Bureau &bureau, int /*indice*/) {
       d.Frame9.place.gauche = d.Frame7.place.gauche + d.Frame7.place.largeur;
       d.Frame9.place.haut = d.Frame7.place.haut + d.Frame7.place.hauteur - d.Frame9.place.hauteur;
     }
+  } else {
+    Avise(bureau, bureau.etat.TexteSansCalcul.legende);
   }
   LacheModule(bureau);
 }

@@ -38,7 +38,7 @@ constexpr LigneDonnees kModules[] = {
     {SEUL(Command25), Genre::Bouton, "FOptionCarte", {1860, 1980, 1740, 390}, "Coordonnées"},
     // Module 1, " Distance  et  Route": legs measured on the chart.
     {SEUL(Frame1), Genre::Cadre, "", {13035, 4740, 2100, 3600}, "", "", {.visible = false, .titre = true, .par = "Label25"}},
-    {SEUL(Label25), Genre::Etiquette, "Frame1", {60, 30, 1740, 255}, " Distance  et  Route", "", {.titre = true}},
+    {SEUL(Label25), Genre::Etiquette, "Frame1", {60, 30, 1695, 255}, " Distance  et  Route", "", {.titre = true}},
     {SEUL(Image4), Genre::Image, "Frame1", {1785, 0, 300, 300}, "", "Ferme le module", {.image = "ferme", .par = "Nom", .parIndice = 41}},
     {SEUL(List1), Genre::ListeBoite, "Frame1", {60, 345, 1980, 1800}, "", "", {.par = "Label25"}},
     {SEUL(Label26), Genre::Etiquette, "Frame1", {60, 2235, 600, 240}, "Dist."},

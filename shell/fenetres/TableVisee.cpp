@@ -87,8 +87,8 @@ constexpr LigneDonnees kVisee[] = {
     // Module 3: the eight detail lines of a sight.
     {SEUL(Frame9), Genre::Cadre, "", {9270, 8310, 2610, 1890}, "", "", {.visible = false, .par = "Nom", .parIndice = 47}},
     {SEUL(Image9), Genre::Image, "Frame9", {2295, 0, 300, 300}, "", "Ferme le module", {.image = "ferme", .par = "Nom", .parIndice = 46}},
-    {RANG(Label70, 0), Genre::Etiquette, "Frame9", {60, 30, 2250, 225}},
-    {RANG(Label70, 1), Genre::Etiquette, "Frame9", {60, 258, 2250, 225}},
+    {RANG(Label70, 0), Genre::Etiquette, "Frame9", {60, 30, 2220, 225}},
+    {RANG(Label70, 1), Genre::Etiquette, "Frame9", {60, 258, 2220, 225}},
     {RANG(Label70, 2), Genre::Etiquette, "Frame9", {60, 486, 2490, 225}},
     {RANG(Label70, 3), Genre::Etiquette, "Frame9", {60, 714, 2490, 225}},
     {RANG(Label70, 4), Genre::Etiquette, "Frame9", {60, 942, 2490, 225}},

@@ -7,6 +7,7 @@
 #include "shell/droites/Droites.hpp"
 #include "shell/ecran/Echelle.hpp"
 #include "shell/ecran/Nuit.hpp"
+#include "shell/ecran/Statut.hpp"
 #include "shell/qt/cadre/MenuCarte.hpp"
 #include "shell/qt/peinture/Nuit.hpp"
 #include "shell/qt/peinture/Toile.hpp"
@@ -59,8 +60,8 @@ bool EstRetour(int touche) { return touche == Qt::Key_Return || touche == Qt::Ke
 
 Fenetre::Fenetre(Scene &scene)
     : Echelonnee(scene.bureau().ecran.echelle), scene_(scene), bureau_(scene.bureau()), vue_(this),
-      contenu_(*new QWidget), rendu_(scene, contenu_, ControlesDe(bureau_, kFenetreDonnees)), horloge_(this),
-      libres_(scene, *this) {
+      contenu_(*new QWidget), rendu_(scene, contenu_, ControlesDe(bureau_, kFenetreDonnees)),
+      etat_(scene, contenu_, ControlesDe(bureau_, kFenetreEtat)), horloge_(this), libres_(scene, *this) {
   horloge_.setObjectName("Timer1");
   PrepareVue(vue_, contenu_);
   setMinimumSize(kPlusPetite);
@@ -91,6 +92,7 @@ void Fenetre::Echelonne() {
   contenu_.resize((taille + QSizeF(kArrondi, kArrondi)).toSize());
   if (echelle() != avant) {
     rendu_.AccordeEchelle();
+    etat_.AccordeEchelle();
   }
 }
 
@@ -120,6 +122,7 @@ void Fenetre::BrancheDessin() {
       scene_.Joue([&] { Image1_MouseMove(bureau_, gauche, x, y); });
     }
   };
+  toile.auSortie = [this] { scene_.Joue([this] { PerdPosition(bureau_); }); };
   toile.auPresse = [this](bool gauche, double x, double y) {
     scene_.Joue([&] { Image1_MouseDown(bureau_, gauche ? BoutonSouris::Gauche : BoutonSouris::Droit, x, y); });
   };

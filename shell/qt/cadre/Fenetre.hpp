@@ -43,6 +43,7 @@ private:
   QScrollArea vue_;  ///< what is seen of the content
   QWidget &contenu_; ///< what the controls lie in; the view's
   Rendu rendu_;
+  Rendu etat_; ///< the status line
   QTimer horloge_;
   Libres libres_;
 };

@@ -318,6 +318,13 @@ void Toile::mouseReleaseEvent(QMouseEvent *event) {
   }
 }
 
+void Toile::leaveEvent(QEvent *event) {
+  QWidget::leaveEvent(event);
+  if (auSortie) {
+    auSortie();
+  }
+}
+
 void Toile::wheelEvent(QWheelEvent *event) {
   if (!auZoom || !event->modifiers().testFlag(Qt::ControlModifier)) {
     event->ignore();

@@ -72,6 +72,8 @@ public:
   /// Mouse over the surface: left button down, and the place in 1/1440 inch. While the right button is down, a
   /// tremble of the hand is no move.
   std::function<void(bool, double, double)> auMouvement;
+  /// The mouse leaves the surface.
+  std::function<void()> auSortie;
   /// A button goes down, after a move to that place: the left one or else the right one.
   std::function<void(bool, double, double)> auPresse;
   /// The left button comes up.
@@ -88,6 +90,7 @@ protected:
   void mouseMoveEvent(QMouseEvent *event) override;
   void mouseReleaseEvent(QMouseEvent *event) override;
   void wheelEvent(QWheelEvent *event) override;
+  void leaveEvent(QEvent *event) override;
 
 private:
   void Mouvement(const QMouseEvent &event) const;

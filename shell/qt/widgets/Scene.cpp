@@ -3,6 +3,7 @@
 #include "shell/Reprise.hpp"
 #include "shell/Sortie.hpp"
 #include "shell/ecran/Echelle.hpp"
+#include "shell/ecran/Statut.hpp"
 #include "shell/qt/peinture/Apparence.hpp"
 #include "shell/qt/peinture/Grandeur.hpp"
 #include "shell/qt/peinture/Nuit.hpp"
@@ -88,6 +89,7 @@ void Scene::Accorde() {
   // Moving the focus, or hiding what has it, is an event in its turn.
   while (encore_) {
     encore_ = false;
+    AccordeStatut(bureau_);
     AccordeNuit(bureau_.nuit);
     AccordeGrandeur(EchelleFenetre(bureau_));
     AccordeLangue(bureau_.FichierLangue == "\\FR.txt");
