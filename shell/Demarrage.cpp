@@ -166,6 +166,7 @@ void Donnees_Charge(Bureau &bureau, const Ecran &ecran) {
   BalaieProvisoires(bureau.dossiers.utilisateur);
   bureau.ecran = ecran;
   LitNuit(bureau);
+  LitTaille(bureau);
   DisposeFenetre(bureau, ecran);
   d.ImAstre[0].image = d.Soleil.image;
   bureau.TitreFichier = bureau.messages[9];

@@ -197,5 +197,45 @@ TEST_F(EchelleOuverte, MadeLargerByTheUserItIsPannedAndTheKeyboardBringsItsField
   EXPECT_FALSE(Vue()->verticalScrollBar()->isVisible());
 }
 
+TEST_F(EchelleOuverte, TheStatusLineFollowsThePointerAndLosesItWithTheSurface) {
+  OuvreSur({1920, 1080});
+  Joue([this] {
+    TapeVisee();
+    Calcule();
+  });
+  const auto *position = Trouve<QLabel>("Position");
+  const QPoint milieu = Toile().PixelDe({bureau.feuille.CentreX, bureau.feuille.CentreY});
+  QMouseEvent bouge(QEvent::MouseMove, milieu, milieu, Qt::NoButton, Qt::NoButton, Qt::NoModifier);
+  QApplication::sendEvent(&Toile(), &bouge);
+  EXPECT_TRUE(position->text().startsWith("47° ")) << position->text().toStdString();
+  EXPECT_LE(qt::LargeurTexte("88° 88.8' N  188° 88.8' W", *position), position->width());
+  QEvent sort(QEvent::Leave);
+  QApplication::sendEvent(&Toile(), &sort);
+  EXPECT_EQ(position->text(), "");
+}
+
+TEST_F(EchelleOuverte, EveryWordOfTheStatusLineHasItsPlaceOnEveryScreenInEitherLanguage) {
+  for (const Bureautique &ecran : kEcrans) {
+    for (const bool anglais : {false, true}) {
+      OuvreSur(ecran, anglais);
+      const auto *dit = Trouve<QLabel>("Dit");
+      for (const Controle *mots : ControlesDe(bureau, kFenetreEtat)) {
+        if (mots->genre == Genre::Texte) {
+          EXPECT_LE(qt::LargeurTexte(QString::fromStdString(mots->legende), *dit), dit->width()) << mots->legende;
+        }
+      }
+      fenetre.reset();
+    }
+  }
+}
+
+TEST_F(EchelleOuverte, F11FillsTheScreenAndGivesItBack) {
+  OuvreSur({1366, 768});
+  Touche(Trouve<QLineEdit>("TDate0"), Qt::Key_F11);
+  EXPECT_TRUE(fenetre->isFullScreen());
+  Touche(Trouve<QLineEdit>("TDate0"), Qt::Key_F11);
+  EXPECT_FALSE(fenetre->isFullScreen());
+}
+
 } // namespace
 } // namespace velmaris::essais
