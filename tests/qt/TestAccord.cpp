@@ -28,6 +28,9 @@ int Evenements() {
 class Accord : public FenetreOuverte {
 protected:
   void Verifie(const std::string &apres) {
+    if (bureau.termine) {
+      return; // a program that ends shows nothing any more
+    }
     if (const Controle *ecart = scene.Ecart()) {
       ADD_FAILURE() << ecart->fenetre << " " << ecart->nom << " " << ecart->indice << " after " << apres;
       scene.Accorde();

@@ -24,13 +24,17 @@ FenetreImpression::FenetreImpression(Scene &scene, QWidget *parent)
                  Qt::WindowCloseButtonHint);
   create();
   windowHandle()->setTransientParent(nullptr);
-  Redimensionne();
+  Centre();
   connect(qGuiApp, &QGuiApplication::focusWindowChanged, this, [this](const QWindow *devant) { Note(devant); });
 }
 
-/// The toolkit would set it over the middle of the main window, without a thought for its title.
 void FenetreImpression::Redimensionne() {
   Dialogue::Redimensionne();
+  Centre();
+}
+
+/// The toolkit would set it over the middle of the main window, without a thought for its title.
+void FenetreImpression::Centre() {
   const QRect libre = screen()->availableGeometry();
   const QSize reste = libre.size() - size() - QSize(0, kBarreTitre);
   move(libre.topLeft() + QPoint(reste.width() / 2, reste.height() / 2));

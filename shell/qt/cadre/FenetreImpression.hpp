@@ -22,6 +22,7 @@ protected:
   void paintEvent(QPaintEvent *event) override;
 
 private:
+  void Centre();
   void Note(const QWindow *devant);
 
   Impression &page_;
