@@ -6,6 +6,7 @@
 #include <QAbstractItemView>
 #include <QComboBox>
 #include <QListWidget>
+#include <QPointer>
 #include <QSlider>
 #include <QTimer>
 #include <QWheelEvent>
@@ -113,7 +114,8 @@ protected:
 
   /// Events in a window, until all have been sent or it is put away.
   void AuHasard(QWidget &dans) {
-    for (; envoyes < Evenements() && dans.isVisible() && !bureau.termine && !fin; ++envoyes) {
+    const QPointer<QWidget> vie = &dans; // put away, it may be deleted at once
+    for (; envoyes < Evenements() && !vie.isNull() && vie->isVisible() && !bureau.termine && !fin; ++envoyes) {
       EvenementAuHasard(dans);
       Verifie(dernier);
     }
