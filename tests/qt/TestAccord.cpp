@@ -115,7 +115,7 @@ protected:
   /// Events in a window, until all have been sent or it is put away.
   void AuHasard(QWidget &dans) {
     const QPointer<QWidget> vie = &dans; // put away, it may be deleted at once
-    for (; envoyes < Evenements() && !vie.isNull() && vie->isVisible() && !bureau.termine && !fin; ++envoyes) {
+    for (; envoyes < Evenements() && !vie.isNull() && dans.isVisible() && !bureau.termine && !fin; ++envoyes) {
       EvenementAuHasard(dans);
       Verifie(dernier);
     }
