@@ -30,7 +30,7 @@ std::string AttenteDroites(const Bureau &bureau) {
   if (d.Frame2.visible) {
     return (d.Option2.choisi ? bureau.etat.TexteCapsDepart : bureau.etat.TexteCapsArrivee).legende;
   }
-  const auto mode = std::find_if(d.Option1.begin(), d.Option1.end(), [](const Controle &o) { return o.choisi; });
+  const auto *mode = std::find_if(d.Option1.begin(), d.Option1.end(), [](const Controle &o) { return o.choisi; });
   return d.Frame10.visible && mode != d.Option1.end()
              ? bureau.etat.TexteMode.at(static_cast<std::size_t>(mode - d.Option1.begin())).legende
              : std::string();

@@ -32,12 +32,13 @@ FenetreCiel::FenetreCiel(Scene &scene, QWidget *parent)
   horloge_.callOnTimeout(this, [this] { this->scene().Joue([this] { ciel::Timer1_Tick(bureau_); }); });
   // A window of its own: as a dialog of the main one it would stay over it, which comes to the front with a choice.
   setWindowFlags(Qt::Window);
-  create();
-  windowHandle()->setTransientParent(nullptr);
   setMinimumSize(kPlusPetite.boundedTo(screen()->availableSize()));
   resize(size().boundedTo(screen()->availableSize() - QSize(0, kBarreTitre)));
-  // In the middle of the screen its title would leave it; a place is that of the frame, title included.
+  // In the middle of the screen its title would leave it. A place given before the window is made is that of the frame,
+  // title included; given after, it would be that of what lies within.
   move(screen()->availableGeometry().topLeft() + QPoint(kBord, 0));
+  create();
+  windowHandle()->setTransientParent(nullptr);
   for (Surface *surface : {&bureau_.ciel.picture1, &bureau_.ciel.picAZ, &bureau_.ciel.picHE}) {
     surface->interligne = Interligne(*surface, *this);
   }
