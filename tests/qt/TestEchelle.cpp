@@ -108,6 +108,19 @@ TEST_F(EchelleOuverte, NothingIsCutOnAnyScreenInEitherLanguage) {
   }
 }
 
+TEST_F(EchelleOuverte, TheSidesOfAPositionAreWrittenInOneSizeOnEveryScreenInEitherLanguage) {
+  for (const Bureautique &ecran : kEcrans) {
+    for (const bool anglais : {false, true}) {
+      OuvreSur(ecran, anglais);
+      const auto points = [this](const char *nom) { return Trouve<QRadioButton>(nom)->font().pointSizeF(); };
+      for (const char *cote : {"OptN1", "OptE0", "OptE1"}) {
+        EXPECT_EQ(points(cote), points("OptN0")) << cote << " " << ecran.hauteur << (anglais ? " en" : " fr");
+      }
+      fenetre.reset();
+    }
+  }
+}
+
 TEST_F(EchelleOuverte, AWindowMadeSmallerOrLargerScalesAsAWholeCentredAndNeverCut) {
   OuvreSur({1920, 1080});
   for (const auto &[largeur, hauteur] : {std::pair{640, 400}, {1000, 900}, {1920, 600}, {1280, 720}, {2400, 1500}}) {
