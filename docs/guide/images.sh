@@ -38,14 +38,15 @@ piece() {
 }
 # The whole main window with its title.
 fenetre() { piece "$1" 0 -300 16480 10980 "${@:2}"; }
-# Arguments for convert that draw figures in circles: pairs of places in pixels, counted from one.
+# Arguments for convert that draw figures in circles: pairs of places as pixels at scale 1, counted from one.
 pastilles() {
-  local n=1
+  local n=1 x y
   PASTILLES=()
   while [ $# -gt 0 ]; do
-    PASTILLES+=(-fill '#c2185b' -stroke white -strokewidth 2 -draw "circle $1,$2 $(($1 + 12)),$2"
+    x=$(px $(($1 * 15))) y=$(px $(($2 * 15)))
+    PASTILLES+=(-fill '#c2185b' -stroke white -strokewidth 2 -draw "circle $x,$y $((x + 12)),$y"
       -fill white -stroke none -font Liberation-Sans-Bold -pointsize 15
-      -draw "text $(($1 - (n > 9 ? 9 : 4))),$(($2 + 6)) '$n'")
+      -draw "text $((x - (n > 9 ? 9 : 4))),$((y + 6)) '$n'")
     n=$((n + 1))
     shift 2
   done
