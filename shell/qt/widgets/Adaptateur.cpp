@@ -6,6 +6,8 @@
 
 #include <QApplication>
 
+#include <algorithm>
+
 namespace velmaris::qt {
 namespace {
 
@@ -50,8 +52,9 @@ void Adaptateur::PosePolice(const Controle &c) {
   QFont font = widget_.font();
   font.setBold(c.gras || c.accent);
   font.setUnderline(c.accent);
-  for (double points = c.taille; points >= moindre; points -= kPas) {
-    widget_.setFont(PoliceA(font, points, f, widget_));
+  const int pas = std::max(0, static_cast<int>((c.taille - moindre) / kPas));
+  for (int n = 0; n <= pas; ++n) {
+    widget_.setFont(PoliceA(font, c.taille - n * kPas, f, widget_));
     PoseLegende(c);
     if (Depasse() <= 0) {
       break;
