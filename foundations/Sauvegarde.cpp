@@ -7,6 +7,7 @@
 #include <cstddef>
 #include <cstdlib>
 #include <fcntl.h>
+#include <memory>
 #include <string_view>
 #include <sys/file.h>
 #include <sys/stat.h>
@@ -24,16 +25,8 @@ constexpr mode_t kPourSoi = 0600;
 constexpr std::size_t kPileSecours = 65536; ///< bytes: a handler must run where the stack is full
 constexpr std::array<int, 5> kMortels = {SIGSEGV, SIGABRT, SIGBUS, SIGFPE, SIGILL};
 
-/// A text that is ready to be written by a signal's handler, with the names that it needs.
-struct Pret {
-  std::string texte;
-  std::string fichier;
-  std::string provisoire;
-};
-
-// What a signal's handler can reach is what stands outside of all records.
-std::atomic<Pret *> aFinir = nullptr; ///< given and not yet written
-std::atomic<bool> mourant = false;    ///< a handler has taken over: nothing else is renamed
+/// The one door of a signal's handler, which is given nothing but a number: the record that it finishes.
+std::atomic<Sauvegarde *> gardee = nullptr;
 
 /// Replaces a file by calls that a signal's handler may make.
 bool Remplace(const char *provisoire, const char *fichier, std::string_view octets) noexcept {
@@ -74,6 +67,12 @@ Sauvegarde::Sauvegarde(fs::path fichier, const fs::path &derniere)
 
 Sauvegarde::~Sauvegarde() {
   Arrete();
+  Sauvegarde *moi = this;
+  const bool derniere = gardee.compare_exchange_strong(moi, nullptr);
+  const std::unique_ptr<Pret> reste(aFinir_.exchange(nullptr));
+  if (derniere && reste != nullptr) { // the disk has refused it: once more, as an exit would
+    Remplace(reste->provisoire.c_str(), reste->fichier.c_str(), reste->texte);
+  }
   if (numeroVerrou_ >= 0) {
     ::close(numeroVerrou_);
   }
@@ -106,7 +105,8 @@ void Sauvegarde::Donne(std::string texte) {
   donnee_ = std::move(texte);
   ++donnees_;
   if (numeroVerrou_ >= 0) {
-    delete aFinir.exchange(new Pret{donnee_, fichier_.string(), fichier_.string() + ".mort"});
+    delete aFinir_.exchange(new Pret{donnee_, fichier_.string(), fichier_.string() + ".mort"});
+    gardee = this;
   }
   signal_.notify_all();
 }
@@ -120,7 +120,7 @@ void Sauvegarde::Abandonne() {
   {
     const std::lock_guard verrou(mutex_);
     traitees_ = donnees_;
-    delete aFinir.exchange(nullptr);
+    delete aFinir_.exchange(nullptr);
   }
   Arrete();
   if (numeroVerrou_ >= 0) {
@@ -149,12 +149,12 @@ void Sauvegarde::Ecrit(std::unique_lock<std::mutex> &verrou) {
   const std::string texte = donnee_;
   const bool tenu = TientVerrou();
   verrou.unlock();
-  const bool ecrit = tenu && !mourant && Remplace(provisoire_.c_str(), fichier_.c_str(), texte);
+  const bool ecrit = tenu && !mourante_ && Remplace(provisoire_.c_str(), fichier_.c_str(), texte);
   verrou.lock();
   ecritures_ += ecrit ? 1 : 0;
   traitees_ = rang;
   if (ecrit && donnees_ == rang) {
-    delete aFinir.exchange(nullptr);
+    delete aFinir_.exchange(nullptr);
   }
 }
 
@@ -175,8 +175,12 @@ void Sauvegarde::Travaille() {
 }
 
 void FinitSauvegardes() noexcept {
-  mourant = true;
-  if (const Pret *pret = aFinir.exchange(nullptr)) {
+  Sauvegarde *sauvegarde = gardee.exchange(nullptr);
+  if (sauvegarde == nullptr) {
+    return;
+  }
+  sauvegarde->mourante_ = true;
+  if (const auto *pret = sauvegarde->aFinir_.exchange(nullptr)) {
     Remplace(pret->provisoire.c_str(), pret->fichier.c_str(), pret->texte);
     // Its memory is left alone: the program dies, and a handler frees nothing.
   }

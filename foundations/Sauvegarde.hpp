@@ -41,6 +41,15 @@ public:
   std::uint64_t ecritures() const { return ecritures_; }
 
 private:
+  /// A text that is ready to be written by a signal's handler, with the names that it needs.
+  struct Pret {
+    std::string texte;
+    std::string fichier;
+    std::string provisoire;
+  };
+
+  friend void FinitSauvegardes() noexcept;
+
   bool TientVerrou();
   std::string NomVerrou() const;
   void Ecrit(std::unique_lock<std::mutex> &verrou);
@@ -57,10 +66,13 @@ private:
   std::uint64_t traitees_ = 0; ///< of them, those written, passed over or refused
   std::atomic<std::uint64_t> ecritures_ = 0;
   bool fini_ = false;
+  std::atomic<Pret *> aFinir_ = nullptr; ///< given and not yet written
+  std::atomic<bool> mourante_ = false;   ///< a handler has taken over: nothing else is renamed
   std::thread ouvrier_;
 };
 
-/// Writes what a Sauvegarde was given and hasn't written yet. Calls nothing but what a signal's handler may call.
+/// Writes what the Sauvegarde that was given a text last hasn't written yet. Calls nothing but what a signal's handler
+/// may call.
 void FinitSauvegardes() noexcept;
 
 /// From here on a signal that kills (a bad address, an abort, a bad instruction or division) finishes the Sauvegarde
