@@ -1,11 +1,11 @@
 #include "shell/ecran/Statut.hpp"
 
 #include "chart/Projection.hpp"
+#include "foundations/TexteNombre.hpp"
 
 #include <algorithm>
-#include <array>
 #include <cmath>
-#include <cstdio>
+#include <string_view>
 
 namespace velmaris {
 namespace {
@@ -13,15 +13,13 @@ namespace {
 constexpr long kDixiemesParDegre = 600;
 
 /// An angle in tenths of a minute as text.
-/// @param chiffres  of the whole degrees
-std::string TexteAngle(double degres, int chiffres, char positif, char negatif) {
+/// @param masque  of the whole degrees
+std::string TexteAngle(double degres, std::string_view masque, char positif, char negatif) {
   const long dixiemes = std::lround(std::fabs(degres) * static_cast<double>(kDixiemesParDegre));
-  const long minutes = dixiemes % kDixiemesParDegre;
-  std::array<char, 32> texte{};
-  const int n =
-      std::snprintf(texte.data(), texte.size(), "%0*ld° %02ld.%ld' %c", chiffres, dixiemes / kDixiemesParDegre,
-                    minutes / 10, minutes % 10, degres < 0 && dixiemes != 0 ? negatif : positif);
-  return {texte.data(), static_cast<std::size_t>(n)};
+  const long entiers = dixiemes / kDixiemesParDegre;
+  const double minutes = static_cast<double>(dixiemes % kDixiemesParDegre) / 10;
+  return Format(static_cast<double>(entiers), masque) + "° " + Format(minutes, "00.0") + "' " +
+         (degres < 0 && dixiemes != 0 ? negatif : positif);
 }
 
 /// What the four buttons wait for, while their module shows.
@@ -53,7 +51,7 @@ std::string TexteTenue(double latitude, double longitude) {
   if (!(std::fabs(latitude) <= 90.0) || !std::isfinite(longitude)) {
     return "";
   }
-  return TexteAngle(latitude, 2, 'N', 'S') + "  " + TexteAngle(std::remainder(longitude, 360.0), 3, 'W', 'E');
+  return TexteAngle(latitude, "00", 'N', 'S') + "  " + TexteAngle(std::remainder(longitude, 360.0), "000", 'W', 'E');
 }
 
 bool AUneEchelle(const Feuille &feuille) { return feuille.EchelleX > 0 && feuille.EchelleY > 0; }
