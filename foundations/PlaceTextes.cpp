@@ -22,7 +22,8 @@ constexpr std::array<long, 9> kPasDegres{1, 2, 5, 10, 15, 30, 45, 90, 180};
 struct Texte {
   std::size_t rang;
   const TexteTrace *trace;
-  ZoneTexte zone; ///< where it is recorded
+  ZoneTexte zone;                       ///< where it is recorded
+  const Etiquette *etiquette = nullptr; ///< of a name of a line
 };
 
 ZoneTexte Deplacee(ZoneTexte zone, double dx, double dy) {
@@ -63,12 +64,22 @@ std::optional<ZoneTexte> Cote(const PlanTextes &plan, const ZoneTexte &zone) {
   return plan.Premiere(zone, ecarts);
 }
 
+/// A place at one of a line's ends.
+std::optional<ZoneTexte> AuBout(const PlanTextes &plan, const Texte &texte) {
+  const std::optional<ZoneTexte> premier = Cote(plan, texte.zone);
+  const Point ici = texte.trace->position;
+  const Point autre = texte.etiquette->autreBout;
+  return premier ? premier : Cote(plan, Deplacee(texte.zone, autre.x - ici.x, autre.y - ici.y));
+}
+
 /// A place for what gives way where there is none.
 std::optional<ZoneTexte> PlaceCedante(const PlanTextes &plan, const Texte &texte) {
   const ZoneTexte dedans = plan.Rentree(texte.zone);
   switch (texte.trace->role.genre) {
   case GenreTexte::Ville:
     return Cote(plan, texte.zone);
+  case GenreTexte::Bout:
+    return AuBout(plan, texte);
   case GenreTexte::Objet: {
     const std::optional<ZoneTexte> cote = Cote(plan, texte.zone);
     return cote ? cote : plan.Autour(texte.zone, kCerclesObjet);
@@ -78,20 +89,31 @@ std::optional<ZoneTexte> PlaceCedante(const PlanTextes &plan, const Texte &texte
   }
 }
 
+/// Whether a place is one: finite, and not out of all measure.
+bool EstPlace(const Surface &surface, Point p) {
+  return std::fabs(p.x) < 10 * surface.largeur + 1 && std::fabs(p.y) < 10 * surface.hauteur + 1;
+}
+
 /// Texts on the surface in the order in which they take their places.
 std::vector<Texte> Ordonnes(const Surface &surface, const MesureTexte &mesure) {
   std::vector<Texte> textes;
+  const auto zone = [&](const TexteTrace &trace) {
+    const TailleTexte taille = mesure(trace);
+    return ZoneTexte{trace.position.x, trace.position.y, taille.largeur, taille.hauteur};
+  };
   for (std::size_t i = 0; i < surface.traces.size(); ++i) {
     const auto *trace = std::get_if<TexteTrace>(&surface.traces[i]);
-    // A place that is not finite or out of all measure is no place, and needs no room.
-    if (trace == nullptr || !(std::fabs(trace->position.x) < 10 * surface.largeur + 1) ||
-        !(std::fabs(trace->position.y) < 10 * surface.hauteur + 1)) {
-      continue;
+    if (trace != nullptr && EstPlace(surface, trace->position)) { // what is in no place needs no room
+      const Texte texte{i, trace, zone(*trace)};
+      if (trace->role.genre == GenreTexte::Libre || EstDessus(surface, texte.zone, trace->role.genre)) {
+        textes.push_back(texte);
+      }
     }
-    const TailleTexte taille = mesure(*trace);
-    const ZoneTexte zone{trace->position.x, trace->position.y, taille.largeur, taille.hauteur};
-    if (trace->role.genre == GenreTexte::Libre || EstDessus(surface, zone, trace->role.genre)) {
-      textes.push_back({i, trace, zone});
+  }
+  for (std::size_t i = 0; surface.etiquetee && i < surface.etiquettes.size(); ++i) {
+    const Etiquette &etiquette = surface.etiquettes[i];
+    if (EstPlace(surface, etiquette.texte.position) && EstPlace(surface, etiquette.autreBout)) {
+      textes.push_back({i, &etiquette.texte, zone(etiquette.texte), &etiquette});
     }
   }
   std::stable_sort(textes.begin(), textes.end(), [](const Texte &a, const Texte &b) {
@@ -190,6 +212,11 @@ ZoneTexte PlanTextes::Proche(const ZoneTexte &zone) const {
   return EstLibre(dedans) ? dedans : Autour(dedans, partout).value_or(dedans);
 }
 
+const TexteTrace &TexteDe(const Surface &surface, const TextePlace &place) {
+  return place.etiquette ? surface.etiquettes.at(place.rang).texte
+                         : std::get<TexteTrace>(surface.traces.at(place.rang));
+}
+
 std::vector<TextePlace> PlaceTextes(const Surface &surface, const MesureTexte &mesure) {
   std::vector<Texte> textes = Ordonnes(surface, mesure);
   RetireDoubles(textes);
@@ -199,7 +226,7 @@ std::vector<TextePlace> PlaceTextes(const Surface &surface, const MesureTexte &m
   std::vector<TextePlace> places;
   const auto montre = [&](const Texte &texte, const ZoneTexte &zone) {
     plan.Prend(zone);
-    places.push_back({texte.rang, zone});
+    places.push_back({texte.rang, zone, texte.etiquette != nullptr});
   };
   // First whatever has its own place free, then the others as near to theirs as can be, then what gives way.
   const auto fin = std::find_if_not(textes.begin(), textes.end(), EstTenu);

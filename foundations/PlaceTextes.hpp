@@ -34,9 +34,13 @@ using MesureTexte = std::function<TailleTexte(const TexteTrace &)>;
 
 /// A text that is shown.
 struct TextePlace {
-  std::size_t rang = 0; ///< its place among the surface's traces
-  ZoneTexte zone;       ///< where it is shown
+  std::size_t rang = 0;   ///< its place among the surface's traces, or among its names of lines
+  ZoneTexte zone;         ///< where it is shown
+  bool etiquette = false; ///< it is a name of a line
 };
+
+/// The text that stands in a place.
+const TexteTrace &TexteDe(const Surface &surface, const TextePlace &place);
 
 /// The places that are taken on a surface, and what is still free among them. Two texts keep a little room between
 /// them. Sizes are in 1/1440 inch.
@@ -72,6 +76,7 @@ private:
 /// - Figures of minutes stand in their places or are left out.
 /// - Names stand below and right of their points, as recorded, or at one of seven other places around them, an object's
 ///   somewhat farther off too, or are left out.
+/// - Names of lines stand at one of their line's ends or are left out.
 /// @param mesure  gives the room of a text
 /// @return in the order in which they took their places
 std::vector<TextePlace> PlaceTextes(const Surface &surface, const MesureTexte &mesure);

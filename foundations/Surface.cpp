@@ -7,8 +7,19 @@ namespace velmaris {
 
 void Efface(Surface &surface) {
   surface.traces.clear();
+  surface.aires.clear();
+  surface.etiquettes.clear();
   surface.position = {};
   ++surface.effacements;
+}
+
+void AjouteAire(Surface &surface, Aire aire) {
+  if (std::find(surface.aires.begin(), surface.aires.end(), aire) != surface.aires.end()) {
+    return;
+  }
+  const auto place = std::find_if(surface.aires.begin(), surface.aires.end(),
+                                  [&](const Aire &autre) { return autre.teinte > aire.teinte; });
+  surface.aires.insert(place, std::move(aire));
 }
 
 bool RetireRepetition(Surface &surface, std::size_t debut, std::size_t milieu) {
@@ -43,12 +54,13 @@ void Ligne(Surface &surface, Point debut, Point fin, Couleur couleur) {
   surface.position = fin;
   if (!std::exchange(surface.plumeLevee, false) && !surface.traces.empty()) {
     auto *derniere = std::get_if<Polyligne>(&surface.traces.back());
-    if (derniere != nullptr && derniere->plume == plume && derniere->points.back() == debut) {
+    if (derniere != nullptr && derniere->plume == plume && derniere->genre == surface.genre &&
+        derniere->points.back() == debut) {
       derniere->points.push_back(fin);
       return;
     }
   }
-  surface.traces.emplace_back(Polyligne{plume, {debut, fin}});
+  surface.traces.emplace_back(Polyligne{plume, {debut, fin}, surface.genre});
 }
 
 void Cercle(Surface &surface, Point centre, double rayon, Couleur couleur) {

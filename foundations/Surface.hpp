@@ -1,5 +1,8 @@
 #pragma once
 
+#include "foundations/Aire.hpp"
+#include "foundations/Point.hpp"
+
 #include <cstddef>
 #include <cstdint>
 #include <string>
@@ -23,13 +26,6 @@ inline constexpr Couleur kMagenta = 0xFF00FF;
 inline constexpr Couleur kGris = Rvb(128, 128, 128);
 inline constexpr Couleur kLien = Rvb(31, 95, 158);
 
-/// A point of a surface, in 1/1440 inch, y growing downward.
-struct Point {
-  double x = 0.0;
-  double y = 0.0;
-  bool operator==(const Point &) const = default;
-};
-
 /// Style of a line.
 enum class Style : std::uint8_t { Plein = 0, Tirets = 1, Points = 2, TiretPoint = 3 };
 
@@ -49,10 +45,20 @@ struct Police {
   bool operator==(const Police &) const = default;
 };
 
+/// What a line of a drawing is, for those who paint it.
+enum class GenreLigne : std::uint8_t {
+  Libre,     ///< nothing in particular
+  Droite,    ///< a line of position
+  Cote,      ///< an outline of the chart
+  Grille,    ///< a line of the grid at a whole degree, or one of its darker ones
+  GrilleFine ///< any other line of the grid
+};
+
 /// Joined segments in one pen.
 struct Polyligne {
   Plume plume;
   std::vector<Point> points;
+  GenreLigne genre = GenreLigne::Libre;
   bool operator==(const Polyligne &) const = default;
 };
 
@@ -73,6 +79,7 @@ enum class GenreTexte : std::uint8_t {
   Position,       ///< estimated position
   Droite,         ///< intercept or azimuth of a line of position
   Minute,         ///< minutes between whole degrees
+  Bout,           ///< body and time at the end of a line of position
   Objet,          ///< name of one of the user's objects
   Ville           ///< name of a city
 };
@@ -94,6 +101,13 @@ struct TexteTrace {
   bool operator==(const TexteTrace &) const = default;
 };
 
+/// A text at one of the two ends of a line.
+struct Etiquette {
+  TexteTrace texte; ///< at the one end
+  Point autreBout;  ///< where it stands if it finds no room there
+  bool operator==(const Etiquette &) const = default;
+};
+
 /// Anything drawn.
 using Trace = std::variant<Polyligne, CercleTrace, TexteTrace>;
 
@@ -106,15 +120,23 @@ struct Surface {
   int epaisseur = 1;     ///< draw width
   Style style = Style::Plein;
   Police police;
-  double interligne = 240.0; ///< height of a line of text in the font, 1/1440 inch
-  Point position;            ///< where the next text starts
-  bool plumeLevee = false;   ///< the next segment starts a polyline of its own
+  double interligne = 240.0;            ///< height of a line of text in the font, 1/1440 inch
+  Point position;                       ///< where the next text starts
+  bool plumeLevee = false;              ///< the next segment starts a polyline of its own
+  GenreLigne genre = GenreLigne::Libre; ///< of the lines that come next
   std::vector<Trace> traces;
-  std::uint64_t effacements = 0; ///< how often the surface was cleared
+  std::vector<Aire> aires;           ///< filled shapes, below all traces
+  bool teintee = true;               ///< the filled shapes are to be seen
+  std::vector<Etiquette> etiquettes; ///< names of lines, a layer of their own over all traces
+  bool etiquetee = true;             ///< the names of lines are to be seen
+  std::uint64_t effacements = 0;     ///< how often the surface was cleared
 };
 
 /// Empties the surface; the drawing position returns to the upper left corner.
 void Efface(Surface &surface);
+
+/// A filled shape more, unless the surface has it already.
+void AjouteAire(Surface &surface, Aire aire);
 
 /// Drops the traces from a place on when they repeat, one by one, those that lie right before them: drawing a layer
 /// twice in the same place changes nothing that can be seen, and costs no memory.

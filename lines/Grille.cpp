@@ -62,21 +62,26 @@ struct Cadre {
   }
 };
 
-Couleur CouleurLigne(const Feuille &feuille, int v, int fort) {
-  return v % fort == 0 ? kGrilleForte : static_cast<Couleur>(feuille.CouleurGrille);
+/// A line of the fine grid.
+/// @param v     its step from the position
+/// @param fort  every how many steps a line is darker
+void TraceFine(const Cadre &c, Point debut, Point fin, int v, int fort) {
+  const bool forte = v % fort == 0;
+  c.surface.genre = forte ? GenreLigne::Grille : GenreLigne::GrilleFine;
+  Ligne(c.surface, debut, fin, forte ? kGrilleForte : static_cast<Couleur>(c.feuille.CouleurGrille));
 }
 
 void TraceMeridiens(const Cadre &c, Pas pas) {
   for (int v = -80; v <= 80; ++v) {
     const double x = c.X(c.longitude.signe * c.longitude.degres * 60 + v * pas.minutes);
-    Ligne(c.surface, {x, c.bas}, {x, c.haut}, CouleurLigne(c.feuille, v, pas.fort));
+    TraceFine(c, {x, c.bas}, {x, c.haut}, v, pas.fort);
   }
 }
 
 void TraceParalleles(const Cadre &c, Pas pas) {
   for (int v = -60; v <= 60; ++v) {
     const double y = c.Y(c.latitude.signe * c.latitude.degres * 60 + v * pas.minutes);
-    Ligne(c.surface, {kBordGauche, y}, {c.surface.largeur, y}, CouleurLigne(c.feuille, v, pas.fort));
+    TraceFine(c, {kBordGauche, y}, {c.surface.largeur, y}, v, pas.fort);
   }
 }
 
@@ -184,8 +189,10 @@ void TraceGrille(const Feuille &feuille, Surface &surface, const Observation &ob
   surface.encre = kNoir;
   TraceParalleles(c, pas);
   surface.epaisseur = feuille.Zoom < kZoomEpais ? 2 : 1;
+  surface.genre = GenreLigne::Grille;
   TraceDegresLatitude(c);
   TraceDegresLongitude(c);
+  surface.genre = GenreLigne::Libre;
   surface.epaisseur = 1;
   if (minutes) {
     surface.encre = kGris;

@@ -47,7 +47,9 @@ void AffIntercept(const Feuille &feuille, Surface &surface, const ValeursVisee &
   const auto sur = [&](double distance) { return Point{x + distance * std::cos(t), y - distance * std::sin(t)}; };
 
   if (valeurs.Azimut != 180.0F && valeurs.Intercept != 0.0F) {
+    surface.genre = GenreLigne::Droite;
     TraceTravers(surface, sur(G), DemiLigne, t, static_cast<Couleur>(couleur));
+    surface.genre = GenreLigne::Libre;
     const bool traits = feuille.TransportEnCours == 0 && drapeau != 0;
     const int i = traits ? TraceMilles(surface, valeurs, {x, y}, DemiTrait, feuille.EchelleY, t) : 0;
     // Only a line towards a body east of the meridian has its figure by the line; the others have it by the last tick.

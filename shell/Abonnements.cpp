@@ -10,14 +10,15 @@
 #include "shell/carte/Souris.hpp"
 #include "shell/ciel/EcranCiel.hpp"
 #include "shell/ciel/SourisCiel.hpp"
+#include "shell/droites/Bouts.hpp"
 #include "shell/droites/Droites.hpp"
 #include "shell/droites/FichierVisee.hpp"
 #include "shell/droites/ModesDroite.hpp"
 #include "shell/droites/Route.hpp"
 #include "shell/ecran/ChoixFichier.hpp"
 #include "shell/ecran/Echelle.hpp"
+#include "shell/ecran/Eclairage.hpp"
 #include "shell/ecran/Modules.hpp"
-#include "shell/ecran/Nuit.hpp"
 #include "shell/ecran/PageImprimee.hpp"
 #include "shell/ecran/Presentation.hpp"
 #include "shell/visee/Astres.hpp"
@@ -177,6 +178,9 @@ constexpr Abonnement kDonnees[] = {
     {"PU_Caps", Evenement::Clic, Command9_Click},
     {"PU_Clear", Evenement::Clic, PU_Clear_Click},
     {"PU_Apropos", Evenement::Clic, PU_Apropos_Click},
+    {"PU_Terres", Evenement::Clic, PU_Terres_Click},
+    {"PU_Bouts", Evenement::Clic, PU_Bouts_Click},
+    {"PU_Crepuscule", Evenement::Clic, PU_Crepuscule_Click},
     {"PU_Nuit", Evenement::Clic, PU_Nuit_Click},
     {"PU_TailleAuto", Evenement::Clic, PU_TailleAuto_Click},
     {"PU_TailleMoins", Evenement::Clic, PU_TailleMoins_Click},

@@ -10,12 +10,13 @@
 #include "shell/bureau/Valeurs.hpp"
 #include "shell/carte/Carte.hpp"
 #include "shell/ciel/EcranCiel.hpp"
+#include "shell/droites/Bouts.hpp"
 #include "shell/droites/Droites.hpp"
 #include "shell/droites/MemoireDroites.hpp"
 #include "shell/droites/ModesDroite.hpp"
 #include "shell/ecran/Disposition.hpp"
 #include "shell/ecran/Echelle.hpp"
-#include "shell/ecran/Nuit.hpp"
+#include "shell/ecran/Eclairage.hpp"
 #include "shell/ecran/Statut.hpp"
 #include "shell/visee/Journal.hpp"
 #include "shell/visee/PanneauDirect.hpp"
@@ -80,7 +81,9 @@ void ReprendReglages(Bureau &bureau) {
   if (ReglagesSortie(bureau.donnees) != bureau.reglagesDepart) {
     return;
   }
-  LitNuit(bureau);
+  LitEclairage(bureau);
+  LitTerres(bureau);
+  LitBouts(bureau);
   LitTaille(bureau);
   LitOptionsCarte(bureau);
   PoseOption(bureau, bureau.donnees.Option4[Val(LitReglage(bureau, "Prec", "0")) == 1 ? 1 : 0]);
@@ -165,7 +168,9 @@ void Donnees_Charge(Bureau &bureau, const Ecran &ecran) {
   }
   BalaieProvisoires(bureau.dossiers.utilisateur);
   bureau.ecran = ecran;
-  LitNuit(bureau);
+  LitEclairage(bureau);
+  LitTerres(bureau);
+  LitBouts(bureau);
   LitTaille(bureau);
   DisposeFenetre(bureau, ecran);
   d.ImAstre[0].image = d.Soleil.image;

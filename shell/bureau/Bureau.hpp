@@ -26,6 +26,8 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <filesystem>
+#include <map>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -45,6 +47,9 @@ struct Ecran {
   double echelle = 1.0; ///< pixels of the toolkit per 15/1440 inch
 };
 
+/// By what light the program is seen.
+enum class Eclairage : std::uint8_t { Jour, Crepuscule, Nuit };
+
 /// Percent of the scale that the screen gives, at first.
 inline constexpr int kTailleAutomatique = 100;
 
@@ -56,13 +61,21 @@ struct LieuCarte {
   bool operator==(const LieuCarte &) const = default;
 };
 
+/// What a file's outlines enclose, and by which file.
+struct TerresLues {
+  std::uintmax_t taille = 0; ///< of the file
+  std::filesystem::file_time_type date;
+  std::shared_ptr<const Anneaux> anneaux; ///< none before it was read
+};
+
 /// What the drawings of the chart share.
 struct CarteOuverte {
-  Polygone polygone;             ///< the outlines of one file after the other
-  bool fichierReste = false;     ///< a file was opened and not read to its end: no other can be opened
-  std::vector<Tranche> dessins;  ///< the chart's drawings in the surface's list
-  LieuCarte lieu;                ///< by which the last of them was drawn
-  std::uint64_t effacements = 0; ///< of the surface when they were drawn
+  Polygone polygone;                        ///< the outlines of one file after the other
+  bool fichierReste = false;                ///< a file was opened and not read to its end: no other can be opened
+  std::vector<Tranche> dessins;             ///< the chart's drawings in the surface's list
+  LieuCarte lieu;                           ///< by which the last of them was drawn
+  std::uint64_t effacements = 0;            ///< of the surface when they were drawn
+  std::map<std::string, TerresLues> terres; ///< by file name
 };
 
 /// The whole program: its windows and what they share. Event functions take it; nothing below the shell knows it.
@@ -81,19 +94,20 @@ struct Bureau {
   Ciel ciel;
   Apropos apropos;
   Etat etat;
-  Ecran ecran;                         ///< that it has started on
-  double largeurFenetre = 0.0;         ///< of the main window, 1/1440 inch
-  double hauteurFenetre = 0.0;         ///< of the main window, 1/1440 inch
-  std::string titre = "Velmaris 2009"; ///< of the main window
-  const Controle *focus = nullptr;     ///< control that asks for the focus
-  const Controle *menu = nullptr;      ///< menu that asks to be opened at the pointer
-  bool nuit = false;                   ///< everything is painted in red on black
-  int taille = kTailleAutomatique;     ///< percent of the scale that the screen gives
-  bool pleinEcran = false;             ///< the main window fills the whole screen
-  bool pointeurOccupe = false;         ///< the pointer tells that the program works
-  bool termine = false;                ///< the exit sequence has run
-  std::string_view premierPlan;        ///< name of the window that asks to come to the front
-  bool horlogeArretee = false;         ///< the main window's clock stands still
+  Ecran ecran;                           ///< that it has started on
+  double largeurFenetre = 0.0;           ///< of the main window, 1/1440 inch
+  double hauteurFenetre = 0.0;           ///< of the main window, 1/1440 inch
+  std::string titre = "Velmaris 2009";   ///< of the main window
+  const Controle *focus = nullptr;       ///< control that asks for the focus
+  const Controle *menu = nullptr;        ///< menu that asks to be opened at the pointer
+  Eclairage eclairage = Eclairage::Jour; ///< everything is painted for that light
+  bool sombreAilleurs = false;           ///< the desktop is set to dark colours
+  int taille = kTailleAutomatique;       ///< percent of the scale that the screen gives
+  bool pleinEcran = false;               ///< the main window fills the whole screen
+  bool pointeurOccupe = false;           ///< the pointer tells that the program works
+  bool termine = false;                  ///< the exit sequence has run
+  std::string_view premierPlan;          ///< name of the window that asks to come to the front
+  bool horlogeArretee = false;           ///< the main window's clock stands still
 
   Surface image1; ///< the drawing surface of the main window
   Surface picAZ;  ///< the azimuth dial

@@ -2,6 +2,7 @@
 
 #include "chart/Lieux.hpp"
 #include "chart/Projection.hpp"
+#include "chart/Terres.hpp"
 #include "chart/TraceCarte.hpp"
 #include "foundations/Erreur.hpp"
 #include "foundations/Fichiers.hpp"
@@ -9,13 +10,19 @@
 #include "shell/droites/Droites.hpp"
 
 #include <array>
+#include <filesystem>
+#include <memory>
+#include <optional>
 #include <string>
+#include <system_error>
+#include <utility>
 
 namespace velmaris {
 namespace {
 
 constexpr int kFichierOuvert = 55;
-constexpr std::size_t kIles = 3; ///< boxes of the module, by what they show
+constexpr std::string_view kCleTerres = "Terres"; ///< of the setting
+constexpr std::size_t kIles = 3;                  ///< boxes of the module, by what they show
 constexpr std::size_t kEaux = 2;
 constexpr std::size_t kObjets = 1;
 constexpr std::size_t kVilles = 0;
@@ -24,6 +31,7 @@ constexpr std::size_t kVilles = 0;
 struct Couche {
   std::string_view fichier;
   Couleur couleur;
+  std::optional<Teinte> teinte; ///< of what its closed outlines enclose
   bool (*demandee)(const Donnees &);
 };
 
@@ -31,11 +39,11 @@ bool EauxDemandees(const Donnees &d) { return d.Check1[kEaux].valeur == 1; }
 
 /// In the order in which they are drawn.
 constexpr std::array<Couche, 5> kCouches = {
-    {{"Contours.Asc", Rvb(100, 100, 100), [](const Donnees &d) { return d.OpCarte[1].choisi; }},
-     {"Totale.asc", kNoir, [](const Donnees &d) { return d.OpCarte[0].choisi; }},
-     {"Iles.Asc", Rvb(130, 150, 130), [](const Donnees &d) { return d.Check1[kIles].valeur == 1; }},
-     {"Rivieres.Asc", Rvb(0, 150, 180), EauxDemandees},
-     {"Lacs.Asc", kBleu, EauxDemandees}}};
+    {{"Contours.Asc", Rvb(100, 100, 100), Teinte::Terre, [](const Donnees &d) { return d.OpCarte[1].choisi; }},
+     {"Totale.asc", kNoir, Teinte::Terre, [](const Donnees &d) { return d.OpCarte[0].choisi; }},
+     {"Iles.Asc", Rvb(130, 150, 130), Teinte::Terre, [](const Donnees &d) { return d.Check1[kIles].valeur == 1; }},
+     {"Rivieres.Asc", Rvb(0, 150, 180), std::nullopt, EauxDemandees},
+     {"Lacs.Asc", kBleu, Teinte::Eau, EauxDemandees}}};
 
 /// The local time of day, a fraction of the day in whole seconds.
 double HeureDuJour(const Bureau &bureau) {
@@ -45,6 +53,25 @@ double HeureDuJour(const Bureau &bureau) {
 
 std::string LitDonnees(const Bureau &bureau, std::string_view nom) {
   return LitFichier(TrouveFichier(bureau.dossiers, std::string(nom)));
+}
+
+/// What the outlines just read enclose. It is kept while its file is the same, by size and time.
+std::shared_ptr<const Anneaux> AnneauxLus(Bureau &bureau, std::string_view nom) {
+  std::error_code refus;
+  const std::filesystem::path fichier = TrouveFichier(bureau.dossiers, std::string(nom));
+  TerresLues lues{std::filesystem::file_size(fichier, refus), std::filesystem::last_write_time(fichier, refus), {}};
+  TerresLues &gardees = bureau.carte.terres[std::string(nom)];
+  if (!gardees.anneaux || gardees.taille != lues.taille || gardees.date != lues.date) {
+    lues.anneaux = std::make_shared<const Anneaux>(AnneauxFermes(bureau.carte.polygone));
+    gardees = std::move(lues);
+  }
+  return gardees.anneaux;
+}
+
+/// The outlines just read, filled below all lines.
+void Teint(Bureau &bureau, std::string_view nom, Teinte teinte) {
+  const VueCarte vue = ChoisitVue(bureau.feuille, bureau.image1);
+  AjouteAire(bureau.image1, AireSurCarte(vue, bureau.feuille, teinte, AnneauxLus(bureau, nom)));
 }
 
 /// Cities or user's objects; what can't be read is told, and the chart stays as drawn.
@@ -69,6 +96,11 @@ void NoteDessin(CarteOuverte &carte, Surface &surface, std::size_t debut, const 
       !RetireRepetition(surface, carte.dessins.back().debut, debut)) {
     carte.dessins.push_back({debut, surface.traces.size()});
   }
+}
+
+void PoseTerres(Bureau &bureau, bool teintees) {
+  bureau.image1.teintee = teintees;
+  bureau.donnees.PU_Terres.valeur = teintees ? 1 : 0;
 }
 
 LieuCarte LieuDe(const Feuille &feuille) {
@@ -101,7 +133,7 @@ void OuvreCartes(Bureau &bureau) {
   d.Label51.infobulle = "Polygones chargés";
   for (const Couche &couche : kCouches) {
     if (couche.demandee(d)) {
-      ChargePolygone(bureau, couche.fichier, couche.couleur);
+      ChargePolygone(bureau, couche.fichier, couche.couleur, couche.teinte);
     }
   }
   if (d.Check1[kVilles].valeur == 1) {
@@ -124,7 +156,7 @@ std::vector<Tranche> DessinsCarte(const Bureau &bureau) {
   return carte.effacements == bureau.image1.effacements ? carte.dessins : std::vector<Tranche>();
 }
 
-void ChargePolygone(Bureau &bureau, std::string_view nom, Couleur couleur) {
+void ChargePolygone(Bureau &bureau, std::string_view nom, Couleur couleur, std::optional<Teinte> teinte) {
   CarteOuverte &carte = bureau.carte;
   try {
     Vide(carte.polygone);
@@ -137,13 +169,25 @@ void ChargePolygone(Bureau &bureau, std::string_view nom, Couleur couleur) {
     bureau.donnees.Label51.infobulle += " + " + std::to_string(n);
     carte.fichierReste = false;
     bureau.ports.respire();
+    if (teinte) {
+      Teint(bureau, nom, *teinte);
+    }
+    bureau.image1.genre = GenreLigne::Cote;
     Affiche(carte.polygone, bureau.feuille, bureau.image1, couleur, bureau.ports.respire);
   } catch (const Erreur &) {
     bureau.ports.boite({.texte = bureau.messages[3] + std::string(nom)});
   }
+  bureau.image1.genre = GenreLigne::Libre;
 }
 
 void Command17_Click(Bureau &bureau, int /*indice*/) { OuvreCartes(bureau); }
+
+void LitTerres(Bureau &bureau) { PoseTerres(bureau, LitReglage(bureau, kCleTerres, "1") != "0"); }
+
+void PU_Terres_Click(Bureau &bureau, int /*indice*/) {
+  PoseTerres(bureau, !bureau.image1.teintee);
+  EcritReglage(bureau, kCleTerres, bureau.image1.teintee ? "1" : "0");
+}
 
 void Command16_Click(Bureau &bureau, int /*indice*/) {
   Efface(bureau.image1);

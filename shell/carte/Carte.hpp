@@ -2,6 +2,7 @@
 
 #include "shell/bureau/Bureau.hpp"
 
+#include <optional>
 #include <string_view>
 #include <vector>
 
@@ -16,11 +17,18 @@ void OuvreCartes(Bureau &bureau);
 /// Where the drawings of the chart stand in the list of the main window's surface.
 std::vector<Tranche> DessinsCarte(const Bureau &bureau);
 
-/// Reads one polygon file and draws it. A file that can't be read, or that has more points than the table, is told in a
-/// box and not drawn; one that was opened and not read to its end stays open, and no other can be opened until the next
-/// start.
-/// @param nom  of the file
-void ChargePolygone(Bureau &bureau, std::string_view nom, Couleur couleur);
+/// Reads one polygon file and draws it, the shapes that its closed outlines enclose below everything else. A file that
+/// can't be read, or that has more points than the table, is told in a box and not drawn; one that was opened and not
+/// read to its end stays open, and no other can be opened until the next start.
+/// @param nom     of the file
+/// @param teinte  of the shapes; none for lines alone
+void ChargePolygone(Bureau &bureau, std::string_view nom, Couleur couleur, std::optional<Teinte> teinte = {});
+
+/// Reads from the settings whether the chart's land is tinted: at first it is.
+void LitTerres(Bureau &bureau);
+
+/// The chart's land and lakes are tinted, or no longer; kept at once.
+void PU_Terres_Click(Bureau &bureau, int indice);
 
 /// Buttons of the module "Carte:" and entries of the menu.
 /// @{

@@ -2,6 +2,7 @@
 
 #include "foundations/TexteNombre.hpp"
 #include "shell/bureau/Evenements.hpp"
+#include "shell/droites/Bouts.hpp"
 #include "shell/droites/ModesDroite.hpp"
 #include "shell/visee/Journal.hpp"
 #include "shell/visee/ReduitVisee.hpp"
@@ -80,7 +81,9 @@ std::optional<Hauteurs> PremiereDroite(Bureau &bureau, Demande demande) {
   NormaliseLecture(observation);
   PrepareVisee(bureau, observation);
   const std::optional<Hauteurs> hauteurs = ReduitVisee(bureau, observation, demande);
+  const EtatDessin avant = EtatDe(bureau.image1);
   TraceDroites(bureau.feuille, bureau.image1, observation, bureau.visee);
+  NommeBout(bureau, avant, bureau.NomAstre, observation.heure, observation.minute);
   MontreTitresFeuille(bureau);
   MajHeureListes(bureau);
   return hauteurs;
@@ -97,7 +100,9 @@ void DroiteSuivante(Bureau &bureau, Demande demande) {
   } else if (observation.corps == Corps::Etoiles) {
     bureau.NomAstre = d.Combo6.texte;
   }
+  const EtatDessin avant = EtatDe(bureau.image1);
   AjouDroites(bureau.feuille, bureau.image1, observation, bureau.visee);
+  NommeBout(bureau, avant, bureau.NomAstre, observation.heure, observation.minute);
 }
 
 void Command2_Click(Bureau &bureau, int /*indice*/) {

@@ -5,6 +5,7 @@
 #include "foundations/TexteNombre.hpp"
 #include "lines/FichierLoP.hpp"
 #include "shell/bureau/Evenements.hpp"
+#include "shell/droites/Bouts.hpp"
 #include "shell/droites/Droites.hpp"
 #include "shell/droites/MemoireDroites.hpp"
 #include "shell/droites/ModesDroite.hpp"
@@ -149,7 +150,9 @@ bool ChargeVisee(Bureau &bureau, const std::filesystem::path &chemin) {
   Observation observation = LitPanneau(bureau.donnees);
   PrepareVisee(bureau, observation);
   Passe([&] { ReduitVisee(bureau, observation); });
+  const EtatDessin avant = EtatDe(bureau.image1);
   TraceDroites(bureau.feuille, bureau.image1, observation, bureau.visee);
+  NommeBout(bureau, avant, bureau.NomAstre, observation.heure, observation.minute);
   MontreTitresFeuille(bureau);
   PublieLigneImpression(bureau, 1, 0);
   PoseMode(bureau, ModeDroite::Enregistre);

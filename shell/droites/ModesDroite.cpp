@@ -3,6 +3,7 @@
 #include "foundations/TexteNombre.hpp"
 #include "lines/DroiteMemoire.hpp"
 #include "shell/bureau/Evenements.hpp"
+#include "shell/droites/Bouts.hpp"
 #include "shell/droites/Droites.hpp"
 #include "shell/droites/MemoireDroites.hpp"
 #include "shell/droites/Route.hpp"
@@ -63,6 +64,12 @@ void LitAzimutIntercept(Bureau &bureau, int ligne) {
   bureau.visee.Intercept = LitMillieme(LitChampDroite(bureau, "in(", ligne));
 }
 
+/// Names a transported line as it is named where it was sighted.
+void NommeTransportee(Bureau &bureau, const EtatDessin &avant, int ligne) {
+  NommeBout(bureau, avant, LitChampDroite(bureau, "Nom(", ligne), LitChampDroite(bureau, "T3(", ligne),
+            LitChampDroite(bureau, "T4(", ligne));
+}
+
 /// `TransportEnCours` stays 1 when there is no sheet, no target or no intercept: mile ticks are then left out until a
 /// transport runs to its end.
 void TransporteDroite(Bureau &bureau, int ligne, Demande /*demande*/) {
@@ -85,10 +92,12 @@ void TransporteDroite(Bureau &bureau, int ligne, Demande /*demande*/) {
   const bool nord = LitChampDroite(bureau, "Hem(", k) == "Nord";
   const bool est = LitChampDroite(bureau, "Lon(", k) == "Est";
   LitAzimutIntercept(bureau, ligne);
+  const EtatDessin avant = EtatDe(bureau.image1);
   if (!TransporteADroite(bureau.feuille, bureau.image1, bureau.transports, bureau.visee, nord ? latitude : -latitude,
                          est ? -longitude : longitude)) {
     return;
   }
+  NommeTransportee(bureau, avant, ligne);
   if (NoteTransport(bureau.transports.ListeTransportDroite, ligne)) {
     bureau.transports.CibleTransport = d.Combo5.texte;
   }
@@ -98,10 +107,12 @@ void TransporteDroite(Bureau &bureau, int ligne, Demande /*demande*/) {
 void TransporteEstime(Bureau &bureau, int ligne, Demande /*demande*/) {
   const Donnees &d = bureau.donnees;
   LitAzimutIntercept(bureau, ligne);
+  const EtatDessin avant = EtatDe(bureau.image1);
   if (!TransporteAEstime(bureau.feuille, bureau.image1, bureau.transports, bureau.visee, Val(d.Text15.texte),
                          Val(d.Text1.texte))) {
     return;
   }
+  NommeTransportee(bureau, avant, ligne);
   if (NoteTransport(bureau.transports.ListeTransportEstime, ligne)) {
     bureau.transports.CibleTransport = d.Combo5.texte;
   }

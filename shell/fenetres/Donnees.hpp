@@ -21,7 +21,7 @@ struct Donnees {
 
   // The menu of the drawing surface.
   Controle PopUp, PU_Carte, PU_Centre, PU_Distance, PU_Coord, PU_Modules, PU_DM, PU_D, PU_S, PU_C, PU_E, PU_Caps;
-  Controle PU_Clear, PU_Exit, PU_Apropos, PU_Nuit, PU_Secours, PU_Quitter;
+  Controle PU_Clear, PU_Exit, PU_Apropos, PU_Nuit, PU_Crepuscule, PU_Terres, PU_Bouts, PU_Secours, PU_Quitter;
   Controle PU_Taille, PU_TaillePlus, PU_TailleMoins, PU_TailleAuto, PU_PleinEcran;
   std::array<Controle, 5> PU_Trait;
 

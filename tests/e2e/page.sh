@@ -44,7 +44,7 @@ revient "$DIALOGUE" '^Impression$'
 # A click puts the page away; by night it is red, and printed as by day.
 xdotool mousemove --window "$(xdotool search --onlyvisible --name "^Impression$" | head -n 1)" "$(px 4500)" "$(px 900)" click 1
 reprend '^Impression$'
-touche ctrl+n
+touche ctrl+n ctrl+n
 clic 1900 520
 attends boite_ouverte '^Impression$'
 image "page-$LANGUE-nuit"

@@ -29,7 +29,7 @@ protected:
   std::multimap<std::string, ZoneTexte> Montres() const {
     std::multimap<std::string, ZoneTexte> montres;
     for (const TextePlace &p : PlaceTextes(surface, Mesure)) {
-      montres.emplace(std::get<TexteTrace>(surface.traces.at(p.rang)).texte, p.zone);
+      montres.emplace(TexteDe(surface, p).texte, p.zone);
     }
     return montres;
   }
@@ -178,6 +178,41 @@ TEST_F(TextesPlaces, OverThousandsOfFilledSurfacesNothingOverprintsAndNoFigureOf
     RienNeSeCouvre();
     ASSERT_FALSE(HasFailure()) << essai;
   }
+}
+
+/// A name of a line from one end to another.
+Etiquette Nom(Point debut, Point fin) { return {{kNoir, {}, debut, "Vega 05:31", {GenreTexte::Bout}}, fin}; }
+
+TEST_F(TextesPlaces, TheNameOfALineStandsAtItsEnd) {
+  surface.etiquettes.push_back(Nom({3000, 3000}, {8000, 8000}));
+  EXPECT_EQ(Coin(Zone("Vega 05:31")), (Point{3000, 3000}));
+}
+
+TEST_F(TextesPlaces, WhereItsEndIsTakenTheNameOfALineStandsAtTheOther) {
+  for (double x = 1000; x < 5000; x += kLettre) { // the whole neighbourhood
+    for (double y = 2000; y < 4000; y += kLigne) {
+      Pose(GenreTexte::Libre, {x, y}, "x");
+    }
+  }
+  surface.etiquettes.push_back(Nom({3000, 3000}, {8000, 8000}));
+  EXPECT_EQ(Coin(Zone("Vega 05:31")), (Point{8000, 8000}));
+}
+
+TEST_F(TextesPlaces, NamesOfLinesComeBeforeThoseOfPlacesAndAfterFigures) {
+  Pose(GenreTexte::Ville, {3000, 3000}, "Lorient");
+  Pose(GenreTexte::Droite, {3000, 3000}, "5.43 '");
+  surface.etiquettes.push_back(Nom({3000, 3000}, {8000, 8000}));
+  EXPECT_EQ(Coin(Zone("5.43 '")), (Point{3000, 3000}));
+  EXPECT_LT(std::hypot(Zone("Vega 05:31").gauche - 3000, Zone("Vega 05:31").haut - 3000), 1500);
+  RienNeSeCouvre();
+}
+
+TEST_F(TextesPlaces, NamesOfLinesThatAreNotToBeSeenTakeNoRoom) {
+  surface.etiquetee = false;
+  surface.etiquettes.push_back(Nom({3000, 3000}, {8000, 8000}));
+  Pose(GenreTexte::Ville, {3000, 3000}, "Lorient");
+  EXPECT_EQ(Montres().size(), 1U);
+  EXPECT_EQ(Coin(Zone("Lorient")), (Point{3000, 3000}));
 }
 
 } // namespace

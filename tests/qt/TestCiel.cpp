@@ -3,7 +3,8 @@
 #include "shell/ciel/EcranCiel.hpp"
 #include "shell/qt/cadre/FenetreCiel.hpp"
 #include "shell/qt/cadre/PortsQt.hpp"
-#include "shell/qt/peinture/Nuit.hpp"
+#include "shell/qt/peinture/Apparat.hpp"
+#include "shell/qt/peinture/Palette.hpp"
 #include "shell/qt/peinture/ToileCiel.hpp"
 #include "shell/qt/widgets/Widgets.hpp"
 
@@ -26,7 +27,7 @@ protected:
     LanguesSeules();
     temps.heure = 23;
   }
-  ~CielOuvert() override { qt::AccordeNuit(false); }
+  ~CielOuvert() override { qt::AccordeEclairage(Eclairage::Jour); }
   CielOuvert(const CielOuvert &) = delete;
   CielOuvert &operator=(const CielOuvert &) = delete;
   CielOuvert(CielOuvert &&) = delete;

@@ -141,11 +141,11 @@ TEST_F(PageOuverte, ItIsPrintedAsByDayAlsoByNight) {
     return Contenu(dossier / "page.ppm");
   };
   const std::string jour = image();
-  Joue([this] { bureau.nuit = true; });
+  Joue([this] { bureau.eclairage = Eclairage::Nuit; });
   ASSERT_TRUE(Imprime());
   EXPECT_FALSE(jour.empty());
   EXPECT_EQ(image(), jour);
-  Joue([this] { bureau.nuit = false; });
+  Joue([this] { bureau.eclairage = Eclairage::Jour; });
 }
 
 TEST_F(PageOuverte, AFileThatCantBeWrittenIsAFailureAndAnOldOneStaysWhole) {
@@ -282,7 +282,7 @@ TEST_F(PageOuverte, ASmallScreenShowsThePageSmallerWithItsButtonInReach) {
 
 TEST_F(PageOuverte, ByNightThePageIsRed) {
   OuvrePage();
-  Joue([this] { bureau.nuit = true; });
+  Joue([this] { bureau.eclairage = Eclairage::Nuit; });
   const QImage image = Page()->grab().toImage();
   int pire = 0;
   for (int y = 0; y < image.height(); ++y) {
@@ -291,7 +291,7 @@ TEST_F(PageOuverte, ByNightThePageIsRed) {
     }
   }
   EXPECT_LE(pire, 16);
-  Joue([this] { bureau.nuit = false; });
+  Joue([this] { bureau.eclairage = Eclairage::Jour; });
 }
 
 /// The dialog that chooses the printer, played by a function once it is there.

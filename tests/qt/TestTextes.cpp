@@ -2,6 +2,7 @@
 
 #include "chart/Lieux.hpp"
 #include "foundations/Fichiers.hpp"
+#include "shell/qt/peinture/Palette.hpp"
 #include "shell/qt/peinture/Toile.hpp"
 
 #include <QImage>
@@ -55,18 +56,27 @@ struct FeuilleAuHasard {
         AjouDroites(feuille, surface, o, valeurs);
       }
     }
+    NommeDroites();
     TraceVilles(feuille, surface, villes);
     TraceObjets(feuille, surface, kObjets);
   }
-};
 
-const TexteTrace &Trace(const Surface &surface, std::size_t rang) {
-  return std::get<TexteTrace>(surface.traces.at(rang));
-}
+  /// A name at the ends of each line of position.
+  void NommeDroites() {
+    for (const Trace &trace : surface.traces) {
+      const auto *ligne = std::get_if<Polyligne>(&trace);
+      if (ligne != nullptr && ligne->genre == GenreLigne::Droite) {
+        const TexteTrace nom{
+            kNoir, {surface.police.famille, 8, false}, ligne->points.back(), "Vega 05:31", {GenreTexte::Bout}};
+        surface.etiquettes.push_back({nom, ligne->points.front()});
+      }
+    }
+  }
+};
 
 /// The ink of a text, pixels of the picture, from what the font says of its outlines.
 QRectF EncreDe(const Surface &surface, const TextePlace &place) {
-  const TexteTrace &texte = Trace(surface, place.rang);
+  const TexteTrace &texte = TexteDe(surface, place);
   const QImage image(1, 1, QImage::Format_RGB32);
   const QFontMetricsF metrique(qt::PoliceQt(texte.police, 1 / kPixel, image), &image);
   return metrique.tightBoundingRect(QString::fromStdString(texte.texte))
@@ -94,13 +104,13 @@ TEST(TextesDeLaFeuille, OverTwoThousandSheetsNoneOverprintsAnotherAndNoFigureOfL
     std::set<std::string> vus; // a text may stand elsewhere than recorded: it is known by its words
     for (const TextePlace &place : places) {
       encres.push_back(EncreDe(f.surface, place));
-      vus.insert(Trace(f.surface, place.rang).texte);
-      ++montres[Trace(f.surface, place.rang).role.genre];
+      vus.insert(TexteDe(f.surface, place).texte);
+      ++montres[TexteDe(f.surface, place).role.genre];
     }
     for (std::size_t i = 0; i < encres.size(); ++i) {
       for (std::size_t j = i + 1; j < encres.size(); ++j) {
-        ASSERT_FALSE(encres[i].intersects(encres[j])) << essai << ": " << Trace(f.surface, places[i].rang).texte << ", "
-                                                      << Trace(f.surface, places[j].rang).texte;
+        ASSERT_FALSE(encres[i].intersects(encres[j]))
+            << essai << ": " << TexteDe(f.surface, places[i]).texte << ", " << TexteDe(f.surface, places[j]).texte;
       }
     }
     for (const TexteTrace &texte : Textes(f.surface)) {
@@ -120,7 +130,8 @@ TEST(TextesDeLaFeuille, OverTwoThousandSheetsNoneOverprintsAnotherAndNoFigureOfL
 /// Whether every text that is told to be shown has its colour on the picture, within its ink.
 void EstPeint(const QImage &image, const Surface &surface, const std::vector<TextePlace> &places) {
   for (const TextePlace &place : places) {
-    const QColor couleur = qt::CouleurQt(Trace(surface, place.rang).couleur);
+    const TexteTrace &trace = TexteDe(surface, place);
+    const QColor couleur = qt::EncreDeTexte(Eclairage::Jour, trace.couleur, trace.role.genre, Qt::white);
     const QRect encre = EncreDe(surface, place).toAlignedRect() & image.rect();
     int teints = 0;
     for (int y = encre.top(); y <= encre.bottom(); ++y) {
@@ -133,7 +144,7 @@ void EstPeint(const QImage &image, const Surface &surface, const std::vector<Tex
                       : 0;
       }
     }
-    EXPECT_GE(teints, 2) << Trace(surface, place.rang).texte;
+    EXPECT_GE(teints, 2) << TexteDe(surface, place).texte;
   }
 }
 

@@ -2,7 +2,8 @@
 
 #include "shell/bureau/Evenements.hpp"
 #include "shell/ecran/Echelle.hpp"
-#include "shell/qt/peinture/Nuit.hpp"
+#include "shell/qt/peinture/Apparat.hpp"
+#include "shell/qt/peinture/Palette.hpp"
 #include "shell/qt/peinture/Toile.hpp"
 #include "shell/qt/widgets/Widgets.hpp"
 
@@ -133,7 +134,7 @@ void Dialogue::keyPressEvent(QKeyEvent *event) {
 
 void Dialogue::paintEvent(QPaintEvent *event) {
   QPainter p(this);
-  p.fillRect(event->rect(), TeintesDe(EstNuit()).fenetre);
+  p.fillRect(event->rect(), TeintesDe(EclairageVu()).fenetre);
 }
 
 } // namespace velmaris::qt

@@ -6,10 +6,11 @@
 #include "shell/carte/Souris.hpp"
 #include "shell/droites/Droites.hpp"
 #include "shell/ecran/Echelle.hpp"
-#include "shell/ecran/Nuit.hpp"
+#include "shell/ecran/Eclairage.hpp"
 #include "shell/ecran/Statut.hpp"
 #include "shell/qt/cadre/MenuCarte.hpp"
-#include "shell/qt/peinture/Nuit.hpp"
+#include "shell/qt/peinture/Apparat.hpp"
+#include "shell/qt/peinture/Palette.hpp"
 #include "shell/qt/peinture/Toile.hpp"
 #include "shell/qt/widgets/Widgets.hpp"
 
@@ -227,7 +228,7 @@ bool Fenetre::eventFilter(QObject *objet, QEvent *event) {
   }
   const auto &appui = *static_cast<QKeyEvent *>(event);
   if (appui.key() == Qt::Key_N && appui.modifiers() == Qt::ControlModifier) {
-    scene_.Joue([this] { PU_Nuit_Click(bureau_, -1); });
+    scene_.Joue([this] { TourneEclairage(bureau_); });
     return true;
   }
   if (appui.key() == Qt::Key_F1) { // in every window; a key held down opens the guide once
@@ -247,7 +248,7 @@ void Fenetre::resizeEvent(QResizeEvent *event) {
 
 void Fenetre::paintEvent(QPaintEvent *event) {
   QPainter p(this);
-  p.fillRect(event->rect(), TeintesDe(EstNuit()).fenetre);
+  p.fillRect(event->rect(), TeintesDe(EclairageVu()).fenetre);
 }
 
 } // namespace velmaris::qt

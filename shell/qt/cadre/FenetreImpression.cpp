@@ -2,7 +2,7 @@
 
 #include "shell/bureau/Evenements.hpp"
 #include "shell/ecran/Echelle.hpp"
-#include "shell/qt/peinture/Nuit.hpp"
+#include "shell/qt/peinture/Apparat.hpp"
 #include "shell/qt/peinture/PageQt.hpp"
 #include "shell/qt/peinture/Toile.hpp"
 
@@ -56,9 +56,9 @@ void FenetreImpression::AccordeFenetre() {
     }
   });
   const bool prise = std::exchange(prise_, page_.prises) != page_.prises;
-  if (voulus != peints_ || nuit_ != EstNuit() || prise) {
+  if (voulus != peints_ || eclairage_ != EclairageVu() || prise) {
     peints_ = std::move(voulus);
-    nuit_ = EstNuit();
+    eclairage_ = EclairageVu();
     // A new picture is on show when the page has come to the front; no event is let in for that.
     prise ? repaint() : update();
   }
@@ -88,7 +88,7 @@ void FenetreImpression::paintEvent(QPaintEvent *event) {
   Dialogue::paintEvent(event);
   QPainter painter(this);
   const double facteur = PixelsParTwip(*this);
-  PeintPage(painter, page_, facteur, EstNuit());
+  PeintPage(painter, page_, facteur, EclairageVu());
 }
 
 } // namespace velmaris::qt

@@ -26,10 +26,10 @@ private:
   void Note(const QWindow *devant);
 
   Impression &page_;
-  std::vector<Controle> peints_; ///< the controls as they are painted now
-  unsigned prise_ = 0;           ///< the picture that is painted now
-  bool nuit_ = false;            ///< it is painted by night
-  bool sousBoite_ = false;       ///< what had the keyboard last was a box or a dialog over it
+  std::vector<Controle> peints_;          ///< the controls as they are painted now
+  unsigned prise_ = 0;                    ///< the picture that is painted now
+  Eclairage eclairage_ = Eclairage::Jour; ///< by which it is painted
+  bool sousBoite_ = false;                ///< what had the keyboard last was a box or a dialog over it
 };
 
 } // namespace velmaris::qt

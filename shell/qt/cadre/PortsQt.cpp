@@ -1,7 +1,7 @@
 #include "shell/qt/cadre/PortsQt.hpp"
 
 #include "shell/qt/cadre/Dialogue.hpp"
-#include "shell/qt/peinture/Nuit.hpp"
+#include "shell/qt/peinture/Apparat.hpp"
 #include "shell/qt/peinture/Toile.hpp"
 #include "shell/qt/systeme/Imprimante.hpp"
 #include "shell/qt/systeme/Liens.hpp"
@@ -69,7 +69,7 @@ bool Jette(const std::filesystem::path &fichier) {
 
 bool MontreBoite(const Bureau &bureau, const Boite &boite, QWidget *parent) {
   const Donnees &d = bureau.donnees;
-  AccordeNuit(bureau.nuit);
+  AccordeEclairage(bureau.eclairage);
   QMessageBox qt(parent);
   qt.setWindowTitle(QString::fromStdString(boite.titre));
   qt.setTextFormat(Qt::PlainText);

@@ -1,8 +1,9 @@
 #include "shell/qt/peinture/Apparence.hpp"
 
 #include "shell/bureau/Identite.hpp"
+#include "shell/qt/peinture/Apparat.hpp"
 #include "shell/qt/peinture/Icones.hpp"
-#include "shell/qt/peinture/Nuit.hpp"
+#include "shell/qt/peinture/Palette.hpp"
 
 #include <QApplication>
 #include <QFont>
@@ -21,7 +22,7 @@ QString Texte(std::string_view texte) { return QString::fromUtf8(texte.data(), s
 
 void PoseApparence() {
   QApplication::setStyle(new Apparat);
-  QApplication::setPalette(PaletteDe(false));
+  QApplication::setPalette(PaletteDe(Eclairage::Jour));
   QFont police = QApplication::font();
   police.setFamilies({"Liberation Sans", "Arial", "Helvetica", "DejaVu Sans"});
   police.setPointSizeF(kTaillePolice);

@@ -1,6 +1,6 @@
 #include "shell/qt/peinture/Grandeur.hpp"
 
-#include "shell/qt/peinture/Nuit.hpp"
+#include "shell/qt/peinture/Apparat.hpp"
 
 #include <QApplication>
 #include <QToolTip>

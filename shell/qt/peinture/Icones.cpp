@@ -1,6 +1,7 @@
 #include "shell/qt/peinture/Icones.hpp"
 
-#include "shell/qt/peinture/Nuit.hpp"
+#include "shell/qt/peinture/Apparat.hpp"
+#include "shell/qt/peinture/Palette.hpp"
 #include "shell/qt/peinture/Vignettes.hpp"
 
 #include <QIconEngine>
@@ -302,8 +303,8 @@ public:
   explicit MoteurIcone(void (*trace)(QPainter &)) : trace_(trace) {}
 
   void paint(QPainter *painter, const QRect &rect, QIcon::Mode mode, QIcon::State /*state*/) override {
-    if (EstNuit()) {
-      PeintNuit(*painter, rect, mode);
+    if (EclairageVu() != Eclairage::Jour) {
+      PeintTeinte(*painter, rect, mode);
     } else {
       Peint(*painter, rect, mode, trace_);
     }
@@ -320,7 +321,7 @@ public:
   QIconEngine *clone() const override { return new MoteurIcone(*this); }
 
 private:
-  void PeintNuit(QPainter &painter, const QRect &rect, QIcon::Mode mode) const {
+  void PeintTeinte(QPainter &painter, const QRect &rect, QIcon::Mode mode) const {
     const double densite = painter.device()->devicePixelRatioF();
     QImage image(rect.size() * densite, QImage::Format_ARGB32_Premultiplied);
     image.setDevicePixelRatio(densite);
@@ -328,7 +329,7 @@ private:
     QPainter apart(&image);
     Peint(apart, QRect(QPoint(0, 0), rect.size()), mode, trace_);
     apart.end();
-    RougitImage(image);
+    TeinteImage(EclairageVu(), image);
     painter.drawImage(rect.topLeft(), image);
   }
 

@@ -1,6 +1,6 @@
 #include "shell/qt/peinture/PageQt.hpp"
 
-#include "shell/qt/peinture/Nuit.hpp"
+#include "shell/qt/peinture/Palette.hpp"
 #include "shell/qt/peinture/Toile.hpp"
 
 #include <QFontDatabase>
@@ -31,10 +31,10 @@ QFont PolicePage(double taille, double facteur, const QPaintDevice &support) {
 struct Peintre {
   QPainter &painter;
   double facteur;
-  bool nuit;
+  Eclairage eclairage;
 
-  QColor Encre(const QColor &jour) const { return nuit ? EncreDeNuit(jour) : jour; }
-  QColor Fond(const QColor &jour) const { return nuit ? FondDeNuit(jour) : jour; }
+  QColor Encre(const QColor &jour) const { return EncreA(eclairage, jour); }
+  QColor Fond(const QColor &jour) const { return FondA(eclairage, jour); }
   QRectF Zone(const Place &p) const {
     return {p.gauche * facteur, p.haut * facteur, p.largeur * facteur, p.hauteur * facteur};
   }
@@ -49,7 +49,7 @@ struct Peintre {
     painter.fillRect(zone, Fond(CouleurQt(surface.fond)));
     painter.translate(zone.topLeft());
     painter.scale(place.largeur / surface.largeur, place.hauteur / surface.hauteur);
-    PeintTraces(painter, surface, facteur, {.nuit = nuit, .pixel = facteur * kTwipsParPixel});
+    PeintTraces(painter, surface, facteur, {.eclairage = eclairage, .pixel = facteur * kTwipsParPixel});
     painter.restore();
   }
 
@@ -81,8 +81,8 @@ struct Peintre {
 
 } // namespace
 
-void PeintPage(QPainter &painter, const Impression &page, double facteur, bool nuit) {
-  const Peintre peintre{painter, facteur, nuit};
+void PeintPage(QPainter &painter, const Impression &page, double facteur, Eclairage eclairage) {
+  const Peintre peintre{painter, facteur, eclairage};
   painter.setRenderHint(QPainter::Antialiasing);
   painter.fillRect(peintre.Zone({0, 0, page.cadre.largeur, page.cadre.hauteur}), peintre.Fond(Qt::white));
   peintre.Image(page.image, page.Image1.place);

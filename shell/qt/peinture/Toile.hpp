@@ -2,7 +2,9 @@
 
 #include "foundations/PlaceTextes.hpp"
 #include "foundations/Surface.hpp"
+#include "shell/bureau/Bureau.hpp"
 #include "shell/qt/peinture/Grandeur.hpp"
+#include "shell/qt/peinture/Traces.hpp"
 
 #include <QImage>
 #include <QLineF>
@@ -12,48 +14,7 @@
 #include <optional>
 #include <vector>
 
-class QPainter;
-
 namespace velmaris::qt {
-
-/// The font of a surface as the toolkit's.
-/// @param facteur  units of what is painted on, per 1/1440 inch
-/// @param support  what is painted on
-QFont PoliceQt(const Police &police, double facteur, const QPaintDevice &support);
-
-/// Height of a surface's line of text in 1/1440 inch. It goes into the record, so it is measured by the screen's own
-/// measure and not by the window's scale.
-double Interligne(const Surface &surface, const QWidget &widget);
-
-/// A colour as the toolkit's.
-QColor CouleurQt(Couleur couleur);
-
-/// How a surface is painted.
-struct Maniere {
-  bool nuit = false;  ///< in red on black
-  double pixel = 1.0; ///< painter's units that a line of width 1 takes
-};
-
-/// Paints lines and circles of a surface.
-/// @param painter  its unit is the toolkit's pixel, or a printer's
-/// @param facteur  units per 1/1440 inch
-/// @param premier  first recorded trace to paint
-/// @param maniere  how, beyond what is recorded
-void PeintLignes(QPainter &painter, const Surface &surface, double facteur, std::size_t premier, Maniere maniere);
-
-/// The texts of a surface that are painted, and where, by the sizes that they have with a painter.
-/// @param painter, facteur  as for PeintLignes
-std::vector<TextePlace> TextesPeints(const QPainter &painter, const Surface &surface, double facteur);
-
-/// Paints texts of a surface in given places.
-/// @param painter, facteur, maniere  as for PeintLignes
-void PeintTextes(QPainter &painter, const Surface &surface, double facteur, const std::vector<TextePlace> &textes,
-                 Maniere maniere);
-
-/// Paints what is recorded on a surface, lines first and over them the texts that are to be seen.
-/// @param painter, facteur, maniere  as for PeintLignes
-/// @return the texts painted, in 1/1440 inch
-std::vector<TextePlace> PeintTraces(QPainter &painter, const Surface &surface, double facteur, Maniere maniere = {});
 
 /// Shows a recorded surface: lines are painted once into an image at the screen's resolution, then only what is
 /// appended; the texts, which give way to one another, over a copy of it.
@@ -95,16 +56,19 @@ protected:
 private:
   void Mouvement(const QMouseEvent &event) const;
   bool TexteDepuis(std::size_t premier) const;
+  void PeintFond(double facteur);
 
   const Surface &surface_;
-  QImage lignes_; ///< lines and circles
+  QImage lignes_; ///< filled shapes, lines and circles
   QImage image_;  ///< and the texts over them
   std::uint64_t effacements_ = 0;
   std::size_t traces_ = 0;
   std::vector<TextePlace> textes_;
-  double facteur_ = 0.0;   ///< pixels per 1/1440 inch in the image
-  std::size_t points_ = 0; ///< of the last trace painted, which may have grown since
-  bool nuit_ = false;      ///< the image is painted by night
+  double facteur_ = 0.0;                  ///< pixels per 1/1440 inch in the image
+  std::size_t points_ = 0;                ///< of the last trace painted, which may have grown since
+  std::vector<Aire> aires_;               ///< filled shapes in the image
+  std::size_t etiquettes_ = 0;            ///< names of lines in it, none where they aren't to be seen
+  Eclairage eclairage_ = Eclairage::Jour; ///< by which the image is painted
   std::optional<QLineF> elastique_;
   QPointF presseDroite_; ///< where the right button went down
   int molette_ = 0;      ///< eighths of a degree that make no whole notch yet

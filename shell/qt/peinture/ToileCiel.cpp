@@ -1,7 +1,8 @@
 #include "shell/qt/peinture/ToileCiel.hpp"
 
+#include "shell/qt/peinture/Apparat.hpp"
 #include "shell/qt/peinture/Icones.hpp"
-#include "shell/qt/peinture/Nuit.hpp"
+#include "shell/qt/peinture/Palette.hpp"
 
 #include <QApplication>
 #include <QHelpEvent>
@@ -61,8 +62,7 @@ QRectF ToileCiel::Zone(const Controle &corps) const {
 }
 
 QColor ToileCiel::Encre(Couleur couleur) const {
-  const QColor jour = CouleurQt(couleur);
-  return EstNuit() ? EncreDeNuit(jour, CouleurQt(ciel_.picture1.fond)) : jour;
+  return EncreA(EclairageVu(), CouleurQt(couleur), CouleurQt(ciel_.picture1.fond));
 }
 
 QRectF ToileCiel::Zone(const ZoneTexte &zone) const {
@@ -100,7 +100,7 @@ void ToileCiel::PeintMarque(QPainter &painter, const Controle &marque) const {
 void ToileCiel::PeintEtiquette(QPainter &painter, const Controle &etiquette, const QRectF &zone) const {
   if (etiquette.opaque) {
     const QColor fond = CouleurQt(etiquette.fond);
-    painter.fillRect(zone.adjusted(-2, 0, 2, 0), EstNuit() ? FondDeNuit(fond) : fond);
+    painter.fillRect(zone.adjusted(-2, 0, 2, 0), FondA(EclairageVu(), fond));
   }
   const bool eclaire = Eclaire(etiquette);
   painter.setFont(PoliceDe(etiquette, eclaire, *this));
@@ -112,9 +112,7 @@ void ToileCiel::PeintEtiquette(QPainter &painter, const Controle &etiquette, con
 void ToileCiel::PeintImage(QPainter &painter, const Controle &astre) const {
   const QRectF zone = Zone(astre);
   QImage image = ImageJour(astre.image, static_cast<int>(zone.width()), devicePixelRatioF());
-  if (EstNuit()) {
-    RougitImage(image, CouleurQt(ciel_.picture1.fond));
-  }
+  TeinteImage(EclairageVu(), image, CouleurQt(ciel_.picture1.fond));
   painter.drawImage(zone.topLeft(), image);
 }
 

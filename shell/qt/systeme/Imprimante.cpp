@@ -85,7 +85,7 @@ bool PeintFeuille(const Impression &page, QPagedPaintDevice &imprimante) {
   const double echelle = std::min({1.0, place.width() / taille.width(), place.height() / taille.height()});
   painter.translate((place.width() - taille.width() * echelle) / 2, (place.height() - taille.height() * echelle) / 2);
   painter.scale(echelle, echelle);
-  PeintPage(painter, page, facteur, false);
+  PeintPage(painter, page, facteur, Eclairage::Jour);
   return painter.end();
 }
 

@@ -1,6 +1,7 @@
 #include "shell/qt/widgets/Adaptateur.hpp"
 
-#include "shell/qt/peinture/Nuit.hpp"
+#include "shell/qt/peinture/Apparat.hpp"
+#include "shell/qt/peinture/Palette.hpp"
 #include "shell/qt/peinture/Toile.hpp"
 #include "shell/qt/widgets/Widgets.hpp"
 
@@ -27,7 +28,7 @@ void PoseFond(QWidget &widget) {
 
 void PoseCouleur(QWidget &widget, const Controle &c) {
   QPalette palette = widget.palette();
-  const QColor couleur = EstNuit() ? EncreDeNuit(CouleurQt(c.couleur)) : CouleurQt(c.couleur);
+  const QColor couleur = EncreDeLegende(EclairageVu(), c.couleur);
   palette.setColor(QPalette::Active, widget.foregroundRole(), couleur);
   palette.setColor(QPalette::Inactive, widget.foregroundRole(), couleur);
   widget.setPalette(palette);

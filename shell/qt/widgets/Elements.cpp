@@ -1,7 +1,8 @@
 #include "shell/qt/widgets/Elements.hpp"
 
+#include "shell/qt/peinture/Apparat.hpp"
 #include "shell/qt/peinture/Grandeur.hpp"
-#include "shell/qt/peinture/Nuit.hpp"
+#include "shell/qt/peinture/Palette.hpp"
 
 #include <QApplication>
 #include <QKeyEvent>
@@ -25,7 +26,7 @@ Volet::Volet(bool titre, QWidget *parent) : QFrame(parent), titre_(titre) {}
 
 void Volet::paintEvent(QPaintEvent * /*event*/) {
   QPainter p(this);
-  const Teintes &teintes = TeintesDe(EstNuit());
+  const Teintes &teintes = TeintesDe(EclairageVu());
   p.fillRect(rect(), teintes.carte);
   if (titre_) {
     p.fillRect(QRect(0, 0, width(), Pixels(kHautTitre, *this)), teintes.bande);

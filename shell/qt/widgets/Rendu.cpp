@@ -1,7 +1,7 @@
 #include "shell/qt/widgets/Rendu.hpp"
 
 #include "shell/bureau/Evenements.hpp"
-#include "shell/qt/peinture/Nuit.hpp"
+#include "shell/qt/peinture/Apparat.hpp"
 #include "shell/qt/peinture/Toile.hpp"
 #include "shell/qt/peinture/ToileCiel.hpp"
 
@@ -191,7 +191,7 @@ void Rendu::PasseClavier(const Lien *tenu) const {
 }
 
 void Rendu::Accorde() {
-  const bool change = std::exchange(nuit_, EstNuit()) != EstNuit() || premier_;
+  const bool change = std::exchange(eclairage_, EclairageVu()) != EclairageVu() || premier_;
   const Lien *tenu = LienDuClavier();
   for (Lien &lien : liens_) {
     if (lien.adaptateur == nullptr) {

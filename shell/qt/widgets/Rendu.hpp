@@ -82,7 +82,7 @@ private:
   QObject *champDonne_ = nullptr;  ///< what the core has given the keyboard to, until its user does something there
   QObject *champPresse_ = nullptr; ///< field that the mouse brings the focus to, until its button is up
   bool premier_ = true;
-  bool nuit_ = false; ///< the widgets show the colours of the night
+  Eclairage eclairage_ = Eclairage::Jour; ///< whose colours the widgets show
 };
 
 } // namespace velmaris::qt

@@ -4,9 +4,9 @@
 #include "shell/Sortie.hpp"
 #include "shell/ecran/Echelle.hpp"
 #include "shell/ecran/Statut.hpp"
+#include "shell/qt/peinture/Apparat.hpp"
 #include "shell/qt/peinture/Apparence.hpp"
 #include "shell/qt/peinture/Grandeur.hpp"
-#include "shell/qt/peinture/Nuit.hpp"
 #include "shell/qt/widgets/Rendu.hpp"
 
 #include <QApplication>
@@ -90,7 +90,7 @@ void Scene::Accorde() {
   while (encore_) {
     encore_ = false;
     AccordeStatut(bureau_);
-    AccordeNuit(bureau_.nuit);
+    AccordeEclairage(bureau_.eclairage);
     AccordeGrandeur(EchelleFenetre(bureau_));
     AccordeLangue(bureau_.FichierLangue == "\\FR.txt");
     PourChaqueRendu([](Rendu &rendu) { rendu.Accorde(); });

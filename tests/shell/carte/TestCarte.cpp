@@ -71,6 +71,80 @@ TEST_F(Carte, BothCoastsOfAStoreWrittenByHandAreDrawnPreciseFirst) {
   EXPECT_EQ(Couleurs(), (std::vector<Couleur>{kContours, kNoir, kIles, kRivieres, kLacs}));
 }
 
+constexpr const char *kTriangle = "0.4 0.4\n0.6 0.4\n0.6 0.5\n0.4 0.4\n";
+
+TEST_F(Carte, ClosedOutlinesAreFilledBelowAllLinesLandFirst) {
+  for (const char *fichier : {"Contours.Asc", "Iles.Asc", "Rivieres.Asc", "Lacs.Asc"}) {
+    PoseDonnees(fichier, kTriangle);
+  }
+  OuvreCartes(bureau);
+  std::vector<Teinte> teintes;
+  for (const Aire &aire : bureau.image1.aires) {
+    ASSERT_EQ(aire.anneaux->size(), 1U);
+    teintes.push_back(aire.teinte);
+  }
+  EXPECT_EQ(teintes, (std::vector<Teinte>{Teinte::Terre, Teinte::Terre, Teinte::Eau})) << "a river encloses nothing";
+}
+
+TEST_F(Carte, AFilledShapeLiesWhereItsOutlineLies) {
+  PoseDonnees("Contours.Asc", kTriangle);
+  OuvreCartes(bureau);
+  ASSERT_FALSE(bureau.image1.aires.empty());
+  const Aire &aire = bureau.image1.aires.front();
+  const auto *ligne = std::get_if<Polyligne>(&bureau.image1.traces.front());
+  ASSERT_NE(ligne, nullptr);
+  EXPECT_EQ(ligne->genre, GenreLigne::Cote);
+  for (std::size_t i = 0; i < 3; ++i) {
+    const PointAnneau &p = (*aire.anneaux)[0].points[i];
+    EXPECT_NEAR(aire.origine.x + p.x * aire.unite.x, ligne->points[i].x, 1e-6);
+    EXPECT_NEAR(aire.origine.y + p.y * aire.unite.y, ligne->points[i].y, 1e-6);
+  }
+}
+
+TEST_F(Carte, TheLinesOfTheRecordAreTheSameWithTintsAndWithout) {
+  PoseDonnees("Contours.Asc", kTriangle);
+  OuvreCartes(bureau);
+  const auto avec = bureau.image1.traces;
+  Efface(bureau.image1);
+  ClicControle(bureau, d.PU_Terres);
+  OuvreCartes(bureau);
+  EXPECT_EQ(bureau.image1.traces, avec);
+}
+
+TEST_F(Carte, AShapeIsKeptWhileItsFileIsTheSameAndMadeAnewWhenItChanges) {
+  PoseDonnees("Contours.Asc", kTriangle);
+  OuvreCartes(bureau);
+  const auto premiers = bureau.image1.aires.front().anneaux;
+  Efface(bureau.image1);
+  OuvreCartes(bureau);
+  EXPECT_EQ(bureau.image1.aires.front().anneaux, premiers) << "no work is done twice";
+  PoseDonnees("Contours.Asc", std::string(kTriangle) + "2 0\n0.1 0.1\n0.2 0.1\n0.2 0.2\n0.1 0.1\n");
+  Efface(bureau.image1);
+  OuvreCartes(bureau);
+  EXPECT_EQ(bureau.image1.aires.front().anneaux->size(), 2U);
+}
+
+TEST_F(Carte, DrawnTwiceInTheSamePlaceAShapeIsThereOnce) {
+  PoseDonnees("Contours.Asc", kTriangle);
+  OuvreCartes(bureau);
+  const std::size_t nombre = bureau.image1.aires.size();
+  OuvreCartes(bureau);
+  EXPECT_EQ(bureau.image1.aires.size(), nombre);
+}
+
+TEST_F(Carte, TintsAreOnAtFirstAndTheirSwitchIsKept) {
+  EXPECT_TRUE(bureau.image1.teintee);
+  EXPECT_EQ(d.PU_Terres.valeur, 1);
+  ClicControle(bureau, d.PU_Terres);
+  EXPECT_FALSE(bureau.image1.teintee);
+  EXPECT_EQ(d.PU_Terres.valeur, 0);
+  EXPECT_EQ(Reglage("Terres"), "0");
+  Bureau suivant;
+  Branche(suivant);
+  Donnees_Charge(suivant, {});
+  EXPECT_FALSE(suivant.image1.teintee);
+}
+
 TEST_F(Carte, TheToolTipTalliesThePointsOfEachFileAndTheTitleIsEmptied) {
   PoseDonnees("Iles.Asc", "2 0\n2 0\n2 0\n");
   OuvreCartes(bureau);

@@ -1,0 +1,231 @@
+#include "shell/qt/peinture/Traces.hpp"
+
+#include "shell/qt/peinture/Grandeur.hpp"
+#include "shell/qt/peinture/Palette.hpp"
+
+#include <QPainter>
+#include <QPainterPath>
+
+#include <algorithm>
+#include <cmath>
+
+namespace velmaris::qt {
+namespace {
+
+constexpr double kPasVisible = 0.25; ///< pixels under which two points of a line are one
+constexpr double kPasAire = 0.5;     ///< pixels under which two points of a filled shape are one
+constexpr double kMargeAire = 60.0;  ///< 1/1440 inch that filled shapes reach beyond the surface
+constexpr double kFinesse = 0.5;     ///< of the fine grid's lines
+constexpr double kPortee = 1e8;      ///< 1/1440 inch from the surface's corner
+
+QPen PlumeQt(const Plume &plume, const QColor &couleur, double pixel) {
+  QPen pen(couleur, plume.largeur * pixel);
+  pen.setCapStyle(Qt::FlatCap);
+  switch (plume.style) {
+  case Style::Tirets:
+    pen.setStyle(Qt::DashLine);
+    break;
+  case Style::Points:
+    pen.setStyle(Qt::DotLine);
+    break;
+  case Style::TiretPoint:
+    pen.setStyle(Qt::DashDotLine);
+    break;
+  case Style::Plein:
+  default:
+    break;
+  }
+  return pen;
+}
+
+constexpr double kContrasteFaible = 0.25; ///< of lightness, under which a bright colour needs a border to be seen
+const QColor kLisere(96, 84, 0, 150);
+
+/// Whether a bright colour would be lost on the background: the yellow line on the white sheet.
+bool FautLisere(const QColor &couleur, const QColor &fond) {
+  const auto clarte = [](const QColor &c) { return qGray(c.rgb()) / 255.0; };
+  return couleur.hsvSaturationF() > 0.5F && std::abs(clarte(couleur) - clarte(fond)) < kContrasteFaible;
+}
+
+/// Paints one recorded trace.
+struct Peintre {
+  QPainter &painter;
+  double facteur = 1.0;
+  QColor fond;
+  Eclairage eclairage = Eclairage::Jour;
+  double pixel = 1.0;
+
+  QPointF Place(Point p) const { return {p.x * facteur, p.y * facteur}; }
+
+  /// The points of a line that can be told apart. One that never leaves its first point is only that.
+  QPolygonF Amincit(const Polyligne &ligne) const {
+    const double pas = kPasVisible * pixel / facteur;
+    const double seuil = pas * pas;
+    const auto distinct = [&](Point a, Point b) {
+      return (a.x - b.x) * (a.x - b.x) + (a.y - b.y) * (a.y - b.y) >= seuil;
+    };
+    QPolygonF points;
+    points.reserve(static_cast<qsizetype>(ligne.points.size()));
+    Point garde = ligne.points.front();
+    points << Place(garde);
+    for (const Point &p : ligne.points) {
+      if (distinct(p, garde)) {
+        points << Place(p);
+        garde = p;
+      }
+    }
+    if (points.size() > 1) {
+      points.last() = Place(ligne.points.back()); // less than a step away
+    }
+    return points;
+  }
+
+  /// The pen of a line. By night lines of position are broader, since they have no colour of their own.
+  QPen PlumeDe(const Polyligne &ligne) const {
+    QPen plume = PlumeQt(ligne.plume, EncreDeLigne(eclairage, ligne.plume.couleur, ligne.genre, fond), pixel);
+    if (ligne.genre == GenreLigne::GrilleFine) {
+      plume.setWidthF(plume.widthF() * kFinesse);
+    } else if (ligne.genre == GenreLigne::Droite && eclairage == Eclairage::Nuit) {
+      plume.setWidthF(plume.widthF() + pixel);
+    }
+    return plume;
+  }
+
+  /// A thin line along an axis in the middle of its row of pixels, so that it is of one shade.
+  QPolygonF SurPixels(QPolygonF points) const {
+    const double densite = painter.device()->devicePixelRatioF();
+    for (QPointF &p : points) {
+      p = {(std::floor(p.x() * densite) + 0.5) / densite, (std::floor(p.y() * densite) + 0.5) / densite};
+    }
+    return points;
+  }
+
+  void operator()(const Polyligne &ligne) const {
+    const QPolygonF points = Amincit(ligne);
+    if (points.size() < 2) {
+      return;
+    }
+    const QPen plume = PlumeDe(ligne);
+    // A single line along an axis is sharp only without smoothing, or on a row of pixels.
+    const bool droite =
+        ligne.points.size() == 2 && (ligne.points[0].x == ligne.points[1].x || ligne.points[0].y == ligne.points[1].y);
+    const bool fine = ligne.genre == GenreLigne::GrilleFine;
+    painter.setRenderHint(QPainter::Antialiasing, !droite || fine);
+    if (eclairage == Eclairage::Jour && FautLisere(CouleurQt(ligne.plume.couleur), fond)) {
+      painter.setPen(QPen(kLisere, plume.widthF() + 2 * pixel));
+      painter.drawPolyline(points);
+      painter.setPen(QPen(plume.color(), plume.widthF() + pixel / 2));
+    } else {
+      painter.setPen(plume);
+    }
+    painter.drawPolyline(fine ? SurPixels(points) : points);
+  }
+  void operator()(const CercleTrace &cercle) const {
+    painter.setPen(
+        PlumeQt(cercle.plume, EncreDeLigne(eclairage, cercle.plume.couleur, GenreLigne::Libre, fond), pixel));
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.drawEllipse(Place(cercle.centre), cercle.rayon * facteur, cercle.rayon * facteur);
+  }
+  void operator()(const TexteTrace & /*texte*/) const {} // texts have their own turn
+
+  /// A text; over lines it has a thin border of the background, so that none strikes it through.
+  void Texte(const TexteTrace &texte, const ZoneTexte &zone) const {
+    painter.setFont(PoliceQt(texte.police, facteur, *painter.device()));
+    const QPointF pied =
+        Place({zone.gauche, zone.haut}) + QPointF(0, QFontMetricsF(painter.font(), painter.device()).ascent());
+    const QString mots = QString::fromStdString(texte.texte);
+    if (texte.role.genre != GenreTexte::Libre) {
+      painter.setPen(FondA(eclairage, fond));
+      for (const QPointF &ecart : {QPointF(1, 1), QPointF(-1, 1), QPointF(1, -1), QPointF(-1, -1)}) {
+        painter.drawText(pied + ecart * pixel, mots);
+      }
+    }
+    painter.setPen(EncreDeTexte(eclairage, texte.couleur, texte.role.genre, fond));
+    painter.drawText(pied, mots);
+  }
+};
+
+/// Whether a place can be painted: finite, and within what the toolkit's lines can reach.
+bool Peignable(Point p) { return std::fabs(p.x) < kPortee && std::fabs(p.y) < kPortee; }
+
+struct Visible {
+  bool operator()(const Polyligne &ligne) const {
+    return std::all_of(ligne.points.begin(), ligne.points.end(), Peignable);
+  }
+  bool operator()(const CercleTrace &cercle) const { return Peignable(cercle.centre) && cercle.rayon < kPortee; }
+  bool operator()(const TexteTrace & /*texte*/) const { return false; }
+};
+
+} // namespace
+
+QFont PoliceQt(const Police &police, double facteur, const QPaintDevice &support) {
+  QFont font = PoliceA({}, police.taille, facteur, support);
+  font.setBold(police.gras);
+  return font;
+}
+
+double Interligne(const Surface &surface, const QWidget &widget) {
+  const double facteur = widget.logicalDpiX() / kTwipsParPouce;
+  return QFontMetricsF(PoliceQt(surface.police, facteur, widget), &widget).height() / facteur;
+}
+
+void PeintAires(QPainter &painter, const Surface &surface, double facteur, Maniere maniere) {
+  if (!surface.teintee) {
+    return;
+  }
+  const Teintes &teintes = TeintesDe(maniere.eclairage);
+  const Cadrage cadrage{{-kMargeAire, -kMargeAire}, {surface.largeur + kMargeAire, surface.hauteur + kMargeAire}};
+  painter.setPen(Qt::NoPen);
+  painter.setRenderHint(QPainter::Antialiasing);
+  for (const Aire &aire : surface.aires) {
+    QPainterPath chemin;
+    for (const std::vector<Point> &anneau : Decoupe(aire, cadrage, kPasAire * maniere.pixel / facteur)) {
+      QPolygonF points;
+      points.reserve(static_cast<qsizetype>(anneau.size()) + 1);
+      for (const Point &p : anneau) {
+        points << QPointF(p.x * facteur, p.y * facteur);
+      }
+      chemin.addPolygon(points);
+      chemin.closeSubpath();
+    }
+    painter.fillPath(chemin, aire.teinte == Teinte::Eau ? teintes.eau : teintes.terre);
+  }
+}
+
+void PeintLignes(QPainter &painter, const Surface &surface, double facteur, std::size_t premier, Maniere maniere) {
+  const Peintre peintre{painter, facteur, CouleurQt(surface.fond), maniere.eclairage, maniere.pixel};
+  for (std::size_t i = premier; i < surface.traces.size(); ++i) {
+    if (std::visit(Visible{}, surface.traces[i])) {
+      std::visit(peintre, surface.traces[i]);
+    }
+  }
+}
+
+std::vector<TextePlace> TextesPeints(const QPainter &painter, const Surface &surface, double facteur) {
+  return PlaceTextes(surface, [&](const TexteTrace &texte) {
+    const QFontMetricsF metrique(PoliceQt(texte.police, facteur, *painter.device()), painter.device());
+    const QString mots = QString::fromStdString(texte.texte);
+    const bool lettres = std::any_of(mots.begin(), mots.end(), [](QChar c) { return c.isLetter(); });
+    return TailleTexte{metrique.horizontalAdvance(mots) / facteur,
+                       (lettres ? metrique.ascent() + metrique.descent() : metrique.ascent()) / facteur};
+  });
+}
+
+void PeintTextes(QPainter &painter, const Surface &surface, double facteur, const std::vector<TextePlace> &textes,
+                 Maniere maniere) {
+  const Peintre peintre{painter, facteur, CouleurQt(surface.fond), maniere.eclairage, maniere.pixel};
+  for (const TextePlace &place : textes) {
+    peintre.Texte(TexteDe(surface, place), place.zone);
+  }
+}
+
+std::vector<TextePlace> PeintTraces(QPainter &painter, const Surface &surface, double facteur, Maniere maniere) {
+  PeintAires(painter, surface, facteur, maniere);
+  PeintLignes(painter, surface, facteur, 0, maniere);
+  std::vector<TextePlace> textes = TextesPeints(painter, surface, facteur);
+  // Texts come over lines, so that no line strikes a figure through.
+  PeintTextes(painter, surface, facteur, textes, maniere);
+  return textes;
+}
+
+} // namespace velmaris::qt

@@ -1,0 +1,56 @@
+#pragma once
+
+#include "foundations/PlaceTextes.hpp"
+#include "foundations/Surface.hpp"
+#include "shell/bureau/Bureau.hpp"
+
+#include <QFont>
+#include <QWidget>
+
+#include <vector>
+
+class QPainter;
+
+namespace velmaris::qt {
+
+/// The font of a surface as the toolkit's.
+/// @param facteur  units of what is painted on, per 1/1440 inch
+/// @param support  what is painted on
+QFont PoliceQt(const Police &police, double facteur, const QPaintDevice &support);
+
+/// Height of a surface's line of text in 1/1440 inch. It goes into the record, so it is measured by the screen's own
+/// measure and not by the window's scale.
+double Interligne(const Surface &surface, const QWidget &widget);
+
+/// How a surface is painted.
+struct Maniere {
+  Eclairage eclairage = Eclairage::Jour; ///< by what light it is seen
+  double pixel = 1.0;                    ///< painter's units that a line of width 1 takes
+};
+
+/// Paints the filled shapes of a surface, where they are to be seen.
+/// @param painter, facteur, maniere  as for PeintLignes
+void PeintAires(QPainter &painter, const Surface &surface, double facteur, Maniere maniere);
+
+/// Paints lines and circles of a surface.
+/// @param painter  its unit is the toolkit's pixel, or a printer's
+/// @param facteur  units per 1/1440 inch
+/// @param premier  first recorded trace to paint
+/// @param maniere  how, beyond what is recorded
+void PeintLignes(QPainter &painter, const Surface &surface, double facteur, std::size_t premier, Maniere maniere);
+
+/// The texts of a surface that are painted, and where, by the sizes that they have with a painter.
+/// @param painter, facteur  as for PeintLignes
+std::vector<TextePlace> TextesPeints(const QPainter &painter, const Surface &surface, double facteur);
+
+/// Paints texts of a surface in given places.
+/// @param painter, facteur, maniere  as for PeintLignes
+void PeintTextes(QPainter &painter, const Surface &surface, double facteur, const std::vector<TextePlace> &textes,
+                 Maniere maniere);
+
+/// Paints what is recorded on a surface, filled shapes first, then lines, and over them the texts that are to be seen.
+/// @param painter, facteur, maniere  as for PeintLignes
+/// @return the texts painted, in 1/1440 inch
+std::vector<TextePlace> PeintTraces(QPainter &painter, const Surface &surface, double facteur, Maniere maniere = {});
+
+} // namespace velmaris::qt
