@@ -8,6 +8,7 @@
 #include "shell/qt/cadre/PortsQt.hpp"
 #include "shell/qt/peinture/Apparence.hpp"
 #include "shell/qt/systeme/Commande.hpp"
+#include "shell/qt/systeme/Portail.hpp"
 #include "shell/qt/systeme/Signaux.hpp"
 #include "shell/qt/widgets/Accessible.hpp"
 
@@ -19,10 +20,12 @@
 #include <cstdio>
 #include <cstdlib>
 #include <exception>
+#include <optional>
 #include <string>
 
 namespace {
 
+constexpr int kMoitie = 128;         ///< of the lightest
 constexpr int kCommandeInconnue = 2; ///< status of a command line that isn't understood
 
 velmaris::Ecran EcranPrincipal() {
@@ -49,11 +52,13 @@ int main(int argc, char **argv) {
     std::fputs(plainte.c_str(), stderr);
     return kCommandeInconnue;
   }
+  const bool sombre = QGuiApplication::palette().color(QPalette::Window).lightness() < kMoitie; // the desktop's own
   velmaris::qt::PoseApparence();
   velmaris::qt::PoseRolesAccessibles();
 
   velmaris::Bureau bureau;
   velmaris::qt::Boites boites(bureau);
+  bureau.sombreAilleurs = sombre;
   bureau.dossiers = velmaris::TrouveDossiers(QApplication::applicationDirPath().toStdString());
   try {
     velmaris::Donnees_Charge(bureau, EcranPrincipal());
@@ -67,7 +72,9 @@ int main(int argc, char **argv) {
   const velmaris::qt::Signaux signaux(scene);
   velmaris::qt::Fenetre fenetre(scene);
   fenetre.show();
+  std::optional<velmaris::qt::Portail> portail;
   QTimer::singleShot(0, &fenetre, [&] {
+    portail.emplace(scene);
     boites.Ouvre(scene, fenetre);
     if (!commande.fichier.empty()) {
       scene.Joue([&] { velmaris::OuvreVisee(bureau, commande.fichier); });
