@@ -16,14 +16,14 @@ protected:
 TEST_F(Vue, AFirstStartIsByDayAndNothingIsStored) {
   Demarre();
   EXPECT_EQ(bureau.eclairage, Eclairage::Jour);
-  EXPECT_EQ(Etat(), "00 ");
+  EXPECT_EQ(Etat(), "00 absent");
 }
 
 TEST_F(Vue, ADarkDesktopMakesTheFirstStartDusk) {
   bureau.sombreAilleurs = true;
   Demarre();
   EXPECT_EQ(bureau.eclairage, Eclairage::Crepuscule);
-  EXPECT_EQ(Etat(), "10 ");
+  EXPECT_EQ(Etat(), "10 absent");
 }
 
 TEST_F(Vue, WhatTheUserHasChosenGoesBeforeTheDesktop) {
@@ -43,7 +43,7 @@ TEST_F(Vue, WhileNothingIsChosenTheViewFollowsTheDesktop) {
   EXPECT_EQ(bureau.eclairage, Eclairage::Crepuscule);
   SuitBureauSombre(bureau, false);
   EXPECT_EQ(bureau.eclairage, Eclairage::Jour);
-  EXPECT_EQ(Etat(), "00 ");
+  EXPECT_EQ(Etat(), "00 absent");
   ClicControle(bureau, d.PU_Nuit);
   SuitBureauSombre(bureau, true);
   EXPECT_EQ(bureau.eclairage, Eclairage::Nuit);
