@@ -10,6 +10,17 @@ namespace {
 
 constexpr double kLogDeDix = 2.30258509299405;
 constexpr std::size_t kColonnes = 16;
+constexpr long kDixiemesParDegre = 600;
+
+/// An angle in tenths of a minute as text.
+/// @param masque  of the whole degrees
+std::string TexteAngle(double degres, std::string_view masque, char positif, char negatif) {
+  const long dixiemes = std::lround(std::fabs(degres) * static_cast<double>(kDixiemesParDegre));
+  const long entiers = dixiemes / kDixiemesParDegre;
+  const double minutes = static_cast<double>(dixiemes % kDixiemesParDegre) / 10;
+  return Format(static_cast<double>(entiers), masque) + "° " + Format(minutes, "00.0") + "' " +
+         (degres < 0 && dixiemes != 0 ? negatif : positif);
+}
 
 /// Arc tangent of the sine over the cosine that a sine implies.
 double ArcDuSinus(double x) { return std::atan(Divise(x, Racine(-x * x + 1))); }
@@ -126,6 +137,13 @@ std::string FormatAngle(double valeur, std::string &genre, bool montrePlus) {
                                     : Format(a, "0#") + "h " + minutes + "m " + secondes + "s";
   const std::string texte = signe + champs;
   return Droite(std::string(kColonnes, ' ') + std::string(SansBlancs(texte)), kColonnes);
+}
+
+std::string TexteTenue(double latitude, double longitude) {
+  if (!(std::fabs(latitude) <= 90.0) || !std::isfinite(longitude)) {
+    return "";
+  }
+  return TexteAngle(latitude, "00", 'N', 'S') + "  " + TexteAngle(std::remainder(longitude, 360.0), "000", 'W', 'E');
 }
 
 double LogDecimal(double x) { return Log(x) / kLogDeDix; }

@@ -79,6 +79,11 @@ std::string DegresPointMinutes(double x);
 /// A seconds field whose general text is 60 carries and is left empty, and so a minutes field of 60; 59.96 prints 60.0.
 std::string FormatAngle(double valeur, std::string &genre, bool montrePlus);
 
+/// A place in tenths of a minute: "47° 10.3' N  004° 44.1' W".
+/// @param latitude, longitude  degrees, north and west positive; the longitude is brought within 180
+/// @return empty past a pole
+std::string TexteTenue(double latitude, double longitude);
+
 /// Logarithm to base 10, through a natural logarithm of ten of 15 digits.
 /// @throws Erreur 5 when x <= 0
 double LogDecimal(double x);

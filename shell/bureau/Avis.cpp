@@ -22,7 +22,7 @@ void AviseRefus(Bureau &bureau, const Controle &champ, const std::string &tape) 
   }
   const auto rang = static_cast<std::size_t>(champ.parIndice);
   const Etat &etat = bureau.etat;
-  if (rang < etat.Domaine.size()) {
+  if (rang < kChampsVisee) {
     Avise(bureau,
           d.Nom.at(rang).legende + " : " + tape + " " + etat.TexteRefus.legende + etat.Domaine.at(rang).legende);
   }

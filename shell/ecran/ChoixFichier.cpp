@@ -281,6 +281,7 @@ fs::path ChoisitFichier(Bureau &bureau, const std::string &titre, const std::str
   } else {
     Charge(bureau);
   }
+  f.FName.infobulle = f.TexteNom.legende;
   bureau.focus = &f.FName;
   f.cadre.visible = true;
   bureau.ports.modale(f.cadre);

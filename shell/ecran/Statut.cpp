@@ -10,18 +10,6 @@
 namespace velmaris {
 namespace {
 
-constexpr long kDixiemesParDegre = 600;
-
-/// An angle in tenths of a minute as text.
-/// @param masque  of the whole degrees
-std::string TexteAngle(double degres, std::string_view masque, char positif, char negatif) {
-  const long dixiemes = std::lround(std::fabs(degres) * static_cast<double>(kDixiemesParDegre));
-  const long entiers = dixiemes / kDixiemesParDegre;
-  const double minutes = static_cast<double>(dixiemes % kDixiemesParDegre) / 10;
-  return Format(static_cast<double>(entiers), masque) + "° " + Format(minutes, "00.0") + "' " +
-         (degres < 0 && dixiemes != 0 ? negatif : positif);
-}
-
 /// What the four buttons wait for, while their module shows.
 std::string AttenteDroites(const Bureau &bureau) {
   const Donnees &d = bureau.donnees;
@@ -45,14 +33,12 @@ std::string Attente(const Bureau &bureau) {
   return AttenteDroites(bureau);
 }
 
-} // namespace
-
-std::string TexteTenue(double latitude, double longitude) {
-  if (!(std::fabs(latitude) <= 90.0) || !std::isfinite(longitude)) {
-    return "";
-  }
-  return TexteAngle(latitude, "00", 'N', 'S') + "  " + TexteAngle(std::remainder(longitude, 360.0), "000", 'W', 'E');
+/// Whether a tool tip tells what a calculation has found, and no range.
+bool EstValeur(const std::string &infobulle) {
+  return !infobulle.empty() && infobulle.find(" : ") == std::string::npos;
 }
+
+} // namespace
 
 bool AUneEchelle(const Feuille &feuille) { return feuille.EchelleX > 0 && feuille.EchelleY > 0; }
 
@@ -71,8 +57,9 @@ void AccordeStatut(Bureau &bureau) {
 
 void PoseDomaines(Bureau &bureau) {
   for (Controle *c : Liste(bureau.donnees)) {
-    if (c->genre == Genre::Champ && c->par == "Nom" && static_cast<std::size_t>(c->parIndice) < kChampsVisee) {
-      const auto rang = static_cast<std::size_t>(c->parIndice);
+    const bool saisie = c->genre == Genre::Champ || c->genre == Genre::Liste;
+    const auto rang = static_cast<std::size_t>(c->parIndice);
+    if (saisie && c->par == "Nom" && rang < kChampsNommes && !EstValeur(c->infobulle)) {
       c->infobulle = bureau.donnees.Nom.at(rang).legende + " : " + bureau.etat.Domaine.at(rang).legende;
     }
   }

@@ -13,6 +13,8 @@ inline constexpr std::string_view kFenetreEtat = "Etat";
 
 /// Fields of a sight, whose ranges the status line tells.
 inline constexpr std::size_t kChampsVisee = 15;
+/// Fields and lists of the main window that have names of their own; their ranges stand in the same order.
+inline constexpr std::size_t kChampsNommes = 36;
 
 /// The line under the drawing surface: where the pointer is, what a refused field takes, what a tool waits for, why a
 /// click did nothing. It is a record of its own within the main window.
@@ -20,10 +22,11 @@ struct Etat {
   Controle Position; ///< of the pointer
   Controle Dit;      ///< what is told
 
-  std::array<Controle, kChampsVisee> Domaine; ///< what each field of a sight takes
-  std::array<Controle, 7> TexteMode;          ///< what each use of the four buttons waits for
+  std::array<Controle, kChampsNommes> Domaine; ///< what each field takes, those of a sight first
+  std::array<Controle, 7> TexteMode;           ///< what each use of the four buttons waits for
   Controle TexteModule, TexteDepart, TexteBranche, TexteCapsDepart, TexteCapsArrivee;
   Controle TexteRefus, TexteSansCalcul, TexteSansDistance, TexteBorneZoom;
+  Controle TexteCopie, TexteSansCopie, TexteSansModule, TexteSansLecture;
 
   std::string avis; ///< told for a while
   int restant = 0;  ///< beats of the clock that it is still told

@@ -16,6 +16,7 @@ inline constexpr std::string_view kFenetreFSelect = "FSelect";
 struct FSelect {
   Controle Label1, FName, Label2, File1, Label3, Dir1, Drive1, OK, Quitter, Command1;
   Controle TexteVolume; ///< what `Drive1` chooses
+  Controle TexteNom;    ///< what `FName` takes
 
   CadreFenetre cadre{kFenetreFSelect, "Fichier", 9300, 6300};
   bool chargee = false;                       ///< it has been loaded, with its language; it stays so for the run

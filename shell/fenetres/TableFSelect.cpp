@@ -21,6 +21,7 @@ constexpr LigneFSelect kFSelect[] = {
     {SEUL(Quitter), Genre::Bouton, "", {1710, 5715, 1440, 405}, "&Annuler", "", {.raccourci = true, .role = Role::Annule}},
     {SEUL(Command1), Genre::Bouton, "", {7710, 5715, 1440, 405}, "&Supprimer", "", {.raccourci = true}},
     {SEUL(TexteVolume), Genre::Texte, "", {}, "Volume"},
+    {SEUL(TexteNom), Genre::Texte, "", {}, "Un nom, un chemin, ou un motif avec * et ?"},
 };
 // clang-format on
 
