@@ -66,6 +66,8 @@ constexpr Abonnement kCiel[] = {
     {"Command1", Evenement::Clic, ciel::Command1_Click},
     {"Command4", Evenement::Clic, ciel::Command4_Click},
     {"Option1", Evenement::Clic, ciel::Option1_Click},
+    {"Recule", Evenement::Clic, ciel::Recule_Click},
+    {"Avance", Evenement::Clic, ciel::Avance_Click},
     {"List1", Evenement::Clic, ciel::List1_Click},
     {"SOL", Evenement::Clic, ciel::SOL_Click},
     {"Lune", Evenement::Clic, ciel::Lune_Click},

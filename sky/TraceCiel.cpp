@@ -10,8 +10,11 @@ namespace velmaris {
 namespace {
 
 constexpr Couleur kEncreEchelle = 0xFFFF80;
-constexpr double kEcartMaximal = 900; ///< between the two ends of a piece of a tick
-constexpr double kSousTrait = 200;    ///< from the tick's end to its figures
+constexpr double kEcartMaximal = 900;  ///< between the two ends of a piece of a tick
+constexpr double kSousTrait = 200;     ///< from the tick's end to its figures
+constexpr double kTraitHauteur = 150;  ///< length of a tick of the height scale
+constexpr double kFigureHauteur = 430; ///< room of its figures
+constexpr double kMiFigure = 110;      ///< half their height
 
 double AbscisseEchelle(const CadreCiel &cadre, int az) {
   double x = az / 360.0 * cadre.W + cadre.S * cadre.W / 2;
@@ -56,6 +59,22 @@ void TraceEchelleCiel(Surface &carte, const CadreCiel &cadre) {
         EcritGraduation(carte, cadre, az, x, bas);
       }
     }
+  }
+}
+
+void TraceHauteurs(Surface &carte, const CadreCiel &cadre) {
+  const bool horizon = cadre.carte == CarteCiel::Horizontale;
+  const int pas = horizon ? 10 : 30;
+  carte.police.gras = true;
+  carte.police.taille = 8;
+  carte.encre = kEncreEchelle;
+  for (int h = horizon ? pas : -60; h < 90; h += pas) {
+    const double y = horizon ? cadre.H - h / 90.0 * cadre.H : cadre.H - (h + 90) / 180.0 * cadre.H;
+    const std::string figure = std::to_string(h) + "°";
+    Ligne(carte, {0, y}, {kTraitHauteur, y}, kJaune);
+    Ligne(carte, {cadre.W - kTraitHauteur, y}, {cadre.W, y}, kJaune);
+    EcritEn(carte, {kTraitHauteur + 50, y - kMiFigure}, figure, {GenreTexte::Echelle});
+    EcritEn(carte, {cadre.W - kTraitHauteur - kFigureHauteur, y - kMiFigure}, figure, {GenreTexte::Echelle});
   }
 }
 

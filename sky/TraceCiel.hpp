@@ -10,4 +10,9 @@ namespace velmaris {
 /// @param carte  its font and colour of texts are left changed
 void TraceEchelleCiel(Surface &carte, const CadreCiel &cadre);
 
+/// Draws the scale of height on the horizontal chart, of declination on the equatorial one, at both edges: a short tick
+/// and its figure every 10 degrees, every 30 on the equatorial chart.
+/// @param carte  its font and colour of texts are left changed
+void TraceHauteurs(Surface &carte, const CadreCiel &cadre);
+
 } // namespace velmaris

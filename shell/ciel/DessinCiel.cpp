@@ -3,6 +3,7 @@
 #include "foundations/Erreur.hpp"
 #include "foundations/TexteNombre.hpp"
 #include "shell/ciel/EcranCiel.hpp"
+#include "shell/ciel/MomentCiel.hpp"
 #include "shell/visee/PanneauDirect.hpp"
 #include "shell/visee/Saisie.hpp"
 #include "sky/Constellations.hpp"
@@ -178,6 +179,7 @@ void TraceCiel(Bureau &bureau) {
   if (!ADeLaPlace(cadre)) {
     return;
   }
+  const ALHeureDuCiel heure(bureau);
   const auto rang = static_cast<std::size_t>(c.List1.rang);
   const std::string choix = c.List1.rang >= 0 && rang < c.List1.liste.size() ? c.List1.liste[rang] : std::string();
   Efface(c.picture1);
@@ -190,9 +192,11 @@ void TraceCiel(Bureau &bureau) {
     for (std::size_t k = 0; k < c.LaP.size(); ++k) {
       AffPlanete(bureau, cadre, k, regard);
     }
+    DitMoment(bureau, regard.latitude, regard.longitude);
   });
   c.picture1.epaisseur = 1;
   TraceEchelleCiel(c.picture1, cadre);
+  TraceHauteurs(c.picture1, cadre);
   RetrouveChoix(c.List1, choix);
 }
 

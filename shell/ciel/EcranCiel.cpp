@@ -4,8 +4,10 @@
 #include "shell/bureau/Evenements.hpp"
 #include "shell/bureau/Langage.hpp"
 #include "shell/ciel/DessinCiel.hpp"
+#include "shell/ciel/MomentCiel.hpp"
 
 #include <algorithm>
+#include <array>
 #include <string>
 
 namespace velmaris {
@@ -30,6 +32,36 @@ void Dispose(Ciel &c, double largeur, double hauteur) {
   c.Frame8.place.gauche = largeur - kMargeDroite - c.Frame8.place.largeur;
 }
 
+constexpr std::array<long, 4> kDurees = {1L, 10L, 60L, 24L * 60L}; ///< minutes of a step
+constexpr int kPasUsuel = 1;
+constexpr int kPremiereAnnee = 1900; ///< first and last year that steps lead to
+constexpr int kDerniereAnnee = 2100;
+
+/// The lengths of a step, in the language of the moment.
+void RemplitPas(Ciel &c) {
+  c.Pas.liste.clear();
+  for (const Controle &duree : c.TexteDuree) {
+    c.Pas.liste.push_back(duree.legende);
+  }
+  c.Pas.rang = kPasUsuel;
+  c.Pas.texte = c.Pas.liste[kPasUsuel];
+  c.Pas.infobulle = c.TextePas.legende;
+}
+
+/// A step of time from the moment that is shown.
+void AvancePas(Bureau &bureau, int sens) {
+  Ciel &c = bureau.ciel;
+  const auto rang = static_cast<std::size_t>(std::max(0, c.Pas.rang));
+  const TempsSysteme montre = c.moment ? *c.moment : bureau.horloge.source();
+  const TempsSysteme suivant = Decale(montre, sens * kDurees.at(rang));
+  if (suivant.annee < kPremiereAnnee || suivant.annee > kDerniereAnnee) {
+    return;
+  }
+  c.moment = suivant;
+  PoseValeur(bureau, c.Check2, 0);
+  TraceCiel(bureau);
+}
+
 } // namespace
 
 void Command13_Click(Bureau &bureau, int /*indice*/) {
@@ -52,6 +84,8 @@ void Ciel_Charge(Bureau &bureau) {
   c.SOL.image = d.Soleil.image;
   c.Lune.image = d.ImAstre[1].image;
   PoseValeur(bureau, c.HScroll1, 0);
+  RemplitPas(c);
+  c.moment.reset();
   for (std::size_t i = 1; i <= kEtoilesCiel; ++i) {
     Controle &label = c.Laet[i];
     label.etiquette = std::to_string(kBlanc);
@@ -91,6 +125,7 @@ namespace ciel {
 
 void Timer1_Tick(Bureau &bureau) {
   if (bureau.ciel.cadre.visible && bureau.ciel.minuterie) {
+    bureau.ciel.moment.reset();
     TraceCiel(bureau);
   }
 }
@@ -99,7 +134,14 @@ void HScroll1_Change(Bureau &bureau, int /*indice*/) { TraceCiel(bureau); }
 
 void Check2_Click(Bureau &bureau, int /*indice*/) { bureau.ciel.minuterie = bureau.ciel.Check2.valeur == 1; }
 
-void Command1_Click(Bureau &bureau, int /*indice*/) { TraceCiel(bureau); }
+void Command1_Click(Bureau &bureau, int /*indice*/) {
+  bureau.ciel.moment.reset();
+  TraceCiel(bureau);
+}
+
+void Recule_Click(Bureau &bureau, int /*indice*/) { AvancePas(bureau, -1); }
+
+void Avance_Click(Bureau &bureau, int /*indice*/) { AvancePas(bureau, 1); }
 
 void Command4_Click(Bureau &bureau, int /*indice*/) { Ciel_Ferme(bureau); }
 

@@ -29,8 +29,13 @@ void Timer1_Tick(Bureau &bureau);
 void HScroll1_Change(Bureau &bureau, int indice);
 /// "Rafraichissement automatique": the timer runs exactly while it is ticked.
 void Check2_Click(Bureau &bureau, int indice);
-/// "Rafraichir".
+/// "Rafraichir": the present sky.
 void Command1_Click(Bureau &bureau, int indice);
+/// A step of time back, or forth: the automatic redraw ends, "Rafraichir" goes back to the present.
+/// @{
+void Recule_Click(Bureau &bureau, int indice);
+void Avance_Click(Bureau &bureau, int indice);
+/// @}
 /// "Fermer".
 void Command4_Click(Bureau &bureau, int indice);
 /// The chart is chosen.

@@ -1,11 +1,13 @@
 #pragma once
 
+#include "foundations/Horloge.hpp"
 #include "foundations/Surface.hpp"
 #include "shell/fenetres/Controles.hpp"
 #include "sky/AstresCiel.hpp"
 
 #include <array>
 #include <cstddef>
+#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
@@ -28,15 +30,20 @@ struct Ciel {
   Controle Frame1; ///< "Carte"
   std::array<Controle, 2> Option1;
   Controle Check2, Command1, Command4;
-  Controle Label1; ///< carries the last equatorial place, two numbers joined by "X"
+  Controle Moment, Lieu;        ///< when and from where the sky is shown
+  Controle Recule, Pas, Avance; ///< a step of time back, its length, a step forth
+  Controle Label1;              ///< carries the last equatorial place, two numbers joined by "X"
   Controle SOL, Lune;
   std::array<Controle, 4> Shapla, LaP;         ///< planets: marks and labels
   std::array<Controle, kEtoilesCiel + 1> Shet; ///< marks of the stars; number 0 stands for nothing
   std::array<Controle, kEtoilesCiel + 1> Laet; ///< labels of the stars; number 0 stands for nothing
   /// Words that no control shows.
   Controle TexteSoleil, TexteLune, TexteEtoiles, TexteRotation, TexteCarte, TexteHorsListe;
+  Controle TextePas, TexteRecule, TexteAvance, TextePresent;
+  std::array<Controle, 4> TexteDuree; ///< of a step
 
   CadreFenetre cadre{kFenetreCiel, "", 0, 0};
+  std::optional<TempsSysteme> moment;     ///< that is shown, none for the present
   bool minuterie = false;                 ///< `Timer1` runs: every `kPeriodeCiel` the chart is drawn anew
   std::string marqueLangue;               ///< "Lang" once a language file has spoken to this window
   Surface picture1;                       ///< the chart

@@ -18,7 +18,7 @@ constexpr int kPointsEtoile = 8; ///< of a star's label
 constexpr LigneCiel kCiel[] = {
     {SEUL(Picture1), Genre::Surface, "", {2100, 120, 0, 0}, "", "", {.par = "TexteCarte"}},
     {SEUL(List1), Genre::ListeBoite, "", {120, 120, 1900, 0}, "", "", {.par = "TexteEtoiles"}},
-    {SEUL(HScroll1), Genre::Curseur, "", {2100, 0, 0, 255}, "", "", {.par = "TexteRotation"}},
+    {SEUL(HScroll1), Genre::Curseur, "", {2100, 0, 0, 255}, "", "Tourne le ciel : 0 à 360°", {.par = "TexteRotation"}},
     {SEUL(Frame8), Genre::Groupe, "", {0, 0, 12900, 2070}},
     {SEUL(Bayer1), Genre::Etiquette, "Frame8", {60, 165, 480, 450}, "", "", {.taille = 18, .cote = Cote::Centre}},
     {SEUL(Bayer2), Genre::Etiquette, "Frame8", {600, 165, 1500, 450}, "", "", {.taille = 14}},
@@ -33,6 +33,11 @@ constexpr LigneCiel kCiel[] = {
     {SEUL(Check2), Genre::Case, "Frame8", {6720, 1290, 3450, 270}, "Rafraichissement automatique"},
     {SEUL(Command1), Genre::Bouton, "Frame8", {9360, 165, 1650, 405}, "Rafraichir"},
     {SEUL(Command4), Genre::Bouton, "Frame8", {11130, 165, 1650, 405}, "Fermer", "", {.role = Role::Annule, .image = "ferme"}},
+    {SEUL(Moment), Genre::Etiquette, "Frame8", {9360, 675, 3420, 240}},
+    {SEUL(Lieu), Genre::Etiquette, "Frame8", {9360, 930, 3420, 240}},
+    {SEUL(Recule), Genre::Bouton, "Frame8", {9360, 1605, 600, 405}, "◄", "Un pas plus tôt (-)", {.par = "TexteRecule"}},
+    {SEUL(Pas), Genre::Liste, "Frame8", {10035, 1635, 1260, 345}, "", "", {.par = "TextePas"}},
+    {SEUL(Avance), Genre::Bouton, "Frame8", {11370, 1605, 600, 405}, "►", "Un pas plus tard (+)", {.par = "TexteAvance"}},
     {SEUL(Label1), Genre::Etiquette, "", {0, 0, 0, 0}, "", "", {.visible = false}},
     {SEUL(SOL), Genre::Image, "Picture1", {0, 0, 480, 480}},
     {SEUL(Lune), Genre::Image, "Picture1", {0, 0, 480, 480}},
@@ -50,6 +55,14 @@ constexpr LigneCiel kCiel[] = {
     {SEUL(TexteRotation), Genre::Texte, "", {}, "Rotation du ciel"},
     {SEUL(TexteCarte), Genre::Texte, "", {}, "Carte du ciel"},
     {SEUL(TexteHorsListe), Genre::Texte, "", {}, "Absente de la liste des étoiles visibles : un clic ne la choisit pas"},
+    {SEUL(TextePas), Genre::Texte, "", {}, "Pas de temps"},
+    {SEUL(TexteRecule), Genre::Texte, "", {}, "Un pas plus tôt"},
+    {SEUL(TexteAvance), Genre::Texte, "", {}, "Un pas plus tard"},
+    {SEUL(TextePresent), Genre::Texte, "", {}, "maintenant"},
+    {RANG(TexteDuree, 0), Genre::Texte, "", {}, "1 min"},
+    {RANG(TexteDuree, 1), Genre::Texte, "", {}, "10 min"},
+    {RANG(TexteDuree, 2), Genre::Texte, "", {}, "1 h"},
+    {RANG(TexteDuree, 3), Genre::Texte, "", {}, "1 jour"},
 };
 // clang-format on
 

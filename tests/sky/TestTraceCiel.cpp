@@ -92,6 +92,30 @@ TEST_F(EchelleCiel, ItTurnsWithTheSky) {
   }
 }
 
+TEST_F(EchelleCiel, TheHeightScaleHasAFigureAtBothEdgesEveryTenDegrees) {
+  cadre = {18000, 9000, 0.7, CarteCiel::Horizontale};
+  TraceHauteurs(carte, cadre);
+  ASSERT_EQ(Textes(carte).size(), 16U);
+  ASSERT_EQ(Segments(carte).size(), 16U);
+  for (const Segment &s : Segments(carte)) {
+    EXPECT_EQ(s.debut.y, s.fin.y);
+    EXPECT_NEAR(std::remainder(s.debut.y, 1000), 0, 1e-9) << "a tenth of 90 degrees, unturned";
+  }
+  EXPECT_EQ(Textes(carte)[0].texte, "10°");
+  EXPECT_NEAR(Textes(carte)[0].position.y, 8000, 200) << "low at the foot";
+  EXPECT_EQ(Textes(carte)[15].texte, "80°");
+  EXPECT_NEAR(Textes(carte)[15].position.y, 1000, 200);
+}
+
+TEST_F(EchelleCiel, OnTheEquatorialChartItIsThatOfDeclination) {
+  cadre = {18000, 9000, 0, CarteCiel::Equatoriale};
+  TraceHauteurs(carte, cadre);
+  ASSERT_EQ(Textes(carte).size(), 10U);
+  EXPECT_EQ(Textes(carte)[0].texte, "-60°");
+  EXPECT_EQ(Textes(carte)[4].texte, "0°");
+  EXPECT_NEAR(Textes(carte)[4].position.y, 4500, 200) << "the equator in the middle";
+}
+
 TEST_F(EchelleCiel, OnAChartTooHighForItsPiecesNoTickIsDrawn) {
   cadre = {18000, 81000, 0, CarteCiel::Horizontale};
   TraceEchelleCiel(carte, cadre);
