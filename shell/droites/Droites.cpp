@@ -1,6 +1,7 @@
 #include "shell/droites/Droites.hpp"
 
 #include "foundations/TexteNombre.hpp"
+#include "shell/bureau/Avis.hpp"
 #include "shell/bureau/Evenements.hpp"
 #include "shell/droites/Bouts.hpp"
 #include "shell/droites/ModesDroite.hpp"
@@ -15,6 +16,11 @@ namespace velmaris {
 namespace {
 
 constexpr double kCran = 1.25; ///< miles shown at one notch of the zoom, over those at the next
+
+/// Whether no height is read: such a sight isn't reduced.
+bool SansLecture(const Donnees &d) {
+  return Val(d.Text13.texte) == 0 && Val(d.Text12.texte) == 0 && Val(d.Text25.texte) == 0;
+}
 
 /// The four lines leave the sheet.
 void RetireDroites(Donnees &d) {
@@ -108,6 +114,8 @@ void DroiteSuivante(Bureau &bureau, Demande demande) {
 void Command2_Click(Bureau &bureau, int /*indice*/) {
   if (const std::optional<Hauteurs> hauteurs = PremiereDroite(bureau)) {
     Journalise(bureau, *hauteurs);
+  } else if (SansLecture(bureau.donnees)) {
+    Avise(bureau, bureau.etat.TexteSansLecture.legende);
   }
   RetraceCarte(bureau);
   RetireDroites(bureau.donnees);
