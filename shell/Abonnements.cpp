@@ -14,13 +14,16 @@
 #include "shell/droites/Droites.hpp"
 #include "shell/droites/FichierVisee.hpp"
 #include "shell/droites/ModesDroite.hpp"
+#include "shell/droites/Recentes.hpp"
 #include "shell/droites/Route.hpp"
 #include "shell/ecran/ChoixFichier.hpp"
+#include "shell/ecran/Copie.hpp"
 #include "shell/ecran/Echelle.hpp"
 #include "shell/ecran/Eclairage.hpp"
 #include "shell/ecran/Modules.hpp"
 #include "shell/ecran/PageImprimee.hpp"
 #include "shell/ecran/Presentation.hpp"
+#include "shell/ecran/Rangement.hpp"
 #include "shell/visee/Astres.hpp"
 #include "shell/visee/Saisie.hpp"
 
@@ -116,6 +119,9 @@ constexpr Abonnement kDonnees[] = {
     {"Command26", Evenement::Clic, Command26_Click},
     {"Command3", Evenement::Clic, Command3_Click},
     {"Command4", Evenement::Clic, Command4_Click},
+    {"Command4", Evenement::ClicLong, OuvreRecentes},
+    {"FlecheOuvre", Evenement::Clic, OuvreRecentes},
+    {"Recente", Evenement::Clic, Recente_Click},
     {"Command5", Evenement::Clic, Command5_Click},
     {"Command6", Evenement::Clic, Command6_Click},
     {"Command8", Evenement::Clic, Command8_Click},
@@ -178,6 +184,12 @@ constexpr Abonnement kDonnees[] = {
     {"PU_C", Evenement::Clic, Command21_Click},
     {"PU_E", Evenement::Clic, Command22_Click},
     {"PU_Caps", Evenement::Clic, Command9_Click},
+    {"PU_Ranger", Evenement::Clic, PU_Ranger_Click},
+    {"PU_Disposition", Evenement::Clic, PU_Disposition_Click},
+    {"PU_CopieImage", Evenement::Clic, PU_CopieImage_Click},
+    {"PU_CopiePoint", Evenement::Clic, PU_CopiePoint_Click},
+    {"PU_Image", Evenement::Clic, PU_Image_Click},
+    {"MC_Copier", Evenement::Clic, MC_Copier_Click},
     {"PU_Clear", Evenement::Clic, PU_Clear_Click},
     {"PU_Apropos", Evenement::Clic, PU_Apropos_Click},
     {"PU_Terres", Evenement::Clic, PU_Terres_Click},

@@ -5,18 +5,22 @@
 #include "foundations/TexteNombre.hpp"
 #include "shell/Aide.hpp"
 #include "shell/Sortie.hpp"
+#include "shell/bureau/Avis.hpp"
 #include "shell/bureau/Evenements.hpp"
 #include "shell/bureau/Langage.hpp"
 #include "shell/bureau/Valeurs.hpp"
 #include "shell/carte/Carte.hpp"
+#include "shell/carte/Souris.hpp"
 #include "shell/ciel/EcranCiel.hpp"
 #include "shell/droites/Bouts.hpp"
 #include "shell/droites/Droites.hpp"
 #include "shell/droites/MemoireDroites.hpp"
 #include "shell/droites/ModesDroite.hpp"
+#include "shell/ecran/Copie.hpp"
 #include "shell/ecran/Disposition.hpp"
 #include "shell/ecran/Echelle.hpp"
 #include "shell/ecran/Eclairage.hpp"
+#include "shell/ecran/Rangement.hpp"
 #include "shell/ecran/Statut.hpp"
 #include "shell/visee/Journal.hpp"
 #include "shell/visee/PanneauDirect.hpp"
@@ -117,6 +121,7 @@ bool Touche(Bureau &bureau, int code) {
   constexpr int kF9 = kToucheF1 + 8;
   constexpr int kF10 = kToucheF1 + 9;
   constexpr int kF11 = kToucheF1 + 10;
+  constexpr int kF12 = kToucheF1 + 11;
   Controle &zoom = bureau.donnees.HScroll1;
   const auto deplace = [&](int pas) {
     const int valeur = zoom.valeur + pas;
@@ -154,6 +159,9 @@ bool Touche(Bureau &bureau, int code) {
   case kF11:
     PU_PleinEcran_Click(bureau, -1);
     return true;
+  case kF12:
+    PU_Ranger_Click(bureau, -1);
+    return true;
   default:
     return false;
   }
@@ -172,6 +180,7 @@ void Donnees_Charge(Bureau &bureau, const Ecran &ecran) {
   LitTerres(bureau);
   LitBouts(bureau);
   LitTaille(bureau);
+  LitDisposition(bureau);
   DisposeFenetre(bureau, ecran);
   d.ImAstre[0].image = d.Soleil.image;
   bureau.TitreFichier = bureau.messages[9];
@@ -251,6 +260,33 @@ bool RetourDansChamp(Bureau &bureau, Controle &champ) {
     }
   }
   return false;
+}
+
+bool ToucheControle(Bureau &bureau, char lettre) {
+  Donnees &d = bureau.donnees;
+  Controle *const bouton = lettre == 'S'   ? &d.Command3
+                           : lettre == 'O' ? &d.Command4
+                           : lettre == 'P' ? &d.Command11
+                           : lettre == 'Q' ? &d.Sortie
+                                           : nullptr;
+  if (bouton != nullptr) {
+    ClicControle(bureau, *bouton);
+  }
+  return bouton != nullptr;
+}
+
+bool ToucheMenu(Bureau &bureau, const Controle *pointe, Point place, const Controle *clavier) {
+  const bool surFeuille = pointe == &bureau.donnees.Image1;
+  if (pointe != nullptr && OuvreMenuCopie(bureau, *pointe)) {
+    return true;
+  }
+  const Point milieu{bureau.image1.largeur / 2, bureau.image1.hauteur / 2};
+  const Point ou = surFeuille ? place : milieu;
+  Image1_MouseDown(bureau, BoutonSouris::Gauche, ou.x, ou.y);
+  if (!surFeuille && clavier != &bureau.donnees.Image1) {
+    bureau.menuSous = clavier;
+  }
+  return bureau.menu != nullptr;
 }
 
 bool Donnees_KeyDown(Bureau &bureau, int code) {

@@ -20,9 +20,22 @@ inline constexpr int kToucheF1 = 112;
 
 /// A key of the window, whatever control has the focus. What fails under it is passed over: the same failure under a
 /// button ends the program.
-/// @param code  112 for F1 to 121 for F10
+/// @param code  112 for F1 to 123 for F12
 /// @return whether the key does something here
 bool Donnees_KeyDown(Bureau &bureau, int code);
+
+/// A letter with the control key: S saves, O opens, P shows the print page, Q leaves, each by its button.
+/// @param lettre  a capital
+/// @return whether it does something here
+bool ToucheControle(Bureau &bureau, char lettre);
+
+/// The menu key: the menu of the results under the pointer; else that of the drawing surface, at the pointer where that
+/// is over it, or else under the control that has the keyboard.
+/// @param pointe   control under the pointer, null for none
+/// @param place    of the pointer on the drawing surface, 1/1440 inch
+/// @param clavier  control that has the keyboard, null for none
+/// @return whether a menu is to be opened
+bool ToucheMenu(Bureau &bureau, const Controle *pointe, Point place, const Controle *clavier);
 
 /// The keys of the zoom: a failure under them is passed over, as under a function key.
 /// @param crans  above 0 nearer, below 0 farther

@@ -10,6 +10,7 @@
 #include "shell/ciel/EcranCiel.hpp"
 #include "shell/droites/FichierVisee.hpp"
 #include "shell/ecran/PageImprimee.hpp"
+#include "shell/ecran/Rangement.hpp"
 #include "shell/visee/Journal.hpp"
 #include "shell/visee/Saisie.hpp"
 
@@ -67,6 +68,7 @@ void Sortie_Click(Bureau &bureau, int /*indice*/) {
   }
   bureau.valeurs->patience().Refait();
   bureau.valeurs->Ensemble([&] { GardeReglages(bureau); });
+  GardeDisposition(bureau);
   RetenteJournal(bureau, bureau.valeurs->patience());
   SignaleMagasin(bureau);
   bureau.apropos.cadre.visible = false;

@@ -68,6 +68,12 @@ struct TerresLues {
   std::shared_ptr<const Anneaux> anneaux; ///< none before it was read
 };
 
+/// A module that has been put away, and where it stood.
+struct ModuleRange {
+  int numero = 0;
+  Place place;
+};
+
 /// What the drawings of the chart share.
 struct CarteOuverte {
   Polygone polygone;                        ///< the outlines of one file after the other
@@ -99,7 +105,8 @@ struct Bureau {
   double hauteurFenetre = 0.0;           ///< of the main window, 1/1440 inch
   std::string titre = "Velmaris 2009";   ///< of the main window
   const Controle *focus = nullptr;       ///< control that asks for the focus
-  const Controle *menu = nullptr;        ///< menu that asks to be opened at the pointer
+  const Controle *menu = nullptr;        ///< menu that asks to be opened
+  const Controle *menuSous = nullptr;    ///< control that it opens under; null for the place of the last click
   Eclairage eclairage = Eclairage::Jour; ///< everything is painted for that light
   bool sombreAilleurs = false;           ///< the desktop is set to dark colours
   int taille = kTailleAutomatique;       ///< percent of the scale that the screen gives
@@ -118,6 +125,9 @@ struct Bureau {
   std::string TitreHorloge;               ///< local date and time, rebuilt at each tick
   std::string TitreFichier;               ///< last part of the window's title
   std::int16_t ModuleDeplace = 0;         ///< number of the module held by the mouse, 0 for none
+  std::vector<ModuleRange> modulesRanges; ///< what F12 has put away last
+  bool gardeDisposition = false;          ///< the modules' places are kept for the next start
+  std::string aCopier;                    ///< what the menu of a module's results would copy
   std::int16_t QuitterRefuse = 0;         ///< -1 once the exit question was answered No
 
   ValeursVisee visee;

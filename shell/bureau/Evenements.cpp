@@ -68,6 +68,12 @@ void DoubleClicControle(Bureau &bureau, Controle &controle) {
   }
 }
 
+void ClicLongControle(Bureau &bureau, Controle &controle) {
+  if (Utilisable(controle)) {
+    Declenche(bureau, controle, Evenement::ClicLong);
+  }
+}
+
 bool ValideControle(Bureau &bureau, Controle &controle) {
   const bool ecoute = Utilisable(controle) && Ecoute(controle, Evenement::Valide);
   if (ecoute) {

@@ -14,6 +14,7 @@ namespace velmaris {
 enum class Evenement : std::uint8_t {
   Clic,       ///< pressed, chosen, ticked: by the user or by code
   DoubleClic, ///< pressed twice
+  ClicLong,   ///< held down for a while
   Valide,     ///< Return on a list that has a use of its own for it
   Relache,    ///< a choice made by the user, once mouse or key is released
   Change,     ///< its text or value has changed, by the user or by code
@@ -61,6 +62,8 @@ void SurvoleControle(Bureau &bureau, Controle &controle);
 void ActiveFenetre(Bureau &bureau, std::string_view fenetre);
 /// Presses a list or a picture twice.
 void DoubleClicControle(Bureau &bureau, Controle &controle);
+/// Holds a command down for a while.
+void ClicLongControle(Bureau &bureau, Controle &controle);
 /// Return while the control has the keyboard.
 /// @return false when it has no use for it, and Return means what it means in its window
 bool ValideControle(Bureau &bureau, Controle &controle);

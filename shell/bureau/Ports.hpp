@@ -27,6 +27,10 @@ struct Boite {
 
 struct CadreFenetre;
 struct Impression;
+struct Surface;
+
+/// The forms in which a picture is saved.
+enum class FormeImage : std::uint8_t { Png, Svg, Pdf };
 
 /// What the core asks of the outside.
 struct Ports {
@@ -51,6 +55,14 @@ struct Ports {
   /// Prints the page without its button, once the user has chosen where; giving up is no failure.
   /// @return false when it failed
   std::function<bool(const Impression &)> imprime = [](const Impression &) { return false; };
+  /// Puts a text on the clipboard.
+  std::function<void(const std::string &)> copieTexte = [](const std::string &) {};
+  /// Puts the picture of a surface on the clipboard, by day.
+  std::function<void(const Surface &)> copieImage = [](const Surface &) {};
+  /// The bytes of a file with the picture of a surface, by day; empty when it can't be made.
+  std::function<std::string(const Surface &, FormeImage)> image = [](const Surface &, FormeImage) {
+    return std::string();
+  };
   /// Opens a web or mail address, or the path of a file, by the desktop's program for it; the second argument is
   /// called when there is none, perhaps later.
   std::function<void(const std::string &, const std::function<void()> &)> ouvre =

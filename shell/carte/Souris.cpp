@@ -33,6 +33,7 @@ void MajMarques(Bureau &bureau) {
   marque(d.PU_C, d.FOptionCarte.visible);
   marque(d.PU_E, d.Frame4.visible);
   marque(d.PU_Caps, d.Frame2.visible);
+  d.PU_CopiePoint.actif = AUneEchelle(bureau.feuille);
   std::error_code refus;
   d.PU_Secours.actif = std::filesystem::exists(FichierSecours(bureau), refus);
 }
@@ -112,6 +113,7 @@ void Image1_MouseDown(Bureau &bureau, BoutonSouris bouton, double x, double y) {
   bureau.souris.ClicY = static_cast<float>(y);
   MajMarques(bureau);
   bureau.menu = &bureau.donnees.PopUp;
+  bureau.menuSous = nullptr;
 }
 
 void Image1_MouseMove(Bureau &bureau, bool boutonGauche, double x, double y) {
@@ -163,11 +165,8 @@ void Command19_Click(Bureau &bureau, int /*indice*/) {
 
 void PU_Distance_Click(Bureau &bureau, int /*indice*/) {
   const bool allume = bureau.souris.ModeDistance == 0;
-  bureau.souris.ModeDistance = allume ? -1 : 0;
-  Donnees &d = bureau.donnees;
-  d.Frame1.visible = allume;
-  d.Image1.pointeur = allume ? Pointeur::Croix : Pointeur::Normal;
-  d.PU_Distance.valeur = allume ? 1 : 0;
+  PoseDistance(bureau, allume);
+  bureau.donnees.Frame1.visible = allume;
 }
 
 void PU_Coord_Click(Bureau &bureau, int /*indice*/) {

@@ -9,6 +9,7 @@
 #include "shell/droites/Droites.hpp"
 #include "shell/droites/MemoireDroites.hpp"
 #include "shell/droites/ModesDroite.hpp"
+#include "shell/droites/Recentes.hpp"
 #include "shell/ecran/ChoixFichier.hpp"
 #include "shell/ecran/Modules.hpp"
 #include "shell/visee/Astres.hpp"
@@ -112,6 +113,7 @@ void Command3_Click(Bureau &bureau, int /*indice*/) {
   }
   try {
     SauveLoP(chemin, LitPanneau(d), bureau.dossiers.utilisateur);
+    NoteRecente(bureau, chemin);
   } catch (const Erreur &erreur) {
     bureau.ports.boite(
         {.texte = MotsErreur(d, erreur.numero) + "\n\n" + d.TexteNonEcrit.legende + "\n" + chemin.string(),
@@ -144,6 +146,9 @@ void PU_Secours_Click(Bureau &bureau, int /*indice*/) { OuvreVisee(bureau, Fichi
 bool ChargeVisee(Bureau &bureau, const std::filesystem::path &chemin) {
   if (!LitLignes(bureau, chemin)) {
     return false;
+  }
+  if (chemin != FichierSecours(bureau)) {
+    NoteRecente(bureau, chemin);
   }
   bureau.image1.police = {"ms sans serif", 9.0, true};
   AppliqueAuPanneau(bureau);

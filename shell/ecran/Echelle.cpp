@@ -12,6 +12,8 @@ namespace {
 constexpr std::string_view kCle = "Taille";
 constexpr std::array<int, 8> kTailles = {80, 90, 100, 110, 125, 150, 175, 200}; ///< percent
 constexpr double kCent = 100.0;
+constexpr double kLargeurCiel = 13300.0; ///< that the strip under the sky's chart takes, 1/1440 inch
+constexpr double kHauteurCiel = 6600.0;  ///< strip, slider and a chart that can be read
 
 double Facteur(const Bureau &bureau) { return bureau.taille / kCent; }
 
@@ -38,6 +40,15 @@ double EchelleContenu(const Bureau &bureau, double largeur, double hauteur) {
 }
 
 double EchelleFenetre(const Bureau &bureau) { return bureau.ecran.echelle * Facteur(bureau); }
+
+double EchelleCiel(const Bureau &bureau, double largeur, double hauteur) {
+  return std::min(
+      {EchelleFenetre(bureau), largeur * kUnitesParPixel / kLargeurCiel, hauteur * kUnitesParPixel / kHauteurCiel});
+}
+
+double EchellePage(const CadreFenetre &cadre, double largeur, double hauteur) {
+  return std::min(largeur * kUnitesParPixel / cadre.largeur, hauteur * kUnitesParPixel / cadre.hauteur);
+}
 
 double EchelleDialogue(const Bureau &bureau, const CadreFenetre &cadre, double largeur, double hauteur) {
   return std::min({EchelleFenetre(bureau), largeur * kUnitesParPixel / cadre.largeur,

@@ -27,6 +27,14 @@ double EchelleContenu(const Bureau &bureau, double largeur, double hauteur);
 /// The scale of a window that shows what it has room for: that of the start times the user's factor.
 double EchelleFenetre(const Bureau &bureau);
 
+/// The scale of the sky window: the main window's, or less where it is too small for its strip of buttons.
+/// @param largeur, hauteur  of its inside, pixels
+double EchelleCiel(const Bureau &bureau, double largeur, double hauteur);
+
+/// The scale with which the print page fills its window.
+/// @param largeur, hauteur  of its inside, pixels
+double EchellePage(const CadreFenetre &cadre, double largeur, double hauteur);
+
 /// The scale of a window over the main one: that of the start times the user's factor, less where the window would not
 /// fit its screen.
 /// @param cadre             the window's size in 1/1440 inch

@@ -34,19 +34,6 @@ constexpr std::array<ModuleNumerote, 8> kModules = {{{1, &Donnees::Frame1},
                                                      {9, &Donnees::FOptionCarte},
                                                      {10, &Donnees::Frame10}}};
 
-/// "Mémoire" and its caption in the toolbar.
-void MontreMemoire(Donnees &d, bool visible) {
-  d.Command8.visible = visible;
-  d.Label50[kLegendeMemoire].visible = visible;
-}
-
-/// Legs are no longer measured.
-void TermineDistance(Bureau &bureau) {
-  bureau.souris.ModeDistance = 0;
-  bureau.donnees.PU_Distance.valeur = 0;
-  bureau.donnees.Image1.pointeur = Pointeur::Normal;
-}
-
 /// Shows module 10 at a place, with "Mémoire" in the toolbar.
 void MontreDroitesEn(Donnees &d, double gauche, double haut) {
   MontreMemoire(d, true);
@@ -64,6 +51,18 @@ Controle *Module(Donnees &d, int numero) {
     }
   }
   return nullptr;
+}
+
+void MontreMemoire(Donnees &d, bool visible) {
+  d.Command8.visible = visible;
+  d.Label50[kLegendeMemoire].visible = visible;
+}
+
+void PoseDistance(Bureau &bureau, bool mesure) {
+  Donnees &d = bureau.donnees;
+  bureau.souris.ModeDistance = mesure ? -1 : 0;
+  d.PU_Distance.valeur = mesure ? 1 : 0;
+  d.Image1.pointeur = mesure ? Pointeur::Croix : Pointeur::Normal;
 }
 
 void LacheModule(Bureau &bureau) {
@@ -99,7 +98,7 @@ void FermeModule(Bureau &bureau, int numero) {
   }
   switch (numero) {
   case 1:
-    TermineDistance(bureau);
+    PoseDistance(bureau, false);
     break;
   case 7:
     d.Frame9.visible = false;
@@ -201,7 +200,7 @@ void MontreDroitesMultiples(Bureau &bureau) {
 
 void PU_Clear_Click(Bureau &bureau, int /*indice*/) {
   Donnees &d = bureau.donnees;
-  TermineDistance(bureau);
+  PoseDistance(bureau, false);
   d.Label62.visible = false;
   MontreMemoire(d, false);
   for (const ModuleNumerote &module : kModules) {

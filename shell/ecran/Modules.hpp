@@ -8,6 +8,12 @@ namespace velmaris {
 /// @return null for another number
 Controle *Module(Donnees &donnees, int numero);
 
+/// Shows "Mémoire" and its caption in the toolbar, or hides them.
+void MontreMemoire(Donnees &donnees, bool visible);
+
+/// Legs are measured on the chart, or no longer; the module that tells them stays as it is.
+void PoseDistance(Bureau &bureau, bool mesure);
+
 /// Takes a module with the mouse, or lets go of the one that is held.
 void SaisitModule(Bureau &bureau, int numero);
 template <int Numero> void SaisitModule(Bureau &bureau, int /*indice*/) { SaisitModule(bureau, Numero); }

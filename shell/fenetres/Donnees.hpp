@@ -14,7 +14,8 @@ struct Donnees {
   // The toolbar and what lies on the drawing surface.
   Controle Image1, LabLat, LabLon, LabC, Soleil, Label62, Frame3, Command3;
   std::array<Controle, 15> Label50;
-  Controle Command4, Command11, Label32, HScroll1, Command12, Command14, Label61, Command6, Command8, Label60;
+  Controle Command4, FlecheOuvre, Command11, Label32, HScroll1, Command12, Command14, Label61, Command6, Command8,
+      Label60;
   Controle Command23, Command20, Label59, Command7, Command21, Command22, Command9, Command13, Command5;
   Controle Sortie;
   std::array<Controle, 2> Image10;
@@ -23,7 +24,13 @@ struct Donnees {
   Controle PopUp, PU_Carte, PU_Centre, PU_Distance, PU_Coord, PU_Modules, PU_DM, PU_D, PU_S, PU_C, PU_E, PU_Caps;
   Controle PU_Clear, PU_Exit, PU_Apropos, PU_Nuit, PU_Crepuscule, PU_Terres, PU_Bouts, PU_Secours, PU_Quitter;
   Controle PU_Taille, PU_TaillePlus, PU_TailleMoins, PU_TailleAuto, PU_PleinEcran;
-  std::array<Controle, 5> PU_Trait;
+  Controle PU_Ranger, PU_Disposition, PU_Copier, PU_CopieImage, PU_CopiePoint, PU_Image;
+  std::array<Controle, 7> PU_Trait;
+
+  // The menu of what a module has worked out, and that of the last sights.
+  Controle MenuCopie, MC_Copier, Recentes;
+  std::array<Controle, 8> Recente;
+  Controle TexteSansRecente, TexteImage, TexteImageForme;
 
   // Module 7, "Données": the sight.
   Controle Frame7, Label63, Image6;

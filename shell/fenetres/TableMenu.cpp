@@ -26,7 +26,15 @@ constexpr LigneDonnees kMenu[] = {
     {SEUL(PU_C), Genre::Entree, "PU_Modules", {}, "Configuration de la carte"},
     {SEUL(PU_E), Genre::Entree, "PU_Modules", {}, "Estime"},
     {SEUL(PU_Caps), Genre::Entree, "PU_Modules", {}, "Caps et distances"},
+    {RANG(PU_Trait, 5), Genre::Separateur, "PU_Modules", {}},
+    {SEUL(PU_Ranger), Genre::Entree, "PU_Modules", {}, "Ranger ou remettre les modules", "F12"},
+    {SEUL(PU_Disposition), Genre::Entree, "PU_Modules", {}, "Garder la disposition", "Places et modules reviennent au prochain départ"},
     {SEUL(PU_Clear), Genre::Entree, "PopUp", {}, "Retirer tous les modules"},
+    {RANG(PU_Trait, 6), Genre::Separateur, "PopUp", {}},
+    {SEUL(PU_Copier), Genre::Menu, "PopUp", {}, "Copier"},
+    {SEUL(PU_CopieImage), Genre::Entree, "PU_Copier", {}, "L'image de la feuille", "Ctrl+C"},
+    {SEUL(PU_CopiePoint), Genre::Entree, "PU_Copier", {}, "Les coordonnées de ce point"},
+    {SEUL(PU_Image), Genre::Entree, "PopUp", {}, "Enregistrer l'image...", "PNG, SVG ou PDF"},
     {RANG(PU_Trait, 3), Genre::Separateur, "PopUp", {}},
     {SEUL(PU_Exit), Genre::Entree, "PopUp", {}, "Exit (ne rien faire et retourner sur la carte)"},
     {SEUL(PU_Apropos), Genre::Entree, "PopUp", {}, "A propos"},
@@ -42,6 +50,22 @@ constexpr LigneDonnees kMenu[] = {
     {SEUL(PU_Secours), Genre::Entree, "PopUp", {}, "Ouvrir la visée de secours"},
     {RANG(PU_Trait, 4), Genre::Separateur, "PopUp", {}},
     {SEUL(PU_Quitter), Genre::Entree, "PopUp", {}, "Quitter"},
+    // The menu of what a module has worked out.
+    {SEUL(MenuCopie), Genre::Menu, "", {}},
+    {SEUL(MC_Copier), Genre::Entree, "MenuCopie", {}, "Copier", "Ctrl+C"},
+    // The sights opened or saved last; their captions are the names of their files.
+    {SEUL(Recentes), Genre::Menu, "", {}, "Visées récentes"},
+    {RANG(Recente, 0), Genre::Entree, "Recentes", {}, "", "", {.visible = false}},
+    {RANG(Recente, 1), Genre::Entree, "Recentes", {}, "", "", {.visible = false}},
+    {RANG(Recente, 2), Genre::Entree, "Recentes", {}, "", "", {.visible = false}},
+    {RANG(Recente, 3), Genre::Entree, "Recentes", {}, "", "", {.visible = false}},
+    {RANG(Recente, 4), Genre::Entree, "Recentes", {}, "", "", {.visible = false}},
+    {RANG(Recente, 5), Genre::Entree, "Recentes", {}, "", "", {.visible = false}},
+    {RANG(Recente, 6), Genre::Entree, "Recentes", {}, "", "", {.visible = false}},
+    {RANG(Recente, 7), Genre::Entree, "Recentes", {}, "", "", {.visible = false}},
+    {SEUL(TexteSansRecente), Genre::Texte, "", {}, "Aucune visée récente"},
+    {SEUL(TexteImage), Genre::Texte, "", {}, "Enregistrer l'IMAGE"},
+    {SEUL(TexteImageForme), Genre::Texte, "", {}, "Terminez le nom par .png, .svg ou .pdf :"},
 };
 // clang-format on
 

@@ -4,6 +4,7 @@
 #include "shell/Sortie.hpp"
 #include "shell/droites/FichierVisee.hpp"
 #include "shell/ecran/Echelle.hpp"
+#include "shell/ecran/Rangement.hpp"
 #include "shell/qt/cadre/Fenetre.hpp"
 #include "shell/qt/cadre/PortsQt.hpp"
 #include "shell/qt/peinture/Apparence.hpp"
@@ -66,6 +67,7 @@ int main(int argc, char **argv) {
     velmaris::Secours(bureau, erreur);
     return 1;
   }
+  velmaris::RemetDisposition(bureau);
   velmaris::PoseSignauxMortels();
   velmaris::OuvreReprise(bureau);
   velmaris::qt::Scene scene(bureau);

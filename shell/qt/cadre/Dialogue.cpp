@@ -2,6 +2,7 @@
 
 #include "shell/bureau/Evenements.hpp"
 #include "shell/ecran/Echelle.hpp"
+#include "shell/ecran/TailleFenetres.hpp"
 #include "shell/qt/peinture/Apparat.hpp"
 #include "shell/qt/peinture/Palette.hpp"
 #include "shell/qt/peinture/Toile.hpp"
@@ -22,9 +23,10 @@ namespace velmaris::qt {
 namespace {
 
 /// The scale of a window: one that the user stretches shows what it has room for.
-double EchelleDe(const Bureau &bureau, const CadreFenetre &cadre, bool etirable) {
+double EchelleDe(const Bureau &bureau, const CadreFenetre &cadre, Etirable etirable) {
   const QSize libre = QGuiApplication::primaryScreen()->availableSize();
-  return etirable ? EchelleFenetre(bureau) : EchelleDialogue(bureau, cadre, libre.width(), libre.height());
+  return etirable == Etirable::MontrePlus ? EchelleFenetre(bureau)
+                                          : EchelleDialogue(bureau, cadre, libre.width(), libre.height());
 }
 
 /// Whether Return has a button of its own among the controls.
@@ -35,12 +37,12 @@ bool AParDefaut(const Rendu &rendu) {
 
 } // namespace
 
-Dialogue::Dialogue(Scene &scene, CadreFenetre &cadre, QWidget *parent, bool etirable)
+Dialogue::Dialogue(Scene &scene, CadreFenetre &cadre, QWidget *parent, Etirable etirable)
     : QDialog(parent), Echelonnee(EchelleDe(scene.bureau(), cadre, etirable)), scene_(scene), cadre_(cadre),
       rendu_(scene, *this, ControlesDe(scene.bureau(), cadre.nom)), etirable_(etirable),
       parDefaut_(AParDefaut(rendu_)) {
   setObjectName(QString::fromUtf8(cadre.nom.data(), static_cast<qsizetype>(cadre.nom.size())));
-  etirable ? resize(Taille()) : setFixedSize(Taille());
+  etirable != Etirable::Non ? resize(Taille()) : setFixedSize(Taille());
   for (const Lien &lien : rendu_.liens()) {
     if (auto *bouton = qobject_cast<QPushButton *>(lien.widget)) {
       bouton->setAutoDefault(parDefaut_); // else the toolkit would give Return to the first one
@@ -56,10 +58,26 @@ QSize Dialogue::Taille() const {
   return {static_cast<int>(std::lround(cadre_.largeur * f)), static_cast<int>(std::lround(cadre_.hauteur * f))};
 }
 
+double Dialogue::EchelleVoulue() const { return EchelleDe(scene_.bureau(), cadre_, etirable_); }
+
+void Dialogue::ReprendSaTaille() {
+  if (const auto gardee = TailleGardee(scene_.bureau(), cadre_.nom)) {
+    const QSize libre = screen()->availableSize() - QSize(0, kBarreTitre);
+    resize(QSize(gardee->largeur, gardee->hauteur).boundedTo(libre).expandedTo(minimumSize()));
+  }
+  ouverte_ = size();
+}
+
+void Dialogue::GardeSaTaille() {
+  if (etirable_ != Etirable::Non && size() != ouverte_) {
+    GardeTaille(scene_.bureau(), cadre_.nom, {width(), height()});
+  }
+}
+
 void Dialogue::Redimensionne() { setFixedSize(Taille()); }
 
 void Dialogue::Echelonne() {
-  const double voulue = EchelleDe(scene_.bureau(), cadre_, etirable_);
+  const double voulue = EchelleVoulue();
   if (voulue != echelle()) {
     PoseEchelle(voulue);
     Redimensionne();

@@ -7,14 +7,17 @@
 
 namespace velmaris::qt {
 
+/// What a window does that its user stretches: it can't be, it shows more, or it shows the same larger.
+enum class Etirable { Non, MontrePlus, Grandit };
+
 /// A window over the main one, shown until the core hides it. Return presses its default button, or where it has none
 /// the button with the focus; Escape and the close button press the one that gives up.
 class Dialogue : public QDialog, public Echelonnee {
 public:
   /// Makes the widgets.
   /// @param cadre     the window's record; it must outlive this
-  /// @param etirable  the user may give it another size
-  Dialogue(Scene &scene, CadreFenetre &cadre, QWidget *parent, bool etirable = false);
+  /// @param etirable  what its user's stretching does to it
+  Dialogue(Scene &scene, CadreFenetre &cadre, QWidget *parent, Etirable etirable = Etirable::Non);
 
   /// Shows it and waits until it is hidden.
   void Montre();
@@ -23,9 +26,19 @@ public:
 
   void reject() override;
 
+  /// Keeps its size for its next opening, where its user has given it another than it opened with.
+  void GardeSaTaille();
+
 protected:
   Scene &scene() const { return scene_; }
   const Rendu &rendu() const { return rendu_; }
+  /// The scale that the window has to have.
+  virtual double EchelleVoulue() const;
+  /// Brings the scale in line, and all that goes by it.
+  void Echelonne();
+  /// Takes the size that its user has given it last, within the screen's.
+  void ReprendSaTaille();
+  QSize Taille() const;
   /// Brings the window's size in line with a new scale.
   virtual void Redimensionne();
   /// Brings in line what the window has beside its controls.
@@ -38,13 +51,11 @@ protected:
 
 private:
   bool Valide();
-  void Echelonne();
-  QSize Taille() const;
-
   Scene &scene_;
   CadreFenetre &cadre_;
   Rendu rendu_;
-  bool etirable_;
+  Etirable etirable_;
+  QSize ouverte_;  ///< the size that it opened with
   bool parDefaut_; ///< Return has a button of its own
 };
 

@@ -5,6 +5,9 @@
 #include "shell/Sortie.hpp"
 #include "shell/carte/Souris.hpp"
 #include "shell/droites/Droites.hpp"
+#include "shell/droites/FichierVisee.hpp"
+#include "shell/droites/Recentes.hpp"
+#include "shell/ecran/Copie.hpp"
 #include "shell/ecran/Echelle.hpp"
 #include "shell/ecran/Eclairage.hpp"
 #include "shell/ecran/Statut.hpp"
@@ -16,11 +19,18 @@
 
 #include <QApplication>
 #include <QCloseEvent>
+#include <QContextMenuEvent>
+#include <QCursor>
+#include <QDropEvent>
+#include <QFile>
 #include <QKeyEvent>
+#include <QLineEdit>
+#include <QMimeData>
 #include <QPainter>
 #include <QPushButton>
 #include <QResizeEvent>
 #include <QToolButton>
+#include <QUrl>
 
 #include <cmath>
 #include <optional>
@@ -55,6 +65,17 @@ int CranDeZoom(int touche) {
   }
 }
 
+/// The first sight among the files that are dropped, empty for none.
+std::filesystem::path ViseeDeposee(const QMimeData &donnees) {
+  for (const QUrl &adresse : donnees.urls()) {
+    const std::filesystem::path chemin = QFile::encodeName(adresse.toLocalFile()).toStdString();
+    if (EstNomDeVisee(chemin)) {
+      return chemin;
+    }
+  }
+  return {};
+}
+
 bool EstRetour(int touche) { return touche == Qt::Key_Return || touche == Qt::Key_Enter; }
 
 } // namespace
@@ -66,6 +87,7 @@ Fenetre::Fenetre(Scene &scene)
   horloge_.setObjectName("Timer1");
   PrepareVue(vue_, contenu_);
   setMinimumSize(kPlusPetite);
+  setAcceptDrops(true);
   const double f = PixelsParTwip(*this);
   resize(static_cast<int>(std::lround(bureau_.largeurFenetre * f)),
          static_cast<int>(std::lround(bureau_.hauteurFenetre * f)));
@@ -152,10 +174,95 @@ void Fenetre::AccordeFenetre() {
   }
   Toile &toile = Dessin();
   toile.MontreElastique(elastique);
-  if (const Controle *menu = std::exchange(bureau_.menu, nullptr); menu != nullptr && !bureau_.termine) {
-    const QPoint place = toile.PixelDe({bureau_.souris.ClicX, bureau_.souris.ClicY});
-    OuvreMenu(scene_, *menu, *this, toile.mapToGlobal(place));
+  OuvreMenuDemande();
+}
+
+/// Opens the menu that the core asks for, under its control or at the place of the click.
+void Fenetre::OuvreMenuDemande() {
+  const Controle *menu = std::exchange(bureau_.menu, nullptr);
+  const Controle *sous = std::exchange(bureau_.menuSous, nullptr);
+  if (menu == nullptr || bureau_.termine) {
+    return;
   }
+  const QWidget *widget = sous == nullptr ? nullptr : WidgetDe(*sous);
+  const Toile &toile = Dessin();
+  OuvreMenu(scene_, *menu, *this,
+            widget != nullptr ? widget->mapToGlobal(QPoint(0, widget->height()))
+                              : toile.mapToGlobal(toile.PixelDe({bureau_.souris.ClicX, bureau_.souris.ClicY})));
+}
+
+/// The control that a widget shows, or lies in; null for none of this window.
+Controle *Fenetre::ControleDe(QWidget *widget) const {
+  Controle *controle = nullptr;
+  while (controle == nullptr && widget != nullptr && widget->window() == this) {
+    controle = rendu_.ControleDe(*widget);
+    controle = controle == nullptr ? etat_.ControleDe(*widget) : controle;
+    widget = widget->parentWidget();
+  }
+  return controle;
+}
+
+QWidget *Fenetre::WidgetDe(const Controle &controle) const {
+  QWidget *widget = rendu_.WidgetDe(controle);
+  return widget == nullptr ? etat_.WidgetDe(controle) : widget;
+}
+
+/// The right button on a module's results opens their menu. The menu key has been dealt with as a key.
+bool Fenetre::MenuDe(QObject *objet, const QContextMenuEvent &event) {
+  auto *widget = qobject_cast<QWidget *>(objet);
+  const Controle *pointe = ControleDe(widget);
+  if (pointe == nullptr || pointe->genre == Genre::Champ) {
+    return pointe != nullptr && event.reason() == QContextMenuEvent::Keyboard;
+  }
+  if (event.reason() == QContextMenuEvent::Mouse) {
+    scene_.Joue([&] { OuvreMenuCopie(bureau_, *pointe); });
+  }
+  return true;
+}
+
+/// A sight's file over the window, or dropped on it: it is opened once the desktop has its answer.
+bool Fenetre::Depose(QObject *objet, QDropEvent &event) {
+  const auto *widget = qobject_cast<QWidget *>(objet);
+  const std::filesystem::path visee = ViseeDeposee(*event.mimeData());
+  if (widget == nullptr || widget->window() != this || visee.empty() || QApplication::activeModalWidget() != nullptr) {
+    return false;
+  }
+  event.acceptProposedAction();
+  if (event.type() == QEvent::Drop) {
+    QMetaObject::invokeMethod(
+        this, [this, visee] { scene_.Joue([&] { OuvreVisee(bureau_, visee); }); }, Qt::QueuedConnection);
+  }
+  return true;
+}
+
+/// The keys that every desktop has.
+bool Fenetre::ToucheHabitude(QWidget &widget, const QKeyEvent &appui) {
+  const Qt::KeyboardModifiers avec = appui.modifiers() & ~Qt::KeyboardModifiers(Qt::KeypadModifier);
+  const Controle *clavier = ControleDe(&widget);
+  const QPoint curseur = QCursor::pos();
+  const Controle *pointe = ControleDe(QApplication::widgetAt(curseur));
+  if (appui.key() == Qt::Key_Menu || (appui.key() == Qt::Key_F10 && avec == Qt::ShiftModifier)) {
+    const QPointF place = QPointF(Dessin().mapFromGlobal(curseur)) / PixelsParTwip(*this);
+    scene_.Joue([&] { ToucheMenu(bureau_, pointe, {place.x(), place.y()}, clavier); });
+    return true;
+  }
+  if (avec != Qt::ControlModifier || appui.key() < Qt::Key_A || appui.key() > Qt::Key_Z) {
+    return false;
+  }
+  if (appui.key() == Qt::Key_C) {
+    const auto *champ = qobject_cast<const QLineEdit *>(&widget);
+    if (champ != nullptr && champ->hasSelectedText()) {
+      return false; // a field copies what is selected in it
+    }
+    scene_.Joue([&] { Copie(bureau_, pointe, clavier); });
+    return true;
+  }
+  if (appui.isAutoRepeat()) {
+    return false;
+  }
+  bool prise = false;
+  scene_.Joue([&] { prise = ToucheControle(bureau_, static_cast<char>('A' + appui.key() - Qt::Key_A)); });
+  return prise;
 }
 
 void Fenetre::closeEvent(QCloseEvent *event) {
@@ -180,7 +287,9 @@ bool Fenetre::Retour(QWidget &widget) {
   return prise;
 }
 
-bool Fenetre::Touche(QObject *objet, int touche, bool controle) {
+bool Fenetre::Touche(QObject *objet, const QKeyEvent &appui) {
+  const int touche = appui.key();
+  const bool controle = appui.modifiers().testFlag(Qt::ControlModifier);
   auto *widget = qobject_cast<QWidget *>(objet);
   if (widget == nullptr || widget->window() != this || QApplication::activeModalWidget() != nullptr) {
     return false;
@@ -188,10 +297,7 @@ bool Fenetre::Touche(QObject *objet, int touche, bool controle) {
   if (EstRetour(touche)) {
     return Retour(*widget);
   }
-  if (touche == Qt::Key_Menu) {
-    scene_.Joue([this] {
-      Image1_MouseDown(bureau_, BoutonSouris::Gauche, bureau_.image1.largeur / 2, bureau_.image1.hauteur / 2);
-    });
+  if (ToucheHabitude(*widget, appui)) {
     return true;
   }
   // Signs are typed: only on the surface they are the zoom's, or with the control key.
@@ -223,10 +329,22 @@ bool Fenetre::ToucheTaille(const QKeyEvent &appui) {
 }
 
 bool Fenetre::eventFilter(QObject *objet, QEvent *event) {
-  if (event->type() != QEvent::KeyPress || !objet->isWidgetType()) {
+  switch (event->type()) {
+  case QEvent::KeyPress:
+    return objet->isWidgetType() && Appui(objet, *static_cast<QKeyEvent *>(event));
+  case QEvent::ContextMenu:
+    return MenuDe(objet, *static_cast<QContextMenuEvent *>(event));
+  case QEvent::DragEnter:
+  case QEvent::DragMove:
+  case QEvent::Drop:
+    return Depose(objet, *static_cast<QDropEvent *>(event));
+  default:
     return false;
   }
-  const auto &appui = *static_cast<QKeyEvent *>(event);
+}
+
+/// A key, in any window of the program.
+bool Fenetre::Appui(QObject *objet, const QKeyEvent &appui) {
   if (appui.key() == Qt::Key_N && appui.modifiers() == Qt::ControlModifier) {
     scene_.Joue([this] { TourneEclairage(bureau_); });
     return true;
@@ -237,7 +355,7 @@ bool Fenetre::eventFilter(QObject *objet, QEvent *event) {
     }
     return true;
   }
-  return ToucheTaille(appui) || Touche(objet, appui.key(), appui.modifiers().testFlag(Qt::ControlModifier));
+  return ToucheTaille(appui) || Touche(objet, appui);
 }
 
 void Fenetre::resizeEvent(QResizeEvent *event) {

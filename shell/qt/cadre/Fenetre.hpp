@@ -8,6 +8,9 @@
 #include <QTimer>
 #include <QWidget>
 
+class QContextMenuEvent;
+class QDropEvent;
+
 namespace velmaris::qt {
 
 class Toile;
@@ -35,7 +38,14 @@ private:
   void AccordeFenetre();
   Toile &Dessin();
   bool Retour(QWidget &widget);
-  bool Touche(QObject *objet, int touche, bool controle);
+  bool Appui(QObject *objet, const QKeyEvent &appui);
+  bool Touche(QObject *objet, const QKeyEvent &appui);
+  bool ToucheHabitude(QWidget &widget, const QKeyEvent &appui);
+  Controle *ControleDe(QWidget *widget) const;
+  QWidget *WidgetDe(const Controle &controle) const;
+  void OuvreMenuDemande();
+  bool MenuDe(QObject *objet, const QContextMenuEvent &event);
+  bool Depose(QObject *objet, QDropEvent &event);
   bool ToucheTaille(const QKeyEvent &appui);
 
   Scene &scene_;

@@ -6,6 +6,7 @@
 #include "shell/ecran/Echelle.hpp"
 #include "shell/qt/peinture/ToileCiel.hpp"
 
+#include <QKeyEvent>
 #include <QResizeEvent>
 #include <QScreen>
 #include <QWindow>
@@ -16,7 +17,7 @@ namespace velmaris::qt {
 namespace {
 
 constexpr int kBord = 3; ///< pixels of a window manager's border
-constexpr QSize kPlusPetite(900, 420);
+constexpr QSize kPlusPetite(640, 400);
 
 ToileCiel &ToileDe(const Rendu &rendu, const Ciel &ciel) {
   return dynamic_cast<ToileCiel &>(*rendu.WidgetDe(ciel.Picture1));
@@ -25,7 +26,7 @@ ToileCiel &ToileDe(const Rendu &rendu, const Ciel &ciel) {
 } // namespace
 
 FenetreCiel::FenetreCiel(Scene &scene, QWidget *parent)
-    : Dialogue(scene, scene.bureau().ciel.cadre, parent, true), bureau_(scene.bureau()),
+    : Dialogue(scene, scene.bureau().ciel.cadre, parent, Etirable::MontrePlus), bureau_(scene.bureau()),
       toile_(ToileDe(rendu(), bureau_.ciel)), horloge_(this) {
   horloge_.setObjectName("TimerCiel");
   horloge_.setInterval(kPeriodeCiel);
@@ -43,6 +44,7 @@ FenetreCiel::FenetreCiel(Scene &scene, QWidget *parent)
     surface->interligne = Interligne(*surface, *this);
   }
   Branche();
+  ReprendSaTaille();
   toile_.setFocus(Qt::OtherFocusReason);
 }
 
@@ -76,10 +78,28 @@ bool FenetreCiel::Touche(int touche) {
   case Qt::Key_Enter:
     scene().Joue([this] { ciel::PrendAstre(bureau_); });
     return true;
+  case Qt::Key_Plus:
+  case Qt::Key_Equal: // the key of the plus sign on many keyboards
+    scene().Joue([this] { ClicControle(bureau_, bureau_.ciel.Avance); });
+    return true;
+  case Qt::Key_Minus:
+    scene().Joue([this] { ClicControle(bureau_, bureau_.ciel.Recule); });
+    return true;
   default:
     return false;
   }
 }
+
+/// The steps of time have their keys in the whole window.
+void FenetreCiel::keyPressEvent(QKeyEvent *event) {
+  const int touche = event->key();
+  const bool pas = touche == Qt::Key_Plus || touche == Qt::Key_Equal || touche == Qt::Key_Minus;
+  if (!pas || event->modifiers().testFlag(Qt::ControlModifier) || !Touche(touche)) {
+    Dialogue::keyPressEvent(event);
+  }
+}
+
+double FenetreCiel::EchelleVoulue() const { return EchelleCiel(bureau_, width(), height()); }
 
 void FenetreCiel::AccordeFenetre() {
   Dialogue::AccordeFenetre();
@@ -95,6 +115,7 @@ void FenetreCiel::AccordeFenetre() {
 
 void FenetreCiel::resizeEvent(QResizeEvent *event) {
   Dialogue::resizeEvent(event);
+  Echelonne();
   Redimensionne();
 }
 

@@ -16,7 +16,9 @@ public:
 
 protected:
   void AccordeFenetre() override;
+  double EchelleVoulue() const override;
   void Redimensionne() override;
+  void keyPressEvent(QKeyEvent *event) override;
   void resizeEvent(QResizeEvent *event) override;
 
 private:

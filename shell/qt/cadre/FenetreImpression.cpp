@@ -16,21 +16,44 @@
 #include <utility>
 
 namespace velmaris::qt {
+namespace {
+
+constexpr QSize kPlusPetite(480, 360);
+
+} // namespace
 
 FenetreImpression::FenetreImpression(Scene &scene, QWidget *parent)
-    : Dialogue(scene, scene.bureau().impression.cadre, parent), page_(scene.bureau().impression) {
+    : Dialogue(scene, scene.bureau().impression.cadre, parent, Etirable::Grandit), page_(scene.bureau().impression) {
   // A window of its own: as a dialog of the main one it would stay over it.
   setWindowFlags(Qt::Window | Qt::WindowTitleHint | Qt::WindowSystemMenuHint | Qt::WindowMinimizeButtonHint |
                  Qt::WindowCloseButtonHint);
   create();
   windowHandle()->setTransientParent(nullptr);
+  setMinimumSize(kPlusPetite);
+  taille_ = scene.bureau().taille;
+  ReprendSaTaille();
   Centre();
   connect(qGuiApp, &QGuiApplication::focusWindowChanged, this, [this](const QWindow *devant) { Note(devant); });
 }
 
-void FenetreImpression::Redimensionne() {
-  Dialogue::Redimensionne();
-  Centre();
+double FenetreImpression::EchelleVoulue() const { return EchellePage(page_.cadre, width(), height()); }
+
+/// The page fills its window, whose size is its user's.
+void FenetreImpression::Redimensionne() { update(); }
+
+void FenetreImpression::resizeEvent(QResizeEvent *event) {
+  Dialogue::resizeEvent(event);
+  Echelonne();
+}
+
+/// Another size of everything is one of the page too.
+void FenetreImpression::AccordeTaille() {
+  if (std::exchange(taille_, scene().bureau().taille) != taille_) {
+    const QSize libre = screen()->availableSize();
+    const double echelle = EchelleDialogue(scene().bureau(), page_.cadre, libre.width(), libre.height());
+    resize((QSizeF(page_.cadre.largeur, page_.cadre.hauteur) * echelle / kUnitesParPixel).toSize());
+    Centre();
+  }
 }
 
 /// The toolkit would set it over the middle of the main window, without a thought for its title.
@@ -48,6 +71,7 @@ void FenetreImpression::Note(const QWindow *devant) {
 }
 
 void FenetreImpression::AccordeFenetre() {
+  AccordeTaille();
   Dialogue::AccordeFenetre();
   std::vector<Controle> voulus;
   PourChaque(page_, [&](const LigneImpression &, const Controle &c) {

@@ -29,6 +29,7 @@ void Libres::Accorde() {
     Dialogue *fenetre = ouvertes_.value(cadre);
     if (!cadre->visible && fenetre != nullptr) {
       ouvertes_.remove(cadre);
+      fenetre->GardeSaTaille();
       scene_.Congedie(*fenetre);
     } else if (cadre->visible && fenetre == nullptr && !bureau.termine) {
       fenetre = Cree(scene_, *cadre, principale_);

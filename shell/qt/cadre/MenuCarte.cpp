@@ -12,10 +12,10 @@ namespace {
 void Remplit(QMenu &qt, QWidget &parent, Scene &scene, const ListeControles &controles, std::string_view menu) {
   qt.setToolTipsVisible(true);
   for (Controle *c : controles) {
-    if (c->parent != menu) {
+    if (c->parent != menu || !c->visible) {
       continue;
     }
-    const QString legende = QString::fromStdString(c->legende);
+    const QString legende = QString::fromStdString(c->legende).replace('&', "&&"); // a file's name has no key
     if (c->genre == Genre::Menu) {
       Remplit(*qt.addMenu(legende), parent, scene, controles, c->nom);
     } else if (c->genre == Genre::Separateur) {

@@ -3,6 +3,7 @@
 #include "shell/qt/cadre/Dialogue.hpp"
 #include "shell/qt/peinture/Apparat.hpp"
 #include "shell/qt/peinture/Toile.hpp"
+#include "shell/qt/systeme/Images.hpp"
 #include "shell/qt/systeme/Imprimante.hpp"
 #include "shell/qt/systeme/Liens.hpp"
 
@@ -115,6 +116,11 @@ QWidget *FenetreDevant(QWidget &principale, std::string_view nom) {
 Boites::Boites(Bureau &bureau) : bureau_(bureau) {
   bureau.ports.boite = [this](const Boite &boite) { return Montre(boite); };
   bureau.ports.jette = Jette;
+  bureau.ports.copieTexte = [](const std::string &texte) {
+    QGuiApplication::clipboard()->setText(QString::fromStdString(texte));
+  };
+  bureau.ports.copieImage = [](const Surface &surface) { QGuiApplication::clipboard()->setImage(ImageDe(surface)); };
+  bureau.ports.image = OctetsImage;
   bureau.ports.largeurTexte = [](const std::string &texte, double taille, bool gras) {
     QFont police = QApplication::font();
     police.setPointSizeF(taille);

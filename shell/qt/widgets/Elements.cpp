@@ -10,15 +10,21 @@
 #include <QPainter>
 #include <QSignalBlocker>
 #include <QStyle>
+#include <QStyleOptionComboBox>
 #include <QStyleOptionFocusRect>
+#include <QStylePainter>
 #include <QWheelEvent>
 
+#include <algorithm>
 #include <utility>
 
 namespace velmaris::qt {
 namespace {
 
-constexpr int kHautTitre = 20; ///< pixels of a module's title band at scale 1
+constexpr int kHautTitre = 20;        ///< pixels of a module's title band at scale 1
+constexpr double kPlaceFleche = 10;   ///< from the right edge of a closed list to the middle of its arrow
+constexpr double kMiFleche = 3.5;     ///< half its width, and its height
+constexpr double kTraitFleche = 1.25; ///< width of its strokes
 
 } // namespace
 
@@ -120,6 +126,27 @@ void Deroulante::changeEvent(QEvent *event) {
   if (event->type() == QEvent::PaletteChange) {
     Noircit();
   }
+}
+
+void Deroulante::paintEvent(QPaintEvent * /*event*/) {
+  QStylePainter p(this);
+  QStyleOptionComboBox option;
+  initStyleOption(&option);
+  option.subControls &= ~QStyle::SubControls(QStyle::SC_ComboBoxArrow);
+  p.drawComplexControl(QStyle::CC_ComboBox, option);
+  if (currentIndex() < 0 && !placeholderText().isEmpty()) {
+    option.palette.setBrush(QPalette::ButtonText, option.palette.placeholderText());
+    option.currentText = placeholderText();
+  }
+  const double g = Grandeur(*this);
+  QStyleOptionComboBox mots = option;
+  mots.rect.adjust(0, 0, -static_cast<int>(std::max(0.0, g - 1) * kPlaceFleche), 0);
+  p.drawControl(QStyle::CE_ComboBoxLabel, mots);
+  const QPointF pointe(width() - kPlaceFleche * g, height() / 2.0 + kMiFleche * g / 2);
+  p.setRenderHint(QPainter::Antialiasing);
+  p.setPen(QPen(option.palette.color(QPalette::ButtonText), kTraitFleche * g, Qt::SolidLine, Qt::RoundCap));
+  p.drawLine(pointe, pointe - QPointF(kMiFleche, kMiFleche) * g);
+  p.drawLine(pointe, pointe - QPointF(-kMiFleche, kMiFleche) * g);
 }
 
 void Deroulante::wheelEvent(QWheelEvent *event) {

@@ -72,13 +72,15 @@ protected:
   void paintEvent(QPaintEvent *event) override;
 };
 
-/// A closed list that the wheel turns only while it has the keyboard: a wheel that passes over it chooses nothing.
+/// A closed list that the wheel turns only while it has the keyboard: a wheel that passes over it chooses nothing. Its
+/// arrow is drawn by the window's scale, where the toolkit's own has one size on every screen.
 class Deroulante : public QComboBox {
 public:
   explicit Deroulante(QWidget *parent);
 
 protected:
   void changeEvent(QEvent *event) override;
+  void paintEvent(QPaintEvent *event) override;
   void wheelEvent(QWheelEvent *event) override;
 
 private:

@@ -15,6 +15,7 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QSlider>
+#include <QTimer>
 
 #include <algorithm>
 
@@ -24,6 +25,7 @@ namespace {
 
 constexpr int kMargePoussoir = 8; ///< pixels that a button keeps around its caption, at scale 1
 constexpr int kEcartIcone = 4;    ///< between its picture and its caption
+constexpr int kClicLong = 600;    ///< milliseconds
 constexpr int kGrandeIcone = 26;  ///< and of the side of its picture, at most
 
 Qt::Alignment Alignement(Cote cote) {
@@ -146,6 +148,9 @@ public:
   ABouton(QAbstractButton *bouton, bool marque) : De(bouton), marque_(marque) {}
   void Ecoute(Bureau &bureau, Controle &c, const Joueur &joue) override {
     QObject::connect(&w, &QAbstractButton::clicked, &w, Clic(bureau, c, joue));
+    if (velmaris::Ecoute(c, Evenement::ClicLong)) {
+      EcouteLong(bureau, c, joue);
+    }
   }
 
 protected:
@@ -158,6 +163,21 @@ protected:
   }
 
 private:
+  /// Held down for a while: the press is then no click any more.
+  void EcouteLong(Bureau &bureau, Controle &c, const Joueur &joue) {
+    auto *tenue = new QTimer(&w);
+    tenue->setSingleShot(true);
+    tenue->setInterval(kClicLong);
+    QObject::connect(&w, &QAbstractButton::pressed, tenue, qOverload<>(&QTimer::start));
+    QObject::connect(&w, &QAbstractButton::released, tenue, &QTimer::stop);
+    tenue->callOnTimeout(&w, [this, &bureau, &c, joue] {
+      if (w.isDown()) {
+        w.setDown(false);
+        joue([&] { ClicLongControle(bureau, c); });
+      }
+    });
+  }
+
   /// Pixels beside mark and picture.
   double Place() const {
     const int marge = marque_ ? LargeurMarque(w) : Pixels(kMargePoussoir, w);

@@ -130,6 +130,19 @@ TEST_F(EchelleEcran, AWindowOverTheMainOneFitsItsScreen) {
   EXPECT_DOUBLE_EQ(EchelleDialogue(bureau, petite, 1024, 600), 0.8);
 }
 
+TEST_F(EchelleEcran, TheSkyWindowScalesDownUntilItsStripFitsAndNeverUp) {
+  Demarre(EcranDe(1920, 1080, 1080));
+  EXPECT_DOUBLE_EQ(EchelleCiel(bureau, 1900, 1000), bureau.ecran.echelle);
+  EXPECT_LE(12900 * EchelleCiel(bureau, 640, 1000) / 15, 640);
+  EXPECT_LE((2070 + 255 + 400) * EchelleCiel(bureau, 1900, 300) / 15, 300);
+}
+
+TEST_F(EchelleEcran, ThePrintPageFillsItsWindow) {
+  const CadreFenetre cadre{"page", "", 15000, 10000};
+  EXPECT_DOUBLE_EQ(EchellePage(cadre, 1500, 5000), 1.5);
+  EXPECT_DOUBLE_EQ(EchellePage(cadre, 5000, 500), 0.75);
+}
+
 TEST_F(EchelleEcran, F11FillsTheScreenAndGivesItBack) {
   Demarre();
   EXPECT_TRUE(Donnees_KeyDown(bureau, kToucheF1 + 10));
