@@ -115,7 +115,7 @@ TEST_F(Programme, FunctionKeysWorkAndTheSliderStaysWithinItsLimits) {
   EXPECT_EQ(d.Text3.texte, "07");
   EXPECT_TRUE(Donnees_KeyDown(bureau, 113));
   EXPECT_EQ(boites.size(), 1U);
-  EXPECT_FALSE(Donnees_KeyDown(bureau, 123)) << "F12 means nothing";
+  EXPECT_FALSE(Donnees_KeyDown(bureau, 124)) << "there is no F13";
 }
 
 TEST_F(Programme, AFailureUnderAFunctionKeyIsPassedOverAndUnderAButtonIsNot) {

