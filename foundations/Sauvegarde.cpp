@@ -55,12 +55,12 @@ void Meurt(int signal) {
 
 } // namespace
 
-Sauvegarde::Sauvegarde(fs::path fichier, const fs::path &derniere)
-    : fichier_(std::move(fichier)), provisoire_(fichier_.string() + ".ecrit") {
+Sauvegarde::Sauvegarde(fs::path fichier, fs::path derniere)
+    : fichier_(std::move(fichier)), derniere_(std::move(derniere)), provisoire_(fichier_.string() + ".ecrit") {
   std::error_code refus;
   fs::create_directories(fichier_.parent_path(), refus);
-  if (TientVerrou() && fs::exists(fichier_, refus)) {
-    fs::rename(fichier_, derniere, refus);
+  if (PrendTour()) {
+    misDeCote_ = true;
   }
   ouvrier_ = std::thread([this] { Travaille(); });
 }
@@ -97,6 +97,22 @@ bool Sauvegarde::TientVerrou() {
   return numeroVerrou_ >= 0;
 }
 
+/// Takes the turn of keeping the file where that is free; what another program has left there is set aside.
+/// @return whether there was something
+bool Sauvegarde::PrendTour() {
+  if (numeroVerrou_ >= 0 || !TientVerrou()) {
+    return false;
+  }
+  std::error_code refus;
+  fs::rename(fichier_, derniere_, refus);
+  return !refus;
+}
+
+bool Sauvegarde::tenue() {
+  const std::lock_guard verrou(mutex_);
+  return numeroVerrou_ >= 0;
+}
+
 void Sauvegarde::Donne(std::string texte) {
   const std::lock_guard verrou(mutex_);
   if (fini_ || (donnees_ > 0 && texte == donnee_)) {
@@ -114,6 +130,17 @@ void Sauvegarde::Donne(std::string texte) {
 void Sauvegarde::Attend() {
   std::unique_lock verrou(mutex_);
   signal_.wait(verrou, [this] { return fini_ || traitees_ == donnees_; });
+}
+
+void Sauvegarde::Retire() {
+  std::unique_lock verrou(mutex_);
+  signal_.wait(verrou, [this] { return fini_ || traitees_ == donnees_; });
+  delete aFinir_.exchange(nullptr);
+  donnee_.clear();
+  if (numeroVerrou_ >= 0) {
+    std::error_code refus;
+    fs::remove(fichier_, refus);
+  }
 }
 
 void Sauvegarde::Abandonne() {
@@ -147,7 +174,8 @@ void Sauvegarde::Arrete() {
 void Sauvegarde::Ecrit(std::unique_lock<std::mutex> &verrou) {
   const std::uint64_t rang = donnees_;
   const std::string texte = donnee_;
-  const bool tenu = TientVerrou();
+  PrendTour();
+  const bool tenu = numeroVerrou_ >= 0;
   verrou.unlock();
   const bool ecrit = tenu && !mourante_ && Remplace(provisoire_.c_str(), fichier_.c_str(), texte);
   verrou.lock();

@@ -19,7 +19,7 @@ public:
   /// read, unless another program keeps it now.
   /// @param fichier   the file that is kept
   /// @param derniere  the name that an earlier one is set aside under; an older one of that name goes
-  Sauvegarde(std::filesystem::path fichier, const std::filesystem::path &derniere);
+  Sauvegarde(std::filesystem::path fichier, std::filesystem::path derniere);
   /// Waits until what was given is written; the file stays.
   ~Sauvegarde();
   Sauvegarde(const Sauvegarde &) = delete;
@@ -37,6 +37,15 @@ public:
   /// The file isn't needed any more: it goes, and nothing more is written.
   void Abandonne();
 
+  /// What was given isn't to be kept: the file goes, and the next text makes it anew.
+  void Retire();
+
+  /// Whether a file that an earlier program left was set aside at the start.
+  bool misDeCote() const { return misDeCote_; }
+
+  /// Whether this program keeps the file, and no other.
+  bool tenue();
+
   /// How often the file was written.
   std::uint64_t ecritures() const { return ecritures_; }
 
@@ -51,13 +60,16 @@ private:
   friend void FinitSauvegardes() noexcept;
 
   bool TientVerrou();
+  bool PrendTour();
   std::string NomVerrou() const;
   void Ecrit(std::unique_lock<std::mutex> &verrou);
   void Travaille();
   void Arrete();
 
   std::filesystem::path fichier_;
+  std::filesystem::path derniere_;
   std::string provisoire_;
+  bool misDeCote_ = false;
   int numeroVerrou_ = -1; ///< of the lock's file, held while this program keeps the file
   std::mutex mutex_;
   std::condition_variable signal_;

@@ -8,6 +8,7 @@
 #include <csignal>
 #include <cstdlib>
 #include <filesystem>
+#include <memory>
 #include <string>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -52,6 +53,33 @@ TEST_F(Garde, OfManyTextsInARowOnlyAFewAreWritten) {
   garde.Attend();
   EXPECT_EQ(LitFichier(fichier), "9999");
   EXPECT_LT(garde.ecritures(), 100U);
+}
+
+TEST_F(Garde, WhatIsTakenOutGoesAndTheNextTextMakesTheFileAnew) {
+  Sauvegarde garde(fichier, derniere);
+  garde.Donne("un");
+  garde.Retire();
+  EXPECT_FALSE(fs::exists(fichier));
+  garde.Donne("un");
+  garde.Attend();
+  EXPECT_EQ(LitFichier(fichier), "un");
+}
+
+TEST_F(Garde, AFileOfAProgramThatHasDiedIsSetAsideAlsoWhenItsTurnComesLater) {
+  auto premiere = std::make_unique<Sauvegarde>(fichier, derniere);
+  EXPECT_FALSE(premiere->misDeCote());
+  EXPECT_TRUE(premiere->tenue());
+  premiere->Donne("de la première");
+  premiere->Attend();
+  Sauvegarde seconde(fichier, derniere);
+  EXPECT_FALSE(seconde.misDeCote()); // it lives
+  EXPECT_FALSE(seconde.tenue());
+  premiere.reset();
+  seconde.Donne("de la seconde");
+  seconde.Attend();
+  EXPECT_EQ(LitFichier(fichier), "de la seconde");
+  EXPECT_EQ(LitFichier(derniere), "de la première");
+  EXPECT_FALSE(seconde.misDeCote());
 }
 
 TEST_F(Garde, TheSameTextIsNotWrittenAgain) {
