@@ -38,6 +38,7 @@ struct Feuille {
   std::uint8_t TransportEnCours = 0; ///< 1 while a line is drawn without its mile ticks
   std::string LabLon;                ///< caption under the sheet
   std::string LabLat;                ///< caption beside it, one letter a line
+  bool operator==(const Feuille &) const = default;
 };
 
 /// Colour of a body: Sun blue, Moon grey, planets magenta, stars green.

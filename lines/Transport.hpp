@@ -18,6 +18,7 @@ struct Transports {
   float LonEstimeTransport = 0.0F;  ///< degrees, west positive
   float PointX = 0.0F;              ///< where a carried line is drawn from, on the surface
   float PointY = 0.0F;
+  bool operator==(const Transports &) const = default;
 };
 
 /// Draws a line through the point of another one, in green, with a circle there.

@@ -14,6 +14,7 @@ struct AffichageDroite {
   std::string azimut;                 ///< Affichage_Azimuth, degrees as "##0.0#"
   std::string infobulle;              ///< tool tip of Label14: the computed height
   std::array<std::string, 8> details; ///< Label70 (0) to (7)
+  bool operator==(const AffichageDroite &) const = default;
 };
 
 /// A height as whole degrees, "° ", whole minutes, "'": floor of both, unpadded, never rounded up.

@@ -48,6 +48,7 @@ struct Observation {
   int planete = -1;                       ///< Combo7, list index, -1 for none
   int etoile = -1;                        ///< Combo6, list index, -1 for none
   Couleur couleurFraction = kNoir;        ///< colour of Text25: red warns of more than 60 seconds
+  bool operator==(const Observation &) const = default;
 };
 
 /// What a sight leaves for the rest of the program.
@@ -58,6 +59,7 @@ struct ValeursVisee {
   float Azimut = 0.0F;          ///< degrees, of the current line
   float Intercept = 0.0F;       ///< minutes of arc, observed less computed height
   float HauteurCalculee = 0.0F; ///< degrees; the Sun's reduction leaves it alone
+  bool operator==(const ValeursVisee &) const = default;
 };
 
 /// Latitude of the estimated position by the rule of the fields.

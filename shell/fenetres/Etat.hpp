@@ -1,6 +1,7 @@
 #pragma once
 
 #include "shell/fenetres/Controles.hpp"
+#include "sights/JugementVisee.hpp"
 
 #include <array>
 #include <cstddef>
@@ -11,9 +12,8 @@ namespace velmaris {
 /// Name of the status line in language files.
 inline constexpr std::string_view kFenetreEtat = "Etat";
 
-/// Fields of a sight, whose ranges the status line tells.
-inline constexpr std::size_t kChampsVisee = 15;
-/// Fields and lists of the main window that have names of their own; their ranges stand in the same order.
+/// Fields and lists of the main window that have names of their own, those of a sight first; their ranges stand in the
+/// same order.
 inline constexpr std::size_t kChampsNommes = 36;
 
 /// The line under the drawing surface: where the pointer is, what a refused field takes, what a tool waits for, why a
@@ -27,6 +27,8 @@ struct Etat {
   Controle TexteModule, TexteDepart, TexteBranche, TexteCapsDepart, TexteCapsArrivee;
   Controle TexteRefus, TexteSansCalcul, TexteSansDistance, TexteBorneZoom;
   Controle TexteCopie, TexteSansCopie, TexteSansModule, TexteSansLecture;
+  Controle TexteManque, TexteHorsBornes, TexteResultatPerime;
+  Controle TexteAnnule, TexteRetabli, TexteRienAnnuler, TexteRienRetablir;
 
   std::string avis; ///< told for a while
   int restant = 0;  ///< beats of the clock that it is still told

@@ -4,19 +4,23 @@
 #include "foundations/TexteNombre.hpp"
 #include "shell/bureau/Evenements.hpp"
 #include "shell/visee/Astres.hpp"
+#include "sights/JugementVisee.hpp"
 
 #include <algorithm>
-#include <limits>
 
 namespace velmaris {
 namespace {
 
-constexpr double kAnneeMax = 5000;
+/// The limits of a field of the sight.
+Bornes BornesDe(const Bureau &bureau, const Controle &champ) {
+  return BornesDuChamp(static_cast<std::size_t>(champ.parIndice),
+                       bureau.donnees.Option5[0].choisi ? Horizon::Naturel : Horizon::Artificiel);
+}
 
 /// Leaves a field that holds a text: a value outside its limits empties it, else the text takes its form.
 /// @return whether the value was accepted
-bool QuitteAvec(Bureau &bureau, Controle &champ, const std::string &texte, double minimum, double maximum,
-                std::string_view masque, char signeDecimal) {
+bool QuitteAvec(Bureau &bureau, Controle &champ, const std::string &texte, std::string_view masque, char signeDecimal) {
+  const auto [minimum, maximum] = BornesDe(bureau, champ);
   const double valeur = Val(texte);
   const bool accepte = valeur >= minimum && valeur <= maximum;
   PoseTexte(bureau, champ, accepte ? Format(texte, masque, signeDecimal) : std::string());
@@ -24,15 +28,15 @@ bool QuitteAvec(Bureau &bureau, Controle &champ, const std::string &texte, doubl
 }
 
 /// Leaves a field of whole numbers; a comma counts as the point, so that the field shows what is used.
-bool Quitte(Bureau &bureau, Controle &champ, double minimum, double maximum, std::string_view masque) {
-  return QuitteAvec(bureau, champ, AvecPoint(champ.texte), minimum, maximum, masque, '.');
+bool Quitte(Bureau &bureau, Controle &champ, std::string_view masque) {
+  return QuitteAvec(bureau, champ, AvecPoint(champ.texte), masque, '.');
 }
 
 /// Leaves a field that holds a decimal comma.
-void QuitteVirgule(Bureau &bureau, Controle &champ, double minimum, double maximum) {
+void QuitteVirgule(Bureau &bureau, Controle &champ) {
   std::string texte = champ.texte;
   std::replace(texte.begin(), texte.end(), '.', ',');
-  QuitteAvec(bureau, champ, texte, minimum, maximum, "#0.0", ',');
+  QuitteAvec(bureau, champ, texte, "#0.0", ',');
 }
 
 int Choisie(const auto &options) {
@@ -127,10 +131,10 @@ void PoseReduction(Bureau &bureau, const Observation &observation) {
 
 void TDate_Quitte(Bureau &bureau, int indice) {
   Controle &champ = bureau.donnees.TDate.at(static_cast<std::size_t>(indice));
-  const double maximum = indice == 0 ? 31 : indice == 1 ? 12 : kAnneeMax;
+  const auto [minimum, maximum] = BornesDe(bureau, champ);
   std::string texte;
   const double valeur = Val(champ.texte);
-  if (valeur >= 0 && valeur <= maximum) {
+  if (valeur >= minimum && valeur <= maximum) {
     const bool annee = indice == 2;
     texte = Format(annee && valeur < 100 ? valeur + 2000.0 : valeur, annee ? "0000" : "00");
   }
@@ -143,19 +147,15 @@ void Text3_Quitte(Bureau &bureau, int /*indice*/) {
   }
 }
 
-bool QuitteMinutes(Bureau &bureau, Controle &champ) { return Quitte(bureau, champ, 0, 60, "00"); }
+bool QuitteMinutes(Bureau &bureau, Controle &champ) { return Quitte(bureau, champ, "00"); }
 
-void QuitteDegres(Bureau &bureau, Controle &champ) { Quitte(bureau, champ, 0, 180, "#00"); }
+void QuitteDegres(Bureau &bureau, Controle &champ) { Quitte(bureau, champ, "#00"); }
 
-void Text10_Quitte(Bureau &bureau, int /*indice*/) {
-  QuitteVirgule(bureau, bureau.donnees.Text10, 0, std::numeric_limits<double>::infinity());
-}
+void Text10_Quitte(Bureau &bureau, int /*indice*/) { QuitteVirgule(bureau, bureau.donnees.Text10); }
 
-void Text11_Quitte(Bureau &bureau, int /*indice*/) { QuitteVirgule(bureau, bureau.donnees.Text11, -60, 60); }
+void Text11_Quitte(Bureau &bureau, int /*indice*/) { QuitteVirgule(bureau, bureau.donnees.Text11); }
 
-void Text13_Quitte(Bureau &bureau, int /*indice*/) {
-  Quitte(bureau, bureau.donnees.Text13, 0, bureau.donnees.Option5[0].choisi ? 90 : 180, "00");
-}
+void Text13_Quitte(Bureau &bureau, int /*indice*/) { Quitte(bureau, bureau.donnees.Text13, "00"); }
 
 void TDate_Change(Bureau &bureau, int /*indice*/) {
   Donnees &d = bureau.donnees;
