@@ -3,8 +3,10 @@
 #include "foundations/Erreur.hpp"
 #include "foundations/Fichiers.hpp"
 #include "foundations/Sauvegarde.hpp"
-#include "foundations/TexteNombre.hpp"
+#include "lines/FichierLoP.hpp"
 #include "shell/carte/FichierObjets.hpp"
+#include "shell/visee/EtatPanneau.hpp"
+#include "shell/visee/ReduitVisee.hpp"
 
 #include <algorithm>
 #include <charconv>
@@ -14,39 +16,22 @@
 namespace velmaris {
 namespace {
 
-constexpr std::string_view kTitre = "velmaris reprise 1"; ///< of this form of the file
+constexpr std::string_view kTitre = "velmaris reprise 2"; ///< of this form of the file
 constexpr std::string_view kFin = "fin";
 constexpr std::string_view kControle = "controle"; ///< name, index, value
-constexpr std::string_view kFeuille = "feuille";   ///< latitude and longitude of its origin, grid
+constexpr std::string_view kFeuille = "feuille";   ///< latitude and longitude of its origin, grid, chart
 constexpr std::string_view kDroites = "droites";   ///< four colours
 constexpr std::string_view kTransports = "transports";
-constexpr std::string_view kEstime = "estime";
+constexpr std::string_view kEstime = "estime";     ///< latitude and longitude, their captions
+constexpr std::string_view kValeurs = "valeurs";   ///< six figures of a reduction
+constexpr std::string_view kResultat = "resultat"; ///< body, intercept, azimuth, tool tip, eight details
+constexpr std::string_view kReduite = "reduite";   ///< the sight that was reduced, as its file
 constexpr std::string_view kObjets = "objets";
+constexpr std::ptrdiff_t kPremierDetail = 5; ///< part of a result's line
+constexpr std::size_t kPartiesResultat = 12;
 constexpr char kSeparateur = '\t';
 
 std::string Booleen(bool vrai) { return vrai ? "1" : "0"; }
-
-/// What a control holds by its user's doing.
-/// @return nothing for one that its user can't change
-std::optional<std::string> Valeur(const Controle &c) {
-  switch (c.genre) {
-  case Genre::Champ:
-    return c.lectureSeule ? std::nullopt : std::optional(c.texte);
-  case Genre::Option:
-    return Booleen(c.choisi);
-  case Genre::Case:
-  case Genre::Curseur:
-    return std::to_string(c.valeur);
-  case Genre::Liste:
-    return std::to_string(c.rang) + " " + c.texte;
-  case Genre::Cadre:
-    return c.titre ? std::optional(Booleen(c.visible) + " " + TexteGeneral(c.place.gauche) + " " +
-                                   TexteGeneral(c.place.haut))
-                   : std::nullopt;
-  default:
-    return std::nullopt;
-  }
-}
 
 /// A text in one line without the separator.
 std::string Protege(std::string_view texte) {
@@ -94,6 +79,25 @@ void Ajoute(std::string &texte, std::string_view genre, std::initializer_list<st
   texte += '\n';
 }
 
+template <class Nombre> std::string Court(Nombre valeur) {
+  std::array<char, 32> texte{};
+  return {texte.data(), std::to_chars(texte.data(), texte.data() + texte.size(), valeur).ptr};
+}
+
+void AjouteResultat(std::string &texte, const EtatResultat &r) {
+  const ValeursVisee &v = r.visee;
+  const AffichageDroite &a = r.affichage;
+  const auto &d = a.details;
+  Ajoute(texte, kValeurs,
+         {Court(v.LatEstimee), Court(v.LonEstimee), Court(v.HeureDecimale), Court(v.Azimut), Court(v.Intercept),
+          Court(v.HauteurCalculee)});
+  Ajoute(texte, kResultat,
+         {r.astre, a.intercept, a.azimut, a.infobulle, d[0], d[1], d[2], d[3], d[4], d[5], d[6], d[7]});
+  if (r.reduite) {
+    Ajoute(texte, kReduite, {EcritLoP(*r.reduite)});
+  }
+}
+
 std::vector<std::string> Parties(std::string_view ligne) {
   std::vector<std::string> parties;
   while (true) {
@@ -117,9 +121,21 @@ template <class Nombre> Nombre LitExact(const std::string &texte) {
   return nombre;
 }
 
-std::string Court(float valeur) {
-  std::array<char, 32> texte{};
-  return {texte.data(), std::to_chars(texte.data(), texte.data() + texte.size(), valeur).ptr};
+Observation LitReduite(const std::string &texte) {
+  TableLoP table;
+  LitLignesLoP(texte, table);
+  Observation observation;
+  AppliqueLoP(table, observation);
+  return observation;
+}
+
+void LitResultat(const std::vector<std::string> &p, EtatResultat &resultat) {
+  AffichageDroite &a = resultat.affichage;
+  resultat.astre = p[1];
+  a.intercept = p[2];
+  a.azimut = p[3];
+  a.infobulle = p[4];
+  std::copy_n(p.begin() + kPremierDetail, a.details.size(), a.details.begin());
 }
 
 /// One line of the file, by its kind and the number of its parts.
@@ -127,19 +143,29 @@ std::string Court(float valeur) {
 void LitLigne(const std::vector<std::string> &p, Session &session) {
   EtatFeuille &f = session.feuille;
   const auto est = [&](std::string_view genre, std::size_t nombre) { return p[0] == genre && p.size() == nombre + 1; };
+  ValeursVisee &v = session.resultat.visee;
   if (est(kControle, 3)) {
     session.controles.push_back({p[1], LitExact<int>(p[2]), p[3]});
-  } else if (est(kFeuille, 3)) {
+  } else if (est(kFeuille, 4)) {
     f.origine = {LitExact<float>(p[1]), LitExact<float>(p[2])};
     f.grille = p[3] == "1";
+    f.carte = p[4] == "1";
   } else if (est(kDroites, f.droites.size())) {
     std::transform(p.begin() + 1, p.end(), f.droites.begin(), LitExact<Couleur>);
   } else if (est(kTransports, 3)) {
     f.transportsDroite = p[1];
     f.cible = p[2];
     f.transportsEstime = p[3];
-  } else if (est(kEstime, 2)) {
+  } else if (est(kEstime, 4)) {
     f.estime = {LitExact<float>(p[1]), LitExact<float>(p[2])};
+    f.estimeDite = {p[3], p[4]};
+  } else if (est(kValeurs, 6)) {
+    v = {LitExact<float>(p[1]), LitExact<float>(p[2]), LitExact<double>(p[3]),
+         LitExact<float>(p[4]), LitExact<float>(p[5]), LitExact<float>(p[6])};
+  } else if (est(kResultat, kPartiesResultat)) {
+    LitResultat(p, session.resultat);
+  } else if (est(kReduite, 1)) {
+    session.resultat.reduite = LitReduite(p[1]);
   } else if (est(kObjets, 1)) {
     session.objets = p[1];
   } else {
@@ -151,11 +177,8 @@ void LitLigne(const std::vector<std::string> &p, Session &session) {
 
 Session PriseSession(Bureau &bureau) {
   Session session;
-  PourChaque(bureau.donnees, [&](const LigneDonnees &, const Controle &c) {
-    if (std::optional<std::string> valeur = Valeur(c)) {
-      session.controles.push_back({c.nom, c.indice, std::move(*valeur)});
-    }
-  });
+  session.controles = PriseControles(bureau.donnees);
+  session.resultat = PriseResultat(bureau);
   const Transports &t = bureau.transports;
   EtatFeuille &f = session.feuille;
   f.origine = bureau.feuille.OrigineFeuille;
@@ -166,6 +189,8 @@ Session PriseSession(Bureau &bureau) {
   f.cible = t.CibleTransport;
   f.transportsEstime = t.ListeTransportEstime;
   f.estime = {t.LatEstimeTransport, t.LonEstimeTransport};
+  f.estimeDite = {bureau.donnees.LabLatEst.legende, bureau.donnees.LabLonEst.legende};
+  f.carte = !DessinsCarte(bureau).empty();
   if (bureau.utilisateur.Modifie != 0) {
     session.objets = TexteObjets(bureau.utilisateur);
   }
@@ -178,11 +203,12 @@ std::string TexteSession(const Session &session) {
     Ajoute(texte, kControle, {c.nom, std::to_string(c.indice), c.valeur});
   }
   const EtatFeuille &f = session.feuille;
-  Ajoute(texte, kFeuille, {Court(f.origine.latitude), Court(f.origine.longitude), Booleen(f.grille)});
+  Ajoute(texte, kFeuille, {Court(f.origine.latitude), Court(f.origine.longitude), Booleen(f.grille), Booleen(f.carte)});
   const auto couleur = [&](std::size_t i) { return std::to_string(f.droites.at(i)); };
   Ajoute(texte, kDroites, {couleur(0), couleur(1), couleur(2), couleur(3)});
   Ajoute(texte, kTransports, {f.transportsDroite, f.cible, f.transportsEstime});
-  Ajoute(texte, kEstime, {Court(f.estime.latitude), Court(f.estime.longitude)});
+  Ajoute(texte, kEstime, {Court(f.estime.latitude), Court(f.estime.longitude), f.estimeDite[0], f.estimeDite[1]});
+  AjouteResultat(texte, session.resultat);
   if (session.objets) {
     Ajoute(texte, kObjets, {*session.objets});
   }
@@ -205,11 +231,24 @@ std::optional<Session> LitSession(std::string_view texte) {
 void OuvreReprise(Bureau &bureau) {
   const std::filesystem::path &dossier = bureau.dossiers.utilisateur;
   bureau.reprise = std::make_unique<Sauvegarde>(dossier / kFichierReprise, dossier / kDerniereReprise);
+  bureau.sessionDepart = TexteSession(PriseSession(bureau));
+  std::string laissee;
+  if (bureau.reprise->misDeCote() && Passe([&] { laissee = LitFichier(dossier / kDerniereReprise); }) &&
+      LitSession(laissee)) {
+    // Until it is taken up or not it stays in its file: a death before that leaves it for another start.
+    bureau.reprise->Donne(laissee);
+    bureau.sessionLaissee = std::move(laissee);
+  }
 }
 
 void GardeSession(Bureau &bureau) {
-  if (bureau.reprise) {
-    bureau.reprise->Donne(TexteSession(PriseSession(bureau)));
+  if (!bureau.reprise || !bureau.sessionLaissee.empty()) {
+    return;
+  }
+  std::string texte = TexteSession(PriseSession(bureau));
+  if (texte != bureau.sessionDepart) {
+    bureau.sessionDepart.clear();
+    bureau.reprise->Donne(std::move(texte));
   }
 }
 

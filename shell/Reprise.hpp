@@ -10,24 +10,17 @@
 
 namespace velmaris {
 
-/// What a control of the main window holds by its user's doing: a field's text, whether an option is chosen, the value
-/// of a box or the slider, the line of a list and its text, whether and where a module shows.
-struct EtatControle {
-  std::string nom;
-  int indice = -1;
-  std::string valeur;
-  bool operator==(const EtatControle &) const = default;
-};
-
 /// What lies on the sheet beside the panel's own sight.
 struct EtatFeuille {
-  Origine origine = kSansFeuille;   ///< of the sheet
-  bool grille = false;              ///< the grid is drawn
-  std::array<Couleur, 4> droites{}; ///< state of each stored line: the colour of its labels
-  std::string transportsDroite;     ///< lines carried to another line
-  std::string cible;                ///< that line's number
-  std::string transportsEstime;     ///< lines carried to the dead-reckoning point
-  Origine estime{0.0F, 0.0F};       ///< that point
+  Origine origine = kSansFeuille;        ///< of the sheet
+  bool grille = false;                   ///< the grid is drawn
+  std::array<Couleur, 4> droites{};      ///< state of each stored line: the colour of its labels
+  std::string transportsDroite;          ///< lines carried to another line
+  std::string cible;                     ///< that line's number
+  std::string transportsEstime;          ///< lines carried to the dead-reckoning point
+  Origine estime{0.0F, 0.0F};            ///< that point
+  std::array<std::string, 2> estimeDite; ///< and its captions
+  bool carte = false;                    ///< the chart lies on the surface
   bool operator==(const EtatFeuille &) const = default;
 };
 
@@ -35,6 +28,7 @@ struct EtatFeuille {
 struct Session {
   std::vector<EtatControle> controles; ///< of the main window, in the order of its table
   EtatFeuille feuille;
+  EtatResultat resultat;
   std::optional<std::string> objets; ///< lines of the user's objects, while they differ from their file
   bool operator==(const Session &) const = default;
 };
@@ -53,10 +47,12 @@ std::optional<Session> LitSession(std::string_view texte);
 inline constexpr const char *kFichierReprise = "reprise.txt";
 inline constexpr const char *kDerniereReprise = "reprise-derniere.txt";
 
-/// From here on the session is kept in the recovery file; one that was left there is set aside.
+/// From here on the session is kept in the recovery file; one that was left there by a program that has died is set
+/// aside, and kept in `sessionLaissee`.
 void OuvreReprise(Bureau &bureau);
 
-/// Keeps the session as it is now, in the background; where nothing has changed, nothing is written.
+/// Keeps the session as it is now, in the background; where nothing has changed, or nothing has been
+/// done since the start, nothing is written; nor before it is settled what becomes of a session that was left.
 void GardeSession(Bureau &bureau);
 
 /// The program ends in order: there is nothing to take up again.

@@ -1,6 +1,7 @@
 #include "shell/Sortie.hpp"
 
 #include "foundations/Erreur.hpp"
+#include "foundations/Sauvegarde.hpp"
 #include "lines/FichierLoP.hpp"
 #include "shell/Reprise.hpp"
 #include "shell/bureau/Explication.hpp"
@@ -101,7 +102,11 @@ void Secours(Bureau &bureau, const std::exception &erreur) {
   Patience derniere;
   RetenteJournal(bureau, derniere);
   const std::string suite = conservee ? d.TexteSecours.legende + "\n" + fichier.string() : d.TexteSansSecours.legende;
-  bureau.ports.boite({.texte = erreurDite + remede + "\n\n" + suite, .icone = Icone::Erreur});
+  Boite boite{.texte = erreurDite + remede + "\n\n" + suite, .icone = Icone::Erreur};
+  if (bureau.reprise && bureau.reprise->tenue()) {
+    boite.autre = d.TexteRecommencer.legende;
+  }
+  bureau.recommence = bureau.ports.boite(boite) && !boite.autre.empty();
 }
 
 } // namespace velmaris

@@ -66,6 +66,11 @@ Surface *SurfaceDe(Bureau &bureau, const Controle &controle) {
   return nullptr;
 }
 
+std::vector<Tranche> DessinsCarte(const Bureau &bureau) {
+  const CarteOuverte &carte = bureau.carte;
+  return carte.effacements == bureau.image1.effacements ? carte.dessins : std::vector<Tranche>();
+}
+
 std::string MotsErreur(const Donnees &donnees, int numero) {
   std::string mots = donnees.TexteErreur.legende + " " + std::to_string(numero);
   const auto *const nommee = std::find(kErreursNommees.begin(), kErreursNommees.end(), numero);

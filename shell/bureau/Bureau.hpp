@@ -12,6 +12,7 @@
 #include "lines/Feuille.hpp"
 #include "lines/FichierLoP.hpp"
 #include "lines/Transport.hpp"
+#include "shell/bureau/EtatRevocable.hpp"
 #include "shell/bureau/Ports.hpp"
 #include "shell/fenetres/Apropos.hpp"
 #include "shell/fenetres/Ciel.hpp"
@@ -29,6 +30,7 @@
 #include <filesystem>
 #include <map>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -105,6 +107,7 @@ struct Bureau {
   double hauteurFenetre = 0.0;           ///< of the main window, 1/1440 inch
   std::string titre = "Velmaris 2009";   ///< of the main window
   const Controle *focus = nullptr;       ///< control that asks for the focus
+  const Controle *champ = nullptr;       ///< field that the user has entered last
   const Controle *menu = nullptr;        ///< menu that asks to be opened
   const Controle *menuSous = nullptr;    ///< control that it opens under; null for the place of the last click
   Eclairage eclairage = Eclairage::Jour; ///< everything is painted for that light
@@ -140,14 +143,19 @@ struct Bureau {
   Transports transports;
   CarteOuverte carte;
   SourisCarte souris;
-  TableLoP lignesLoP;        ///< lines of the sight's file read last
-  bool sansQuestion = false; ///< lines are erased without asking for each, while all four are
-  std::string NomAstre;      ///< name of the body of the last reduced line
+  TableLoP lignesLoP;                      ///< lines of the sight's file read last
+  bool sansQuestion = false;               ///< lines are erased without asking for each, while all four are
+  std::string NomAstre;                    ///< name of the body of the last reduced line
+  std::optional<Observation> viseeReduite; ///< the sight whose results are shown
+  Annulations annulations;                 ///< what can be undone and redone
 
   Ports ports;
   Dossiers dossiers;
   std::unique_ptr<Valeurs> valeurs;          ///< the settings store
   std::unique_ptr<Sauvegarde> reprise;       ///< the recovery file; none where nothing is kept
+  std::string sessionLaissee;                ///< what the program before has left in it, until that is taken up or not
+  std::string sessionDepart;                 ///< the session while nothing has been done in it: there is none to keep
+  bool recommence = false;                   ///< the program that ends is to be started again, with its session
   EtatMagasin magasinSignale{};              ///< the trouble that has been told, none at first
   bool attenteSignalee = false;              ///< that another program holds the store has been told
   bool journalSignale = false;               ///< that the journal can't be written has been told
@@ -168,6 +176,9 @@ std::vector<CadreFenetre *> FenetresLibres(Bureau &bureau);
 /// The surface that a control of that kind shows.
 /// @return null for another control
 Surface *SurfaceDe(Bureau &bureau, const Controle &controle);
+
+/// Where the drawings of the chart stand in the list of the main window's surface.
+std::vector<Tranche> DessinsCarte(const Bureau &bureau);
 
 /// A run-time error in the user's language: its number, and its meaning on a line of its own.
 std::string MotsErreur(const Donnees &donnees, int numero);

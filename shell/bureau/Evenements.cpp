@@ -103,6 +103,7 @@ void BougeCurseur(Bureau &bureau, Controle &controle, int valeur) {
 
 void EntreChamp(Bureau &bureau, Controle &controle) {
   controle.toutSelectionne = true;
+  bureau.champ = &controle;
   Declenche(bureau, controle, Evenement::Entre);
 }
 

@@ -21,6 +21,7 @@ struct Boite {
   Icone icone = Icone::Aucune;
   bool question = false;
   bool nonParDefaut = false;
+  std::string autre = {};        ///< of a box that tells: caption of a second button; empty for none
   std::string adresse = {};      ///< shown under the text, to be copied
   std::string_view fenetre = {}; ///< name of the window that it belongs to; empty for the one that the user is in
 };
@@ -34,7 +35,7 @@ enum class FormeImage : std::uint8_t { Png, Svg, Pdf };
 
 /// What the core asks of the outside.
 struct Ports {
-  /// Shows a box and waits. @return true for Yes
+  /// Shows a box and waits. @return true for Yes, and for the second button of a box that has one
   std::function<bool(const Boite &)> boite = [](const Boite &) { return false; };
   /// Shows a window over the main one and waits until it is no longer visible.
   std::function<void(CadreFenetre &)> modale = [](CadreFenetre &) {};

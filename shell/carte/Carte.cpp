@@ -151,11 +151,6 @@ void OuvreCartes(Bureau &bureau) {
   surface.plumeLevee = true;
 }
 
-std::vector<Tranche> DessinsCarte(const Bureau &bureau) {
-  const CarteOuverte &carte = bureau.carte;
-  return carte.effacements == bureau.image1.effacements ? carte.dessins : std::vector<Tranche>();
-}
-
 void ChargePolygone(Bureau &bureau, std::string_view nom, Couleur couleur, std::optional<Teinte> teinte) {
   CarteOuverte &carte = bureau.carte;
   try {

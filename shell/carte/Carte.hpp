@@ -14,9 +14,6 @@ namespace velmaris {
 /// when that is over a second, and its tool tip how many points each file had.
 void OuvreCartes(Bureau &bureau);
 
-/// Where the drawings of the chart stand in the list of the main window's surface.
-std::vector<Tranche> DessinsCarte(const Bureau &bureau);
-
 /// Reads one polygon file and draws it, the shapes that its closed outlines enclose below everything else. A file that
 /// can't be read, or that has more points than the table, is told in a box and not drawn; one that was opened and not
 /// read to its end stays open, and no other can be opened until the next start.

@@ -14,6 +14,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
+constexpr std::int16_t kModifie = -1;                      ///< the tables differ from the file
 constexpr std::string_view kSupprime = "PlusRien";         ///< name of a deleted entry
 constexpr std::string_view kMarqueOctets = "\xEF\xBB\xBF"; ///< what another program's file may begin with
 constexpr int kSansChamp = 5;
@@ -75,6 +76,14 @@ std::optional<Arret> LitLignes(Utilisateur &u, std::string_view texte, std::stri
     }
   }
   return std::nullopt;
+}
+
+void VideTables(Utilisateur &u) {
+  u.tables.assign(kEntreesObjets, {});
+  u.List1.liste.clear();
+  u.List1.rang = -1;
+  u.etiquetteCommand1 = "0";
+  u.etiquetteCommand3.clear();
 }
 
 /// Puts a file out of the way of the one that replaces it, beside it and over none. Where it can be read it is copied,
@@ -146,14 +155,17 @@ std::string TexteObjets(const Utilisateur &fenetre) {
   return texte;
 }
 
+void RemetObjets(Utilisateur &u, std::string_view texte) {
+  VideTables(u);
+  std::string lues;
+  LitLignes(u, texte, lues);
+  u.Modifie = kModifie;
+}
+
 void LitFichier(Bureau &bureau) {
   Utilisateur &u = bureau.utilisateur;
   bureau.horlogeArretee = true;
-  u.tables.assign(kEntreesObjets, {});
-  u.List1.liste.clear();
-  u.List1.rang = -1;
-  u.etiquetteCommand1 = "0";
-  u.etiquetteCommand3.clear();
+  VideTables(u);
   u.octetsLus.reset();
   const fs::path fichier = TrouveFichier(bureau.dossiers, kFichierObjets);
   std::string texte;

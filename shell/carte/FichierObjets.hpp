@@ -25,6 +25,10 @@ std::string TexteObjets(const Utilisateur &fenetre);
 /// are empty. A line that can't be read, or one entry too many, ends the reading with one box; the entries before stay.
 void LitFichier(Bureau &bureau);
 
+/// The tables and the list take the entries of a text that `TexteObjets` has made, to be written; the count and the
+/// selection follow.
+void RemetObjets(Utilisateur &fenetre, std::string_view texte);
+
 /// Replaces the file of the objects in the user's data folder. A file that holds more than the tables, or that could
 /// not be read, is set aside first; so is one that isn't any more as it was read, which is told.
 /// @throws Erreur 75 when that can't be done; the old file is then whole

@@ -152,20 +152,28 @@ void Command6_Click(Bureau &bureau, int /*indice*/) {
   OublieFeuille(bureau);
 }
 
+void PoseGrille(Bureau &bureau, bool tracee) {
+  bureau.feuille.Grille = tracee ? 0 : 1;
+  bureau.donnees.Command12.visible = tracee;
+  bureau.donnees.Command14.visible = !tracee;
+}
+
 void Grille_Click(Bureau &bureau, int /*indice*/) {
   Donnees &d = bureau.donnees;
   const bool sansGrille = bureau.feuille.Grille == 0;
-  bureau.feuille.Grille = sansGrille ? 1 : 0;
-  d.Command12.visible = !sansGrille;
-  d.Command14.visible = sansGrille;
+  PoseGrille(bureau, !sansGrille);
   bureau.focus = sansGrille ? &d.Command14 : &d.Command12;
   RetraceDroites(bureau);
   RetraceCarte(bureau);
 }
 
-void HScroll1_Change(Bureau &bureau, int /*indice*/) {
+void SuitCurseurZoom(Bureau &bureau) {
   bureau.feuille.Zoom = Entier16(bureau.donnees.HScroll1.valeur / 10.0);
   bureau.donnees.Label32.legende = "Zoom : " + std::to_string(bureau.feuille.Zoom);
+}
+
+void HScroll1_Change(Bureau &bureau, int /*indice*/) {
+  SuitCurseurZoom(bureau);
   RetraceDroites(bureau);
   RetraceCarte(bureau);
 }

@@ -49,8 +49,14 @@ void MajHeureListes(Bureau &bureau);
 /// "Ecran": clears the surface and its captions; no line is on a sheet any more. The store is left alone.
 void Command6_Click(Bureau &bureau, int indice);
 
+/// The sheet is to have the grid or not, with the button for the other; nothing is drawn.
+void PoseGrille(Bureau &bureau, bool tracee);
+
 /// "Lat/Lon": draws the grid or leaves it out, on either of the two buttons on one spot.
 void Grille_Click(Bureau &bureau, int indice);
+
+/// The zoom and its caption take the slider's value; nothing is drawn.
+void SuitCurseurZoom(Bureau &bureau);
 
 /// The zoom slider: the sheet follows its value.
 void HScroll1_Change(Bureau &bureau, int indice);

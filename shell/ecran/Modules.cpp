@@ -198,6 +198,15 @@ void MontreDroitesMultiples(Bureau &bureau) {
   }
 }
 
+void AccordeModules(Bureau &bureau) {
+  Donnees &d = bureau.donnees;
+  for (const ModuleNumerote &module : kModules) {
+    Controle &panneau = d.*module.panneau;
+    TireModule(bureau, panneau, panneau.place.gauche, panneau.place.haut);
+  }
+  MontreMemoire(d, d.Frame10.visible);
+}
+
 void PU_Clear_Click(Bureau &bureau, int /*indice*/) {
   Donnees &d = bureau.donnees;
   PoseDistance(bureau, false);

@@ -55,4 +55,8 @@ void PU_Clear_Click(Bureau &bureau, int indice);
 /// "Carte globale" greys islands and lakes, "Contours précis" ticks them.
 void OpCarte_Click(Bureau &bureau, int indice);
 
+/// Brings the modules within reach of a screen that may be smaller than the one that they were placed on, and the
+/// toolbar in line with those that show.
+void AccordeModules(Bureau &bureau);
+
 } // namespace velmaris

@@ -92,6 +92,7 @@ struct Controle {
   Cote cote = Cote::Gauche;
   Pointeur pointeur = Pointeur::Normal;
   bool toutSelectionne = false; ///< asks that the whole text be selected
+  std::string alerte; ///< why a field or a list is to be mended, or a result not to be taken; empty while all is well
   bool operator==(const Controle &) const = default;
 };
 

@@ -23,7 +23,7 @@ struct Donnees {
   // The menu of the drawing surface.
   Controle PopUp, PU_Carte, PU_Centre, PU_Distance, PU_Coord, PU_Modules, PU_DM, PU_D, PU_S, PU_C, PU_E, PU_Caps;
   Controle PU_Clear, PU_Exit, PU_Apropos, PU_Nuit, PU_Crepuscule, PU_Terres, PU_Bouts, PU_Secours, PU_Quitter;
-  Controle PU_Taille, PU_TaillePlus, PU_TailleMoins, PU_TailleAuto, PU_PleinEcran;
+  Controle PU_Taille, PU_TaillePlus, PU_TailleMoins, PU_TailleAuto, PU_PleinEcran, PU_Annule, PU_Retablit;
   Controle PU_Ranger, PU_Disposition, PU_Copier, PU_CopieImage, PU_CopiePoint, PU_Image;
   std::array<Controle, 7> PU_Trait;
 
@@ -97,6 +97,7 @@ struct Donnees {
   std::array<Controle, 2> TexteVide;                      ///< after a field's name: a planet needs it, a star needs it
   std::array<Controle, 4> TexteDefaut; ///< after a field's name: what is wrong with it, in the order of `Defaut`
   Controle TexteSansDate, TexteDeuxPoints;
+  Controle TexteRecommencer, TexteTitreReprise, TexteReprise;
 };
 
 /// Name of the main window, in language files and among the windows.

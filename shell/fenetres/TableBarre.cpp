@@ -96,6 +96,9 @@ constexpr LigneDonnees kBarre[] = {
     {SEUL(TexteJournalMuet), Genre::Texte, "", {0, 0, 0, 0}, "La visée n'a pas pu être inscrite au journal :"},
     {SEUL(TexteJournalRetenu), Genre::Texte, "", {0, 0, 0, 0}, "Un autre programme retient le journal. La visée y sera inscrite dès qu'il le rend, au plus tard en quittant :"},
     {SEUL(TexteSansSecours), Genre::Texte, "", {0, 0, 0, 0}, "La visée du module n'a pas pu être conservée."},
+    {SEUL(TexteRecommencer), Genre::Texte, "", {0, 0, 0, 0}, "Recommencer"},
+    {SEUL(TexteTitreReprise), Genre::Texte, "", {0, 0, 0, 0}, "Dernière séance"},
+    {SEUL(TexteReprise), Genre::Texte, "", {0, 0, 0, 0}, "La dernière séance n'a pas été quittée. La reprendre, avec sa visée, sa feuille, ses modules et son zoom ?"},
 };
 // clang-format on
 

@@ -72,6 +72,13 @@ constexpr LigneEtat kEtat[] = {
     {SEUL(TexteSansCopie), Genre::Texte, "", {0, 0, 0, 0}, "Rien à copier ici : rien n'est encore calculé"},
     {SEUL(TexteSansModule), Genre::Texte, "", {0, 0, 0, 0}, "Aucun module à remettre"},
     {SEUL(TexteSansLecture), Genre::Texte, "", {0, 0, 0, 0}, "Pas de droite : aucune hauteur n'est lue"},
+    {SEUL(TexteManque), Genre::Texte, "", {0, 0, 0, 0}, "à remplir"},
+    {SEUL(TexteHorsBornes), Genre::Texte, "", {0, 0, 0, 0}, "hors limites. Il prend : "},
+    {SEUL(TexteResultatPerime), Genre::Texte, "", {0, 0, 0, 0}, "d'avant la dernière saisie : « Calcul » le refait"},
+    {SEUL(TexteAnnule), Genre::Texte, "", {0, 0, 0, 0}, "Annulé : "},
+    {SEUL(TexteRetabli), Genre::Texte, "", {0, 0, 0, 0}, "Rétabli : "},
+    {SEUL(TexteRienAnnuler), Genre::Texte, "", {0, 0, 0, 0}, "Rien à annuler"},
+    {SEUL(TexteRienRetablir), Genre::Texte, "", {0, 0, 0, 0}, "Rien à rétablir"},
 };
 // clang-format on
 

@@ -38,6 +38,8 @@ constexpr LigneDonnees kMenu[] = {
     {RANG(PU_Trait, 3), Genre::Separateur, "PopUp", {}},
     {SEUL(PU_Exit), Genre::Entree, "PopUp", {}, "Exit (ne rien faire et retourner sur la carte)"},
     {SEUL(PU_Apropos), Genre::Entree, "PopUp", {}, "A propos"},
+    {SEUL(PU_Annule), Genre::Entree, "PopUp", {}, "Annuler", "Ctrl+Z"},
+    {SEUL(PU_Retablit), Genre::Entree, "PopUp", {}, "Rétablir", "Ctrl+Maj+Z"},
     {SEUL(PU_Terres), Genre::Entree, "PopUp", {}, "Terres teintées"},
     {SEUL(PU_Bouts), Genre::Entree, "PopUp", {}, "Astre et heure au bout des droites"},
     {SEUL(PU_Crepuscule), Genre::Entree, "PopUp", {}, "Vue du crépuscule (sombre)", "Ctrl+N"},

@@ -1,6 +1,7 @@
 #include "foundations/Sauvegarde.hpp"
 #include "shell/Demarrage.hpp"
 #include "shell/Reprise.hpp"
+#include "shell/RepriseSeance.hpp"
 #include "shell/Sortie.hpp"
 #include "shell/droites/FichierVisee.hpp"
 #include "shell/ecran/Echelle.hpp"
@@ -23,6 +24,7 @@
 #include <exception>
 #include <optional>
 #include <string>
+#include <vector>
 
 namespace {
 
@@ -36,27 +38,11 @@ velmaris::Ecran EcranPrincipal() {
                            static_cast<int>(std::lround(ecran.geometry().height() * ecran.devicePixelRatio())));
 }
 
-} // namespace
-
-int main(int argc, char **argv) {
-  const velmaris::Langue dit =
-      velmaris::LangueDuSysteme(std::getenv("LC_ALL"), std::getenv("LC_MESSAGES"), std::getenv("LANG"));
-  if (const auto reponse = velmaris::qt::ReponseSansFenetre({argv + 1, argv + argc}, dit)) {
-    std::fputs(reponse->c_str(), stdout);
-    return 0;
-  }
-  const QApplication application(argc, argv);
-  const velmaris::qt::Commande commande = velmaris::qt::LitCommande({argv + 1, argv + argc});
-  if (!commande.inconnue.empty()) {
-    const std::string plainte = dit("velmaris : option inconnue ", "velmaris: unknown option ") + commande.inconnue +
-                                dit(" (voir velmaris --help)", " (see velmaris --help)") + "\n";
-    std::fputs(plainte.c_str(), stderr);
-    return kCommandeInconnue;
-  }
-  const bool sombre = QGuiApplication::palette().color(QPalette::Window).lightness() < kMoitie; // the desktop's own
-  velmaris::qt::PoseApparence();
-  velmaris::qt::PoseRolesAccessibles();
-
+/// The program from its start sequence to its end.
+/// @param sombre      whether the desktop is set to dark colours
+/// @param recommence  whether it is to be started again
+/// @return its status
+int Joue(const velmaris::qt::Commande &commande, bool sombre, bool &recommence) {
   velmaris::Bureau bureau;
   velmaris::qt::Boites boites(bureau);
   bureau.sombreAilleurs = sombre;
@@ -78,9 +64,42 @@ int main(int argc, char **argv) {
   QTimer::singleShot(0, &fenetre, [&] {
     portail.emplace(scene);
     boites.Ouvre(scene, fenetre);
-    if (!commande.fichier.empty()) {
+    scene.Joue([&] { velmaris::ProposeReprise(bureau, commande.reprend); });
+    if (!commande.fichier.empty() && !commande.reprend && !bureau.termine) {
       scene.Joue([&] { velmaris::OuvreVisee(bureau, commande.fichier); });
     }
   });
-  return QApplication::exec();
+  const int statut = QApplication::exec();
+  recommence = bureau.recommence;
+  return statut;
+}
+
+} // namespace
+
+int main(int argc, char **argv) {
+  const std::vector<std::string> ligne(argv, argv + argc);
+  const velmaris::Langue dit =
+      velmaris::LangueDuSysteme(std::getenv("LC_ALL"), std::getenv("LC_MESSAGES"), std::getenv("LANG"));
+  if (const auto reponse = velmaris::qt::ReponseSansFenetre({argv + 1, argv + argc}, dit)) {
+    std::fputs(reponse->c_str(), stdout);
+    return 0;
+  }
+  const QApplication application(argc, argv);
+  const velmaris::qt::Commande commande = velmaris::qt::LitCommande({argv + 1, argv + argc});
+  if (!commande.inconnue.empty()) {
+    const std::string plainte = dit("velmaris : option inconnue ", "velmaris: unknown option ") + commande.inconnue +
+                                dit(" (voir velmaris --help)", " (see velmaris --help)") + "\n";
+    std::fputs(plainte.c_str(), stderr);
+    return kCommandeInconnue;
+  }
+  const bool sombre = QGuiApplication::palette().color(QPalette::Window).lightness() < kMoitie; // the desktop's own
+  velmaris::qt::PoseApparence();
+  velmaris::qt::PoseRolesAccessibles();
+
+  bool recommence = false;
+  const int statut = Joue(commande, sombre, recommence);
+  if (recommence) {
+    velmaris::qt::Recommence(ligne);
+  }
+  return statut;
 }

@@ -98,7 +98,22 @@ std::optional<Hauteurs> ReduitVisee(Bureau &bureau, Observation &observation, De
     MontreResultat(bureau);
   }
   PoseReduction(bureau, observation);
+  if (hauteurs) {
+    bureau.viseeReduite = LitPanneau(bureau.donnees);
+  }
   return hauteurs;
+}
+
+EtatResultat PriseResultat(const Bureau &bureau) {
+  return {bureau.visee, bureau.affichage, bureau.NomAstre, bureau.viseeReduite};
+}
+
+void RemetResultat(Bureau &bureau, const EtatResultat &resultat) {
+  bureau.visee = resultat.visee;
+  bureau.affichage = resultat.affichage;
+  bureau.NomAstre = resultat.astre;
+  bureau.viseeReduite = resultat.reduite;
+  MontreResultat(bureau);
 }
 
 } // namespace velmaris

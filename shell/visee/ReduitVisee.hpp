@@ -26,4 +26,10 @@ void PrepareVisee(Bureau &bureau, const Observation &observation);
 /// @throws ErreurExpliquee for the user alone, when a star's or a planet's sight can't be reduced
 std::optional<Hauteurs> ReduitVisee(Bureau &bureau, Observation &observation, Demande demande = Demande::Utilisateur);
 
+/// What the last reduction has left and shown.
+EtatResultat PriseResultat(const Bureau &bureau);
+
+/// Puts back what a reduction has left and shown, without one.
+void RemetResultat(Bureau &bureau, const EtatResultat &resultat);
+
 } // namespace velmaris

@@ -22,6 +22,9 @@ titre_dit() { xdotool getwindowname "$FENETRE" | grep -q "$1"; }
 journal() { if [ -f "$DONNEES/journal.csv" ]; then wc -l <"$DONNEES/journal.csv"; else echo 0; fi; }
 croit() { [ "$(journal)" -gt "$1" ]; }
 
+# A session that the death before has left isn't taken up.
+refuse() { if boite_ouverte "$REPRISE_BOX"; then xdotool windowfocus "$(xdotool search --onlyvisible --name "$REPRISE_BOX" | head -n 1)" key Escape; fi; }
+
 # Stores the opened sight as the first line, reduces it again for the journal, saves it over the old file, leaves.
 geste() {
   local avant
@@ -66,7 +69,7 @@ for n in $(seq "$MORTS"); do
   # Hands of a group of their own: what they have begun to type is typed to its end before the next program comes. Cut off
   # between a key's press and its release they would leave it held down for good.
   set -m
-  (until fenetre_principale && titre_dit '[ab]$'; do sleep 0.05; done; xdotool windowfocus --sync "$FENETRE"; geste) \
+  (until fenetre_principale && titre_dit '[ab]$'; do refuse; sleep 0.05; done; xdotool windowfocus --sync "$FENETRE"; geste) \
     >/dev/null 2>&1 &
   mains=$!
   set +m

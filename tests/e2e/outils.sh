@@ -63,6 +63,7 @@ boite_fermee() { ! boite_ouverte "$1"; }
 finie() { ! kill -0 "$PID" 2>/dev/null; }
 EXIT_BOX='^Velmaris - '
 TOLD_BOX='^Velmaris$'
+REPRISE_BOX='^(Dernière séance|Last session)$'
 
 # Presses keys in the box of that title once it is there.
 repond() {
@@ -90,11 +91,24 @@ fenetre_principale() {
   [ -n "$FENETRE" ]
 }
 
-# Starts the program, with arguments or without, and waits for its window: sets PID and FENETRE.
+# Whether a program that has died has left a session: the next one asks whether to take it up.
+seance_laissee() {
+  local fichier="$XDG_DATA_HOME/velmaris/reprise.txt"
+  [ -s "$fichier" ] && flock -n "$fichier.verrou" true
+}
+
+# Starts the program, with arguments or without, and waits for its window: sets PID and FENETRE. A session that was left
+# is not taken up, unless REPRISE_VOULUE is the key for it.
 demarre() {
+  local laissee=non
+  seance_laissee && laissee=oui
   "$PROGRAMME" "$@" 2>"$XDG_DATA_HOME/erreurs.txt" &
   PID=$!
   attends fenetre_principale
+  if [ $laissee = oui ]; then
+    repond "$REPRISE_BOX" "${REPRISE_VOULUE:-Escape}"
+    attends boite_fermee "$REPRISE_BOX"
+  fi
   xdotool windowfocus --sync "$FENETRE"
   pause 0.4
 }

@@ -168,6 +168,9 @@ TEST(LigneDeCommande, TheFirstArgumentThatIsNoOptionNamesTheSight) {
   EXPECT_EQ(qt::LitCommande({""}).fichier, "");
   EXPECT_EQ(qt::LitCommande({}).inconnue, "");
   EXPECT_EQ(qt::LitCommande({"--voile", "a.LoP"}).inconnue, "--voile");
+  EXPECT_TRUE(qt::LitCommande({"--resume", "a.LoP"}).reprend);
+  EXPECT_EQ(qt::LitCommande({"--resume"}).inconnue, "");
+  EXPECT_FALSE(qt::LitCommande({"--", "--resume"}).reprend);
 }
 
 } // namespace

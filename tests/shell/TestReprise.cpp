@@ -1,4 +1,4 @@
-#include "shell/Reprise.hpp"
+#include "shell/RepriseSeance.hpp"
 
 #include "foundations/Fichiers.hpp"
 #include "foundations/Sauvegarde.hpp"
@@ -88,6 +88,9 @@ TEST_F(Reprise, IsReadBackAsItWas) {
   session.feuille.transportsEstime = "0";
   session.feuille.estime = {47.123456F, -0.1F};
   session.feuille.grille = true;
+  session.feuille.carte = true;
+  session.feuille.estimeDite = {"N 47° 10", "W 005° 02"};
+  ASSERT_TRUE(session.resultat.reduite.has_value());
   EXPECT_EQ(LitSession(TexteSession(session)), session);
 }
 
@@ -102,9 +105,9 @@ TEST_F(Reprise, AFileCutAnywhereIsNoSession) {
 
 TEST_F(Reprise, WhatIsNoSessionIsNotRead) {
   for (const char *texte :
-       {"", "\n", "fin\n", "velmaris reprise 2\nfin\n", "velmaris reprise 1\nautre\t1\nfin\n",
-        "velmaris reprise 1\nfeuille\t1\tx\t0\nfin\n", "velmaris reprise 1\ncontrole\tText3\nfin\n",
-        "velmaris reprise 1\ndroites\t1\t2\t3\nfin\n", "velmaris reprise 1\nestime\t1e99\t0\nfin\n"}) {
+       {"", "\n", "fin\n", "velmaris reprise 1\nfin\n", "velmaris reprise 2\nautre\t1\nfin\n",
+        "velmaris reprise 2\nfeuille\t1\tx\t0\t0\nfin\n", "velmaris reprise 2\ncontrole\tText3\nfin\n",
+        "velmaris reprise 2\ndroites\t1\t2\t3\nfin\n", "velmaris reprise 2\nestime\t1e99\t0\t\t\nfin\n"}) {
     EXPECT_FALSE(LitSession(texte).has_value()) << texte;
   }
 }
@@ -112,6 +115,7 @@ TEST_F(Reprise, WhatIsNoSessionIsNotRead) {
 TEST_F(Reprise, IsWrittenAtAChangeAndNotAtATick) {
   DemarreSansCarte();
   OuvreReprise(bureau);
+  Tape(d.Text13, "64");
   GardeSession(bureau);
   bureau.reprise->Attend();
   const auto avant = bureau.reprise->ecritures();
@@ -130,6 +134,7 @@ TEST_F(Reprise, IsWrittenAtAChangeAndNotAtATick) {
 TEST_F(Reprise, AnOrderlyEndLeavesNone) {
   DemarreSansCarte();
   OuvreReprise(bureau);
+  Tape(d.Text13, "64");
   GardeSession(bureau);
   bureau.reprise->Attend();
   ASSERT_TRUE(std::filesystem::exists(fichier));
@@ -141,6 +146,7 @@ TEST_F(Reprise, AnOrderlyEndLeavesNone) {
 TEST_F(Reprise, AnEndThatIsRefusedKeepsIt) {
   DemarreSansCarte();
   OuvreReprise(bureau);
+  Tape(d.Text13, "64");
   GardeSession(bureau);
   bureau.reprise->Attend();
   reponse = false;
@@ -164,6 +170,8 @@ TEST_F(Reprise, TheOneBeforeIsSetAside) {
   GardeSession(bureau);
   bureau.reprise.reset();
   OuvreReprise(bureau);
+  reponse = false;
+  ProposeReprise(bureau, false);
   Tape(d.Text13, "13");
   GardeSession(bureau);
   bureau.reprise.reset();

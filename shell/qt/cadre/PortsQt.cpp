@@ -79,8 +79,15 @@ bool MontreBoite(const Bureau &bureau, const Boite &boite, QWidget *parent) {
   const QAbstractButton *copier =
       boite.adresse.empty() ? nullptr : MontreAdresse(qt, d, QString::fromStdString(boite.adresse));
   if (!boite.question) {
-    qt.addButton(QString::fromStdString(d.TexteOk.legende), QMessageBox::AcceptRole);
+    auto *ok = qt.addButton(QString::fromStdString(d.TexteOk.legende), QMessageBox::AcceptRole);
+    const QAbstractButton *autre =
+        boite.autre.empty() ? nullptr : qt.addButton(QString::fromStdString(boite.autre), QMessageBox::ActionRole);
+    qt.setDefaultButton(ok);
+    qt.setEscapeButton(ok);
     qt.exec();
+    if (autre != nullptr) {
+      return qt.clickedButton() == autre;
+    }
     if (copier != nullptr && qt.clickedButton() == copier) {
       QGuiApplication::clipboard()->setText(QString::fromStdString(boite.adresse));
     }

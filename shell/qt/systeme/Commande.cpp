@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <string_view>
 #include <system_error>
+#include <unistd.h>
 
 namespace velmaris::qt {
 namespace {
@@ -14,6 +15,7 @@ constexpr const char *kUsageAnglais = R"(Usage: velmaris [OPTION] [FILE.LoP]
 Celestial navigation: reduces sextant sights and draws lines of position.
 With a file, the sight in it is loaded, reduced and drawn.
 
+  --resume       take the last session up that was not left by its exit
   -h, --help     print this and end
   -v, --version  print the version and end
 
@@ -25,6 +27,7 @@ constexpr const char *kUsage = R"(Usage : velmaris [OPTION] [FICHIER.LoP]
 Navigation astronomique : réduit des visées au sextant et trace les droites.
 Avec un fichier, la visée qu'il contient est chargée, réduite et tracée.
 
+  --resume       reprendre la dernière séance qui n'a pas été quittée
   -h, --help     dire ceci, et finir
   -v, --version  dire la version, et finir
 
@@ -33,6 +36,9 @@ Les options de la boîte à outils, comme -platform, sont acceptées aussi.
 
 /// Where an option would stand that is an argument all the same.
 constexpr std::string_view kFinOptions = "--";
+
+/// Takes the last session up without a question.
+constexpr std::string_view kReprend = "--resume";
 
 std::filesystem::path Absolu(const std::string &fichier) {
   std::error_code refus;
@@ -62,6 +68,8 @@ Commande LitCommande(const std::vector<std::string> &arguments) {
   for (const std::string &argument : arguments) {
     if (options && argument == kFinOptions) {
       options = false;
+    } else if (options && argument == kReprend) {
+      commande.reprend = true;
     } else if (options && argument.size() > 1 && argument.front() == '-') {
       commande.inconnue = argument;
     } else if (!argument.empty() && commande.fichier.empty()) {
@@ -69,6 +77,21 @@ Commande LitCommande(const std::vector<std::string> &arguments) {
     }
   }
   return commande;
+}
+
+void Recommence(const std::vector<std::string> &ligne) {
+  std::vector<std::string> mots = {ligne.empty() ? "velmaris" : ligne.front()};
+  if (std::find(ligne.begin(), ligne.end(), kReprend) == ligne.end()) {
+    mots.emplace_back(kReprend);
+  }
+  mots.insert(mots.end(), ligne.begin() + (ligne.empty() ? 0 : 1), ligne.end());
+  std::vector<char *> arguments;
+  arguments.reserve(mots.size() + 1);
+  for (std::string &mot : mots) {
+    arguments.push_back(mot.data());
+  }
+  arguments.push_back(nullptr);
+  ::execv("/proc/self/exe", arguments.data());
 }
 
 } // namespace velmaris::qt
