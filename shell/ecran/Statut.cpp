@@ -2,6 +2,7 @@
 
 #include "chart/Projection.hpp"
 #include "foundations/TexteNombre.hpp"
+#include "shell/visee/ChampsJuges.hpp"
 
 #include <algorithm>
 #include <cmath>
@@ -22,6 +23,7 @@ std::string AttenteDroites(const Bureau &bureau) {
              : std::string();
 }
 
+/// What a tool waits for, what is to be mended in the sight, or what the four buttons wait for.
 std::string Attente(const Bureau &bureau) {
   const Etat &etat = bureau.etat;
   if (bureau.ModuleDeplace != 0) {
@@ -30,7 +32,8 @@ std::string Attente(const Bureau &bureau) {
   if (bureau.souris.ModeDistance != 0) {
     return (bureau.souris.DebutX != 0.0F ? etat.TexteBranche : etat.TexteDepart).legende;
   }
-  return AttenteDroites(bureau);
+  const std::string alerte = MotsAlerte(bureau);
+  return alerte.empty() ? AttenteDroites(bureau) : alerte;
 }
 
 /// Whether a tool tip tells what a calculation has found, and no range.

@@ -16,7 +16,8 @@ void SuitPosition(Bureau &bureau, Point point);
 /// The pointer has left the drawing surface.
 void PerdPosition(Bureau &bureau);
 
-/// Brings what the line tells in line with the program: a notice, else what a tool waits for, else nothing.
+/// Brings what the line tells in line with the program: a notice, else what a tool waits for, what is to be
+/// mended in the sight, what the four buttons do; else nothing.
 void AccordeStatut(Bureau &bureau);
 
 /// Puts what each field and list takes into its tool tip, in the language of the program. One that tells what a

@@ -28,7 +28,10 @@ void PoseFond(QWidget &widget) {
 
 void PoseCouleur(QWidget &widget, const Controle &c) {
   QPalette palette = widget.palette();
-  const QColor couleur = EncreDeLegende(EclairageVu(), c.couleur);
+  // A result that isn't to be taken any more is as faint as what can't be used.
+  const bool perime = c.genre == Genre::Etiquette && !c.alerte.empty();
+  const QColor couleur = perime ? QApplication::palette().color(QPalette::Disabled, QPalette::Text)
+                                : EncreDeLegende(EclairageVu(), c.couleur);
   palette.setColor(QPalette::Active, widget.foregroundRole(), couleur);
   palette.setColor(QPalette::Inactive, widget.foregroundRole(), couleur);
   widget.setPalette(palette);
@@ -75,8 +78,12 @@ void Adaptateur::AccordeAspect(const Controle &c, const Controle &vu, bool tout)
       c.place != vu.place) {
     PosePolice(c);
   }
-  if (c.couleur != vu.couleur || (tout && c.couleur != kNoir)) {
+  const bool alerte = c.alerte.empty() != vu.alerte.empty();
+  if (c.couleur != vu.couleur || (tout && c.couleur != kNoir) || (alerte && c.genre == Genre::Etiquette)) {
     PoseCouleur(widget_, c);
+  }
+  if (alerte || tout) {
+    PoseAlerte(!c.alerte.empty());
   }
 }
 
@@ -94,6 +101,9 @@ void Adaptateur::Accorde(const Controle &c, const Controle &vu, const QString &n
   }
   if (widget_.accessibleName() != nom) {
     widget_.setAccessibleName(nom);
+  }
+  if (const QString mots = QString::fromStdString(c.alerte); widget_.accessibleDescription() != mots) {
+    widget_.setAccessibleDescription(mots);
   }
   if (Actif(widget_) != c.actif) {
     widget_.setEnabled(c.actif);

@@ -69,6 +69,8 @@ protected:
   /// Pixels by which the caption is wider than its place; 0 or less where it fits, or where there is none.
   virtual double Depasse() const { return 0; }
   virtual void PoseImage(const Controle & /*controle*/) {}
+  /// Shows whether there is something to be mended.
+  virtual void PoseAlerte(bool /*alerte*/) {}
 
 private:
   void PosePolice(const Controle &controle);

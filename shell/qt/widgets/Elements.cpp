@@ -25,6 +25,21 @@ constexpr int kHautTitre = 20;        ///< pixels of a module's title band at sc
 constexpr double kPlaceFleche = 10;   ///< from the right edge of a closed list to the middle of its arrow
 constexpr double kMiFleche = 3.5;     ///< half its width, and its height
 constexpr double kTraitFleche = 1.25; ///< width of its strokes
+constexpr int kAlerte = 2;     ///< of the frame around a field that is to be mended
+constexpr double kTiret = 2.5; ///< of its dashes by night, in its own width
+
+/// The frame around what is to be mended.
+void EncadreAlerte(QWidget &widget) {
+  QPainter p(&widget);
+  const int epais = Pixels(kAlerte, widget);
+  QPen plume(EstNuit() ? QColor(196, 0, 0) : QColor(214, 118, 0), epais, Qt::SolidLine, Qt::FlatCap, Qt::MiterJoin);
+  if (EstNuit()) {
+    plume.setDashPattern({kTiret, kTiret});
+  }
+  p.setPen(plume);
+  const double demi = epais / 2.0;
+  p.drawRect(QRectF(widget.rect()).adjusted(demi, demi, -demi, -demi));
+}
 
 } // namespace
 
@@ -103,6 +118,26 @@ void Champ::paintEvent(QPaintEvent *event) {
     QPainter p(this);
     p.setCompositionMode(QPainter::CompositionMode_Darken);
     p.fillRect(event->rect(), palette().color(QPalette::BrightText));
+  }
+  if (alerte_) {
+    EncadreAlerte(*this);
+  }
+}
+
+void Champ::PoseAlerte(bool alerte) {
+  alerte_ = alerte;
+  update();
+}
+
+void Deroulante::PoseAlerte(bool alerte) {
+  alerte_ = alerte;
+  update();
+}
+
+void Deroulante::paintEvent(QPaintEvent *event) {
+  QComboBox::paintEvent(event);
+  if (alerte_) {
+    EncadreAlerte(*this);
   }
 }
 

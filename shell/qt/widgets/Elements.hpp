@@ -63,13 +63,19 @@ protected:
   void mouseMoveEvent(QMouseEvent *event) override;
 };
 
-/// A field whose cursor, which the toolkit draws as the negative of the ground, is red by night.
+/// A field whose cursor, which the toolkit draws as the negative of the ground, is red by night. One that is to be
+/// mended stands in an amber frame; by night, where all is red, in a dashed one.
 class Champ : public QLineEdit {
 public:
   using QLineEdit::QLineEdit;
+  void PoseAlerte(bool alerte);
+  bool alerte() const { return alerte_; }
 
 protected:
   void paintEvent(QPaintEvent *event) override;
+
+private:
+  bool alerte_ = false;
 };
 
 /// A closed list that the wheel turns only while it has the keyboard: a wheel that passes over it chooses nothing. Its
@@ -77,6 +83,8 @@ protected:
 class Deroulante : public QComboBox {
 public:
   explicit Deroulante(QWidget *parent);
+  void PoseAlerte(bool alerte);
+  bool alerte() const { return alerte_; }
 
 protected:
   void changeEvent(QEvent *event) override;
@@ -85,6 +93,7 @@ protected:
 
 private:
   void Noircit();
+  bool alerte_ = false; ///< framed as a field is
 };
 
 /// A list that chooses nothing by itself when the keyboard comes to it.

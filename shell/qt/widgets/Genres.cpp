@@ -246,6 +246,7 @@ protected:
       w.setCursorPosition(curseur);
     }
   }
+  void PoseAlerte(bool alerte) override { w.PoseAlerte(alerte); }
 };
 
 class ACurseur : public De<QSlider> {
@@ -297,6 +298,7 @@ protected:
     w.setPlaceholderText(Texte(c.texte));
     w.setCurrentIndex(Ligne(c));
   }
+  void PoseAlerte(bool alerte) override { w.PoseAlerte(alerte); }
 };
 
 class AListeBoite : public De<QListWidget> {

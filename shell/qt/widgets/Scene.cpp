@@ -8,6 +8,7 @@
 #include "shell/qt/peinture/Apparence.hpp"
 #include "shell/qt/peinture/Grandeur.hpp"
 #include "shell/qt/widgets/Rendu.hpp"
+#include "shell/visee/ChampsJuges.hpp"
 
 #include <QApplication>
 #include <QTimer>
@@ -89,6 +90,7 @@ void Scene::Accorde() {
   // Moving the focus, or hiding what has it, is an event in its turn.
   while (encore_) {
     encore_ = false;
+    JugeChamps(bureau_);
     AccordeStatut(bureau_);
     AccordeEclairage(bureau_.eclairage);
     AccordeGrandeur(EchelleFenetre(bureau_));
