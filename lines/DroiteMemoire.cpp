@@ -90,6 +90,20 @@ std::vector<CleValeur> ClesEffacees(int ligne) {
   return cles;
 }
 
+std::vector<std::string> ToutesClesDroite(int ligne) {
+  constexpr std::array<const char *, 11> kAutres = {"AS(",  "Combo6(", "Combo7(", "Bord(", "Hor(", "O4(",
+                                                    "Nom(", "Hem(",    "Lon(",    "In(",   "Az("};
+  std::vector<std::string> cles;
+  cles.reserve(kAutres.size() + kChampsGardes.size());
+  for (const char *champ : kAutres) {
+    cles.push_back(CleDroite(champ, ligne));
+  }
+  for (const ChampGarde &c : kChampsGardes) {
+    cles.push_back(CleDroite(c.champ, ligne));
+  }
+  return cles;
+}
+
 std::string ToucheDroite(int ligne) { return "(F" + std::to_string(ligne + kPremiereTouche) + ")"; }
 
 float LitMillieme(std::string_view texte) { return Simple(Val(texte) / kMilliemes); }

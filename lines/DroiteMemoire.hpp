@@ -39,6 +39,9 @@ void LitTextesEnregistres(int ligne, const std::function<std::string(const std::
 /// others empty they mean nothing.
 std::vector<CleValeur> ClesEffacees(int ligne);
 
+/// All keys that a line can have in the store.
+std::vector<std::string> ToutesClesDroite(int ligne);
+
 /// The default tool tip of a line's button, its function key: "(F5)" to "(F8)".
 std::string ToucheDroite(int ligne);
 

@@ -1,6 +1,7 @@
 /// The program's table of events: which function answers which event of which control. The one place of the core that
 /// knows all rooms of the shell.
 
+#include "foundations/TexteNombre.hpp"
 #include "shell/Aide.hpp"
 #include "shell/Demarrage.hpp"
 #include "shell/Sortie.hpp"
@@ -15,6 +16,7 @@
 #include "shell/droites/FichierVisee.hpp"
 #include "shell/droites/ModesDroite.hpp"
 #include "shell/droites/Recentes.hpp"
+#include "shell/droites/Retour.hpp"
 #include "shell/droites/Route.hpp"
 #include "shell/ecran/ChoixFichier.hpp"
 #include "shell/ecran/Copie.hpp"
@@ -24,16 +26,46 @@
 #include "shell/ecran/PageImprimee.hpp"
 #include "shell/ecran/Presentation.hpp"
 #include "shell/ecran/Rangement.hpp"
+#include "shell/visee/Annulation.hpp"
 #include "shell/visee/Astres.hpp"
 #include "shell/visee/Saisie.hpp"
 
+#include <algorithm>
+#include <cstddef>
 #include <span>
+#include <string>
 #include <string_view>
 
 namespace velmaris {
 namespace {
 
 using Fonction = void (*)(Bureau &, int);
+
+/// What a gesture is called when it is undone.
+/// @{
+std::string NomTop(const Bureau &bureau, int /*indice*/) { return bureau.donnees.Command1.legende; }
+std::string NomEstimee(const Bureau &bureau, int /*indice*/) { return bureau.donnees.Label42.legende; }
+template <std::size_t Bouton> std::string NomBouton(const Bureau &bureau, int /*indice*/) {
+  return std::string(SansBlancs(bureau.donnees.Label50[Bouton].legende));
+}
+std::string NomDroite(const Bureau &bureau, int ligne) {
+  const Donnees &d = bureau.donnees;
+  const auto *const mode =
+      std::find_if(d.Option1.begin(), d.Option1.end(), [](const Controle &option) { return option.choisi; });
+  const bool caps = d.Frame2.visible || mode == d.Option1.end();
+  return (caps ? d.Label66 : *mode).legende + ", " + d.Droite.at(static_cast<std::size_t>(ligne)).legende;
+}
+/// @}
+
+/// An event that undo takes back.
+template <std::string (*Nom)(const Bureau &, int), Fonction Geste> void Revocable(Bureau &bureau, int indice) {
+  RetientGeste(bureau, Nom(bureau, indice), [&] { Geste(bureau, indice); });
+}
+
+constexpr std::size_t kOuvre = 1; ///< captions of the toolbar
+constexpr std::size_t kEcran = 4;
+constexpr std::size_t kMemoire = 5;
+constexpr std::size_t kAstres = 12;
 
 /// One function an event; the index is that of the control in its group.
 struct Abonnement {
@@ -72,10 +104,10 @@ constexpr Abonnement kCiel[] = {
     {"Recule", Evenement::Clic, ciel::Recule_Click},
     {"Avance", Evenement::Clic, ciel::Avance_Click},
     {"List1", Evenement::Clic, ciel::List1_Click},
-    {"SOL", Evenement::Clic, ciel::SOL_Click},
-    {"Lune", Evenement::Clic, ciel::Lune_Click},
-    {"LaP", Evenement::Clic, ciel::LaP_Click},
-    {"Laet", Evenement::Clic, ciel::Laet_Click},
+    {"SOL", Evenement::Clic, Revocable<NomBouton<kAstres>, ciel::SOL_Click>},
+    {"Lune", Evenement::Clic, Revocable<NomBouton<kAstres>, ciel::Lune_Click>},
+    {"LaP", Evenement::Clic, Revocable<NomBouton<kAstres>, ciel::LaP_Click>},
+    {"Laet", Evenement::Clic, Revocable<NomBouton<kAstres>, ciel::Laet_Click>},
 };
 
 // NOLINTNEXTLINE(cppcoreguidelines-avoid-c-arrays,modernize-avoid-c-arrays)
@@ -114,26 +146,26 @@ constexpr Abonnement kDonnees[] = {
     {"Combo6", Evenement::Clic, Combo6_Click},
     {"Combo7", Evenement::Clic, Combo7_Click},
     {"Combo8", Evenement::Clic, Combo8_Click},
-    {"Command1", Evenement::Clic, Command1_Click},
+    {"Command1", Evenement::Clic, Revocable<NomTop, Command1_Click>},
     {"Command2", Evenement::Clic, Command2_Click},
     {"Command26", Evenement::Clic, Command26_Click},
     {"Command3", Evenement::Clic, Command3_Click},
-    {"Command4", Evenement::Clic, Command4_Click},
+    {"Command4", Evenement::Clic, Revocable<NomBouton<kOuvre>, Command4_Click>},
     {"Command4", Evenement::ClicLong, OuvreRecentes},
     {"FlecheOuvre", Evenement::Clic, OuvreRecentes},
-    {"Recente", Evenement::Clic, Recente_Click},
+    {"Recente", Evenement::Clic, Revocable<NomBouton<kOuvre>, Recente_Click>},
     {"Command5", Evenement::Clic, Command5_Click},
-    {"Command6", Evenement::Clic, Command6_Click},
-    {"Command8", Evenement::Clic, Command8_Click},
-    {"Droite", Evenement::Clic, Droite_Click},
+    {"Command6", Evenement::Clic, Revocable<NomBouton<kEcran>, Command6_Click>},
+    {"Command8", Evenement::Clic, Revocable<NomBouton<kMemoire>, Command8_Click>},
+    {"Droite", Evenement::Clic, Revocable<NomDroite, Droite_Click>},
     {"Option1", Evenement::Clic, Option1_Click},
     {"Text2", Evenement::Entre, Text2_Entre},
     {"Text2", Evenement::Change, CalculEstime},
     {"Text15", Evenement::Entre, Text15_Entre},
     {"Text15", Evenement::Change, CalculEstime},
     {"Command15", Evenement::Clic, CalculEstime},
-    {"LabLatEst", Evenement::Clic, PositionEstimee_Click},
-    {"LabLonEst", Evenement::Clic, PositionEstimee_Click},
+    {"LabLatEst", Evenement::Clic, Revocable<NomEstimee, PositionEstimee_Click>},
+    {"LabLonEst", Evenement::Clic, Revocable<NomEstimee, PositionEstimee_Click>},
     {"Command10", Evenement::Clic, Command10_Click},
     {"Command11", Evenement::Clic, Command11_Click},
     {"Command12", Evenement::Clic, Grille_Click},
@@ -200,6 +232,8 @@ constexpr Abonnement kDonnees[] = {
     {"PU_TailleMoins", Evenement::Clic, PU_TailleMoins_Click},
     {"PU_TaillePlus", Evenement::Clic, PU_TaillePlus_Click},
     {"PU_PleinEcran", Evenement::Clic, PU_PleinEcran_Click},
+    {"PU_Annule", Evenement::Clic, PU_Annule_Click},
+    {"PU_Retablit", Evenement::Clic, PU_Retablit_Click},
     {"PU_Secours", Evenement::Clic, PU_Secours_Click},
     {"PU_Quitter", Evenement::Clic, Sortie_Click},
 };

@@ -139,7 +139,7 @@ bool Touche(Bureau &bureau, int code) {
     Sortie_Click(bureau, -1);
     return true;
   case kF3:
-    Command1_Click(bureau, -1);
+    Declenche(bureau, bureau.donnees.Command1, Evenement::Clic);
     return true;
   case kF4:
     OuvreCartes(bureau);
@@ -148,7 +148,7 @@ bool Touche(Bureau &bureau, int code) {
   case kF5 + 1:
   case kF5 + 2:
   case kF5 + 3:
-    Droite_Click(bureau, code - kF5);
+    Declenche(bureau, bureau.donnees.Droite.at(static_cast<std::size_t>(code - kF5)), Evenement::Clic);
     return true;
   case kF9:
     deplace(kPasTouches);

@@ -12,6 +12,7 @@
 #include "shell/droites/Recentes.hpp"
 #include "shell/ecran/ChoixFichier.hpp"
 #include "shell/ecran/Modules.hpp"
+#include "shell/visee/Annulation.hpp"
 #include "shell/visee/Astres.hpp"
 #include "shell/visee/ReduitVisee.hpp"
 #include "shell/visee/Saisie.hpp"
@@ -133,10 +134,13 @@ void OuvreVisee(Bureau &bureau, const std::filesystem::path &chemin) {
   if (std::string octets; !LitOctets(bureau, chemin, octets)) {
     return;
   }
-  RemetFeuille(bureau);
-  if (ChargeVisee(bureau, chemin)) {
-    bureau.TitreFichier = SansExtension(chemin.filename().string());
-  }
+  const std::string nom = SansExtension(chemin.filename().string());
+  RetientGeste(bureau, nom, [&] {
+    RemetFeuille(bureau);
+    if (ChargeVisee(bureau, chemin)) {
+      bureau.TitreFichier = nom;
+    }
+  });
 }
 
 std::filesystem::path FichierSecours(const Bureau &bureau) { return bureau.dossiers.utilisateur / "secours.LoP"; }

@@ -8,6 +8,7 @@
 #include "shell/droites/FichierVisee.hpp"
 #include "shell/droites/Recentes.hpp"
 #include "shell/ecran/Copie.hpp"
+#include "shell/droites/Retour.hpp"
 #include "shell/ecran/Echelle.hpp"
 #include "shell/ecran/Eclairage.hpp"
 #include "shell/ecran/Statut.hpp"
@@ -328,6 +329,23 @@ bool Fenetre::ToucheTaille(const QKeyEvent &appui) {
   return true;
 }
 
+/// Control with Z, and with the shift key: the field's own typing first, then the last gesture.
+bool Fenetre::ToucheAnnule(QObject *objet, const QKeyEvent &appui) {
+  const Qt::KeyboardModifiers avec = appui.modifiers() & ~Qt::KeypadModifier;
+  const bool retablit = avec == (Qt::ControlModifier | Qt::ShiftModifier);
+  const auto *widget = qobject_cast<QWidget *>(objet);
+  if (appui.key() != Qt::Key_Z || (avec != Qt::ControlModifier && !retablit) || widget->window() != this ||
+      QApplication::activeModalWidget() != nullptr) {
+    return false;
+  }
+  const auto *champ = qobject_cast<const QLineEdit *>(objet);
+  if (champ != nullptr && (retablit ? champ->isRedoAvailable() : champ->isUndoAvailable())) {
+    return false;
+  }
+  scene_.Joue([&] { (retablit ? PU_Retablit_Click : PU_Annule_Click)(bureau_, -1); });
+  return true;
+}
+
 bool Fenetre::eventFilter(QObject *objet, QEvent *event) {
   switch (event->type()) {
   case QEvent::KeyPress:
@@ -355,7 +373,7 @@ bool Fenetre::Appui(QObject *objet, const QKeyEvent &appui) {
     }
     return true;
   }
-  return ToucheTaille(appui) || Touche(objet, appui);
+  return ToucheAnnule(objet, appui) || ToucheTaille(appui) || Touche(objet, appui);
 }
 
 void Fenetre::resizeEvent(QResizeEvent *event) {

@@ -47,6 +47,7 @@ private:
   bool MenuDe(QObject *objet, const QContextMenuEvent &event);
   bool Depose(QObject *objet, QDropEvent &event);
   bool ToucheTaille(const QKeyEvent &appui);
+  bool ToucheAnnule(QObject *objet, const QKeyEvent &appui);
 
   Scene &scene_;
   Bureau &bureau_;
