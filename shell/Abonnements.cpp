@@ -153,7 +153,7 @@ constexpr Abonnement kDonnees[] = {
     {"Command4", Evenement::Clic, Revocable<NomBouton<kOuvre>, Command4_Click>},
     {"Command4", Evenement::ClicLong, OuvreRecentes},
     {"FlecheOuvre", Evenement::Clic, OuvreRecentes},
-    {"Recente", Evenement::Clic, Revocable<NomBouton<kOuvre>, Recente_Click>},
+    {"Recente", Evenement::Clic, Recente_Click},
     {"Command5", Evenement::Clic, Command5_Click},
     {"Command6", Evenement::Clic, Revocable<NomBouton<kEcran>, Command6_Click>},
     {"Command8", Evenement::Clic, Revocable<NomBouton<kMemoire>, Command8_Click>},

@@ -61,6 +61,7 @@ void RetraceTransports(Bureau &bureau, ModeDroite mode, const std::string &liste
 } // namespace
 
 void MarqueDroite(Donnees &d, std::size_t ligne, Couleur etat) {
+  d.LHeure[ligne].marque = etat == kPremiereDroite ? "●" : etat == kDroiteAjoutee ? "+" : "";
   d.LHeure[ligne].couleur = etat;
   d.Ldate[ligne].couleur = etat;
 }

@@ -58,6 +58,7 @@ struct Controle {
   int indice = -1; ///< place in a group of that name, -1 for a control alone
   Genre genre = Genre::Etiquette;
   std::string legende;
+  std::string marque; ///< a sign after the caption, which tells what its colour tells
   std::string texte;
   std::string infobulle;
   std::string image;     ///< name of its picture, empty for none

@@ -4,6 +4,7 @@
 #include "shell/ecran/Echelle.hpp"
 #include "shell/qt/peinture/Apparat.hpp"
 #include "shell/qt/peinture/PageQt.hpp"
+#include "shell/qt/peinture/Palette.hpp"
 #include "shell/qt/peinture/Toile.hpp"
 
 #include <QApplication>
@@ -13,12 +14,15 @@
 #include <QWindow>
 
 #include <algorithm>
+#include <cmath>
 #include <utility>
 
 namespace velmaris::qt {
 namespace {
 
 constexpr QSize kPlusPetite(480, 360);
+constexpr int kMarge = 20; ///< pixels of the mat around the page
+constexpr int kOmbre = 5;  ///< pixels that the page's shadow reaches beyond it
 
 } // namespace
 
@@ -31,14 +35,25 @@ FenetreImpression::FenetreImpression(Scene &scene, QWidget *parent)
   windowHandle()->setTransientParent(nullptr);
   setMinimumSize(kPlusPetite);
   taille_ = scene.bureau().taille;
+  AjusteTaille();
   ReprendSaTaille();
   Centre();
   connect(qGuiApp, &QGuiApplication::focusWindowChanged, this, [this](const QWindow *devant) { Note(devant); });
 }
 
-double FenetreImpression::EchelleVoulue() const { return EchellePage(page_.cadre, width(), height()); }
+double FenetreImpression::EchelleVoulue() const {
+  return EchellePage(page_.cadre, width() - 2 * kMarge, height() - 2 * kMarge);
+}
 
-/// The page fills its window, whose size is its user's.
+/// As large as the page at the present size of everything, with its mat.
+void FenetreImpression::AjusteTaille() {
+  const QSize libre = screen()->availableSize() - QSize(2 * kMarge, 2 * kMarge);
+  const double echelle = EchelleDialogue(scene().bureau(), page_.cadre, libre.width(), libre.height());
+  resize((QSizeF(page_.cadre.largeur, page_.cadre.hauteur) * echelle / kUnitesParPixel).toSize() +
+         QSize(2 * kMarge, 2 * kMarge));
+}
+
+/// The page fills its window but for the mat; the window's size is its user's.
 void FenetreImpression::Redimensionne() { update(); }
 
 void FenetreImpression::resizeEvent(QResizeEvent *event) {
@@ -49,9 +64,7 @@ void FenetreImpression::resizeEvent(QResizeEvent *event) {
 /// Another size of everything is one of the page too.
 void FenetreImpression::AccordeTaille() {
   if (std::exchange(taille_, scene().bureau().taille) != taille_) {
-    const QSize libre = screen()->availableSize();
-    const double echelle = EchelleDialogue(scene().bureau(), page_.cadre, libre.width(), libre.height());
-    resize((QSizeF(page_.cadre.largeur, page_.cadre.hauteur) * echelle / kUnitesParPixel).toSize());
+    AjusteTaille();
     Centre();
   }
 }
@@ -109,9 +122,18 @@ void FenetreImpression::reject() {
 }
 
 void FenetreImpression::paintEvent(QPaintEvent *event) {
-  Dialogue::paintEvent(event);
+  const Teintes &teintes = TeintesDe(EclairageVu());
   QPainter painter(this);
+  painter.fillRect(event->rect(), teintes.mat);
   const double facteur = PixelsParTwip(*this);
+  const QRect page(kMarge, kMarge, static_cast<int>(std::lround(page_.cadre.largeur * facteur)),
+                   static_cast<int>(std::lround(page_.cadre.hauteur * facteur)));
+  for (int n = 1; n <= kOmbre; ++n) {
+    painter.fillRect(page.adjusted(n, n, n, n), teintes.ombre);
+  }
+  painter.setPen(teintes.bord);
+  painter.drawRect(page.adjusted(-1, -1, 0, 0));
+  painter.translate(page.topLeft());
   PeintPage(painter, page_, facteur, EclairageVu());
 }
 

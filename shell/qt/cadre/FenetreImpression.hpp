@@ -25,6 +25,7 @@ protected:
 
 private:
   void Centre();
+  void AjusteTaille();
   void AccordeTaille();
   void Note(const QWindow *devant);
 

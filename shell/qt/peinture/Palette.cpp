@@ -1,5 +1,7 @@
 #include "shell/qt/peinture/Palette.hpp"
 
+#include "shell/droites/Droites.hpp"
+
 #include <algorithm>
 #include <array>
 #include <cmath>
@@ -168,11 +170,11 @@ QPalette PaletteNuit() {
 
 const Teintes &TeintesDe(Eclairage eclairage) {
   static const Teintes kJour = {{238, 240, 243}, {247, 248, 250}, {168, 178, 189}, {219, 227, 236},
-                                {244, 239, 222}, {222, 235, 246}, {176, 182, 189}, {0, 0, 0, 26}};
+                                {244, 239, 222}, {222, 235, 246}, {176, 182, 189}, {0, 0, 0, 26}, {204, 108, 0}};
   static const Teintes kCrepuscule = {{30, 34, 39}, {38, 43, 49}, {78, 86, 96}, {50, 58, 67},
-                                      {42, 44, 40}, {28, 40, 54}, {17, 19, 22}, {0, 0, 0, 60}};
+                                      {42, 44, 40}, {28, 40, 54}, {17, 19, 22}, {0, 0, 0, 60}, {230, 150, 40}};
   static const Teintes kNuit = {Rouge(10),          Rouge(14), Rouge(78), Rouge(32),
-                                Rouge(kRougeTerre), Rouge(0),  Rouge(20), QColor(0, 0, 0, 60)};
+                                Rouge(kRougeTerre), Rouge(0),  Rouge(20), QColor(0, 0, 0, 60), Rouge(kRougeChiffre)};
   return eclairage == Eclairage::Nuit ? kNuit : eclairage == Eclairage::Crepuscule ? kCrepuscule : kJour;
 }
 
@@ -259,7 +261,10 @@ QColor EncreDeTexte(Eclairage eclairage, Couleur couleur, GenreTexte genre, cons
 QColor EncreDeLegende(Eclairage eclairage, Couleur couleur) {
   const QColor encre = EncreA(eclairage, CouleurQt(couleur));
   if (eclairage == Eclairage::Nuit) {
-    return Rouge(std::max(encre.red(), kRougeNom));
+    // The three states of a stored line: on the sheet, on it as the first, not on it.
+    return Rouge(couleur == kPremiereDroite  ? kRougeDroite
+                 : couleur == kDroiteAjoutee ? kRougeCote
+                                             : std::max(std::min(encre.red(), kRougeCote - 3), kRougeNom));
   }
   return Lisible(encre, TeintesDe(eclairage).carte, ContrasteDeTexte(eclairage));
 }

@@ -29,6 +29,7 @@ struct Teintes {
   QColor eau;     ///< lakes
   QColor mat;     ///< what the print page lies on
   QColor ombre;   ///< around the page
+  QColor alerte;  ///< the frame around what is to be mended
 };
 const Teintes &TeintesDe(Eclairage eclairage);
 

@@ -74,7 +74,7 @@ void Adaptateur::AccordeAspect(const Controle &c, const Controle &vu, bool tout)
   if ((tout || c.image != vu.image) && (!c.image.empty() || !vu.image.empty())) {
     PoseImage(c);
   }
-  if (tout || c.taille != vu.taille || c.gras != vu.gras || c.accent != vu.accent || c.legende != vu.legende ||
+  if (tout || c.taille != vu.taille || c.gras != vu.gras || c.accent != vu.accent || c.legende != vu.legende || c.marque != vu.marque ||
       c.place != vu.place) {
     PosePolice(c);
   }

@@ -32,7 +32,7 @@ constexpr double kTiret = 2.5; ///< of its dashes by night, in its own width
 void EncadreAlerte(QWidget &widget) {
   QPainter p(&widget);
   const int epais = Pixels(kAlerte, widget);
-  QPen plume(EstNuit() ? QColor(196, 0, 0) : QColor(214, 118, 0), epais, Qt::SolidLine, Qt::FlatCap, Qt::MiterJoin);
+  QPen plume(TeintesDe(EclairageVu()).alerte, epais, Qt::SolidLine, Qt::FlatCap, Qt::MiterJoin);
   if (EstNuit()) {
     plume.setDashPattern({kTiret, kTiret});
   }

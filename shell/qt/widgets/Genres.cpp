@@ -108,7 +108,11 @@ public:
 
 protected:
   void PoseLegende(const Controle &c) override {
-    w.setText(CoupeLegende(EstLettre(c) ? Legende(c) : Texte(c.legende), w, w.width(), w.height()));
+    QString mots = EstLettre(c) ? Legende(c) : Texte(c.legende);
+    if (!c.marque.empty() && !mots.isEmpty()) {
+      mots += "   " + Texte(c.marque);
+    }
+    w.setText(CoupeLegende(mots, w, w.width(), w.height()));
   }
   double Depasse() const override { return LargeurTexte(w.text(), w) - w.width(); }
   void PoseImage(const Controle &c) override { w.setPixmap(Icone(c.image).pixmap(w.size(), w.devicePixelRatioF())); }
