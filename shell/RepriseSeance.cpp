@@ -5,6 +5,7 @@
 #include "shell/bureau/Evenements.hpp"
 #include "shell/carte/FichierObjets.hpp"
 #include "shell/carte/Objets.hpp"
+#include "shell/droites/Bouts.hpp"
 #include "shell/droites/Droites.hpp"
 #include "shell/ecran/Modules.hpp"
 #include "shell/visee/EtatPanneau.hpp"
@@ -47,7 +48,9 @@ void RetraceFeuille(Bureau &bureau, const Session &session) {
   } else {
     RemetResultat(bureau, session.resultat);
     const Observation visee = session.resultat.reduite.value_or(LitPanneau(bureau.donnees));
+    const EtatDessin avant = EtatDe(bureau.image1);
     TraceDroites(bureau.feuille, bureau.image1, visee, bureau.visee);
+    NommeBout(bureau, avant, bureau.NomAstre, visee.heure, visee.minute);
     MontreTitresFeuille(bureau);
   }
   if (bureau.feuille.OrigineFeuille != f.origine) { // centred by hand: the chart lay there alone

@@ -47,7 +47,8 @@ struct EtatTrace {
   std::array<Couleur, kNombreDroites> droites{}; ///< state of each stored line: the colour of its labels
   std::array<RangeeImprimee, kNombreDroites> rangees;
   std::vector<Trace> traces;
-  bool carte = false; ///< the chart lies on the surface too
+  std::vector<Etiquette> etiquettes; ///< names at the ends of lines
+  bool carte = false;                ///< the chart lies on the surface too
   bool operator==(const EtatTrace &) const = default;
 };
 

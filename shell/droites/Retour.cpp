@@ -74,6 +74,7 @@ void RemetTrace(Bureau &bureau, const EtatTrace &trace) {
   const bool autreVue = zoom != trace.feuille.Zoom || grille != trace.feuille.Grille;
   Efface(bureau.image1);
   bureau.image1.traces = trace.traces;
+  bureau.image1.etiquettes = trace.etiquettes;
   bureau.image1.plumeLevee = true;
   bureau.feuille = trace.feuille;
   bureau.feuille.Zoom = zoom;

@@ -52,6 +52,7 @@ EtatTrace PriseTrace(const Bureau &bureau) {
     trace.rangees.at(i) = PriseRangee(bureau.impression, i);
   }
   trace.traces = TracesSansCarte(bureau);
+  trace.etiquettes = bureau.image1.etiquettes;
   trace.carte = !DessinsCarte(bureau).empty();
   return trace;
 }

@@ -1,6 +1,6 @@
 #include "OutilsFenetre.hpp"
 
-#include "shell/qt/peinture/Nuit.hpp"
+#include "shell/qt/peinture/Apparat.hpp"
 #include "shell/qt/widgets/Elements.hpp"
 
 #include <QAccessible>
@@ -18,7 +18,7 @@ protected:
     fenetre->activateWindow();
     d.Check2.valeur = 0;
   }
-  ~Annule() override { qt::AccordeNuit(false); }
+  ~Annule() override { qt::AccordeEclairage(Eclairage::Jour); }
   Annule() = default;
   Annule(const Annule &) = delete;
   Annule &operator=(const Annule &) = delete;
@@ -118,7 +118,7 @@ TEST_F(Annule, ByNightTheFrameIsDashedRed) {
   Joue([this] {
     TapeVisee();
     Tape(d.Text8, "");
-    bureau.nuit = true;
+    bureau.eclairage = Eclairage::Nuit;
   });
   auto &champ = *Trouve<qt::Champ>("Text8");
   const QImage image = champ.grab().toImage();

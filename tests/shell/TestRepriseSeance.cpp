@@ -84,6 +84,7 @@ TEST_F(RepriseSeance, ASheetOfThePanelAloneComesBackWithItsResults) {
   reponse = true;
   ProposeReprise(*suivant, false);
   EXPECT_EQ(suivant->image1.traces, traces);
+  EXPECT_EQ(suivant->image1.etiquettes, bureau.image1.etiquettes);
   EXPECT_EQ(suivant->donnees.Affichage_Intercept.legende, intercept);
   EXPECT_EQ(suivant->donnees.Text25.texte, "39");
   JugeChamps(*suivant);

@@ -157,11 +157,14 @@ TEST_F(Retour, EcranGivesTheSheetBackWithItsPictureItsLinesAndItsTransports) {
   Montre(1);
   Transporte(0, "2");
   const std::vector<Trace> traces = bureau.image1.traces;
+  const std::vector<Etiquette> noms = bureau.image1.etiquettes;
+  ASSERT_FALSE(noms.empty());
   const Origine origine = bureau.feuille.OrigineFeuille;
   ClicControle(bureau, d.Command6);
   ASSERT_TRUE(bureau.image1.traces.empty());
   Annule();
   EXPECT_EQ(bureau.image1.traces, traces);
+  EXPECT_EQ(bureau.image1.etiquettes, noms);
   EXPECT_EQ(bureau.feuille.OrigineFeuille, origine);
   EXPECT_TRUE(Marque(0, kPremiereDroite));
   EXPECT_TRUE(Marque(1, kDroiteAjoutee));
