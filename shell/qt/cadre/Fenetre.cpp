@@ -69,7 +69,7 @@ int CranDeZoom(int touche) {
 /// The first sight among the files that are dropped, empty for none.
 std::filesystem::path ViseeDeposee(const QMimeData &donnees) {
   for (const QUrl &adresse : donnees.urls()) {
-    const std::filesystem::path chemin = QFile::encodeName(adresse.toLocalFile()).toStdString();
+    std::filesystem::path chemin = QFile::encodeName(adresse.toLocalFile()).toStdString();
     if (EstNomDeVisee(chemin)) {
       return chemin;
     }
