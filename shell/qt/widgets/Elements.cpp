@@ -25,8 +25,8 @@ constexpr int kHautTitre = 20;        ///< pixels of a module's title band at sc
 constexpr double kPlaceFleche = 10;   ///< from the right edge of a closed list to the middle of its arrow
 constexpr double kMiFleche = 3.5;     ///< half its width, and its height
 constexpr double kTraitFleche = 1.25; ///< width of its strokes
-constexpr int kAlerte = 2;     ///< of the frame around a field that is to be mended
-constexpr double kTiret = 2.5; ///< of its dashes by night, in its own width
+constexpr int kAlerte = 2;            ///< of the frame around a field that is to be mended
+constexpr double kTiret = 2.5;        ///< of its dashes by night, in its own width
 
 /// The frame around what is to be mended.
 void EncadreAlerte(QWidget &widget) {
