@@ -56,7 +56,7 @@ scene large
 for _ in $(seq 11); do xdotool keydown ctrl click 4 keyup ctrl; done; pause 0.3
 clic 5400 520
 clic 9400 520; clic 2400 8100; scene panneaux; clic 2400 8100; clic 9400 520
-clic 10900 520; clic 11600 520; scene route; clic 10900 520; clic 11600 520
+clic 10900 520; clic 11600 520; scene route; clic 10900 520; clic 11600 520; clic 8500 520 # the panel of the sight again
 
 clic 1900 520
 attends boite_ouverte '^Impression$'

@@ -2,7 +2,8 @@
 
 #include "foundations/Surface.hpp"
 #include "shell/qt/peinture/Grandeur.hpp"
-#include "shell/qt/peinture/Toile.hpp"
+#include "shell/qt/peinture/Palette.hpp"
+#include "shell/qt/peinture/Traces.hpp"
 
 #include <QBuffer>
 #include <QPainter>
@@ -34,7 +35,7 @@ bool Peint(QPaintDevice &support, const Surface &surface, int parPouce) {
   painter.setRenderHint(QPainter::Antialiasing);
   painter.fillRect(zone, CouleurQt(surface.fond));
   painter.setClipRect(zone);
-  PeintTraces(painter, surface, facteur, {.nuit = false, .pixel = double(parPouce) / kTraitsParPouce});
+  PeintTraces(painter, surface, facteur, {.eclairage = Eclairage::Jour, .pixel = double(parPouce) / kTraitsParPouce});
   return painter.end();
 }
 

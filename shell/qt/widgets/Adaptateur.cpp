@@ -30,8 +30,9 @@ void PoseCouleur(QWidget &widget, const Controle &c) {
   QPalette palette = widget.palette();
   // A result that isn't to be taken any more is as faint as what can't be used.
   const bool perime = c.genre == Genre::Etiquette && !c.alerte.empty();
-  const QColor couleur = perime ? QApplication::palette().color(QPalette::Disabled, QPalette::Text)
-                                : EncreDeLegende(EclairageVu(), c.couleur);
+  const QColor couleur = perime               ? QApplication::palette().color(QPalette::Disabled, QPalette::Text)
+                         : c.couleur == kNoir ? QApplication::palette().color(widget.foregroundRole())
+                                              : EncreDeLegende(EclairageVu(), c.couleur);
   palette.setColor(QPalette::Active, widget.foregroundRole(), couleur);
   palette.setColor(QPalette::Inactive, widget.foregroundRole(), couleur);
   widget.setPalette(palette);
@@ -74,8 +75,8 @@ void Adaptateur::AccordeAspect(const Controle &c, const Controle &vu, bool tout)
   if ((tout || c.image != vu.image) && (!c.image.empty() || !vu.image.empty())) {
     PoseImage(c);
   }
-  if (tout || c.taille != vu.taille || c.gras != vu.gras || c.accent != vu.accent || c.legende != vu.legende || c.marque != vu.marque ||
-      c.place != vu.place) {
+  if (tout || c.taille != vu.taille || c.gras != vu.gras || c.accent != vu.accent || c.legende != vu.legende ||
+      c.marque != vu.marque || c.place != vu.place) {
     PosePolice(c);
   }
   const bool alerte = c.alerte.empty() != vu.alerte.empty();

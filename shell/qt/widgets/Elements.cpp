@@ -134,13 +134,6 @@ void Deroulante::PoseAlerte(bool alerte) {
   update();
 }
 
-void Deroulante::paintEvent(QPaintEvent *event) {
-  QComboBox::paintEvent(event);
-  if (alerte_) {
-    EncadreAlerte(*this);
-  }
-}
-
 Deroulante::Deroulante(QWidget *parent) : QComboBox(parent) {
   setFocusPolicy(Qt::StrongFocus);
   Noircit();
@@ -182,6 +175,10 @@ void Deroulante::paintEvent(QPaintEvent * /*event*/) {
   p.setPen(QPen(option.palette.color(QPalette::ButtonText), kTraitFleche * g, Qt::SolidLine, Qt::RoundCap));
   p.drawLine(pointe, pointe - QPointF(kMiFleche, kMiFleche) * g);
   p.drawLine(pointe, pointe - QPointF(-kMiFleche, kMiFleche) * g);
+  p.end();
+  if (alerte_) {
+    EncadreAlerte(*this);
+  }
 }
 
 void Deroulante::wheelEvent(QWheelEvent *event) {
