@@ -169,12 +169,12 @@ QPalette PaletteNuit() {
 } // namespace
 
 const Teintes &TeintesDe(Eclairage eclairage) {
-  static const Teintes kJour = {{238, 240, 243}, {247, 248, 250}, {168, 178, 189}, {219, 227, 236},
-                                {244, 239, 222}, {222, 235, 246}, {176, 182, 189}, {0, 0, 0, 26}, {204, 108, 0}};
-  static const Teintes kCrepuscule = {{30, 34, 39}, {38, 43, 49}, {78, 86, 96}, {50, 58, 67},
-                                      {42, 44, 40}, {28, 40, 54}, {17, 19, 22}, {0, 0, 0, 60}, {230, 150, 40}};
-  static const Teintes kNuit = {Rouge(10),          Rouge(14), Rouge(78), Rouge(32),
-                                Rouge(kRougeTerre), Rouge(0),  Rouge(20), QColor(0, 0, 0, 60), Rouge(kRougeChiffre)};
+  static const Teintes kJour = {{238, 240, 243}, {247, 248, 250}, {168, 178, 189}, {219, 227, 236}, {244, 239, 222},
+                                {222, 235, 246}, {176, 182, 189}, {0, 0, 0, 26},   {204, 108, 0}};
+  static const Teintes kCrepuscule = {{30, 34, 39}, {38, 43, 49}, {78, 86, 96},  {50, 58, 67},  {42, 44, 40},
+                                      {28, 40, 54}, {17, 19, 22}, {0, 0, 0, 60}, {230, 150, 40}};
+  static const Teintes kNuit = {Rouge(10), Rouge(14), Rouge(78),           Rouge(32),           Rouge(kRougeTerre),
+                                Rouge(0),  Rouge(20), QColor(0, 0, 0, 60), Rouge(kRougeChiffre)};
   return eclairage == Eclairage::Nuit ? kNuit : eclairage == Eclairage::Crepuscule ? kCrepuscule : kJour;
 }
 
