@@ -113,7 +113,7 @@ guide: deps
 # Takes the guide's pictures again, from the program on a virtual screen.
 images-guide: deps build
 	for langue in fr en; do \
-	  xvfb-run -a -s "-screen 0 1100x768x24 -noreset" docs/guide/images.sh build/bin/velmaris build/pictures/guide-$$langue $$langue \
+	  xvfb-run -a -s "-screen 0 1920x1080x24 -noreset" docs/guide/images.sh build/bin/velmaris build/pictures/guide-$$langue $$langue \
 	    docs/guide/$$langue/images data/exemples || exit 1; \
 	done
 

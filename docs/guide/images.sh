@@ -28,7 +28,7 @@ mesure() {
 boite() {
   image "$2"
   mesure "$(xdotool search --onlyvisible --name "$1" | tail -n 1)"
-  publie "$2" "$2" "${WIDTH}x$((HEIGHT + 20))+$X+$((Y - 20))"
+  publie "$2" "$2" "${WIDTH}x$((HEIGHT + 20))+$X+$((Y - 20))" -filter Lanczos -resize '1280x>'
 }
 # A piece of the main window, its place and size in 1/1440 inch.
 piece() {
@@ -37,16 +37,23 @@ piece() {
   publie "$1" "$1" "$(px "$4")x$(px "$5")+$(($(px "$2") + X))+$(($(px "$3") + Y))" "${@:6}"
 }
 # The whole main window with its title.
-fenetre() { piece "$1" 0 -300 16480 10980 "${@:2}"; }
-# Arguments for convert that draw figures in circles: pairs of places as pixels at scale 1, counted from one.
+TITRE_HAUT=20
+fenetre() {
+  image "$1"
+  mesure "$FENETRE"
+  publie "$1" "$1" "${WIDTH}x$((HEIGHT + TITRE_HAUT))+$X+$((Y - TITRE_HAUT))" "${@:2}" -filter Lanczos -resize 1280x
+}
+# The middle of the sheet, as wide as the guide's pages.
+feuille() { piece "$1" 4550 1320 14000 10620 -filter Lanczos -resize 960x; }
+# Arguments for convert that draw figures in circles: pairs of places in 1/1440 inch, counted from one.
 pastilles() {
   local n=1 x y
   PASTILLES=()
   while [ $# -gt 0 ]; do
-    x=$(px $(($1 * 15))) y=$(px $(($2 * 15)))
-    PASTILLES+=(-fill '#c2185b' -stroke white -strokewidth 2 -draw "circle $x,$y $((x + 12)),$y"
-      -fill white -stroke none -font Liberation-Sans-Bold -pointsize 15
-      -draw "text $((x - (n > 9 ? 9 : 4))),$((y + 6)) '$n'")
+    x=$(px "$1") y=$(($(px "$2") + TITRE_HAUT))
+    PASTILLES+=(-fill '#c2185b' -stroke white -strokewidth 2 -draw "circle $x,$y $((x + 17)),$y"
+      -fill white -stroke none -font Liberation-Sans-Bold -pointsize 22
+      -draw "text $((x - (n > 9 ? 12 : 6))),$((y + 8)) '$n'")
     n=$((n + 1))
     shift 2
   done
@@ -64,16 +71,16 @@ fenetre monde
 visee_bretagne
 piece champs 0 1050 3040 6740
 touche space; pause 0.5
-pastilles 246 72 108 168 165 597 575 385 690 385 590 560 640 660
+pastilles 3690 1000 1620 2100 2475 8700 11950 6250 13500 6120 12500 9270 9500 10850
 fenetre fenetre "${PASTILLES[@]}"
 piece barre 0 20 15900 1040
 clic 2400 8100
 piece details 3000 8700 2650 2000
 clic 2400 8100
 clic 8500 520 # the panel of the sight goes, the sheet shows
-piece feuille 1700 1050 13200 9970
+feuille feuille
 clic 5400 520
-piece grille 1700 1050 13200 9970
+feuille grille
 clic 5400 520
 clic 8500 520
 
@@ -90,8 +97,8 @@ mode $MODE_DROITE; clic 6045 4762; pause 0.3; touche Home Down Return; pause 0.2
 touche F5; pause 0.3
 clic 10200 520; clic 14200 3200; clic 10200 520 # the coordinates
 clic 7700 520; clic 8500 520
-va 10331 8441 # where the carried line crosses the second one
-piece transport 1700 1050 13200 9970
+va 13790 9215 # where the carried line crosses the second one
+feuille transport
 clic 1900 520 # the page to print
 attends boite_ouverte '^Impression$'
 boite '^Impression$' impression
@@ -110,7 +117,7 @@ clic 5895 6210; pause 0.3
 piece estime 3030 5370 3430 2690
 mode $MODE_ESTIME; touche F5; pause 0.3
 clic 10900 520; clic 7700 520; clic 8500 520
-piece estime-feuille 1700 1050 13200 9970
+feuille estime-feuille
 clic 8500 520
 
 # Course and distance between the two stored points.
@@ -139,15 +146,15 @@ touche Escape; reprend "$CHARGE"
 ouvre_visee "$HOME/visees/21JUN26 120530.LoP"
 clic 7700 520
 clic 10200 520; clic 12400 3200; clic 14200 3200; clic 10200 520
-clic 7500 2200
+clic 10750 3330
 pause 0.5
-piece menu 6500 1400 8000 5200
+piece menu 9750 2400 8000 8600
 touche Down Down Return; pause 0.5
-clic 7500 2200; touche Down Down Return; pause 0.5
-for place in "3900 5700" "5400 4800" "7400 5100" "9300 6600"; do va $place; xdotool click 3; pause 0.3; done
-va 10500 7800
-piece route 3050 1050 12300 9970
-touche ctrl+n; pause 0.4
+clic 10750 3330; touche Down Down Return; pause 0.5
+for place in "7150 6830" "8650 5930" "10650 6230" "12550 7730"; do va $place; xdotool click 3; pause 0.3; done
+va 13750 8930
+piece route 4550 1050 14000 10900 -filter Lanczos -resize 960x
+touche ctrl+n ctrl+n; pause 0.4
 fenetre nuit
 touche ctrl+n; pause 0.4
 clic 10200 520; clic 12400 3200; clic 14200 3200
@@ -163,7 +170,7 @@ xdotool windowfocus --sync "$FENETRE"
 
 # Who made the program; that puts the modules away.
 clic 6200 520
-clic 9000 6000; touche Up Up Up Up Up Return
+clic 9000 6000; touche Up Up Up Up Up Up Up Up Up Up Return
 attends boite_ouverte '^(A propos|About)$'
 boite '^(A propos|About)$' apropos
 touche Escape; reprend '^(A propos|About)$'
