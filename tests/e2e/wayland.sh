@@ -24,7 +24,9 @@ titres() { grep -c "set_title(\"$1" "$DIT" || true; }
 titree() { [ "$(titres "$1")" -gt 0 ]; }
 compte() { grep -cE "$1" "$DIT" || true; }
 ouvertes() { echo $(($(compte '\.get_toplevel\(') - $(compte 'xdg_toplevel@[0-9]+\.destroy\('))); }
-a_fenetres() { [ "$(ouvertes)" = "$1" ]; }
+a_fenetres() { [ "$(ouvertes)" = "$1" ] && a_clavier; }
+# Whether the compositor has given the keyboard to one of its windows: a key pressed between two goes to nobody.
+a_clavier() { grep -oE 'wl_keyboard@[0-9]+\.(enter|leave)\(' "$DIT" | tail -n 1 | grep -q enter; }
 repete() { local touches=(); for _ in $(seq "$2"); do touches+=("$1"); done; touche "${touches[@]}"; }
 # Steps of the keyboard back from the reading, where "Top" leads it.
 recule() { touche F3; repete shift+Tab "$1"; }
@@ -35,8 +37,8 @@ demarre_wayland() {
     QT_SCALE_FACTOR_ROUNDING_POLICY=PassThrough "$PROGRAMME" 2>"$DIT" &
   PID=$!
   attends titree ''
-  attends a_fenetres 1
   xdotool windowfocus "$FENETRE"
+  attends a_fenetres 1
   calme
 }
 
@@ -51,21 +53,21 @@ attendu "l'astre au journal" "$(tail -n 1 "$XDG_DATA_HOME/velmaris/journal.csv" 
 
 recule $ASTRES; touche space
 attends titree Astres
-attends a_fenetres 2
+attends a_fenetres 2; calme
 image wayland-3-ciel
 touche Escape
-attends a_fenetres 1
+attends a_fenetres 1; calme
 
 recule $IMPRIME; touche space
 attends titree Impression
-attends a_fenetres 2
+attends a_fenetres 2; calme
 image wayland-4-page
 touche Escape
-attends a_fenetres 1
+attends a_fenetres 1; calme
 
 touche F2
 attends titree 'Velmaris - '
-attends a_fenetres 2
+attends a_fenetres 2; calme
 image wayland-5-quitter
 touche Return
 attends finie

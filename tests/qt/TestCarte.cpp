@@ -77,6 +77,16 @@ TEST_F(CarteOuverte, TheMenuIsInTheLanguageOfTheWindow) {
   EXPECT_EQ(Entree("PU_Carte")->text(), "Show the chart");
 }
 
+TEST_F(CarteOuverte, TheMenuTellsTheKeysThatDoTheSame) {
+  OuvreFeuille();
+  Presse({400, 300}, Qt::LeftButton);
+  EXPECT_EQ(Entree("PU_Annule")->text(), "Annuler\tCtrl+Z");
+  EXPECT_EQ(Entree("PU_PleinEcran")->text(), "Plein écran\tF11");
+  EXPECT_TRUE(Entree("PU_Annule")->shortcut().isEmpty()) << "the window listens to its keys itself";
+  EXPECT_EQ(Entree("PU_Image")->text(), "Enregistrer l'image...");
+  EXPECT_EQ(Entree("PU_Image")->toolTip(), "PNG, SVG ou PDF");
+}
+
 TEST_F(CarteOuverte, TheMenuGoesWithItsEntryAndOpensAgain) {
   OuvreFeuille();
   for (int tour = 0; tour < 3; ++tour) {

@@ -4,9 +4,16 @@
 #include "shell/qt/widgets/Widgets.hpp"
 
 #include <QMenu>
+#include <QRegularExpression>
 
 namespace velmaris::qt {
 namespace {
+
+/// Whether a tip is the key that does the same as its entry.
+bool EstTouche(const QString &bulle) {
+  static const QRegularExpression kTouche(R"(^(Ctrl\+|Maj\+|Shift\+|F\d+$))");
+  return kTouche.match(bulle).hasMatch();
+}
 
 /// The entries of a menu, and those of the menus in it.
 void Remplit(QMenu &qt, QWidget &parent, Scene &scene, const ListeControles &controles, std::string_view menu) {
@@ -21,12 +28,14 @@ void Remplit(QMenu &qt, QWidget &parent, Scene &scene, const ListeControles &con
     } else if (c->genre == Genre::Separateur) {
       qt.addSeparator();
     } else if (c->genre == Genre::Entree) {
-      QAction *entree = qt.addAction(legende);
+      const QString bulle = Infobulle(c->infobulle);
+      // Shown beside the entry, and not given to the toolkit: the window listens to its keys itself.
+      QAction *entree = qt.addAction(EstTouche(bulle) ? legende + '\t' + bulle : legende);
       entree->setObjectName(QString::fromStdString(c->nom));
       entree->setEnabled(c->actif);
       entree->setCheckable(c->valeur != 0);
       entree->setChecked(c->valeur != 0);
-      entree->setToolTip(Infobulle(c->infobulle));
+      entree->setToolTip(EstTouche(bulle) ? QString() : bulle);
       // Once the menu has gone: a drawing lets the interface live, which would take the menu away under its own entry.
       QObject::connect(
           entree, &QAction::triggered, &parent,
