@@ -36,6 +36,8 @@ void MajMarques(Bureau &bureau) {
   d.PU_CopiePoint.actif = AUneEchelle(bureau.feuille);
   std::error_code refus;
   d.PU_Secours.actif = std::filesystem::exists(FichierSecours(bureau), refus);
+  bureau.donnees.PU_Annule.actif = !bureau.annulations.faits.empty();
+  bureau.donnees.PU_Retablit.actif = !bureau.annulations.defaits.empty();
 }
 
 /// A point of a route: the first one starts it, each further one ends a leg and starts the next.

@@ -46,7 +46,17 @@ void NommeBout(Bureau &bureau, const EtatDessin &avant, const std::string &astre
   }
   const Police police{surface.police.famille, kTaille, false};
   Etiquette etiquette{{kNoir, police, droite->points.back(), nom, {GenreTexte::Bout}}, droite->points.front()};
-  if (!nom.empty() && std::ranges::find(surface.etiquettes, etiquette) == surface.etiquettes.end()) {
+  // A line drawn again in its place has one name: the language may be another since.
+  const auto ici = [&](const Etiquette &autre) {
+    return autre.texte.position == etiquette.texte.position && autre.autreBout == etiquette.autreBout;
+  };
+  const auto place = std::ranges::find_if(surface.etiquettes, ici);
+  if (nom.empty()) {
+    return;
+  }
+  if (place != surface.etiquettes.end()) {
+    *place = std::move(etiquette);
+  } else {
     surface.etiquettes.push_back(std::move(etiquette));
   }
 }

@@ -27,14 +27,14 @@ constexpr int kOmbre = 5;  ///< pixels that the page's shadow reaches beyond it
 } // namespace
 
 FenetreImpression::FenetreImpression(Scene &scene, QWidget *parent)
-    : Dialogue(scene, scene.bureau().impression.cadre, parent, Etirable::Grandit), page_(scene.bureau().impression) {
+    : Dialogue(scene, scene.bureau().impression.cadre, parent, Etirable::Grandit), page_(scene.bureau().impression),
+      taille_(scene.bureau().taille) {
   // A window of its own: as a dialog of the main one it would stay over it.
   setWindowFlags(Qt::Window | Qt::WindowTitleHint | Qt::WindowSystemMenuHint | Qt::WindowMinimizeButtonHint |
                  Qt::WindowCloseButtonHint);
   create();
   windowHandle()->setTransientParent(nullptr);
   setMinimumSize(kPlusPetite);
-  taille_ = scene.bureau().taille;
   AjusteTaille();
   ReprendSaTaille();
   Centre();

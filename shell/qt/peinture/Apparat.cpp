@@ -17,9 +17,10 @@
 namespace velmaris::qt {
 namespace {
 
-constexpr int kPlusVif = 195; ///< red of the brightest of what the toolkit draws by night
-constexpr int kBordNuit = 78; ///< red of the frames by night
-constexpr int kMarge = 3;     ///< pixels that the toolkit may draw beyond a control
+constexpr int kPlusVif = 195;       ///< red of the brightest of what the toolkit draws by night
+constexpr int kBordNuit = 78;       ///< red of the frames by night
+constexpr double kColonneMenu = 32; ///< pixels beside a menu's captions, at scale 1
+constexpr int kMarge = 3;           ///< pixels that the toolkit may draw beyond a control
 
 QColor Rouge(double valeur) { return {static_cast<int>(std::lround(std::clamp(valeur, 0.0, 255.0))), 0, 0}; }
 
@@ -119,6 +120,17 @@ void PosePalette(const Apparat &apparat) {
 } // namespace
 
 Apparat::Apparat() : QProxyStyle(QStyleFactory::create("Fusion")) {}
+
+/// The column of a menu's check marks grows with them; the toolkit reckons with its own and would cut the longest
+/// entry.
+QSize Apparat::sizeFromContents(ContentsType type, const QStyleOption *option, const QSize &contenu,
+                                const QWidget *widget) const {
+  QSize taille = QProxyStyle::sizeFromContents(type, option, contenu, widget);
+  if (type == CT_MenuItem) {
+    taille.rwidth() += static_cast<int>(std::lround(std::max(0.0, grandeur_ - 1) * kColonneMenu));
+  }
+  return taille;
+}
 
 /// Marks, bars and the room beside them grow with the texts; frames stay a hair line.
 int Apparat::pixelMetric(PixelMetric mesure, const QStyleOption *option, const QWidget *widget) const {

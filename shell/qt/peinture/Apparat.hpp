@@ -19,6 +19,8 @@ public:
   double grandeur() const { return grandeur_; }
   void PoseGrandeur(double grandeur) { grandeur_ = grandeur; }
 
+  QSize sizeFromContents(ContentsType type, const QStyleOption *option, const QSize &contenu,
+                         const QWidget *widget) const override;
   int pixelMetric(PixelMetric mesure, const QStyleOption *option, const QWidget *widget) const override;
 
   void drawPrimitive(PrimitiveElement element, const QStyleOption *option, QPainter *painter,

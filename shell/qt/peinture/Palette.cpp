@@ -95,7 +95,7 @@ QColor Lisible(const QColor &encre, const QColor &fond, double contraste) {
 }
 
 struct Role {
-  QPalette::ColorRole role;
+  QPalette::ColorRole role = QPalette::Window;
   QColor couleur;
 };
 

@@ -119,6 +119,21 @@ TEST_F(Souris, TheEntriesOfTheMenuStandInTheirOrderBetweenTheirSeparators) {
                                              "PU_Quitter"}));
 }
 
+TEST_F(Souris, UndoAndRedoAreGreyInTheMenuWhileThereIsNothingForThem) {
+  Image1_MouseDown(bureau, BoutonSouris::Gauche, 5000, 4000);
+  EXPECT_FALSE(d.PU_Annule.actif);
+  EXPECT_FALSE(d.PU_Retablit.actif);
+  Tape(d.Text3, "01");
+  ClicControle(bureau, d.Command1); // "Top" fills the time
+  Image1_MouseDown(bureau, BoutonSouris::Gauche, 5000, 4000);
+  EXPECT_TRUE(d.PU_Annule.actif);
+  EXPECT_FALSE(d.PU_Retablit.actif);
+  ClicControle(bureau, d.PU_Annule);
+  Image1_MouseDown(bureau, BoutonSouris::Gauche, 5000, 4000);
+  EXPECT_FALSE(d.PU_Annule.actif);
+  EXPECT_TRUE(d.PU_Retablit.actif);
+}
+
 TEST_F(Souris, TheEntriesOfModulesDoWhatTheirButtonsDo) {
   const std::pair<Controle *, Controle *> entrees[] = {{&d.PU_DM, &d.Frame10}, {&d.PU_D, &d.Frame7},
                                                        {&d.PU_S, &d.Frame8},   {&d.PU_C, &d.FOptionCarte},

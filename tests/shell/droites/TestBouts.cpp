@@ -47,6 +47,15 @@ TEST_F(Bouts, EveryLineOfTheSheetHasItsOwnAndARedrawWritesThemOnce) {
   EXPECT_EQ(Noms(), (Liste{"Soleil 09:00", "Soleil 15:00", "Soleil 12:05"}));
 }
 
+TEST_F(Bouts, ALineDrawnAgainInItsPlaceInAnotherLanguageHasOneName) {
+  TroisDroites();
+  Montre(0);
+  EXPECT_EQ(Noms(), Liste{"Soleil 09:00"});
+  const EtatDessin avant{bureau.image1.effacements, 0};
+  NommeBout(bureau, avant, "Sun", "09", "00");
+  EXPECT_EQ(Noms(), Liste{"Sun 09:00"});
+}
+
 TEST_F(Bouts, ACarriedLineIsNamedAsItWasSighted) {
   TroisDroites();
   Montre(1);
