@@ -170,7 +170,7 @@ xdotool windowfocus --sync "$FENETRE"
 
 # Who made the program; that puts the modules away.
 clic 6200 520
-clic 9000 6000; touche Up Up Up Up Up Up Up Up Up Up Return
+clic 9000 6000; touche Down Down Down Down Down Down Down Down Down Down Return
 attends boite_ouverte '^(A propos|About)$'
 boite '^(A propos|About)$' apropos
 touche Escape; reprend '^(A propos|About)$'

@@ -39,7 +39,7 @@ case $(demande) in */aide/$LANGUE/index.html) ;; *) echoue "le guide demandé es
 repond "$TOLD_BOX" Return
 reprend "$TOLD_BOX"
 clic 9000 6000
-touche Up Up Up Up Up Up Up Up Up Up Return
+touche Down Down Down Down Down Down Down Down Down Down Return
 attends boite_ouverte "$APROPOS"
 image "bureau-$LANGUE-apropos"
 touche space
