@@ -27,7 +27,7 @@ void LitFichier(Bureau &bureau);
 
 /// The tables and the list take the entries of a text that `TexteObjets` has made, to be written; the count and the
 /// selection follow.
-void RemetObjets(Utilisateur &fenetre, std::string_view texte);
+void RemetObjets(Utilisateur &u, std::string_view texte);
 
 /// Replaces the file of the objects in the user's data folder. A file that holds more than the tables, or that could
 /// not be read, is set aside first; so is one that isn't any more as it was read, which is told.
