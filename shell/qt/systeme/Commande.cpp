@@ -3,6 +3,7 @@
 #include "shell/bureau/Identite.hpp"
 
 #include <algorithm>
+#include <span>
 #include <string_view>
 #include <system_error>
 #include <unistd.h>
@@ -84,7 +85,10 @@ void Recommence(const std::vector<std::string> &ligne) {
   if (std::find(ligne.begin(), ligne.end(), kReprend) == ligne.end()) {
     mots.emplace_back(kReprend);
   }
-  mots.insert(mots.end(), ligne.begin() + (ligne.empty() ? 0 : 1), ligne.end());
+  const std::span<const std::string> toute(ligne);
+  for (const std::string &mot : toute.subspan(std::min<std::size_t>(1, toute.size()))) {
+    mots.push_back(mot);
+  }
   std::vector<char *> arguments;
   arguments.reserve(mots.size() + 1);
   for (std::string &mot : mots) {
