@@ -28,20 +28,20 @@ mesure() {
 boite() {
   image "$2"
   mesure "$(xdotool search --onlyvisible --name "$1" | tail -n 1)"
-  publie "$2" "$2" "${WIDTH}x$((HEIGHT + 20))+$X+$((Y - 20))" -filter Lanczos -resize '1280x>'
+  publie "$2" "$2" "${WIDTH}x$((HEIGHT + 20))+$X+$((Y - 20))" -filter Lanczos -resize '1200x>'
 }
 # A piece of the main window, its place and size in 1/1440 inch.
 piece() {
   image "$1"
   mesure "$FENETRE"
-  publie "$1" "$1" "$(px "$4")x$(px "$5")+$(($(px "$2") + X))+$(($(px "$3") + Y))" "${@:6}"
+  publie "$1" "$1" "$(px "$4")x$(px "$5")+$(($(px "$2") + X))+$(($(px "$3") + Y))" "${@:6}" -filter Lanczos -resize '1200x>'
 }
 # The whole main window with its title.
 TITRE_HAUT=20
 fenetre() {
   image "$1"
   mesure "$FENETRE"
-  publie "$1" "$1" "${WIDTH}x$((HEIGHT + TITRE_HAUT))+$X+$((Y - TITRE_HAUT))" "${@:2}" -filter Lanczos -resize 1280x
+  publie "$1" "$1" "${WIDTH}x$((HEIGHT + TITRE_HAUT))+$X+$((Y - TITRE_HAUT))" "${@:2}" -filter Lanczos -resize 1200x
 }
 # The middle of the sheet, as wide as the guide's pages.
 feuille() { piece "$1" 4550 1320 14000 10620 -filter Lanczos -resize 960x; }
