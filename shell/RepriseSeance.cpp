@@ -48,9 +48,8 @@ void RetraceFeuille(Bureau &bureau, const Session &session) {
   } else {
     RemetResultat(bureau, session.resultat);
     const Observation visee = session.resultat.reduite.value_or(LitPanneau(bureau.donnees));
-    const EtatDessin avant = EtatDe(bureau.image1);
-    TraceDroites(bureau.feuille, bureau.image1, visee, bureau.visee);
-    NommeBout(bureau, avant, bureau.NomAstre, visee.heure, visee.minute);
+    TraceNommee(bureau, NomReduite(bureau, visee, session.resultat.reduite.has_value()),
+                [&] { TraceDroites(bureau.feuille, bureau.image1, visee, bureau.visee); });
     MontreTitresFeuille(bureau);
   }
   if (bureau.feuille.OrigineFeuille != f.origine) { // centred by hand: the chart lay there alone

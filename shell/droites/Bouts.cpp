@@ -3,6 +3,8 @@
 #include "foundations/TexteNombre.hpp"
 
 #include <algorithm>
+#include <cstddef>
+#include <cstdint>
 #include <ranges>
 #include <variant>
 
@@ -29,31 +31,40 @@ const Polyligne *DerniereDroite(const Surface &surface, std::size_t premier) {
   return nullptr;
 }
 
+std::string Mots(const NomDroite &nom) {
+  std::string mots = nom.astre;
+  if (!nom.heure.empty() && !nom.minute.empty()) {
+    mots += (mots.empty() ? "" : " ") + Format(nom.heure, "00") + ":" + Format(nom.minute, "00");
+  }
+  return mots;
+}
+
 } // namespace
 
-EtatDessin EtatDe(const Surface &surface) { return {surface.effacements, surface.traces.size()}; }
+std::optional<NomDroite> NomReduite(const Bureau &bureau, const Observation &observation, bool reduite) {
+  if (!reduite) {
+    return std::nullopt;
+  }
+  return NomDroite{bureau.NomAstre, observation.heure, observation.minute};
+}
 
-void NommeBout(Bureau &bureau, const EtatDessin &avant, const std::string &astre, const std::string &heure,
-               const std::string &minute) {
+void TraceNommee(Bureau &bureau, const std::optional<NomDroite> &nom, const std::function<void()> &trace) {
   Surface &surface = bureau.image1;
-  const Polyligne *droite = DerniereDroite(surface, avant.effacements == surface.effacements ? avant.traces : 0);
-  if (droite == nullptr) {
+  const std::uint64_t effacements = surface.effacements;
+  const std::size_t traces = surface.traces.size();
+  trace();
+  const Polyligne *droite = DerniereDroite(surface, effacements == surface.effacements ? traces : 0);
+  const std::string mots = nom ? Mots(*nom) : std::string();
+  if (droite == nullptr || mots.empty()) {
     return;
   }
-  std::string nom = astre;
-  if (!heure.empty() && !minute.empty()) {
-    nom += (nom.empty() ? "" : " ") + Format(heure, "00") + ":" + Format(minute, "00");
-  }
   const Police police{surface.police.famille, kTaille, false};
-  Etiquette etiquette{{kNoir, police, droite->points.back(), nom, {GenreTexte::Bout}}, droite->points.front()};
+  Etiquette etiquette{{kNoir, police, droite->points.back(), mots, {GenreTexte::Bout}}, droite->points.front()};
   // A line drawn again in its place has one name: the language may be another since.
   const auto ici = [&](const Etiquette &autre) {
     return autre.texte.position == etiquette.texte.position && autre.autreBout == etiquette.autreBout;
   };
   const auto place = std::ranges::find_if(surface.etiquettes, ici);
-  if (nom.empty()) {
-    return;
-  }
   if (place != surface.etiquettes.end()) {
     *place = std::move(etiquette);
   } else {

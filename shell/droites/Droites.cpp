@@ -60,9 +60,13 @@ void RetraceTransports(Bureau &bureau, ModeDroite mode, const std::string &liste
 
 } // namespace
 
-void MarqueDroite(Donnees &d, std::size_t ligne, Couleur etat) {
+void MarqueHeure(Donnees &d, std::size_t ligne, Couleur etat) {
   d.LHeure[ligne].marque = etat == kPremiereDroite ? "●" : etat == kDroiteAjoutee ? "+" : "";
   d.LHeure[ligne].couleur = etat;
+}
+
+void MarqueDroite(Donnees &d, std::size_t ligne, Couleur etat) {
+  MarqueHeure(d, ligne, etat);
   d.Ldate[ligne].couleur = etat;
 }
 
@@ -88,9 +92,8 @@ std::optional<Hauteurs> PremiereDroite(Bureau &bureau, Demande demande) {
   NormaliseLecture(observation);
   PrepareVisee(bureau, observation);
   const std::optional<Hauteurs> hauteurs = ReduitVisee(bureau, observation, demande);
-  const EtatDessin avant = EtatDe(bureau.image1);
-  TraceDroites(bureau.feuille, bureau.image1, observation, bureau.visee);
-  NommeBout(bureau, avant, bureau.NomAstre, observation.heure, observation.minute);
+  TraceNommee(bureau, NomReduite(bureau, observation, hauteurs.has_value()),
+              [&] { TraceDroites(bureau.feuille, bureau.image1, observation, bureau.visee); });
   MontreTitresFeuille(bureau);
   MajHeureListes(bureau);
   return hauteurs;
@@ -99,7 +102,7 @@ std::optional<Hauteurs> PremiereDroite(Bureau &bureau, Demande demande) {
 void DroiteSuivante(Bureau &bureau, Demande demande) {
   Observation observation = LitPanneau(bureau.donnees);
   PrepareVisee(bureau, observation);
-  ReduitVisee(bureau, observation, demande);
+  const std::optional<Hauteurs> hauteurs = ReduitVisee(bureau, observation, demande);
   // A planet or a star gives its name also where a reading of 0 has left the reduction undone.
   const Donnees &d = bureau.donnees;
   if (observation.corps == Corps::Planetes) {
@@ -107,9 +110,8 @@ void DroiteSuivante(Bureau &bureau, Demande demande) {
   } else if (observation.corps == Corps::Etoiles) {
     bureau.NomAstre = d.Combo6.texte;
   }
-  const EtatDessin avant = EtatDe(bureau.image1);
-  AjouDroites(bureau.feuille, bureau.image1, observation, bureau.visee);
-  NommeBout(bureau, avant, bureau.NomAstre, observation.heure, observation.minute);
+  TraceNommee(bureau, NomReduite(bureau, observation, hauteurs.has_value()),
+              [&] { AjouDroites(bureau.feuille, bureau.image1, observation, bureau.visee); });
 }
 
 void Command2_Click(Bureau &bureau, int /*indice*/) {

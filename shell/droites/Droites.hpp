@@ -37,7 +37,10 @@ void RetraceDroites(Bureau &bureau);
 /// The chart is drawn again where it is to be always visible.
 void RetraceCarte(Bureau &bureau);
 
-/// Gives a line's labels the colour of its state.
+/// Gives a line's time label the colour of its state, and the mark that tells it without colour.
+void MarqueHeure(Donnees &donnees, std::size_t ligne, Couleur etat);
+
+/// Gives both labels of a line those of its state.
 void MarqueDroite(Donnees &donnees, std::size_t ligne, Couleur etat);
 
 /// No line is on a sheet and there is none: labels, print rows, sheet's origin, lists of transports, mode.

@@ -158,10 +158,10 @@ bool ChargeVisee(Bureau &bureau, const std::filesystem::path &chemin) {
   AppliqueAuPanneau(bureau);
   Observation observation = LitPanneau(bureau.donnees);
   PrepareVisee(bureau, observation);
-  Passe([&] { ReduitVisee(bureau, observation); });
-  const EtatDessin avant = EtatDe(bureau.image1);
-  TraceDroites(bureau.feuille, bureau.image1, observation, bureau.visee);
-  NommeBout(bureau, avant, bureau.NomAstre, observation.heure, observation.minute);
+  bool reduite = false;
+  Passe([&] { reduite = ReduitVisee(bureau, observation).has_value(); });
+  TraceNommee(bureau, NomReduite(bureau, observation, reduite),
+              [&] { TraceDroites(bureau.feuille, bureau.image1, observation, bureau.visee); });
   MontreTitresFeuille(bureau);
   PublieLigneImpression(bureau, 1, 0);
   PoseMode(bureau, ModeDroite::Enregistre);

@@ -64,10 +64,10 @@ void LitAzimutIntercept(Bureau &bureau, int ligne) {
   bureau.visee.Intercept = LitMillieme(LitChampDroite(bureau, "in(", ligne));
 }
 
-/// Names a transported line as it is named where it was sighted.
-void NommeTransportee(Bureau &bureau, const EtatDessin &avant, int ligne) {
-  NommeBout(bureau, avant, LitChampDroite(bureau, "Nom(", ligne), LitChampDroite(bureau, "T3(", ligne),
-            LitChampDroite(bureau, "T4(", ligne));
+/// A transported line is named as where it was sighted.
+NomDroite NomTransportee(const Bureau &bureau, int ligne) {
+  return {LitChampDroite(bureau, "Nom(", ligne), LitChampDroite(bureau, "T3(", ligne),
+          LitChampDroite(bureau, "T4(", ligne)};
 }
 
 /// `TransportEnCours` stays 1 when there is no sheet, no target or no intercept: mile ticks are then left out until a
@@ -92,12 +92,14 @@ void TransporteDroite(Bureau &bureau, int ligne, Demande /*demande*/) {
   const bool nord = LitChampDroite(bureau, "Hem(", k) == "Nord";
   const bool est = LitChampDroite(bureau, "Lon(", k) == "Est";
   LitAzimutIntercept(bureau, ligne);
-  const EtatDessin avant = EtatDe(bureau.image1);
-  if (!TransporteADroite(bureau.feuille, bureau.image1, bureau.transports, bureau.visee, nord ? latitude : -latitude,
-                         est ? -longitude : longitude)) {
+  bool transportee = false;
+  TraceNommee(bureau, NomTransportee(bureau, ligne), [&] {
+    transportee = TransporteADroite(bureau.feuille, bureau.image1, bureau.transports, bureau.visee,
+                                    nord ? latitude : -latitude, est ? -longitude : longitude);
+  });
+  if (!transportee) {
     return;
   }
-  NommeTransportee(bureau, avant, ligne);
   if (NoteTransport(bureau.transports.ListeTransportDroite, ligne)) {
     bureau.transports.CibleTransport = d.Combo5.texte;
   }
@@ -107,12 +109,14 @@ void TransporteDroite(Bureau &bureau, int ligne, Demande /*demande*/) {
 void TransporteEstime(Bureau &bureau, int ligne, Demande /*demande*/) {
   const Donnees &d = bureau.donnees;
   LitAzimutIntercept(bureau, ligne);
-  const EtatDessin avant = EtatDe(bureau.image1);
-  if (!TransporteAEstime(bureau.feuille, bureau.image1, bureau.transports, bureau.visee, Val(d.Text15.texte),
-                         Val(d.Text1.texte))) {
+  bool transportee = false;
+  TraceNommee(bureau, NomTransportee(bureau, ligne), [&] {
+    transportee = TransporteAEstime(bureau.feuille, bureau.image1, bureau.transports, bureau.visee, Val(d.Text15.texte),
+                                    Val(d.Text1.texte));
+  });
+  if (!transportee) {
     return;
   }
-  NommeTransportee(bureau, avant, ligne);
   if (NoteTransport(bureau.transports.ListeTransportEstime, ligne)) {
     bureau.transports.CibleTransport = d.Combo5.texte;
   }
@@ -148,7 +152,7 @@ void Centre(Bureau &bureau, int ligne, Demande /*demande*/) {
   Command6_Click(bureau, -1);
   for (std::size_t i = 0; i < presente.size(); ++i) {
     if (presente[i]) {
-      d.LHeure[i].couleur = kDroiteAjoutee;
+      MarqueHeure(d, i, kDroiteAjoutee); // the date keeps its colour
     }
   }
   PoseMode(bureau, ModeDroite::Affiche);

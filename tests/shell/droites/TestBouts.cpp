@@ -25,6 +25,20 @@ TEST_F(Bouts, ALineEndsWithItsBodyAndItsTime) {
   EXPECT_EQ(Noms(), Liste{"Soleil 09:00"});
 }
 
+TEST_F(Bouts, ALineThatIsNotTheSightsOwnHasNoName) {
+  Demarre();
+  TapeSoleil(kMatin);
+  Calcule();
+  ClicControle(bureau, d.Command6);
+  TapeSoleil(kMidi);
+  for (Controle *lecture : {&d.Text13, &d.Text12, &d.Text25}) {
+    Tape(*lecture, "0");
+  }
+  Calcule(); // without a reading the line of the sight before is drawn once more
+  ASSERT_EQ(Traits(kTraitPremiere).size(), 1U);
+  EXPECT_EQ(Noms(), Liste{});
+}
+
 TEST_F(Bouts, TheNameStandsAtTheOneEndOfTheLineOrAtTheOther) {
   Demarre();
   TapeSoleil(kMatin);
@@ -51,8 +65,10 @@ TEST_F(Bouts, ALineDrawnAgainInItsPlaceInAnotherLanguageHasOneName) {
   TroisDroites();
   Montre(0);
   EXPECT_EQ(Noms(), Liste{"Soleil 09:00"});
-  const EtatDessin avant{bureau.image1.effacements, 0};
-  NommeBout(bureau, avant, "Sun", "09", "00");
+  TraceNommee(bureau, NomDroite{"Sun", "09", "00"}, [&] {
+    const std::vector<Trace> dessin = bureau.image1.traces;
+    bureau.image1.traces.insert(bureau.image1.traces.end(), dessin.begin(), dessin.end());
+  });
   EXPECT_EQ(Noms(), Liste{"Sun 09:00"});
 }
 
