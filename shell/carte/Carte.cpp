@@ -55,11 +55,15 @@ std::string LitDonnees(const Bureau &bureau, std::string_view nom) {
   return LitFichier(TrouveFichier(bureau.dossiers, std::string(nom)));
 }
 
-/// What the outlines just read enclose. It is kept while its file is the same, by size and time.
-std::shared_ptr<const Anneaux> AnneauxLus(Bureau &bureau, std::string_view nom) {
+/// A file by size and time, as it stands before it is read: one that changes meanwhile is another.
+TerresLues EtatFichier(const Bureau &bureau, std::string_view nom) {
   std::error_code refus;
   const std::filesystem::path fichier = TrouveFichier(bureau.dossiers, std::string(nom));
-  TerresLues lues{std::filesystem::file_size(fichier, refus), std::filesystem::last_write_time(fichier, refus), {}};
+  return {std::filesystem::file_size(fichier, refus), std::filesystem::last_write_time(fichier, refus), {}};
+}
+
+/// What the outlines just read enclose. It is kept while its file is the same.
+std::shared_ptr<const Anneaux> AnneauxLus(Bureau &bureau, std::string_view nom, TerresLues lues) {
   TerresLues &gardees = bureau.carte.terres[std::string(nom)];
   if (!gardees.anneaux || gardees.taille != lues.taille || gardees.date != lues.date) {
     lues.anneaux = std::make_shared<const Anneaux>(AnneauxFermes(bureau.carte.polygone));
@@ -69,9 +73,9 @@ std::shared_ptr<const Anneaux> AnneauxLus(Bureau &bureau, std::string_view nom) 
 }
 
 /// The outlines just read, filled below all lines.
-void Teint(Bureau &bureau, std::string_view nom, Teinte teinte) {
+void Teint(Bureau &bureau, std::string_view nom, Teinte teinte, TerresLues lues) {
   const VueCarte vue = ChoisitVue(bureau.feuille, bureau.image1);
-  AjouteAire(bureau.image1, AireSurCarte(vue, bureau.feuille, teinte, AnneauxLus(bureau, nom)));
+  AjouteAire(bureau.image1, AireSurCarte(vue, bureau.feuille, teinte, AnneauxLus(bureau, nom, std::move(lues))));
 }
 
 /// Cities or user's objects; what can't be read is told, and the chart stays as drawn.
@@ -158,6 +162,7 @@ void ChargePolygone(Bureau &bureau, std::string_view nom, Couleur couleur, std::
     if (carte.fichierReste) {
       throw Erreur(kFichierOuvert);
     }
+    TerresLues lues = EtatFichier(bureau, nom);
     const std::string octets = LitDonnees(bureau, nom);
     carte.fichierReste = true; // until it is read to its end
     const std::size_t n = LitPolygone(carte.polygone, octets);
@@ -165,7 +170,7 @@ void ChargePolygone(Bureau &bureau, std::string_view nom, Couleur couleur, std::
     carte.fichierReste = false;
     bureau.ports.respire();
     if (teinte) {
-      Teint(bureau, nom, *teinte);
+      Teint(bureau, nom, *teinte, std::move(lues));
     }
     bureau.image1.genre = GenreLigne::Cote;
     Affiche(carte.polygone, bureau.feuille, bureau.image1, couleur, bureau.ports.respire);

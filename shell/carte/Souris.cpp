@@ -161,6 +161,7 @@ void Command19_Click(Bureau &bureau, int /*indice*/) {
   bureau.souris.DebutY = 0.0F;
   if (d.Check2.valeur == 1) {
     EffaceBranches(bureau.souris, bureau.image1, DessinsCarte(bureau));
+    bureau.image1.aires.clear(); // the chart's, which goes with them
   }
   RetraceCarte(bureau);
 }

@@ -430,6 +430,19 @@ TEST_F(Souris, ResetTakesEveryChartDrawnSinceTheSurfaceWasCleared) {
   EXPECT_EQ(bureau.image1.traces.size(), traces) << "also without a leg";
 }
 
+TEST_F(Souris, ResetTakesTheLandOfWhatIsNoLongerShown) {
+  PoseDonnees("Iles.Asc", "0.4 0.4\n0.6 0.4\n0.6 0.5\n0.4 0.4\n");
+  d.Check2.valeur = 1;
+  d.Check1[3].valeur = 1;
+  Efface(bureau.image1);
+  OuvreCartes(bureau);
+  const std::size_t avecIles = bureau.image1.aires.size();
+  ASSERT_GT(avecIles, 0U);
+  d.Check1[3].valeur = 0;
+  ClicControle(bureau, d.Command19);
+  EXPECT_EQ(bureau.image1.aires.size(), avecIles - 1);
+}
+
 TEST_F(Souris, RecentringDrawsTheChartAloneAroundThePlaceUnderThePointer) {
   const Point place = PlaceSurFeuille(bureau.feuille, 48.25, 4.5);
   const float echelle = bureau.feuille.EchelleY;
