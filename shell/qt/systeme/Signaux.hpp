@@ -13,15 +13,9 @@ class Scene;
 class Signaux {
 public:
   explicit Signaux(Scene &scene);
-  ~Signaux();
-  Signaux(const Signaux &) = delete;
-  Signaux &operator=(const Signaux &) = delete;
-  Signaux(Signaux &&) = delete;
-  Signaux &operator=(Signaux &&) = delete;
 
 private:
-  int numero_; ///< that a handler writes to, and the event loop waits at
-  std::unique_ptr<QSocketNotifier> guet_;
+  std::unique_ptr<QSocketNotifier> guet_; ///< at what a handler writes to
 };
 
 } // namespace velmaris::qt
