@@ -4,6 +4,9 @@
 #include "shell/qt/cadre/PortsQt.hpp"
 #include "shell/qt/systeme/Imprimante.hpp"
 
+#include "shell/qt/peinture/Grandeur.hpp"
+
+#include <QAbstractButton>
 #include <QEventLoop>
 #include <QMessageBox>
 #include <QPageSize>
@@ -174,6 +177,19 @@ TEST_F(PageOuverte, AClickEscapeAndTheCloseButtonPutItAway) {
   QApplication::processEvents();
   EXPECT_TRUE(estPartie());
   EXPECT_TRUE(bureau.impression.Frame4[1].visible) << "its rows stay";
+}
+
+TEST_F(PageOuverte, ItsButtonLiesAtItsPlaceOnThePageNotOfItsWindow) {
+  OuvrePage();
+  const Place &cadre = bureau.impression.Frame1.place;
+  const Place &bouton = bureau.impression.Command1.place;
+  const auto *widget = Page()->findChild<QAbstractButton *>("Command1");
+  ASSERT_NE(widget, nullptr);
+  const double facteur = qt::PixelsParTwip(*widget);
+  const QPoint place = widget->mapTo(Page(), QPoint());
+  constexpr double kTapis = 20; // pixels of the mat around the page
+  EXPECT_NEAR(place.x(), kTapis + (cadre.gauche + bouton.gauche) * facteur, 1);
+  EXPECT_NEAR(place.y(), kTapis + (cadre.haut + bouton.haut) * facteur, 1);
 }
 
 TEST_F(PageOuverte, AChartDrawnBehindItShowsOnReturn) {

@@ -35,14 +35,24 @@ bool AParDefaut(const Rendu &rendu) {
                      [](const Lien &lien) { return lien.controle->role == Role::Defaut; });
 }
 
+QWidget *PlaceContenu(QWidget &fenetre, int marge) {
+  if (marge == 0) {
+    return &fenetre;
+  }
+  auto *contenu = new QWidget(&fenetre);
+  contenu->move(marge, marge);
+  return contenu;
+}
+
 } // namespace
 
-Dialogue::Dialogue(Scene &scene, CadreFenetre &cadre, QWidget *parent, Etirable etirable)
+Dialogue::Dialogue(Scene &scene, CadreFenetre &cadre, QWidget *parent, Etirable etirable, int marge)
     : QDialog(parent), Echelonnee(EchelleDe(scene.bureau(), cadre, etirable)), scene_(scene), cadre_(cadre),
-      rendu_(scene, *this, ControlesDe(scene.bureau(), cadre.nom)), etirable_(etirable),
-      parDefaut_(AParDefaut(rendu_)) {
+      contenu_(PlaceContenu(*this, marge)), rendu_(scene, *contenu_, ControlesDe(scene.bureau(), cadre.nom)),
+      etirable_(etirable), parDefaut_(AParDefaut(rendu_)) {
   setObjectName(QString::fromUtf8(cadre.nom.data(), static_cast<qsizetype>(cadre.nom.size())));
   etirable != Etirable::Non ? resize(Taille()) : setFixedSize(Taille());
+  EtendContenu();
   for (const Lien &lien : rendu_.liens()) {
     if (auto *bouton = qobject_cast<QPushButton *>(lien.widget)) {
       bouton->setAutoDefault(parDefaut_); // else the toolkit would give Return to the first one
@@ -50,6 +60,13 @@ Dialogue::Dialogue(Scene &scene, CadreFenetre &cadre, QWidget *parent, Etirable 
     }
   }
   rendu_.AccordeFenetre = [this] { AccordeFenetre(); };
+}
+
+/// A content of its own takes the record's size.
+void Dialogue::EtendContenu() {
+  if (contenu_ != this) {
+    contenu_->resize(Taille());
+  }
 }
 
 /// The record's size in pixels.
@@ -81,6 +98,7 @@ void Dialogue::Echelonne() {
   if (voulue != echelle()) {
     PoseEchelle(voulue);
     Redimensionne();
+    EtendContenu();
     rendu_.AccordeEchelle();
   }
 }

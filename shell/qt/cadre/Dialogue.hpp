@@ -17,7 +17,8 @@ public:
   /// Makes the widgets.
   /// @param cadre     the window's record; it must outlive this
   /// @param etirable  what its user's stretching does to it
-  Dialogue(Scene &scene, CadreFenetre &cadre, QWidget *parent, Etirable etirable = Etirable::Non);
+  /// @param marge     pixels around what the record holds
+  Dialogue(Scene &scene, CadreFenetre &cadre, QWidget *parent, Etirable etirable = Etirable::Non, int marge = 0);
 
   /// Shows it and waits until it is hidden.
   void Montre();
@@ -51,8 +52,10 @@ protected:
 
 private:
   bool Valide();
+  void EtendContenu();
   Scene &scene_;
   CadreFenetre &cadre_;
+  QWidget *contenu_; ///< what the controls lie in: the window itself where it has no margin
   Rendu rendu_;
   Etirable etirable_;
   QSize ouverte_;  ///< the size that it opened with

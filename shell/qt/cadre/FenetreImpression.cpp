@@ -27,8 +27,8 @@ constexpr int kOmbre = 5;  ///< pixels that the page's shadow reaches beyond it
 } // namespace
 
 FenetreImpression::FenetreImpression(Scene &scene, QWidget *parent)
-    : Dialogue(scene, scene.bureau().impression.cadre, parent, Etirable::Grandit), page_(scene.bureau().impression),
-      taille_(scene.bureau().taille) {
+    : Dialogue(scene, scene.bureau().impression.cadre, parent, Etirable::Grandit, kMarge),
+      page_(scene.bureau().impression), taille_(scene.bureau().taille) {
   // A window of its own: as a dialog of the main one it would stay over it.
   setWindowFlags(Qt::Window | Qt::WindowTitleHint | Qt::WindowSystemMenuHint | Qt::WindowMinimizeButtonHint |
                  Qt::WindowCloseButtonHint);
