@@ -8,11 +8,14 @@
 namespace velmaris {
 
 TempsSysteme GetSystemTime() {
+  return TempsDe(std::chrono::floor<std::chrono::milliseconds>(std::chrono::system_clock::now()));
+}
+
+TempsSysteme TempsDe(MomentMillisecondes moment) {
   using namespace std::chrono;
-  const auto maintenant = floor<milliseconds>(system_clock::now());
-  const auto jour = floor<days>(maintenant);
+  const auto jour = floor<days>(moment);
   const year_month_day date(jour);
-  const hh_mm_ss heure(maintenant - jour);
+  const hh_mm_ss heure(moment - jour);
   TempsSysteme t;
   t.annee = static_cast<std::uint16_t>(static_cast<int>(date.year()));
   t.mois = static_cast<std::uint16_t>(static_cast<unsigned>(date.month()));
@@ -41,13 +44,17 @@ void LitHorloge(Horloge &horloge) {
   horloge.AnGMT = Format(t.annee, "00");
 }
 
+MomentMillisecondes MomentDe(const TempsSysteme &t) {
+  using namespace std::chrono;
+  return sys_days(year(t.annee) / month(t.mois) / day(t.jour)) + hours(t.heure) + minutes(t.minute) +
+         seconds(t.seconde) + milliseconds(t.millisecondes);
+}
+
 double MomentUTC(const TempsSysteme &t) {
   using namespace std::chrono;
-  const year_month_day date(year(t.annee), month(t.mois), day(t.jour));
-  const milliseconds depuisMinuit =
-      hours(t.heure) + minutes(t.minute) + seconds(t.seconde) + milliseconds(t.millisecondes);
-  return static_cast<double>(sys_days(date).time_since_epoch().count()) +
-         duration<double, days::period>(depuisMinuit).count();
+  const MomentMillisecondes moment = MomentDe(t);
+  const auto jour = floor<days>(moment);
+  return static_cast<double>(jour.time_since_epoch().count()) + duration<double, days::period>(moment - jour).count();
 }
 
 float FractionJourUTC(Horloge &horloge) {

@@ -2,6 +2,7 @@
 
 #include "foundations/ValeurDate.hpp"
 
+#include <chrono>
 #include <cstdint>
 #include <functional>
 #include <string>
@@ -19,6 +20,15 @@ struct TempsSysteme {
   std::uint16_t seconde = 0;
   std::uint16_t millisecondes = 0;
 };
+
+/// A moment in UTC, to the millisecond.
+using MomentMillisecondes = std::chrono::sys_time<std::chrono::milliseconds>;
+
+/// A record's moment, and a moment's record with its day of the week.
+/// @{
+MomentMillisecondes MomentDe(const TempsSysteme &temps);
+TempsSysteme TempsDe(MomentMillisecondes moment);
+/// @}
 
 /// The operating system's clock, in UTC.
 TempsSysteme GetSystemTime();

@@ -91,15 +91,11 @@ std::vector<CleValeur> ClesEffacees(int ligne) {
 }
 
 std::vector<std::string> ToutesClesDroite(int ligne) {
-  constexpr std::array<const char *, 11> kAutres = {"AS(",  "Combo6(", "Combo7(", "Bord(", "Hor(", "O4(",
-                                                    "Nom(", "Hem(",    "Lon(",    "In(",   "Az("};
-  std::vector<std::string> cles;
-  cles.reserve(kAutres.size() + kChampsGardes.size());
-  for (const char *champ : kAutres) {
-    cles.push_back(CleDroite(champ, ligne));
-  }
-  for (const ChampGarde &c : kChampsGardes) {
-    cles.push_back(CleDroite(c.champ, ligne));
+  Observation etoile;
+  etoile.corps = Corps::Etoiles;
+  std::vector<std::string> cles = {CleDroite("Combo7(", ligne)}; // the one key that a star leaves out
+  for (CleValeur &gardee : ClesEnregistrees(ligne, etoile, {}, {})) {
+    cles.push_back(std::move(gardee.cle));
   }
   return cles;
 }

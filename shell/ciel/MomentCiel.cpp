@@ -29,21 +29,7 @@ void DitMoment(Bureau &bureau, double latitude, double longitude) {
 }
 
 TempsSysteme Decale(const TempsSysteme &temps, long minutes) {
-  using namespace std::chrono;
-  const sys_days jour = year(temps.annee) / month(temps.mois) / day(temps.jour);
-  const sys_seconds moment =
-      jour + hours(temps.heure) + std::chrono::minutes(temps.minute + minutes) + seconds(temps.seconde);
-  const sys_days midi = floor<days>(moment);
-  const year_month_day date(midi);
-  const hh_mm_ss heure(moment - midi);
-  TempsSysteme autre = temps;
-  autre.annee = static_cast<std::uint16_t>(static_cast<int>(date.year()));
-  autre.mois = static_cast<std::uint16_t>(static_cast<unsigned>(date.month()));
-  autre.jour = static_cast<std::uint16_t>(static_cast<unsigned>(date.day()));
-  autre.jourSemaine = static_cast<std::uint16_t>(weekday(midi).c_encoding());
-  autre.heure = static_cast<std::uint16_t>(heure.hours().count());
-  autre.minute = static_cast<std::uint16_t>(heure.minutes().count());
-  return autre;
+  return TempsDe(MomentDe(temps) + std::chrono::minutes(minutes));
 }
 
 } // namespace velmaris

@@ -19,20 +19,10 @@ constexpr double kHautRange = 1215.0;     ///< top of module 10 once all are put
 
 constexpr std::size_t kLegendeMemoire = 5; ///< caption under "Mémoire"
 
-/// A module's number and panel; 5 and 6 stand for nothing.
-struct ModuleNumerote {
-  int numero;
-  Controle Donnees::*panneau;
-};
-
-constexpr std::array<ModuleNumerote, 8> kModules = {{{1, &Donnees::Frame1},
-                                                     {2, &Donnees::Frame2},
-                                                     {3, &Donnees::Frame9},
-                                                     {4, &Donnees::Frame4},
-                                                     {7, &Donnees::Frame7},
-                                                     {8, &Donnees::Frame8},
-                                                     {9, &Donnees::FOptionCarte},
-                                                     {10, &Donnees::Frame10}}};
+/// The panels by the order of their numbers.
+constexpr std::array<Controle Donnees::*, kNumerosModules.size()> kPanneaux = {
+    &Donnees::Frame1, &Donnees::Frame2, &Donnees::Frame9,       &Donnees::Frame4,
+    &Donnees::Frame7, &Donnees::Frame8, &Donnees::FOptionCarte, &Donnees::Frame10};
 
 /// Shows module 10 at a place, with "Mémoire" in the toolbar.
 void MontreDroitesEn(Donnees &d, double gauche, double haut) {
@@ -45,12 +35,11 @@ void MontreDroitesEn(Donnees &d, double gauche, double haut) {
 } // namespace
 
 Controle *Module(Donnees &d, int numero) {
-  for (const ModuleNumerote &module : kModules) {
-    if (module.numero == numero) {
-      return &(d.*module.panneau);
-    }
+  const auto *const place = std::find(kNumerosModules.begin(), kNumerosModules.end(), numero);
+  if (place == kNumerosModules.end()) {
+    return nullptr;
   }
-  return nullptr;
+  return &(d.*kPanneaux.at(static_cast<std::size_t>(place - kNumerosModules.begin())));
 }
 
 void MontreMemoire(Donnees &d, bool visible) {
@@ -200,8 +189,8 @@ void MontreDroitesMultiples(Bureau &bureau) {
 
 void AccordeModules(Bureau &bureau) {
   Donnees &d = bureau.donnees;
-  for (const ModuleNumerote &module : kModules) {
-    Controle &panneau = d.*module.panneau;
+  for (Controle Donnees::*module : kPanneaux) {
+    Controle &panneau = d.*module;
     TireModule(bureau, panneau, panneau.place.gauche, panneau.place.haut);
   }
   MontreMemoire(d, d.Frame10.visible);
@@ -212,8 +201,8 @@ void PU_Clear_Click(Bureau &bureau, int /*indice*/) {
   PoseDistance(bureau, false);
   d.Label62.visible = false;
   MontreMemoire(d, false);
-  for (const ModuleNumerote &module : kModules) {
-    (d.*module.panneau).visible = false;
+  for (Controle Donnees::*module : kPanneaux) {
+    (d.*module).visible = false;
   }
   d.Frame10.place.haut = kHautRange;
   d.Soleil.place.gauche = kHorsDeVue;

@@ -2,9 +2,14 @@
 
 #include "shell/bureau/Bureau.hpp"
 
+#include <array>
+
 namespace velmaris {
 
-/// The panel of a module by its number: 1 to 4 and 7 to 10.
+/// Numbers of the modules; 5 and 6 stand for nothing.
+inline constexpr std::array<int, 8> kNumerosModules = {1, 2, 3, 4, 7, 8, 9, 10};
+
+/// The panel of a module by its number.
 /// @return null for another number
 Controle *Module(Donnees &donnees, int numero);
 

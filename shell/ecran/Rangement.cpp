@@ -15,7 +15,6 @@ namespace {
 
 constexpr std::string_view kCle = "Disposition"; ///< setting: whether the places are kept
 constexpr std::string_view kClePlaces = "Places";
-constexpr std::array<int, 8> kNumeros = {1, 2, 3, 4, 7, 8, 9, 10};
 constexpr int kDistance = 1;
 constexpr int kDetails = 3;
 constexpr int kSoleil = 8;
@@ -27,7 +26,7 @@ void PoseGarde(Bureau &bureau, bool garde) {
 
 std::vector<ModuleRange> ModulesMontres(Donnees &d) {
   std::vector<ModuleRange> montres;
-  for (const int numero : kNumeros) {
+  for (const int numero : kNumerosModules) {
     if (const Controle *module = Module(d, numero); module->visible) {
       montres.push_back({numero, module->place});
     }
@@ -65,8 +64,8 @@ std::vector<PlaceGardee> LitPlaces(const std::string &texte) {
   while (mots >> mot[0] >> mot[1] >> mot[2] >> mot[3]) {
     places.push_back({static_cast<int>(Val(mot[0])), mot[1] == "1", Val(mot[2]), Val(mot[3])});
   }
-  const bool entier = places.size() == kNumeros.size() &&
-                      std::equal(places.begin(), places.end(), kNumeros.begin(),
+  const bool entier = places.size() == kNumerosModules.size() &&
+                      std::equal(places.begin(), places.end(), kNumerosModules.begin(),
                                  [](const PlaceGardee &place, int numero) { return place.numero == numero; });
   return entier ? places : std::vector<PlaceGardee>();
 }
@@ -118,7 +117,7 @@ void GardeDisposition(Bureau &bureau) {
     return;
   }
   std::string texte;
-  for (const int numero : kNumeros) {
+  for (const int numero : kNumerosModules) {
     const Controle &module = *Module(bureau.donnees, numero);
     texte += (texte.empty() ? "" : " ") + std::to_string(numero) + (module.visible ? " 1 " : " 0 ") +
              TexteGeneral(module.place.gauche) + " " + TexteGeneral(module.place.haut);

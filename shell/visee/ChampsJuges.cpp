@@ -13,9 +13,11 @@ constexpr std::size_t kNomPlanete = 15; ///< names of the lists, after those of 
 constexpr std::size_t kNomEtoile = 16;
 
 /// The fields of a sight in the order of their names.
-std::array<Controle *, kChampsVisee> Champs(Donnees &d) {
-  return {&d.TDate[0], &d.TDate[1], &d.TDate[2], &d.Text3,  &d.Text4,  &d.Text5,  &d.Text8, &d.Text9,
-          &d.Text6,    &d.Text7,    &d.Text13,   &d.Text12, &d.Text25, &d.Text11, &d.Text10};
+/// @param d  the main window's record, constant or not
+template <class Fenetre> auto Champs(Fenetre &d) {
+  return std::array<decltype(&d.Text3), kChampsVisee>{&d.TDate[0], &d.TDate[1], &d.TDate[2], &d.Text3,  &d.Text4,
+                                                      &d.Text5,    &d.Text8,    &d.Text9,    &d.Text6,  &d.Text7,
+                                                      &d.Text13,   &d.Text12,   &d.Text25,   &d.Text11, &d.Text10};
 }
 
 /// The words on a field, by how it stands.
@@ -85,9 +87,12 @@ std::string MotsAlerte(const Bureau &bureau) {
   if (champ != nullptr && champ->fenetre == kFenetreDonnees && !champ->alerte.empty()) {
     return champ->alerte;
   }
-  const std::array<const Controle *, 17> champs = {
-      &d.Combo7, &d.Combo6, &d.TDate[0], &d.TDate[1], &d.TDate[2], &d.Text3,  &d.Text4,  &d.Text5, &d.Text8,
-      &d.Text9,  &d.Text6,  &d.Text7,    &d.Text13,   &d.Text12,   &d.Text25, &d.Text11, &d.Text10};
+  for (const Controle *liste : {&d.Combo7, &d.Combo6}) {
+    if (!liste->alerte.empty()) {
+      return liste->alerte;
+    }
+  }
+  const auto champs = Champs(d);
   const auto *const premier =
       std::find_if(champs.begin(), champs.end(), [](const Controle *c) { return !c->alerte.empty(); });
   return premier == champs.end() ? std::string() : (*premier)->alerte;
