@@ -1,12 +1,17 @@
 #pragma once
 
-#include "foundations/Point.hpp"
-
 #include <cstdint>
 #include <memory>
 #include <vector>
 
 namespace velmaris {
+
+/// A point of a surface, in 1/1440 inch, y growing downward.
+struct Point {
+  double x = 0.0;
+  double y = 0.0;
+  bool operator==(const Point &) const = default;
+};
 
 /// A point of a ring, in a plane of its own.
 struct PointAnneau {

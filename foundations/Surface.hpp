@@ -1,7 +1,6 @@
 #pragma once
 
 #include "foundations/Aire.hpp"
-#include "foundations/Point.hpp"
 
 #include <cstddef>
 #include <cstdint>

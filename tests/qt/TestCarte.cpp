@@ -55,6 +55,14 @@ protected:
   qt::Toile *toile = nullptr;
 };
 
+TEST_F(CarteOuverte, ANameThatChangesAtALinesEndIsPaintedAnew) {
+  OuvreFeuille();
+  ASSERT_EQ(bureau.image1.etiquettes.size(), 1U);
+  const QImage avant = toile->grab().toImage();
+  Joue([this] { bureau.image1.etiquettes[0].texte.texte = "Sun 12:05"; });
+  EXPECT_NE(toile->grab().toImage(), avant);
+}
+
 TEST_F(CarteOuverte, TheLeftButtonOpensTheMenuAtThePointer) {
   OuvreFeuille();
   Presse({400, 300}, Qt::LeftButton);

@@ -16,6 +16,7 @@ namespace {
 
 constexpr double kGrandTrait = 1.5; ///< scale from which lines grow with it
 const std::vector<Aire> kSansAires;
+const std::vector<Etiquette> kSansEtiquettes;
 
 /// Pixels of the toolkit that a line of width 1 takes: a hair line stays one up to a scale where it would be lost.
 double Trait(const QWidget &widget) {
@@ -59,8 +60,8 @@ void Toile::Accorde() {
   const std::vector<Aire> &aires = surface_.teintee ? surface_.aires : kSansAires;
   const bool neuve =
       tourne || change || lignes_.size() != taille || effacements_ != surface_.effacements || aires_ != aires;
-  const std::size_t etiquettes = surface_.etiquetee ? surface_.etiquettes.size() : 0;
-  const bool nomme = std::exchange(etiquettes_, etiquettes) != etiquettes;
+  const std::vector<Etiquette> &etiquettes = surface_.etiquetee ? surface_.etiquettes : kSansEtiquettes;
+  const bool nomme = etiquettes_ != etiquettes;
   if (!neuve && !retiree && !nomme && traces_ == surface_.traces.size() && points_ == NombrePoints(surface_)) {
     return;
   }
@@ -82,6 +83,7 @@ void Toile::Accorde() {
   }
   image_ = lignes_;
   QPainter painter(&image_);
+  etiquettes_ = etiquettes;
   if (neuve || retiree || nomme || TexteDepuis(traces_)) {
     textes_ = TextesPeints(painter, surface_, facteur);
   }

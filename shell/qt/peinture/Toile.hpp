@@ -67,7 +67,7 @@ private:
   double facteur_ = 0.0;                  ///< pixels per 1/1440 inch in the image
   std::size_t points_ = 0;                ///< of the last trace painted, which may have grown since
   std::vector<Aire> aires_;               ///< filled shapes in the image
-  std::size_t etiquettes_ = 0;            ///< names of lines in it, none where they aren't to be seen
+  std::vector<Etiquette> etiquettes_;     ///< names of lines in it, none where they aren't to be seen
   Eclairage eclairage_ = Eclairage::Jour; ///< by which the image is painted
   std::optional<QLineF> elastique_;
   QPointF presseDroite_; ///< where the right button went down
