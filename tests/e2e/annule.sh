@@ -11,7 +11,6 @@ ATTENTION_BOX='^(Attention|Warning)$' ERREUR_BOX='^(Erreur|Error)$'
 # What the recovery file holds of a control.
 tenu() { [ "$(tail -n 1 "$REPRISE" 2>/dev/null)" = fin ] && sed -n "s/^controle\t$1\t-1\t//p" "$REPRISE"; }
 tient() { [ "$(tenu "$1")" = "$2" ]; }
-stocke() { [ "$(reglage "$1")" = "$2" ]; }
 # What the recovery file holds of controls and sheet; a reduction leaves figures of its own before it fails.
 seance() { grep -E '^(controle|feuille|droites|transports)' "$REPRISE"; }
 rendu() { [ "$(seance)" = "$1" ]; }

@@ -7,7 +7,6 @@ PROGRAMME=$1 IMAGES=$2 LANGUE=$3 EXEMPLES=$4
 gestionnaire
 TAILLE=$(xdpyinfo | awk '/dimensions/ {print $2}' | cut -dx -f1)
 NOM=astres-$LANGUE-$TAILLE
-stocke() { [ "$(reglage "$1")" = "$2" ]; }
 
 # Opens a sample sight by its path and stores it in a line.
 ouvre() {

@@ -21,12 +21,7 @@ attend_pixels "$NOM-monde" '#0000ff' 500 # lakes
 
 # Three lines on one sheet, the chart with them.
 clic 7700 520
-visee_bretagne; touche space; pause 0.3
-mode $MODE_ENREGISTRE; touche F6; pause 0.5
-visee_suivante 08 30 00 47 50 05 50 37 47 20; clic 700 8300; pause 0.3
-mode $MODE_ENREGISTRE; touche F5; pause 0.5
-visee_suivante 16 40 00 47 15 04 35 33 41 10; clic 700 8300; pause 0.3
-mode $MODE_ENREGISTRE; touche F7; pause 0.5
+enregistre_trois_droites
 clic 6200 520
 touche F6; touche F5; touche F7; pause 0.3
 clic 7700 520 # the four lines' module goes, the sheet shows

@@ -8,7 +8,6 @@ PROGRAMME=$1 IMAGES=$2 LANGUE=$3
 gestionnaire
 TAILLE=$(xdpyinfo | awk '/dimensions/ {print $2}' | cut -dx -f1)
 NOM=ciel-$LANGUE-$TAILLE
-stocke() { [ "$(reglage "$1")" = "$2" ]; }
 
 # Pixels of the window's inside, without its last rows, that have green or blue.
 autres() {

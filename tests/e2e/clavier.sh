@@ -8,7 +8,6 @@ PROGRAMME=$1 IMAGES=$2 EXEMPLES=$(realpath "$3")
 gestionnaire
 export HOME="$XDG_DATA_HOME/maison" CUPS_SERVER=/nulle/part
 mkdir -p "$HOME"
-stocke() { [ "$(reglage "$1")" = "$2" ]; }
 repete() { local touches=(); for _ in $(seq "$2"); do touches+=("$1"); done; touche "${touches[@]}"; }
 
 # "Top" leads the keyboard to the reading; from there every control is so many steps away. With a star the list and

@@ -7,7 +7,6 @@ PROGRAMME=$1 IMAGES=$2 EXEMPLES=$3
 gestionnaire
 export HOME="$XDG_DATA_HOME/maison"
 mkdir -p "$HOME"
-stocke() { [ "$(reglage "$1")" = "$2" ]; }
 journal() { [ "$(wc -l <"$XDG_DATA_HOME/velmaris/journal.csv")" = "$1" ]; }
 
 titre_dit() { xdotool getwindowname "$FENETRE" | grep -q "$1"; }

@@ -11,19 +11,13 @@ SAUVE="^(Sauvegarder le|Save the) "
 export HOME="$TRAVAIL/maison"
 mkdir "$HOME"
 
-stocke() { [ "$(reglage "$1")" = "$2" ]; }
 
 demarre
 [ "$LANGUE" = en ] && clic 14700 520
 clic 7700 520 # the module of the four lines
 
 # The noon sight first, then the morning's and the afternoon's, each stored by its key.
-visee_bretagne; touche space; pause 0.3
-mode $MODE_ENREGISTRE; touche F6; attends stocke 'AS(1)' 0
-visee_suivante 08 30 00 47 50 05 50 37 47 20; clic 700 8300; pause 0.3
-mode $MODE_ENREGISTRE; touche F5; attends stocke 'AS(0)' 0
-visee_suivante 16 40 00 47 15 04 35 33 41 10; clic 700 8300; pause 0.3
-mode $MODE_ENREGISTRE; touche F7; attends stocke 'AS(2)' 0
+enregistre_trois_droites
 attendu "la première droite" "$(reglage 'T3(0)'):$(reglage 'T4(0)') $(reglage 'T13(0)') $(reglage 'Nom(0)')" "08:30 37 $([ "$LANGUE" = en ] && echo Sun || echo Soleil)"
 attendu "la deuxième droite" "$(reglage 'T3(1)'):$(reglage 'T4(1)') $(reglage 'T13(1)')" "12:05 65"
 

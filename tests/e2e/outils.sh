@@ -140,6 +140,7 @@ champ() { tape "$1"; touche Tab; }
 
 image() { pause 0.3; import -window root "$IMAGES/$1.png"; }
 reglage() { sqlite3 "$MAGASIN" "SELECT valeur FROM valeurs WHERE cle='$1'"; }
+stocke() { [ "$(reglage "$1")" = "$2" ]; }
 attendu() { [ "$2" = "$3" ] || echoue "$1 : attendu « $3 », lu « $2 »"; }
 
 # Pixels near one colour on a picture, as ImageMagick names it.
@@ -213,6 +214,16 @@ tape_bretagne() {
   champ -1.0; champ 2.5
 }
 visee_bretagne() { clic 300 2850; tape_bretagne; }
+
+# Three sights of one day off Brittany, kept as the lines 2, 1 and 3; the module of the lines is open.
+enregistre_trois_droites() {
+  visee_bretagne; touche space; pause 0.3
+  mode $MODE_ENREGISTRE; touche F6; attends stocke 'AS(1)' 0
+  visee_suivante 08 30 00 47 50 05 50 37 47 20; clic 700 8300; pause 0.3
+  mode $MODE_ENREGISTRE; touche F5; attends stocke 'AS(0)' 0
+  visee_suivante 16 40 00 47 15 04 35 33 41 10; clic 700 8300; pause 0.3
+  mode $MODE_ENREGISTRE; touche F7; attends stocke 'AS(2)' 0
+}
 
 # Leaves by F2 and Yes, and waits for the end.
 quitte() {

@@ -17,7 +17,6 @@ gestionnaire
 export HOME="$XDG_DATA_HOME/maison"
 mkdir -p "$HOME"
 SAUVE="^(Sauvegarder le|Save the) "
-stocke() { [ "$(reglage "$1")" = "$2" ]; }
 dit() { repond "$TOLD_BOX" Return; reprend "$TOLD_BOX"; }
 sans_boite() { pause 0.5; ! boite_ouverte "$TOLD_BOX" || echoue "dit deux fois : $1"; }
 

@@ -9,7 +9,6 @@ PROGRAMME=$1 IMAGES=$2 EXEMPLES=$(realpath "$3") LANGUE=fr
 gestionnaire
 export HOME="$XDG_DATA_HOME/maison" CUPS_SERVER=/nulle/part
 mkdir -p "$HOME"
-stocke() { [ "$(reglage "$1")" = "$2" ]; }
 touche() { echoue "une touche, à la souris seule : $*"; }
 
 # The folder that the dialog opens in at first: its files stand in this order.

@@ -59,18 +59,8 @@ TEST_F(Reprise, HoldsTheLinesOfTheSheet) {
 TEST_F(Reprise, HoldsTheObjectsThatNoFileHasYet) {
   DemarreSansCarte();
   EXPECT_FALSE(PriseSession(bureau).objets.has_value());
-  d.FOptionCarte.visible = true;
-  ClicControle(bureau, d.Command18);
-  Utilisateur &u = bureau.utilisateur;
-  for (const auto &[champ, texte] : {std::pair{&u.Text4, "Roche\tnoire"},
-                                     {&u.Text3, "3"},
-                                     {&u.Text8, "47"},
-                                     {&u.Text9, "30"},
-                                     {&u.Text6, "5"},
-                                     {&u.Text7, "0"}}) {
-    SaisitTexte(bureau, *champ, texte);
-  }
-  ClicControle(bureau, u.Command1);
+  AjouteObjet("Roche\tnoire");
+  const Utilisateur &u = bureau.utilisateur;
   ASSERT_NE(u.Modifie, 0);
   const std::optional<Session> lue = LitSession(TexteSession(PriseSession(bureau)));
   ASSERT_TRUE(lue.has_value());

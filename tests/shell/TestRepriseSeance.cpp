@@ -207,18 +207,8 @@ TEST_F(RepriseSeance, WithoutARecoveryFileThereIsNoStartingAgain) {
 TEST_F(RepriseSeance, ObjectsThatNoFileHasComeBackToTheirEditor) {
   DemarreSansCarte();
   Tient();
-  d.FOptionCarte.visible = true;
-  ClicControle(bureau, d.Command18);
-  Utilisateur &u = bureau.utilisateur;
-  for (const auto &[champ, texte] : {std::pair{&u.Text4, "Roche noire"},
-                                     {&u.Text3, "3"},
-                                     {&u.Text8, "47"},
-                                     {&u.Text9, "30"},
-                                     {&u.Text6, "5"},
-                                     {&u.Text7, "0"}}) {
-    SaisitTexte(bureau, *champ, texte);
-  }
-  ClicControle(bureau, u.Command1);
+  AjouteObjet("Roche noire");
+  const Utilisateur &u = bureau.utilisateur;
   const std::vector<std::string> liste = u.List1.liste;
   Meurt();
   Suit();

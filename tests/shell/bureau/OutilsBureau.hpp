@@ -73,6 +73,22 @@ protected:
     d.Check2.valeur = 0;
   }
 
+  /// Opens the editor of objects and puts one into its list, which no file has yet.
+  void AjouteObjet(const std::string &nom) {
+    d.FOptionCarte.visible = true;
+    ClicControle(bureau, d.Command18);
+    Utilisateur &u = bureau.utilisateur;
+    for (const auto &[champ, texte] : {std::pair{&u.Text4, nom},
+                                       {&u.Text3, "3"},
+                                       {&u.Text8, "47"},
+                                       {&u.Text9, "30"},
+                                       {&u.Text6, "5"},
+                                       {&u.Text7, "0"}}) {
+      SaisitTexte(bureau, *champ, texte);
+    }
+    ClicControle(bureau, u.Command1);
+  }
+
   /// Types into a field as a user does, entering and leaving it.
   void Tape(Controle &champ, const std::string &texte) {
     EntreChamp(bureau, champ);
