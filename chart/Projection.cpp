@@ -28,14 +28,6 @@ VueCarte ChoisitVue(Feuille &feuille, const Surface &surface) {
   return vue;
 }
 
-Point PlaceSurCarte(const VueCarte &vue, const Feuille &feuille, double x, double y) {
-  const double S = std::numbers::sqrt2;
-  const double H = vue.hauteur;
-  const double rapport = vue.Rapport;
-  return {feuille.CentreX + (x - vue.CentreCarteX) * 360 * feuille.EchelleX * 60,
-          (1 - y) * H * rapport * S - (H * rapport * S - H * rapport) - (vue.CentreCarteY * H * rapport - H / 2)};
-}
-
 PlaceCarte ReferenceCarte(const Feuille &feuille) {
   const Origine &origine = feuille.OrigineFeuille;
   return {origine.latitude <= kLimiteLatitude ? origine.latitude : 0.0,

@@ -3,6 +3,8 @@
 #include "foundations/Surface.hpp"
 #include "lines/Feuille.hpp"
 
+#include <numbers>
+
 namespace velmaris {
 
 /// What one drawing of the chart is scaled and centred by.
@@ -30,7 +32,13 @@ VueCarte ChoisitVue(Feuille &feuille, const Surface &surface);
 
 /// A point of the outlines on the surface, on a plain cylindrical equidistant projection.
 /// @param x, y  normalised, as in the polygon files
-Point PlaceSurCarte(const VueCarte &vue, const Feuille &feuille, double x, double y);
+inline Point PlaceSurCarte(const VueCarte &vue, const Feuille &feuille, double x, double y) {
+  const double S = std::numbers::sqrt2;
+  const double H = vue.hauteur;
+  const double rapport = vue.Rapport;
+  return {feuille.CentreX + (x - vue.CentreCarteX) * 360 * feuille.EchelleX * 60,
+          (1 - y) * H * rapport * S - (H * rapport * S - H * rapport) - (vue.CentreCarteY * H * rapport - H / 2)};
+}
 
 /// The place that mouse and marks are reckoned from: the sheet's, or 0, 0 where a coordinate stands for no sheet.
 PlaceCarte ReferenceCarte(const Feuille &feuille);

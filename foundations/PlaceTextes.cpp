@@ -6,6 +6,8 @@
 #include <array>
 #include <cmath>
 #include <numbers>
+#include <string_view>
+#include <unordered_map>
 
 namespace velmaris {
 namespace {
@@ -126,17 +128,18 @@ std::vector<Texte> Ordonnes(const Surface &surface, const MesureTexte &mesure) {
 
 /// Leaves one of several equal texts on one spot.
 void RetireDoubles(std::vector<Texte> &textes) {
-  std::vector<Texte> uniques;
-  for (const Texte &texte : textes) {
-    const bool connu = std::any_of(uniques.begin(), uniques.end(), [&](const Texte &autre) {
-      return std::fabs(autre.zone.gauche - texte.zone.gauche) <= kUnSpot &&
-             std::fabs(autre.zone.haut - texte.zone.haut) <= kUnSpot && autre.trace->texte == texte.trace->texte;
+  std::unordered_map<std::string_view, std::vector<ZoneTexte>> connus;
+  std::erase_if(textes, [&](const Texte &texte) {
+    std::vector<ZoneTexte> &egaux = connus[texte.trace->texte];
+    const bool connu = std::any_of(egaux.begin(), egaux.end(), [&](const ZoneTexte &autre) {
+      return std::fabs(autre.gauche - texte.zone.gauche) <= kUnSpot &&
+             std::fabs(autre.haut - texte.zone.haut) <= kUnSpot;
     });
     if (!connu) {
-      uniques.push_back(texte);
+      egaux.push_back(texte.zone);
     }
-  }
-  textes = std::move(uniques);
+    return connu;
+  });
 }
 
 bool EstMultiple(const Texte &degre, long pas) { return std::lround(Val(degre.trace->texte)) % pas == 0; }

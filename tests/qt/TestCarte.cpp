@@ -288,7 +288,7 @@ TEST(Peinture, PointsCloserThanAQuarterPixelMakeNoDifferenceThatCanBeSeen) {
   EXPECT_LT(ecarts, 20) << "of some 1500 pixels of the line";
 }
 
-TEST(Peinture, AnIsletUnderAQuarterPixelIsNotPaintedAndIsSeenNearer) {
+TEST(Peinture, AnIsletUnderHalfAPixelIsNotPaintedAndIsSeenNearer) {
   Surface surface = SurfaceNeuve(6000, 6000);
   Ligne(surface, {3000, 3000}, {3001, 3001}, kNoir);
   Ligne(surface, {3001, 3001}, {3002, 3000}, kNoir);
@@ -296,7 +296,7 @@ TEST(Peinture, AnIsletUnderAQuarterPixelIsNotPaintedAndIsSeenNearer) {
   QImage blanche(400, 400, QImage::Format_RGB32);
   blanche.fill(Qt::white);
   EXPECT_EQ(Peint(surface, 1 / 15.0, {400, 400}), blanche);
-  EXPECT_NE(Peint(surface, 0.1333, {800, 800}), blanche.scaled(800, 800));
+  EXPECT_NE(Peint(surface, 0.2667, {1600, 1600}), blanche.scaled(1600, 1600));
 }
 
 } // namespace

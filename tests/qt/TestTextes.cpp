@@ -99,7 +99,8 @@ TEST(TextesDeLaFeuille, OverTwoThousandSheetsNoneOverprintsAnotherAndNoFigureOfL
     const FeuilleAuHasard f(hasard, villes);
     QImage image(1400, 694, QImage::Format_RGB32);
     QPainter painter(&image);
-    const std::vector<TextePlace> places = qt::TextesPeints(painter, f.surface, 1 / kPixel);
+    qt::MesuresTextes mesures;
+    const std::vector<TextePlace> places = qt::TextesPeints(painter, f.surface, 1 / kPixel, mesures);
     std::vector<QRectF> encres;
     std::set<std::string> vus; // a text may stand elsewhere than recorded: it is known by its words
     for (const TextePlace &place : places) {

@@ -8,6 +8,7 @@
 #include <QPainter>
 #include <QPainterPath>
 #include <QPixmap>
+#include <QPixmapCache>
 
 #include <cmath>
 #include <numbers>
@@ -300,7 +301,8 @@ void Peint(QPainter &painter, const QRect &rect, QIcon::Mode mode, void (*trace)
 
 class MoteurIcone : public QIconEngine {
 public:
-  explicit MoteurIcone(void (*trace)(QPainter &)) : trace_(trace) {}
+  MoteurIcone(std::string_view nom, void (*trace)(QPainter &))
+      : nom_(QString::fromUtf8(nom.data(), static_cast<qsizetype>(nom.size()))), trace_(trace) {}
 
   void paint(QPainter *painter, const QRect &rect, QIcon::Mode mode, QIcon::State /*state*/) override {
     if (EclairageVu() != Eclairage::Jour) {
@@ -311,10 +313,21 @@ public:
   }
 
   QPixmap pixmap(const QSize &size, QIcon::Mode mode, QIcon::State state) override {
-    QPixmap image(size);
-    image.fill(Qt::transparent);
-    QPainter painter(&image);
-    paint(&painter, QRect(QPoint(0, 0), size), mode, state);
+    const QString cle = QStringLiteral("%1-%2-%3x%4-%5")
+                            .arg(nom_)
+                            .arg(static_cast<int>(EclairageVu()))
+                            .arg(size.width())
+                            .arg(size.height())
+                            .arg(static_cast<int>(mode));
+    QPixmap image;
+    if (!QPixmapCache::find(cle, &image)) {
+      image = QPixmap(size);
+      image.fill(Qt::transparent);
+      QPainter painter(&image);
+      paint(&painter, QRect(QPoint(0, 0), size), mode, state);
+      painter.end();
+      QPixmapCache::insert(cle, image);
+    }
     return image;
   }
 
@@ -333,6 +346,7 @@ private:
     painter.drawImage(rect.topLeft(), image);
   }
 
+  QString nom_;
   void (*trace_)(QPainter &);
 };
 
@@ -341,7 +355,7 @@ private:
 QIcon Icone(std::string_view nom) {
   for (const Dessin &dessin : kDessins) {
     if (dessin.nom == nom) {
-      return QIcon(new MoteurIcone(dessin.trace));
+      return QIcon(new MoteurIcone(dessin.nom, dessin.trace));
     }
   }
   return {};

@@ -42,6 +42,15 @@ bool Toile::TexteDepuis(std::size_t premier) const {
                      [](const Trace &trace) { return std::holds_alternative<TexteTrace>(trace); });
 }
 
+/// The lines into the picture that gets the texts; its memory stays the same.
+void Toile::Recopie() {
+  if (image_.size() != lignes_.size()) {
+    image_ = QImage(lignes_.size(), lignes_.format());
+  }
+  image_.setDevicePixelRatio(lignes_.devicePixelRatio());
+  std::copy_n(lignes_.constBits(), lignes_.sizeInBytes(), image_.bits());
+}
+
 /// The ground, with the filled shapes on it.
 void Toile::PeintFond(double facteur) {
   lignes_.fill(FondA(eclairage_, CouleurQt(surface_.fond)));
@@ -81,11 +90,11 @@ void Toile::Accorde() {
     const bool reprise = traces_ > 0 && traces_ <= surface_.traces.size() && points_ != 0;
     PeintLignes(painter, surface_, facteur, reprise ? traces_ - 1 : traces_, maniere);
   }
-  image_ = lignes_;
+  Recopie();
   QPainter painter(&image_);
   etiquettes_ = etiquettes;
   if (neuve || retiree || nomme || TexteDepuis(traces_)) {
-    textes_ = TextesPeints(painter, surface_, facteur);
+    textes_ = TextesPeints(painter, surface_, facteur, mesures_);
   }
   PeintTextes(painter, surface_, facteur, textes_, maniere);
   effacements_ = surface_.effacements;

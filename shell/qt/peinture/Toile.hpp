@@ -57,6 +57,7 @@ private:
   void Mouvement(const QMouseEvent &event) const;
   bool TexteDepuis(std::size_t premier) const;
   void PeintFond(double facteur);
+  void Recopie();
 
   const Surface &surface_;
   QImage lignes_; ///< filled shapes, lines and circles
@@ -64,6 +65,7 @@ private:
   std::uint64_t effacements_ = 0;
   std::size_t traces_ = 0;
   std::vector<TextePlace> textes_;
+  MesuresTextes mesures_;
   double facteur_ = 0.0;                  ///< pixels per 1/1440 inch in the image
   std::size_t points_ = 0;                ///< of the last trace painted, which may have grown since
   std::vector<Aire> aires_;               ///< filled shapes in the image

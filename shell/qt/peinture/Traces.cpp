@@ -5,18 +5,21 @@
 
 #include <QPainter>
 #include <QPainterPath>
+#include <QStaticText>
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace velmaris::qt {
 namespace {
 
-constexpr double kPasVisible = 0.25; ///< pixels under which two points of a line are one
-constexpr double kPasAire = 0.75;    ///< pixels under which two points of a filled shape are one
-constexpr double kMargeAire = 60.0;  ///< 1/1440 inch that filled shapes reach beyond the surface
-constexpr double kFinesse = 0.5;     ///< of the fine grid's lines
-constexpr double kPortee = 1e8;      ///< 1/1440 inch from the surface's corner
+constexpr double kPasVisible = 0.5; ///< pixels under which two points of a line are one
+constexpr double kPasAire = 0.75;   ///< pixels under which two points of a filled shape are one
+constexpr double kMargeAire = 60.0; ///< 1/1440 inch that filled shapes reach beyond the surface
+constexpr double kFinesse = 0.5;    ///< of the fine grid's lines
+constexpr std::size_t kTaillesGardees = 10000;
+constexpr double kPortee = 1e8; ///< 1/1440 inch from the surface's corner
 
 QPen PlumeQt(const Plume &plume, const QColor &couleur, double pixel) {
   QPen pen(couleur, plume.largeur * pixel);
@@ -131,17 +134,17 @@ struct Peintre {
   /// A text; over lines it has a thin border of the background, so that none strikes it through.
   void Texte(const TexteTrace &texte, const ZoneTexte &zone) const {
     painter.setFont(PoliceQt(texte.police, facteur, *painter.device()));
-    const QPointF pied =
-        Place({zone.gauche, zone.haut}) + QPointF(0, QFontMetricsF(painter.font(), painter.device()).ascent());
-    const QString mots = QString::fromStdString(texte.texte);
+    QStaticText mots(QString::fromStdString(texte.texte)); // its letters are laid out once for all five
+    mots.setTextFormat(Qt::PlainText);
+    const QPointF coin = Place({zone.gauche, zone.haut});
     if (texte.role.genre != GenreTexte::Libre) {
       painter.setPen(FondA(eclairage, fond));
       for (const QPointF &ecart : {QPointF(1, 1), QPointF(-1, 1), QPointF(1, -1), QPointF(-1, -1)}) {
-        painter.drawText(pied + ecart * pixel, mots);
+        painter.drawStaticText(coin + ecart * pixel, mots);
       }
     }
     painter.setPen(EncreDeTexte(eclairage, texte.couleur, texte.role.genre, fond));
-    painter.drawText(pied, mots);
+    painter.drawStaticText(coin, mots);
   }
 };
 
@@ -202,14 +205,35 @@ void PeintLignes(QPainter &painter, const Surface &surface, double facteur, std:
   }
 }
 
-std::vector<TextePlace> TextesPeints(const QPainter &painter, const Surface &surface, double facteur) {
-  return PlaceTextes(surface, [&](const TexteTrace &texte) {
-    const QFontMetricsF metrique(PoliceQt(texte.police, facteur, *painter.device()), painter.device());
+MesuresTextes::Fonte &MesuresTextes::FonteDe(const Police &police, const QPaintDevice &support) {
+  const auto connue =
+      std::find_if(fontes_.begin(), fontes_.end(), [&](const Fonte &fonte) { return fonte.police == police; });
+  return connue != fontes_.end()
+             ? *connue
+             : fontes_.emplace_back(Fonte{police, QFontMetricsF(PoliceQt(police, facteur_, support), &support), {}});
+}
+
+TailleTexte MesuresTextes::De(const TexteTrace &texte, const QPaintDevice &support, double facteur) {
+  if (std::exchange(facteur_, facteur) != facteur) {
+    fontes_.clear();
+  }
+  Fonte &fonte = FonteDe(texte.police, support);
+  if (fonte.tailles.size() > kTaillesGardees) {
+    fonte.tailles.clear();
+  }
+  const auto [place, nouvelle] = fonte.tailles.try_emplace(texte.texte);
+  if (nouvelle) {
     const QString mots = QString::fromStdString(texte.texte);
     const bool lettres = std::any_of(mots.begin(), mots.end(), [](QChar c) { return c.isLetter(); });
-    return TailleTexte{metrique.horizontalAdvance(mots) / facteur,
-                       (lettres ? metrique.ascent() + metrique.descent() : metrique.ascent()) / facteur};
-  });
+    const double hauteur = fonte.metrique.ascent() + (lettres ? fonte.metrique.descent() : 0.0);
+    place->second = {fonte.metrique.horizontalAdvance(mots) / facteur, hauteur / facteur};
+  }
+  return place->second;
+}
+
+std::vector<TextePlace> TextesPeints(const QPainter &painter, const Surface &surface, double facteur,
+                                     MesuresTextes &mesures) {
+  return PlaceTextes(surface, [&](const TexteTrace &texte) { return mesures.De(texte, *painter.device(), facteur); });
 }
 
 void PeintTextes(QPainter &painter, const Surface &surface, double facteur, const std::vector<TextePlace> &textes,
@@ -223,7 +247,8 @@ void PeintTextes(QPainter &painter, const Surface &surface, double facteur, cons
 std::vector<TextePlace> PeintTraces(QPainter &painter, const Surface &surface, double facteur, Maniere maniere) {
   PeintAires(painter, surface, facteur, maniere);
   PeintLignes(painter, surface, facteur, 0, maniere);
-  std::vector<TextePlace> textes = TextesPeints(painter, surface, facteur);
+  MesuresTextes mesures;
+  std::vector<TextePlace> textes = TextesPeints(painter, surface, facteur, mesures);
   // Texts come over lines, so that no line strikes a figure through.
   PeintTextes(painter, surface, facteur, textes, maniere);
   return textes;

@@ -5,8 +5,11 @@
 #include "shell/bureau/Bureau.hpp"
 
 #include <QFont>
+#include <QFontMetricsF>
 #include <QWidget>
 
+#include <string>
+#include <unordered_map>
 #include <vector>
 
 class QPainter;
@@ -39,9 +42,30 @@ void PeintAires(QPainter &painter, const Surface &surface, double facteur, Manie
 /// @param maniere  how, beyond what is recorded
 void PeintLignes(QPainter &painter, const Surface &surface, double facteur, std::size_t premier, Maniere maniere);
 
+/// The sizes of texts by one scale, kept from one picture to the next.
+class MesuresTextes {
+public:
+  /// The room that a text takes, 1/1440 inch.
+  /// @param support  what is painted on
+  /// @param facteur  as for PeintLignes; another one than before forgets all sizes
+  TailleTexte De(const TexteTrace &texte, const QPaintDevice &support, double facteur);
+
+private:
+  struct Fonte {
+    Police police;
+    QFontMetricsF metrique;
+    std::unordered_map<std::string, TailleTexte> tailles;
+  };
+  Fonte &FonteDe(const Police &police, const QPaintDevice &support);
+
+  double facteur_ = 0.0;
+  std::vector<Fonte> fontes_;
+};
+
 /// The texts of a surface that are painted, and where, by the sizes that they have with a painter.
 /// @param painter, facteur  as for PeintLignes
-std::vector<TextePlace> TextesPeints(const QPainter &painter, const Surface &surface, double facteur);
+std::vector<TextePlace> TextesPeints(const QPainter &painter, const Surface &surface, double facteur,
+                                     MesuresTextes &mesures);
 
 /// Paints texts of a surface in given places.
 /// @param painter, facteur, maniere  as for PeintLignes
