@@ -10,9 +10,9 @@
 namespace velmaris {
 namespace {
 
-/// Modules, the slider and the list that is made from the fields are no gesture's to put back.
+/// Modules, the slider and what follows another control are no gesture's to put back.
 bool EstRevocable(const Donnees &d, const Controle &c) {
-  return c.genre != Genre::Cadre && c.genre != Genre::Curseur && &c != &d.Combo8;
+  return c.genre != Genre::Cadre && c.genre != Genre::Curseur && !EstSuiveur(d, c);
 }
 
 std::vector<CleValeur> PriseDroite(const Bureau &bureau, int ligne) {

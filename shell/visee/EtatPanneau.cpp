@@ -111,10 +111,12 @@ std::optional<std::string> ValeurTenue(const Controle &c) {
   }
 }
 
+bool EstSuiveur(const Donnees &donnees, const Controle &controle) { return &controle == &donnees.Combo8; }
+
 std::vector<EtatControle> PriseControles(Donnees &donnees) {
   std::vector<EtatControle> etats;
   PourChaque(donnees, [&](const LigneDonnees &, const Controle &c) {
-    if (std::optional<std::string> valeur = ValeurTenue(c)) {
+    if (std::optional<std::string> valeur = EstSuiveur(donnees, c) ? std::nullopt : ValeurTenue(c)) {
       etats.push_back({c.nom, c.indice, std::move(*valeur)});
     }
   });
@@ -134,8 +136,7 @@ void RemetControles(Bureau &bureau, const std::vector<EtatControle> &controles) 
     VerseVisee(bureau, visee, voulues.Check3.valeur);
   }
   for (const EtatControle &e : controles) {
-    // The short list of stars is made from the fields, and follows the whole one.
-    if (Controle *c = Cherche(d, e.nom, e.indice); c != nullptr && c != &d.Combo8) {
+    if (Controle *c = Cherche(d, e.nom, e.indice); c != nullptr && !EstSuiveur(d, *c)) {
       PoseValeurTenue(*c, e.valeur);
     }
   }

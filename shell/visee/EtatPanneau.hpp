@@ -12,7 +12,11 @@ namespace velmaris {
 /// @return nothing for one that its user can't change
 std::optional<std::string> ValeurTenue(const Controle &controle);
 
-/// What the controls of the main window hold, in the order of its table.
+/// Whether a control holds nothing of its own: the short list of stars is made from the fields as they are when it is
+/// made, and shows what the whole list has chosen.
+bool EstSuiveur(const Donnees &donnees, const Controle &controle);
+
+/// What the controls of the main window hold, those that follow another left out, in the order of its table.
 std::vector<EtatControle> PriseControles(Donnees &donnees);
 
 /// Puts what controls held back into them. Those of the sight come first, in the order in which a stored line is

@@ -104,7 +104,8 @@ attends boite_fermee "$TITRE"
 clic 1900 520
 attends boite_ouverte '^Impression$'
 pause 0.5
-dans "$(fenetre_nommee '^Impression$')" 13725 3270
+TAPIS=20 # pixels of the mat around the page
+xdotool mousemove --window "$(fenetre_nommee '^Impression$')" $(($(px 13725) + TAPIS)) $(($(px 3270) + TAPIS)) click 1
 presse_boite '^Imprimer$' 2055 345 souris-7-imprimante
 attends test -s "$HOME/Velmaris.pdf"
 attends boite_fermee '^Imprimer$'

@@ -47,6 +47,15 @@ TEST_F(Reprise, HoldsWhatWasTypedAndChosen) {
   EXPECT_EQ(ValeurDe(session, "HScroll1"), "1230");
 }
 
+TEST_F(Reprise, LeavesOutTheListThatIsMadeFromTheFields) {
+  DemarreSansCarte();
+  ClicOption(bureau, d.Option7[3]);
+  PoseRang(bureau, d.Combo6, 7, kNombreEtoiles);
+  const Session session = PriseSession(bureau);
+  EXPECT_TRUE(std::none_of(session.controles.begin(), session.controles.end(),
+                           [](const EtatControle &e) { return e.nom == "Combo8"; }));
+}
+
 TEST_F(Reprise, HoldsTheLinesOfTheSheet) {
   DemarreSansCarte();
   AttendAutreDroite();

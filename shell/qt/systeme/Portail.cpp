@@ -41,6 +41,8 @@ Portail::Portail(Scene &scene) : scene_(scene) {
   if (!BusLa()) {
     return;
   }
+  // A slot is sought by the types it takes, and the bus makes this one known only with the first value it carries.
+  qRegisterMetaType<QDBusVariant>("QDBusVariant");
   QDBusConnection::sessionBus().connect(kService, kObjet, kInterface, "SettingChanged", this,
                                         SLOT(Change(QString, QString, QDBusVariant)));
   Demande(kCouleurs);
