@@ -85,7 +85,7 @@ int main(int argc, char **argv) {
     std::string_view separe;
     for (const auto &axe : Ajuste(kDebut + kJours * i)) {
       for (const double c : axe) {
-        std::printf("%.*s%.0f", static_cast<int>(separe.size()), separe.data(), c);
+        std::printf("%.*s%ld", static_cast<int>(separe.size()), separe.data(), std::lround(c));
         separe = " ";
       }
     }

@@ -8,6 +8,7 @@
 // smallest amplitude, some of its rows or its sum, is an error that names the file, and nothing is written.
 
 #include "GenereTables.hpp"
+#include "LectureTables.hpp"
 
 #include <algorithm>
 #include <charconv>
@@ -16,9 +17,6 @@
 #include <cstdio>
 #include <exception>
 #include <filesystem>
-#include <fstream>
-#include <map>
-#include <sstream>
 #include <stdexcept>
 #include <string>
 #include <string_view>
@@ -28,51 +26,6 @@ namespace tables {
 namespace {
 
 namespace fs = std::filesystem;
-
-using Rangee = std::vector<std::string>; ///< the fields of one line, as they stand
-
-/// The rows of one table, or of one section of it.
-struct Section {
-  std::string nom; ///< empty for a table without sections
-  std::size_t annonce = 0;
-  std::vector<Rangee> rangees;
-};
-
-[[noreturn]] void Refuse(const std::string &fichier, const std::string &raison) {
-  throw std::runtime_error(fichier + ": " + raison);
-}
-
-std::string Lit(const fs::path &chemin) {
-  std::ifstream fichier(chemin, std::ios::binary);
-  std::ostringstream octets;
-  octets << fichier.rdbuf();
-  if (!fichier) {
-    Refuse(chemin.string(), "can't be read");
-  }
-  return octets.str();
-}
-
-/// FNV-1a in 64 bits, as sixteen hexadecimal digits.
-std::string Somme(std::string_view octets) {
-  std::uint64_t somme = 0xcbf29ce484222325U;
-  for (const char c : octets) {
-    somme = (somme ^ static_cast<unsigned char>(c)) * 0x100000001b3U;
-  }
-  std::string texte(16, '0');
-  for (std::size_t i = texte.size(); i-- > 0; somme >>= 4U) {
-    texte[i] = "0123456789abcdef"[somme & 15U];
-  }
-  return texte;
-}
-
-template <class Nombre> Nombre LitNombre(const std::string &fichier, const std::string &texte) {
-  Nombre valeur{};
-  const auto [fin, code] = std::from_chars(texte.data(), texte.data() + texte.size(), valeur);
-  if (code != std::errc() || fin != texte.data() + texte.size()) {
-    Refuse(fichier, "\"" + texte + "\" is no number of its column");
-  }
-  return valeur;
-}
 
 /// A figure to the fifteen digits that rows are known by; some rows of the tables have one more.
 std::string QuinzeChiffres(const std::string &fichier, const std::string &texte) {
@@ -84,39 +37,6 @@ std::string QuinzeChiffres(const std::string &fichier, const std::string &texte)
 
 double Amplitude(const std::string &fichier, const Rangee &rangee) {
   return std::fabs(LitNombre<double>(fichier, rangee.front()));
-}
-
-Rangee Champs(const std::string &ligne) {
-  std::istringstream flux(ligne);
-  Rangee champs;
-  for (std::string champ; flux >> champ;) {
-    champs.push_back(champ);
-  }
-  return champs;
-}
-
-/// A line of two fields opens a section; every other line must have as many fields as the table has columns.
-std::vector<Section> Decoupe(const std::string &fichier, const std::string &octets, std::size_t colonnes) {
-  std::vector<Section> sections;
-  std::istringstream flux(octets);
-  for (std::string ligne; std::getline(flux, ligne);) {
-    const Rangee champs = Champs(ligne);
-    if (champs.empty() || champs.front().starts_with('#')) {
-      continue;
-    }
-    if (champs.size() == 2) {
-      sections.push_back({champs[0], LitNombre<std::size_t>(fichier, champs[1]), {}});
-      continue;
-    }
-    if (champs.size() != colonnes) {
-      Refuse(fichier, "a row has " + std::to_string(champs.size()) + " fields: " + ligne);
-    }
-    if (sections.empty()) {
-      sections.emplace_back();
-    }
-    sections.back().rangees.push_back(champs);
-  }
-  return sections;
 }
 
 void VerifieBornes(const std::string &fichier, const Section &section, double plusPetite) {
@@ -262,31 +182,6 @@ std::vector<std::string> Fichiers() {
   return fichiers;
 }
 
-std::string LignesSommes(const fs::path &dossier) {
-  std::string lignes;
-  for (const std::string &fichier : Fichiers()) {
-    lignes += Somme(Lit(dossier / fichier)) + "  " + fichier + "\n";
-  }
-  return lignes;
-}
-
-/// The sums come last: a table that is wrong in a way of its own is told so first.
-void VerifieSommes(const fs::path &dossier) {
-  std::map<std::string, std::string> sommes;
-  std::istringstream flux(Lit(dossier / "SOMMES.txt"));
-  for (std::string ligne; std::getline(flux, ligne);) {
-    const Rangee champs = Champs(ligne);
-    if (champs.size() == 2 && champs.front() != "#") {
-      sommes[champs[1]] = champs[0];
-    }
-  }
-  for (const std::string &fichier : Fichiers()) {
-    if (sommes[fichier] != Somme(Lit(dossier / fichier))) {
-      Refuse(fichier, "its sum isn't the one in SOMMES.txt");
-    }
-  }
-}
-
 std::string Genere(const fs::path &dossier) {
   std::string sortie = "// Generated from ephemerides/tables; not to be changed by hand.\n"
                        "#include \"ephemerides/Series.hpp\"\n\nnamespace velmaris {\nnamespace {\n\n";
@@ -298,7 +193,8 @@ std::string Genere(const fs::path &dossier) {
   for (const LuneAttendue &lune : kLune) {
     AjouteLune(dossier, lune, sortie);
   }
-  VerifieSommes(dossier);
+  // The sums come last: a table that is wrong in a way of its own is told so first.
+  VerifieSommes(dossier, Fichiers());
   return sortie + "} // namespace velmaris\n";
 }
 
@@ -308,19 +204,14 @@ std::string Genere(const fs::path &dossier) {
 int main(int argc, char **argv) {
   try {
     if (argc == 3 && std::string_view(argv[1]) == "--sommes") {
-      std::fputs(tables::LignesSommes(argv[2]).c_str(), stdout);
+      std::fputs(tables::LignesSommes(argv[2], tables::Fichiers()).c_str(), stdout);
       return 0;
     }
     if (argc != 3) {
       std::fputs("usage: genere-tables DOSSIER SORTIE.cpp | genere-tables --sommes DOSSIER\n", stderr);
       return 2;
     }
-    const std::string texte = tables::Genere(argv[1]);
-    std::ofstream fichier(argv[2], std::ios::binary | std::ios::trunc);
-    fichier << texte << std::flush;
-    if (!fichier) {
-      throw std::runtime_error(std::string(argv[2]) + ": can't be written");
-    }
+    tables::Ecrit(argv[2], tables::Genere(argv[1]));
     return 0;
   } catch (const std::exception &erreur) {
     std::fprintf(stderr, "genere-tables: %s\n", erreur.what());

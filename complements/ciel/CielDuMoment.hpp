@@ -1,13 +1,9 @@
 #pragma once
 
 #include "complements/ciel/Instants.hpp"
-
-#include <array>
+#include "complements/ciel/Vecteurs.hpp"
 
 namespace velmaris {
-
-using Vecteur3 = std::array<double, 3>;
-using Matrice3 = std::array<std::array<double, 3>, 3>;
 
 /// What all places of one moment share. It is a value without ties: made once, read by any number of threads.
 struct CielDuMoment {

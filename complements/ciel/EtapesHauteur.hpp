@@ -2,6 +2,7 @@
 
 #include "complements/ciel/Places.hpp"
 
+#include <cstdint>
 #include <optional>
 #include <span>
 
