@@ -22,12 +22,12 @@ struct LectureSextant {
   double lecture = 0;     ///< degrees, as the arc shows it: of the double height off an artificial horizon
   double collimation = 0; ///< index correction, minutes of arc, to be added
   double hauteurOeil = 0; ///< metres above the sea
-  std::optional<double> distanceHorizon; ///< sea miles to a shore that hides the horizon; none for the open sea
-  bool horizonArtificiel = false;        ///< half of the corrected angle is the height, without dip
+  std::optional<double> distanceHorizon{}; ///< sea miles to a shore that hides the horizon; none for the open sea
+  bool horizonArtificiel = false;          ///< half of the corrected angle is the height, without dip
   Contact contact = Contact::Centre;
-  double pression = 1010;                ///< hPa
-  double temperature = 10;               ///< degrees Celsius
-  std::span<const ErreurArc> erreursArc; ///< linear between rows, beyond them that of the end; empty for none
+  double pression = 1010;                  ///< hPa
+  double temperature = 10;                 ///< degrees Celsius
+  std::span<const ErreurArc> erreursArc{}; ///< linear between rows, beyond them that of the end; empty for none
 };
 
 /// The way from a reading to the observed height, step by step.

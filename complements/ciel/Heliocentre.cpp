@@ -6,10 +6,11 @@
 namespace velmaris {
 namespace {
 
-/// From the dynamical ecliptic and equinox of J2000.0, as VSOP87 has them, to ICRS.
-constexpr Matrice3 kVersIcrs{{{1.0, 0.000000440360, -0.000000190919},
-                              {-0.000000479966, 0.917482137087, -0.397776982902},
-                              {0.0, 0.397776982902, 0.917482137087}}};
+/// From the dynamical ecliptic and equinox of J2000.0, as VSOP87 has them, to ICRS: the rotation of its authors to FK5,
+/// then 14 mas about y and 21 mas about z, by which the Earth so found lay off that of ERFA (DE405, ICRS) around 2000.
+constexpr Matrice3 kVersIcrs{{{1.0, 3.7429E-7, -8.990E-8},
+                              {-3.7917E-7, 0.917482137087, -0.397776982902},
+                              {-6.64E-8, 0.397776982902, 0.917482137087}}};
 
 double SommeCoordonnee(const CoordonneeCiel &coordonnee, double t, std::size_t limite, Voie voie) {
   double somme = 0;

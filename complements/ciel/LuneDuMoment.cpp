@@ -12,10 +12,11 @@ namespace {
 
 constexpr double kMetresParKm = 1000;
 
-/// From the theory's ecliptic and equinox of J2000.0 to ICRS.
-constexpr Matrice3 kVersIcrs{{{1.0, 0.000000437913, -0.000000189859},
-                              {-0.000000477299, 0.917482137607, -0.397776981701},
-                              {0.0, 0.397776981701, 0.917482137607}}};
+/// From the theory's ecliptic and equinox of J2000.0 to ICRS: the rotation of its authors to FK5, then the one that the
+/// planets get (`Heliocentre`), since both theories are fitted to one ephemeris.
+constexpr Matrice3 kVersIcrs{{{1.0, 3.7184E-7, -8.884E-8},
+                              {-3.7650E-7, 0.917482137607, -0.397776981701},
+                              {-6.64E-8, 0.397776981701, 0.917482137607}}};
 
 /// A sum of Chebyshev polynomials, by Clenshaw's recurrence.
 double Clenshaw(std::span<const std::int32_t> c, double x) {

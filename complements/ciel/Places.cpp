@@ -59,29 +59,36 @@ const SeriesCiel &Series(GenreAstre planete) {
 /// The moment by days earlier.
 InstantTT Avant(const InstantTT &tt, double jours) { return {tt.jour, tt.fraction - jours}; }
 
-/// A planet as its light left it, from the Earth as it takes it, astronomical units.
-Vecteur3 TrajetPlanete(const CielDuMoment &ciel, GenreAstre genre) {
+/// The way of a body's light, and how far it was from the Earth.
+struct Trajet {
+  Vecteur3 vers{};     ///< ICRS, astronomical units: the body as the light left it, from the Earth as it takes it
+  double distance = 0; ///< astronomical units
+};
+
+Trajet TrajetPlanete(const CielDuMoment &ciel, GenreAstre genre) {
   const SeriesCiel &series = Series(genre);
   const Voie voie = VoieDuProcesseur();
-  const auto depuisTerre = [&](double trajet, std::size_t limite) {
-    const Vecteur3 planete = Heliocentre(series, Millenaires(Avant(ciel.tt, trajet)), limite, voie);
-    return Ajoute(Ajoute(planete, -1, ciel.terre), -trajet, ciel.soleil);
+  const auto depuisTerre = [&](double jours, std::size_t limite) {
+    const Vecteur3 planete = Heliocentre(series, Millenaires(Avant(ciel.tt, jours)), limite, voie);
+    return Ajoute(Ajoute(planete, -1, ciel.terre), -jours, ciel.soleil);
   };
-  double trajet = Longueur(depuisTerre(0, kTermesTrajet)) * kLumiere;
-  trajet = Longueur(depuisTerre(trajet, kTermesTrajet)) * kLumiere;
-  return depuisTerre(trajet, kToutesLesTermes);
+  double jours = Longueur(depuisTerre(0, kTermesTrajet)) * kLumiere;
+  jours = Longueur(depuisTerre(jours, kTermesTrajet)) * kLumiere;
+  const Vecteur3 vers = depuisTerre(jours, kToutesLesTermes);
+  return {vers, Longueur(vers)};
 }
 
-/// The Moon in the same way. Both go round the Sun together: what the Earth has done meanwhile is taken off.
-Vecteur3 TrajetLune(const CielDuMoment &ciel) {
-  const double trajet = Longueur(LuneIcrs(ciel.tt)) * kLumiere;
-  return Ajoute(LuneIcrs(Avant(ciel.tt, trajet)), -trajet / kLumiere, ciel.vitesse);
+/// The Earth has gone 40 km while the Moon's light travelled. That belongs to the way of the light, where aberration
+/// takes it back, and not to the distance that parallax comes from.
+Trajet TrajetLune(const CielDuMoment &ciel) {
+  const double jours = Longueur(LuneIcrs(ciel.tt)) * kLumiere;
+  const Vecteur3 lune = LuneIcrs(Avant(ciel.tt, jours));
+  return {Ajoute(lune, -jours / kLumiere, ciel.vitesse), Longueur(lune)};
 }
 
-/// The Sun in the same way.
-Vecteur3 TrajetSoleil(const CielDuMoment &ciel) {
-  const Vecteur3 soleil = Fois(-1, ciel.terre);
-  return Ajoute(soleil, -Longueur(soleil) * kLumiere, ciel.soleil);
+Trajet TrajetSoleil(const CielDuMoment &ciel) {
+  const double distance = Longueur(ciel.terre);
+  return {Ajoute(Fois(-1, ciel.terre), -distance * kLumiere, ciel.soleil), distance};
 }
 
 /// A star's direction at the moment from the Earth, ICRS.
@@ -137,8 +144,7 @@ PlaceGeocentrique PlaceEtoile(const CielDuMoment &ciel, const EtoileIcrs &etoile
   return place;
 }
 
-/// The body from the Earth along its light, ICRS, astronomical units.
-Vecteur3 Trajet(const CielDuMoment &ciel, GenreAstre genre) {
+Trajet TrajetDe(const CielDuMoment &ciel, GenreAstre genre) {
   switch (genre) {
   case GenreAstre::Soleil:
     return TrajetSoleil(ciel);
@@ -161,13 +167,13 @@ PlaceGeocentrique PlaceDe(const CielDuMoment &ciel, const Astre &astre) {
   if (astre.genre == GenreAstre::Etoile) {
     return PlaceEtoile(ciel, *kEtoilesIcrs[static_cast<std::size_t>(astre.rang) - 1]);
   }
-  const Vecteur3 trajet = Trajet(ciel, astre.genre);
-  Vecteur3 direction = Unitaire(trajet);
+  const Trajet trajet = TrajetDe(ciel, astre.genre);
+  Vecteur3 direction = Unitaire(trajet.vers);
   if (EstPlanete(astre.genre)) {
-    direction = Devie(ciel, direction, Ajoute(trajet, 1, ciel.terre));
+    direction = Devie(ciel, direction, Ajoute(trajet.vers, 1, ciel.terre));
   }
   PlaceGeocentrique place = PlaceDeDirection(ciel, Apparente(ciel, direction));
-  place.distance = Longueur(trajet);
+  place.distance = trajet.distance;
   place.demiDiametre = std::asin(Rayon(astre.genre) / (place.distance * kKmParUA)) * kMinutesParRadian;
   place.parallaxe = std::asin(kRayonTerre / (place.distance * kKmParUA)) * kMinutesParRadian;
   return place;

@@ -12,7 +12,7 @@ struct PlaceGeocentrique {
   double ascension = 0;    ///< degrees in [0, 360)
   double declinaison = 0;  ///< degrees, north positive
   double gha = 0;          ///< Greenwich hour angle, degrees in [0, 360), west positive
-  double distance = 0;     ///< true distance of the moment that the light left, astronomical units; 0 for none known
+  double distance = 0;     ///< when the light left, astronomical units; 0 for none known
   double demiDiametre = 0; ///< minutes of arc, from the Earth's centre; 0 for a star
   double parallaxe = 0;    ///< horizontal, at the equator, minutes of arc; 0 for a star
 };
