@@ -1,3 +1,4 @@
+#include "calcul/Ciel.hpp"
 #include "calcul/Etoile.hpp"
 #include "calcul/Horizon.hpp"
 #include "calcul/Langue.hpp"
@@ -17,6 +18,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <filesystem>
+#include <functional>
 #include <iostream>
 #include <sstream>
 
@@ -39,6 +41,7 @@ struct Demande {
   DemandeEtoile etoile;
   DemandeLune lune;
   DemandePlanete planete;
+  DemandeCiel ciel;
 };
 
 /// Writes what has been gathered and empties it. Output that isn't taken, by a full disk say, is told on standard
@@ -114,6 +117,12 @@ int Planete(const Demande &demande, EcritPlanete ecrit) {
   return Vide(sortie, demande.dit) && reussi ? kReussi : kEchec;
 }
 
+int Ciel(const Demande &demande) {
+  std::string sortie;
+  const bool reussi = EcritCiel(demande.ciel, sortie);
+  return Vide(sortie, demande.dit) && reussi ? kReussi : kEchec;
+}
+
 /// A whole argument as a number, "." being the decimal point; an infinity is none.
 /// @param valeur  left alone when the argument is not a number
 bool LitFigure(std::string_view texte, double &valeur) {
@@ -129,20 +138,28 @@ bool LitFigure(std::string_view texte, double &valeur) {
   return true;
 }
 
-/// A positional argument that must be a number.
-void AjouteNombreLu(CLI::App &verbe, const Langue &dit, const std::string &nom, double &valeur,
-                    const std::string &aide) {
-  verbe
+/// An argument that must be a number.
+/// @return the argument, which may be left out until it is required
+CLI::Option *AjouteNombreLibre(CLI::App &verbe, const Langue &dit, const std::string &nom, const std::string &aide,
+                               const std::function<void(double)> &pose) {
+  return verbe
       .add_option_function<std::string>(
           nom,
-          [&valeur, &dit, nom](const std::string &texte) {
+          [pose, &dit, nom](const std::string &texte) {
+            double valeur = 0;
             if (!LitFigure(texte, valeur)) {
               throw CLI::ValidationError(nom, texte + dit(" n'est pas un nombre", " isn't a number"));
             }
+            pose(valeur);
           },
           aide)
-      ->required()
       ->type_name("");
+}
+
+/// A positional argument that must be there and be a number.
+void AjouteNombreLu(CLI::App &verbe, const Langue &dit, const std::string &nom, double &valeur,
+                    const std::string &aide) {
+  AjouteNombreLibre(verbe, dit, nom, aide, [&valeur](double lue) { valeur = lue; })->required();
 }
 
 /// The choice of the language of the texts.
@@ -247,6 +264,43 @@ CLI::App *DeclareLune(CLI::App &programme, const Langue &dit, Demande &demande) 
   return verbe;
 }
 
+CLI::App *DeclareCiel(CLI::App &programme, const Langue &dit, Demande &demande) {
+  CLI::App *verbe = programme.add_subcommand(
+      "ciel", dit("Ciel d'aujourd'hui : place d'un astre, et sa hauteur d'un lieu",
+                  "The sky of today: a body's place, and its height from a place on the Earth"));
+  verbe->group(dit("Verbes", "Commands"));
+  verbe
+      ->add_option(dit("CORPS", "BODY"), demande.ciel.corps,
+                   dit("Soleil, Lune, Venus, Mars, Jupiter, Saturne, Aries, ou une ligne de la table des étoiles",
+                       "Soleil, Lune, Venus, Mars, Jupiter, Saturne, Aries, or a row of the star table"))
+      ->check(CLI::Validator(
+          [&dit](const std::string &nom) {
+            return AstreNomme(nom) ? "" : nom + dit(" n'est pas un astre", " isn't a body");
+          },
+          ""))
+      ->required()
+      ->type_name("");
+  verbe->add_option(dit("JJ/MM/AAAA", "DD/MM/YYYY"), demande.ciel.date, dit("Date UTC", "Date, UTC"))
+      ->required()
+      ->type_name("");
+  verbe->add_option("HH:MM:SS", demande.ciel.heure, dit("Heure UTC", "Time, UTC"))->required()->type_name("");
+  CLI::Option *latitude =
+      AjouteNombreLibre(*verbe, dit, "LAT", dit("Latitude, degrés, nord positif", "Latitude, degrees, north positive"),
+                        [&](double lue) { demande.ciel.latitude = lue; });
+  CLI::Option *longitude = AjouteNombreLibre(*verbe, dit, dit("LON_EST", "LON_EAST"),
+                                             dit("Longitude, degrés, est positif", "Longitude, degrees, east positive"),
+                                             [&](double lue) { demande.ciel.longitude = lue; });
+  AjouteNombreLibre(*verbe, dit, "--dut1", dit("UT1 moins UTC, secondes", "UT1 less UTC, seconds"), [&](double lue) {
+    demande.ciel.dut1 = lue;
+  })->type_name("S");
+  verbe->parse_complete_callback([latitude, longitude, &dit] {
+    if (!latitude->empty() && longitude->empty()) {
+      throw CLI::RequiredError(dit("LON_EST", "LON_EAST"));
+    }
+  });
+  return verbe;
+}
+
 /// The arguments, last first as the parser takes them; "-.5" becomes "-0.5" so that it isn't taken for an option. What
 /// comes after "--" is taken as it stands.
 std::vector<std::string> Arguments(int argc, char **argv) {
@@ -309,6 +363,7 @@ int Execute(int argc, char **argv) {
                                              "Apparent place of a planet, five fields between bars"));
   const CLI::App *etoile = DeclareEtoile(programme, dit, demande);
   const CLI::App *lune = DeclareLune(programme, dit, demande);
+  const CLI::App *ciel = DeclareCiel(programme, dit, demande);
   DeclareHorizon(programme, dit, demande);
   try {
     programme.parse(Arguments(argc, argv));
@@ -333,6 +388,9 @@ int Execute(int argc, char **argv) {
   }
   if (etoile->parsed()) {
     return Etoile(demande);
+  }
+  if (ciel->parsed()) {
+    return Ciel(demande);
   }
   return lune->parsed() ? Lune(demande, DossierProgramme(argv[0])) : Horizon(demande);
 }
