@@ -1,7 +1,7 @@
 # Everyday commands. The programs land in build/bin.
 .NOTPARALLEL:
 .DEFAULT_GOAL := build
-.PHONY: deps build run test lint test-sanitize coverage bench fuzz donnees-carte guide images-guide \
+.PHONY: deps build run test lint test-sanitize coverage bench fuzz donnees-carte donnees-lune guide images-guide \
   paquet essai-paquet essai-source clean
 
 SHELL := /bin/bash
@@ -13,7 +13,8 @@ DUREE := 60
 # What the chart's data are made from; a build needs none of it.
 PAQUETS_CARTE := gmt gmt-gshhg-high gmt-gshhg-full libgeonames-common python3 python3-numpy
 CIBLES_FUZZ := fuzz-lop fuzz-langue fuzz-nombre fuzz-polygone fuzz-lieux fuzz-objets fuzz-magasin fuzz-reprise
-DOSSIERS := foundations ephemerides sights lines chart sky shell calcul
+DOSSIERS := foundations ephemerides sights lines chart sky complements shell calcul
+TABLES_CIEL := complements/ciel/tables
 vide :=
 SOURCES := ($(subst $(vide) $(vide),|,$(DOSSIERS)))/.*\.cpp$$
 COUVERTURE := build/coverage/couverture.json
@@ -62,6 +63,7 @@ coverage: deps
 	cmake --build --preset coverage
 	find build/coverage -name '*.gcda' -delete
 	build/coverage/bin/tests-coeur --gtest_brief=1
+	build/coverage/bin/tests-complements --gtest_brief=1
 	build/coverage/bin/tests-calcul --gtest_brief=1
 	gcovr -j$(TACHES) --exclude-throw-branches --exclude-unreachable-branches $(DOSSIERS:%=--filter %/) --exclude shell/qt/ \
 	  --json $(COUVERTURE) --txt $(COUVERTURE:json=txt) build/coverage
@@ -104,6 +106,15 @@ donnees-carte:
 	  $(APT) install -y --no-install-recommends $$voulus || \
 	  { $(APT) update && $(APT) install -y --no-install-recommends $$voulus; }
 	/usr/bin/python3 -B tools/donnees_carte --travail build/donnees_carte
+
+# Makes the Moon's table of the sky of today again from libnova, in ten minutes; the sums in SOMMES.txt go with it.
+donnees-lune: deps
+	cmake --preset release
+	cmake --build --preset release --target genere-lune genere-ciel
+	build/bin/genere-lune > build/lune_chebychev.txt
+	cp build/lune_chebychev.txt $(TABLES_CIEL)
+	(sed -n '/^#/p' $(TABLES_CIEL)/SOMMES.txt; build/bin/genere-ciel --sommes $(TABLES_CIEL)) > build/SOMMES.txt
+	cp build/SOMMES.txt $(TABLES_CIEL)
 
 # The user's guide alone: HTML pages and help files in build/bin.
 guide: deps

@@ -7,7 +7,9 @@ namespace velmaris {
 
 Voie VoieDuProcesseur() {
 #if defined(__x86_64__) && defined(__GLIBC__)
-  return __builtin_cpu_supports("avx2") != 0 && __builtin_cpu_supports("fma") != 0 ? Voie::Quatre : Voie::Deux;
+  return static_cast<bool>(__builtin_cpu_supports("avx2")) && static_cast<bool>(__builtin_cpu_supports("fma"))
+             ? Voie::Quatre
+             : Voie::Deux;
 #else
   return Voie::Une;
 #endif

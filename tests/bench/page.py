@@ -27,6 +27,12 @@ ROWS = {
         "EtoilesVisibles": ("The list of visible stars", "the places of its stars alone"),
         "ChargeTable": ("The star table split", "copies of its names"),
     },
+    "The sky of today": {
+        "CielContreDit": ("Place of {} in today's sky, and all that its moment needs", "the told apparent place, with its texts"),
+        "DeuxContreDit": ("Sums of {} and the Earth two cosines at a time", "the told apparent place, with its texts"),
+        "LuneContreEntiere": ("The Moon in today's sky, and all that its moment needs", "libnova's whole theory"),
+        "EtoileDansCiel": ("A star in a sky that is there", "that sky"),
+    },
     "Sights, lines and files": {
         "ReductionSoleil": ("A Sun sight reduced, with its texts", "its bare functions in 64 bits, without a text"),
         "ClicCalcul": ("A click on \"Calcul\", reduction and sheet, {}", "a copy of the sheet's record"),

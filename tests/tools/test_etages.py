@@ -12,6 +12,7 @@ ETAGES = (
     ("sights",),
     ("lines", "sky"),
     ("chart",),
+    ("complements/ciel",),
     ("shell/fenetres",),
     ("shell/bureau",),
     ("shell/visee",),
@@ -56,6 +57,12 @@ class Etages(unittest.TestCase):
             if not salle.startswith("shell/qt"):
                 with self.subTest(source=str(source.relative_to(RACINE))):
                     self.assertEqual([chemin for _, chemin in inclus if re.match(r"Q[A-Z]|Qt", chemin)], [])
+
+    def test_the_sky_of_today_stands_on_nothing_that_is_told(self):
+        for salle, source, inclus in sources():
+            if salle == "complements/ciel":
+                with self.subTest(source=str(source.relative_to(RACINE))):
+                    self.assertEqual([c for m, c in inclus if m == '"' and not c.startswith(salle + "/")], [])
 
     def test_the_companion_knows_no_window(self):
         for salle, source, inclus in sources():
