@@ -73,7 +73,7 @@ CielDuMoment PrepareCiel(const Moment &moment) {
   CielDuMoment ciel{moment.tt, moment.ut1};
   ciel.verite = MatriceVraie(moment.tt);
   ciel.tempsSideral = TempsSideral(moment, ciel.verite);
-  ciel.terre = Heliocentre(kCielTerre, t, kToutesLesTermes, voie);
+  ciel.terre = Heliocentre(kCielTerre, t, kTousLesTermes, voie);
   ciel.soleil = VitesseSoleil(moment.tt);
   ciel.vitesse = Fois(kLumiere, Ajoute(VitesseTerre(t, voie), 1, ciel.soleil));
   return ciel;

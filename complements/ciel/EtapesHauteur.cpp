@@ -53,10 +53,11 @@ double SigneDuContact(Contact contact) {
 
 /// From the seen height of a limb to that of the centre, from the place and from the Earth's centre. The augmented
 /// semidiameter depends on the body's distance, which the height of the centre gives.
-void OteLieu(Contact contact, const PlaceGeocentrique &place, const Site &site, double bord, EtapesHauteur &etapes) {
+void OteLieu(Contact contact, const PlaceGeocentrique &place, const Station &station, double bord,
+             EtapesHauteur &etapes) {
   constexpr int kTours = 3;
-  const Repere repere = RepereDe(site);
-  const double azimut = VueDe(place, site).azimut;
+  const Repere repere = RepereDe(station);
+  const double azimut = VueDe(place, station).azimut;
   const double distance = place.parallaxe > 0 ? place.distance : 0;
   const double signe = distance > 0 ? SigneDuContact(contact) : 0;
   const double sinus = std::sin(place.demiDiametre / kMinutes * ERFA_DD2R);
@@ -86,11 +87,11 @@ double DepressionCourte(double hauteurOeil, double distance) {
 double Refraction(double apparente, double pression, double temperature) {
   const double h = std::max(apparente, -1.0);
   const double normale = 0.0167 / std::tan((h + 7.32 / (h + 4.32)) * ERFA_DD2R);
-  const double facteur = 0.28 * pression / (temperature + 273);
+  const double facteur = 0.28 * pression / (std::max(temperature, -100.0) + 273);
   return std::max(normale * facteur * kMinutes, 0.0);
 }
 
-EtapesHauteur CorrigeLecture(const LectureSextant &lecture, const PlaceGeocentrique &place, const Site &site) {
+EtapesHauteur CorrigeLecture(const LectureSextant &lecture, const PlaceGeocentrique &place, const Station &station) {
   EtapesHauteur etapes;
   etapes.lecture = lecture.lecture;
   etapes.erreurArc = ErreurDeLArc(lecture.erreursArc, lecture.lecture);
@@ -102,7 +103,7 @@ EtapesHauteur CorrigeLecture(const LectureSextant &lecture, const PlaceGeocentri
   etapes.depression = DepressionDe(lecture);
   etapes.apparente = etapes.corrigee - etapes.depression / kMinutes;
   etapes.refraction = Refraction(etapes.apparente, lecture.pression, lecture.temperature);
-  OteLieu(lecture.contact, place, site, etapes.apparente - etapes.refraction / kMinutes, etapes);
+  OteLieu(lecture.contact, place, station, etapes.apparente - etapes.refraction / kMinutes, etapes);
   return etapes;
 }
 

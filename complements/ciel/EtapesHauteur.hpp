@@ -60,13 +60,13 @@ double DepressionCourte(double hauteurOeil, double distance);
 /// The almanac's refraction: 0.0167 degrees over tan(H + 7.32/(H + 4.32)), times 0.28 P/(T + 273).
 /// @param apparente    degrees; what is lower than one degree under the horizon gets the refraction there
 /// @param pression     hPa
-/// @param temperature  degrees Celsius
+/// @param temperature  degrees Celsius; under -100 it counts as that
 /// @return minutes of arc, not negative
 double Refraction(double apparente, double pression, double temperature);
 
 /// Corrects a reading of a body, whose place is known, from about where it was taken.
-/// @param site  its height is that of the eye
+/// @param station  its height is that of the eye
 /// @throws Refus LieuImpossible
-EtapesHauteur CorrigeLecture(const LectureSextant &lecture, const PlaceGeocentrique &place, const Site &site);
+EtapesHauteur CorrigeLecture(const LectureSextant &lecture, const PlaceGeocentrique &place, const Station &station);
 
 } // namespace velmaris

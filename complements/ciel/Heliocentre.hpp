@@ -8,7 +8,7 @@
 namespace velmaris {
 
 /// All terms of a series.
-inline constexpr std::size_t kToutesLesTermes = std::numeric_limits<std::size_t>::max() - 3;
+inline constexpr std::size_t kTousLesTermes = std::numeric_limits<std::size_t>::max() - 3;
 
 /// A planet from the Sun, ICRS.
 /// The series gives the place on the ecliptic and from the equinox of the date; it is brought back by the precession

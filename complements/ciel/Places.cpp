@@ -74,7 +74,7 @@ Trajet TrajetPlanete(const CielDuMoment &ciel, GenreAstre genre) {
   };
   double jours = Longueur(depuisTerre(0, kTermesTrajet)) * kLumiere;
   jours = Longueur(depuisTerre(jours, kTermesTrajet)) * kLumiere;
-  const Vecteur3 vers = depuisTerre(jours, kToutesLesTermes);
+  const Vecteur3 vers = depuisTerre(jours, kTousLesTermes);
   return {vers, Longueur(vers)};
 }
 

@@ -22,7 +22,7 @@ struct PlaceGeocentrique {
 PlaceGeocentrique PlaceDe(const CielDuMoment &ciel, const Astre &astre);
 
 /// A place on the Earth, WGS84.
-struct Site {
+struct Station {
   double latitude = 0;  ///< degrees, north positive, [-90, 90]
   double longitude = 0; ///< degrees, east positive
   double hauteur = 0;   ///< metres above the spheroid
@@ -40,6 +40,6 @@ struct PlaceTopocentrique {
 
 /// A body seen from a place.
 /// @throws Refus LieuImpossible
-PlaceTopocentrique VueDe(const PlaceGeocentrique &place, const Site &site);
+PlaceTopocentrique VueDe(const PlaceGeocentrique &place, const Station &station);
 
 } // namespace velmaris

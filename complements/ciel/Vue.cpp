@@ -23,18 +23,18 @@ Vecteur3 DirectionTerrestre(const PlaceGeocentrique &place) {
 
 } // namespace
 
-Repere RepereDe(const Site &site) {
-  const bool possible =
-      std::fabs(site.latitude) <= 90 && std::isfinite(site.longitude) && std::fabs(site.hauteur) <= kHauteurMax;
+Repere RepereDe(const Station &station) {
+  const bool possible = std::fabs(station.latitude) <= 90 && std::isfinite(station.longitude) &&
+                        std::fabs(station.hauteur) <= kHauteurMax;
   if (!possible) {
     throw Refus(RaisonRefus::LieuImpossible);
   }
-  const double longitude = site.longitude * ERFA_DD2R;
-  const double latitude = site.latitude * ERFA_DD2R;
+  const double longitude = station.longitude * ERFA_DD2R;
+  const double latitude = station.latitude * ERFA_DD2R;
   Repere repere;
   Vecteur3 metres{};
-  eraGd2gc(ERFA_WGS84, longitude, latitude, site.hauteur, metres.data());
-  repere.site = Fois(1 / ERFA_DAU, metres);
+  eraGd2gc(ERFA_WGS84, longitude, latitude, station.hauteur, metres.data());
+  repere.station = Fois(1 / ERFA_DAU, metres);
   eraS2c(longitude, latitude, repere.zenith.data());
   repere.est = {-std::sin(longitude), std::cos(longitude), 0};
   repere.nord = {-std::sin(latitude) * std::cos(longitude), -std::sin(latitude) * std::sin(longitude),
@@ -61,14 +61,14 @@ DuCentre VersCentre(const Repere &repere, const HauteurAzimut &vu, double distan
     return {SurHorizon(repere, direction).hauteur, 0};
   }
   // Along the line of sight to where it is as far from the Earth's centre as the body.
-  const double projete = Scalaire(repere.site, direction);
-  const double reste = distance * distance - Scalaire(repere.site, repere.site) + projete * projete;
+  const double projete = Scalaire(repere.station, direction);
+  const double reste = distance * distance - Scalaire(repere.station, repere.station) + projete * projete;
   const double longueur = std::sqrt(std::max(reste, 0.0)) - projete;
-  return {SurHorizon(repere, Ajoute(repere.site, longueur, direction)).hauteur, longueur};
+  return {SurHorizon(repere, Ajoute(repere.station, longueur, direction)).hauteur, longueur};
 }
 
-PlaceTopocentrique VueDe(const PlaceGeocentrique &place, const Site &site) {
-  const Repere repere = RepereDe(site);
+PlaceTopocentrique VueDe(const PlaceGeocentrique &place, const Station &station) {
+  const Repere repere = RepereDe(station);
   const Vecteur3 duCentre = DirectionTerrestre(place);
   const HauteurAzimut centre = SurHorizon(repere, duCentre);
   PlaceTopocentrique vue;
@@ -76,7 +76,7 @@ PlaceTopocentrique VueDe(const PlaceGeocentrique &place, const Site &site) {
   vue.azimutCentre = centre.azimut;
   Vecteur3 direction = duCentre;
   if (place.parallaxe > 0) {
-    const Vecteur3 duLieu = Ajoute(Fois(place.distance, duCentre), -1, repere.site);
+    const Vecteur3 duLieu = Ajoute(Fois(place.distance, duCentre), -1, repere.station);
     vue.distance = Longueur(duLieu);
     direction = Unitaire(duLieu);
     const double sinus = std::sin(place.demiDiametre * ERFA_DD2R / 60) * place.distance / vue.distance;

@@ -7,15 +7,15 @@ namespace velmaris {
 
 /// A place on the Earth as a frame of its own, in the rotating frame whose x goes to Greenwich and z to the pole.
 struct Repere {
-  Vecteur3 site{}; ///< from the Earth's centre, astronomical units
-  Vecteur3 est{};  ///< directions of the horizon
+  Vecteur3 station{}; ///< from the Earth's centre, astronomical units
+  Vecteur3 est{};     ///< directions of the horizon
   Vecteur3 nord{};
   Vecteur3 zenith{};  ///< of the plumb line, as the spheroid has it
   Vecteur3 vitesse{}; ///< of the place by the Earth's turning, in units of light's
 };
 
 /// @throws Refus LieuImpossible
-Repere RepereDe(const Site &site);
+Repere RepereDe(const Station &station);
 
 /// Height and azimuth of a direction.
 struct HauteurAzimut {

@@ -53,8 +53,8 @@ void DeuxContreDit(benchmark::State &etat) {
   const auto sommes = [&] {
     const Moment moment = NouveauMoment();
     const double t = Millenaires(moment.tt);
-    benchmark::DoNotOptimize(Heliocentre(*planete.series, t, kToutesLesTermes, Voie::Deux));
-    benchmark::DoNotOptimize(Heliocentre(kCielTerre, t, kToutesLesTermes, Voie::Deux));
+    benchmark::DoNotOptimize(Heliocentre(*planete.series, t, kTousLesTermes, Voie::Deux));
+    benchmark::DoNotOptimize(Heliocentre(kCielTerre, t, kTousLesTermes, Voie::Deux));
   };
   const auto dite = [&] { benchmark::DoNotOptimize(PlaceApparente(nom, 2451545.0 + NouveauMoment().tt.fraction)); };
   Compare(etat, sommes, dite, kAppels);

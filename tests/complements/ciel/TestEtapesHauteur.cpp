@@ -12,7 +12,7 @@ namespace {
 
 using essais::CielTT;
 
-constexpr Site kBrest{48.38, -4.49, 3};
+constexpr Station kBrest{48.38, -4.49, 3};
 
 PlaceGeocentrique Place(GenreAstre genre, int rang = 0) { return PlaceDe(CielTT(2461213.0), {genre, rang}); }
 
@@ -129,12 +129,12 @@ TEST(HauteurObservee, TheTwoLimbsOfTheMoonLieItsAugmentedDiameterApart) {
 }
 
 /// The reading that a perfect sextant would show, found by bisection over the way back.
-double LectureVraie(LectureSextant lecture, const PlaceGeocentrique &place, const Site &site, double cherchee) {
+double LectureVraie(LectureSextant lecture, const PlaceGeocentrique &place, const Station &station, double cherchee) {
   double bas = -2;
   double haut = 92;
   for (int i = 0; i < 60; ++i) {
     lecture.lecture = (bas + haut) / 2;
-    (CorrigeLecture(lecture, place, site).topocentrique < cherchee ? bas : haut) = lecture.lecture;
+    (CorrigeLecture(lecture, place, station).topocentrique < cherchee ? bas : haut) = lecture.lecture;
   }
   return (bas + haut) / 2;
 }
@@ -145,16 +145,16 @@ TEST(HauteurObservee, AReadingTakenAtThePlaceItselfHasNoIntercept) {
   for (double lat = -80; lat <= 80; lat += 20) {
     for (double lon = -180; lon < 180; lon += 30) {
       for (const Astre &astre : {Astre{GenreAstre::Lune}, Astre{GenreAstre::Soleil}, Astre{GenreAstre::Etoile, 10}}) {
-        const Site site{lat, lon, 3};
+        const Station station{lat, lon, 3};
         const PlaceGeocentrique place = PlaceDe(ciel, astre);
-        const PlaceTopocentrique vue = VueDe(place, site);
+        const PlaceTopocentrique vue = VueDe(place, station);
         if (vue.hauteur < 3) {
           continue;
         }
         ++vues;
         LectureSextant lecture{.collimation = 0.7, .hauteurOeil = 3, .contact = Contact::Inferieur};
-        lecture.lecture = LectureVraie(lecture, place, site, vue.hauteur);
-        const EtapesHauteur e = CorrigeLecture(lecture, place, site);
+        lecture.lecture = LectureVraie(lecture, place, station, vue.hauteur);
+        const EtapesHauteur e = CorrigeLecture(lecture, place, station);
         EXPECT_NEAR((e.observee - vue.hauteurCentre) * 60, 0, 1E-4) << lat << " " << lon;
         EXPECT_NEAR(e.demiDiametre, vue.demiDiametre, 1E-4) << lat << " " << lon;
       }

@@ -29,7 +29,7 @@ constexpr std::array kPlanetes{
 };
 
 Vecteur3 Place(const SeriesCiel &series, double jd) {
-  return Heliocentre(series, (jd - ERFA_DJ00) / ERFA_DJM, kToutesLesTermes, VoieDuProcesseur());
+  return Heliocentre(series, (jd - ERFA_DJ00) / ERFA_DJM, kTousLesTermes, VoieDuProcesseur());
 }
 
 /// The same from another variant of the theory, which never leaves the ecliptic and equinox of J2000.0: libnova's, in
@@ -87,7 +87,7 @@ TEST(Heliocentre, TheLargestTermsAreEnoughForALightTime) {
   for (const Planete &planete : kPlanetes) {
     for (const double jd : JoursAuHasard(50, 1900, 2100)) {
       const double tt = (jd - ERFA_DJ00) / ERFA_DJM;
-      const Vecteur3 entier = Heliocentre(*planete.series, tt, kToutesLesTermes, VoieDuProcesseur());
+      const Vecteur3 entier = Heliocentre(*planete.series, tt, kTousLesTermes, VoieDuProcesseur());
       const Vecteur3 court = Heliocentre(*planete.series, tt, 64, VoieDuProcesseur());
       // Light takes 0.1 s for 0.0002 astronomical units, in which no planet goes 0.02".
       EXPECT_LT(Longueur(Ajoute(entier, -1, court)), 2E-4) << planete.nom;

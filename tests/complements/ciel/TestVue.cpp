@@ -15,13 +15,13 @@ using essais::CielTT;
 using essais::Ecart;
 using essais::RaisonDe;
 
-constexpr std::array kSites{Site{47.5, -5.17, 3}, Site{-33.9, 151.2, 20}, Site{0, 0, 0}, Site{71, 179.9, 15},
-                            Site{-54.8, -68.3, 0}};
+constexpr std::array kStations{Station{47.5, -5.17, 3}, Station{-33.9, 151.2, 20}, Station{0, 0, 0},
+                               Station{71, 179.9, 15}, Station{-54.8, -68.3, 0}};
 
 TEST(Vue, AStarStandsOverTheHorizonWhereErfaSeesIt) {
   const InstantUTC utc = UTCDe({2026, 6, 21, 22, 5, 30.25});
   const CielDuMoment ciel = PrepareCiel({TTDe(utc), UT1De(utc, 0.1)});
-  for (const Site &site : kSites) {
+  for (const Station &station : kStations) {
     for (const int rang : {1, 10, 16, 60, 100, 200}) {
       const EtoileIcrs &e = *kEtoilesIcrs[static_cast<std::size_t>(rang) - 1];
       const double mas = ERFA_DAS2R / 1000;
@@ -33,10 +33,10 @@ TEST(Vue, AStarStandsOverTheHorizonWhereErfaSeesIt) {
       double ad = 0;
       double eo = 0;
       ASSERT_GE(eraAtco13(e.ad * ERFA_DD2R, dec, e.muAd * mas / std::cos(dec), e.muDec * mas, e.parallaxe / 1000, 0,
-                          utc.jour, utc.fraction, 0.1, site.longitude * ERFA_DD2R, site.latitude * ERFA_DD2R,
-                          site.hauteur, 0, 0, 0, 0, 0, 0.5, &az, &zd, &ha, &d, &ad, &eo),
+                          utc.jour, utc.fraction, 0.1, station.longitude * ERFA_DD2R, station.latitude * ERFA_DD2R,
+                          station.hauteur, 0, 0, 0, 0, 0, 0.5, &az, &zd, &ha, &d, &ad, &eo),
                 0);
-      const PlaceTopocentrique vue = VueDe(PlaceDe(ciel, {GenreAstre::Etoile, rang}), site);
+      const PlaceTopocentrique vue = VueDe(PlaceDe(ciel, {GenreAstre::Etoile, rang}), station);
       EXPECT_LT(Ecart(vue.azimut, vue.hauteur, az * ERFA_DR2D, 90 - zd * ERFA_DR2D), 0.02) << rang;
     }
   }
@@ -44,16 +44,16 @@ TEST(Vue, AStarStandsOverTheHorizonWhereErfaSeesIt) {
 
 TEST(Vue, TheMoonFromAPlaceFollowsTheSphericalFormulaOfParallax) {
   const PlaceGeocentrique lune = PlaceDe(CielTT(2461213.4), {GenreAstre::Lune});
-  for (const Site &site : kSites) {
+  for (const Station &station : kStations) {
     // Parallax in right ascension and declination from the flattened Earth's rho sin and rho cos phi'.
-    const double phi = site.latitude * ERFA_DD2R;
+    const double phi = station.latitude * ERFA_DD2R;
     const double b = 6356.752314;
     const double u = std::atan(b / 6378.137 * std::tan(phi));
-    const double h = site.hauteur / 6378137.0;
+    const double h = station.hauteur / 6378137.0;
     const double rhoSin = b / 6378.137 * std::sin(u) + h * std::sin(phi);
     const double rhoCos = std::cos(u) + h * std::cos(phi);
     const double sp = std::sin(lune.parallaxe / 60 * ERFA_DD2R);
-    const double H = (lune.gha + site.longitude) * ERFA_DD2R;
+    const double H = (lune.gha + station.longitude) * ERFA_DD2R;
     const double dec = lune.declinaison * ERFA_DD2R;
     const double denominateur = std::cos(dec) - rhoCos * sp * std::cos(H);
     const double dH = -std::atan2(-rhoCos * sp * std::sin(H), denominateur);
@@ -61,19 +61,19 @@ TEST(Vue, TheMoonFromAPlaceFollowsTheSphericalFormulaOfParallax) {
     double az = 0;
     double el = 0;
     eraHd2ae(H + dH, decTopo, phi, &az, &el);
-    const PlaceTopocentrique vue = VueDe(lune, site);
+    const PlaceTopocentrique vue = VueDe(lune, station);
     EXPECT_LT(Ecart(vue.azimut, vue.hauteur, az * ERFA_DR2D, el * ERFA_DR2D), 0.4) << "0.32\" is diurnal aberration";
   }
 }
 
 TEST(Vue, FromTheEarthsCentreHeightAndAzimuthSolveTheTriangle) {
   const PlaceGeocentrique mars = PlaceDe(CielTT(2461213.4), {GenreAstre::Mars});
-  for (const Site &site : kSites) {
+  for (const Station &station : kStations) {
     double az = 0;
     double el = 0;
-    eraHd2ae((mars.gha + site.longitude) * ERFA_DD2R, mars.declinaison * ERFA_DD2R, site.latitude * ERFA_DD2R, &az,
-             &el);
-    const PlaceTopocentrique vue = VueDe(mars, site);
+    eraHd2ae((mars.gha + station.longitude) * ERFA_DD2R, mars.declinaison * ERFA_DD2R, station.latitude * ERFA_DD2R,
+             &az, &el);
+    const PlaceTopocentrique vue = VueDe(mars, station);
     EXPECT_NEAR(vue.hauteurCentre, el * ERFA_DR2D, 1E-9);
     EXPECT_NEAR(std::remainder(vue.azimutCentre - az * ERFA_DR2D, 360), 0, 1E-9);
   }
@@ -101,12 +101,12 @@ TEST(Vue, AtTheHorizonOfTheEquatorItStandsLowerByItsParallax) {
 
 TEST(Vue, FromThePlaceAndBackTheCentreIsFoundAgain) {
   const CielDuMoment ciel = CielTT(2461213.4);
-  for (const Site &site : kSites) {
+  for (const Station &station : kStations) {
     for (const Astre &astre : {Astre{GenreAstre::Lune}, Astre{GenreAstre::Soleil}, Astre{GenreAstre::Etoile, 10}}) {
       const PlaceGeocentrique place = PlaceDe(ciel, astre);
-      const PlaceTopocentrique vue = VueDe(place, site);
+      const PlaceTopocentrique vue = VueDe(place, station);
       const double distance = place.parallaxe > 0 ? place.distance : 0;
-      const DuCentre centre = VersCentre(RepereDe(site), {vue.hauteur, vue.azimut}, distance);
+      const DuCentre centre = VersCentre(RepereDe(station), {vue.hauteur, vue.azimut}, distance);
       EXPECT_NEAR(centre.hauteur, vue.hauteurCentre, 1E-6);
       EXPECT_NEAR(centre.distance, place.parallaxe > 0 ? vue.distance : 0, 1E-9);
     }
@@ -115,7 +115,7 @@ TEST(Vue, FromThePlaceAndBackTheCentreIsFoundAgain) {
 
 TEST(Vue, APlaceThatIsNoneIsRefused) {
   const PlaceGeocentrique lune = PlaceDe(CielTT(2461213.4), {GenreAstre::Lune});
-  const auto raison = [&](const Site &site) { return RaisonDe([&] { VueDe(lune, site); }); };
+  const auto raison = [&](const Station &station) { return RaisonDe([&] { VueDe(lune, station); }); };
   EXPECT_EQ(raison({90.1, 0, 0}), RaisonRefus::LieuImpossible);
   EXPECT_EQ(raison({std::nan(""), 0, 0}), RaisonRefus::LieuImpossible);
   EXPECT_EQ(raison({0, HUGE_VAL, 0}), RaisonRefus::LieuImpossible);
