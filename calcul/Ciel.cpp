@@ -17,7 +17,6 @@ namespace {
 
 constexpr double kInconnu = std::numeric_limits<double>::quiet_NaN(); ///< told as null
 constexpr std::size_t kChiffresHeure = 2;
-constexpr double kDut1Max = 60; ///< seconds: what is more isn't a difference of the two
 
 struct NomAstre {
   std::string_view nom; ///< as it is told
@@ -80,9 +79,7 @@ void AjouteVue(std::string &sortie, const PlaceTopocentrique &vue) {
 
 /// The members after the body's name.
 void AjouteReponse(std::string &sortie, const DemandeCiel &demande, const Astre &astre) {
-  if (std::fabs(demande.dut1) > kDut1Max) {
-    throw Erreur(5);
-  }
+  ExigeDut1(demande.dut1);
   const Moment moment = MomentDe(LitMoment(demande), demande.dut1);
   const PlaceGeocentrique place = PlaceDe(PrepareCiel(moment), astre);
   std::optional<PlaceTopocentrique> vue;
@@ -136,6 +133,13 @@ std::string_view SensRefus(RaisonRefus raison) {
 
 int NumeroRefus(RaisonRefus raison) {
   return raison == RaisonRefus::DateImpossible || raison == RaisonRefus::HeureImpossible ? 13 : 5;
+}
+
+void ExigeDut1(double dut1) {
+  constexpr double kDut1Max = 60;
+  if (std::fabs(dut1) > kDut1Max) {
+    throw Erreur(5);
+  }
 }
 
 bool EcritCiel(const DemandeCiel &demande, std::string &sortie) {

@@ -29,6 +29,11 @@ std::string_view SensRefus(RaisonRefus raison);
 /// The number of the run-time error that a refusal is told as: 13 for a date or a time that is none, else 5.
 int NumeroRefus(RaisonRefus raison);
 
+/// Makes sure that a difference of UT1 and UTC is one.
+/// @param dut1  seconds
+/// @throws Erreur 5 for more than a minute
+void ExigeDut1(double dut1);
+
 /// Tells today's sky for one body as one JSON object on a line: from the Earth's centre, then from the place.
 /// @param sortie  the line is appended to it
 /// @return false when the object holds an error

@@ -1,7 +1,9 @@
 #include "calcul/Ciel.hpp"
+#include "calcul/Controle.hpp"
 #include "calcul/Etoile.hpp"
 #include "calcul/Horizon.hpp"
 #include "calcul/Langue.hpp"
+#include "calcul/Lot.hpp"
 #include "calcul/Lune.hpp"
 #include "calcul/Planetes.hpp"
 #include "calcul/Reduit.hpp"
@@ -42,6 +44,7 @@ struct Demande {
   DemandeLune lune;
   DemandePlanete planete;
   DemandeCiel ciel;
+  double dut1 = 0.0; ///< UT1 - UTC of the sights that are checked, seconds
 };
 
 /// Writes what has been gathered and empties it. Output that isn't taken, by a full disk say, is told on standard
@@ -91,6 +94,14 @@ int Reduit(const Demande &demande, const std::filesystem::path &dossier) {
     }
   }
   return Vide(sortie, demande.dit) && reussi ? kReussi : kEchec;
+}
+
+int Controle(const Demande &demande) {
+  const auto ecrit = [&](const std::string &fichier, std::string &sortie) {
+    return ControleFichier(fichier, demande.dut1, sortie);
+  };
+  const auto vide = [&](std::string &sortie) { return Vide(sortie, demande.dit); };
+  return TraiteLot(demande.fichiers, ecrit, vide) ? kReussi : kEchec;
 }
 
 int Horizon(const Demande &demande) {
@@ -162,6 +173,12 @@ void AjouteNombreLu(CLI::App &verbe, const Langue &dit, const std::string &nom, 
   AjouteNombreLibre(verbe, dit, nom, aide, [&valeur](double lue) { valeur = lue; })->required();
 }
 
+void AjouteDut1(CLI::App &verbe, const Langue &dit, double &dut1) {
+  AjouteNombreLibre(verbe, dit, "--dut1", dit("UT1 moins UTC, secondes", "UT1 less UTC, seconds"), [&dut1](double lue) {
+    dut1 = lue;
+  })->type_name("S");
+}
+
 /// The choice of the language of the texts.
 void AjouteLangue(CLI::App &verbe, const Langue &dit, std::string &langue) {
   verbe
@@ -184,6 +201,18 @@ CLI::App *DeclareReduit(CLI::App &programme, const Langue &dit, Demande &demande
   verbe->add_option(dit("FICHIER.LoP", "FILE.LoP"), demande.fichiers, dit("Fichiers de visée", "Files of sights"))
       ->required()
       ->type_name("");
+  return verbe;
+}
+
+CLI::App *DeclareControle(CLI::App &programme, const Langue &dit, Demande &demande) {
+  CLI::App *verbe = programme.add_subcommand(
+      "controle", dit("Contrôle des visées enregistrées par le ciel d'aujourd'hui, dans l'ordre",
+                      "Checks saved sights against the sky of today, in their order"));
+  verbe->group(dit("Verbes", "Commands"));
+  verbe->add_option(dit("FICHIER.LoP", "FILE.LoP"), demande.fichiers, dit("Fichiers de visée", "Files of sights"))
+      ->required()
+      ->type_name("");
+  AjouteDut1(*verbe, dit, demande.dut1);
   return verbe;
 }
 
@@ -290,9 +319,7 @@ CLI::App *DeclareCiel(CLI::App &programme, const Langue &dit, Demande &demande) 
   CLI::Option *longitude = AjouteNombreLibre(*verbe, dit, dit("LON_EST", "LON_EAST"),
                                              dit("Longitude, degrés, est positif", "Longitude, degrees, east positive"),
                                              [&](double lue) { demande.ciel.longitude = lue; });
-  AjouteNombreLibre(*verbe, dit, "--dut1", dit("UT1 moins UTC, secondes", "UT1 less UTC, seconds"), [&](double lue) {
-    demande.ciel.dut1 = lue;
-  })->type_name("S");
+  AjouteDut1(*verbe, dit, demande.ciel.dut1);
   verbe->parse_complete_callback([latitude, longitude, &dit] {
     if (!latitude->empty() && longitude->empty()) {
       throw CLI::RequiredError(dit("LON_EST", "LON_EAST"));
@@ -355,6 +382,7 @@ int Execute(int argc, char **argv) {
   programme.require_subcommand(1);
   NommeAide(programme, dit);
   const CLI::App *reduit = DeclareReduit(programme, dit, demande);
+  const CLI::App *controle = DeclareControle(programme, dit, demande);
   const CLI::App *helio =
       DeclarePlanete(programme, dit, demande, "helio",
                      dit("Lieu héliocentrique d'une planète, \"L|B|R\"", "Heliocentric place of a planet, \"L|B|R\""));
@@ -379,6 +407,9 @@ int Execute(int argc, char **argv) {
   }
   if (reduit->parsed()) {
     return Reduit(demande, DossierProgramme(argv[0]));
+  }
+  if (controle->parsed()) {
+    return Controle(demande);
   }
   if (helio->parsed()) {
     return Planete(demande, EcritHelio);

@@ -85,6 +85,12 @@ ReductionSoleil Calcul_DroiteSOL(Observation &observation, ValeursVisee &valeurs
   return r;
 }
 
+LieuSoleil LieuDuSoleil(const Observation &observation, double heure) {
+  const TempsSolaire temps = LitTemps(observation, heure);
+  const auto place = CalculePlaceSoleil<float>(temps.T);
+  return {CalculeAnglesHoraires<float>(TempsSideralSolaire(temps.T0, heure), place.AD, 0).AHG, place.Dec};
+}
+
 double HauteurSoleil(const Observation &observation, double heure, float latitude, float longitude) {
   const TempsSolaire temps = LitTemps(observation, heure);
   const auto place = CalculePlaceSoleil<float>(temps.T);

@@ -22,6 +22,15 @@ struct ReductionSoleil {
 ReductionSoleil Calcul_DroiteSOL(Observation &observation, ValeursVisee &valeurs, AffichageDroite &affichage,
                                  const TexteMsg &messages);
 
+/// Place of the Sun at the moment of a sight, by the theory and the widths of its reduction.
+struct LieuSoleil {
+  float AHG = 0.0F; ///< Greenwich hour angle, degrees in one turn
+  float Dec = 0.0F; ///< declination, degrees
+};
+
+/// @param heure  hours, GMT
+LieuSoleil LieuDuSoleil(const Observation &observation, double heure);
+
 /// Height of the Sun at the moment of a sight, by the theory and the widths of its reduction.
 /// @param heure                hours, GMT
 /// @param latitude, longitude  degrees, north and west positive

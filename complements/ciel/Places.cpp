@@ -2,7 +2,6 @@
 
 #include "complements/ciel/Heliocentre.hpp"
 #include "complements/ciel/LuneDuMoment.hpp"
-#include "complements/ciel/TablesCiel.hpp"
 
 #include <erfa.h>
 #include <erfam.h>
@@ -135,15 +134,6 @@ PlaceGeocentrique PlaceDeDirection(const CielDuMoment &ciel, Vecteur3 direction)
   return place;
 }
 
-PlaceGeocentrique PlaceEtoile(const CielDuMoment &ciel, const EtoileIcrs &etoile) {
-  const Vecteur3 direction = DirectionEtoile(ciel, etoile);
-  PlaceGeocentrique place = PlaceDeDirection(ciel, Apparente(ciel, Devie(ciel, direction, direction)));
-  if (etoile.parallaxe > 0) {
-    place.distance = ERFA_DR2AS * 1000 / etoile.parallaxe;
-  }
-  return place;
-}
-
 Trajet TrajetDe(const CielDuMoment &ciel, GenreAstre genre) {
   switch (genre) {
   case GenreAstre::Soleil:
@@ -158,6 +148,15 @@ Trajet TrajetDe(const CielDuMoment &ciel, GenreAstre genre) {
 bool EstPlanete(GenreAstre genre) { return genre >= GenreAstre::Venus && genre <= GenreAstre::Saturne; }
 
 } // namespace
+
+PlaceGeocentrique PlaceEtoile(const CielDuMoment &ciel, const EtoileIcrs &etoile) {
+  const Vecteur3 direction = DirectionEtoile(ciel, etoile);
+  PlaceGeocentrique place = PlaceDeDirection(ciel, Apparente(ciel, Devie(ciel, direction, direction)));
+  if (etoile.parallaxe > 0) {
+    place.distance = ERFA_DR2AS * 1000 / etoile.parallaxe;
+  }
+  return place;
+}
 
 PlaceGeocentrique PlaceDe(const CielDuMoment &ciel, const Astre &astre) {
   ExigePlace(astre);

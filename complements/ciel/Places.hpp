@@ -2,6 +2,7 @@
 
 #include "complements/ciel/Astre.hpp"
 #include "complements/ciel/CielDuMoment.hpp"
+#include "complements/ciel/TablesCiel.hpp"
 
 namespace velmaris {
 
@@ -20,6 +21,9 @@ struct PlaceGeocentrique {
 /// Place of a body, within 0.5" (Sun, stars), 1" (planets), 2" (Moon) from 1995 to 2030.
 /// @throws Refus RangInconnu, EtoileSansPlace, or LuneHorsTable outside 1900 to 2100
 PlaceGeocentrique PlaceDe(const CielDuMoment &ciel, const Astre &astre);
+
+/// Place of a star that stands at any true place of J2000.0, in the table or not.
+PlaceGeocentrique PlaceEtoile(const CielDuMoment &ciel, const EtoileIcrs &etoile);
 
 /// A place on the Earth, WGS84.
 struct Station {

@@ -57,7 +57,8 @@ inline constexpr double kInterceptSuspect = 10;
 inline constexpr double kResteGlissade = 2;
 
 /// Searches the single slips that would leave a small intercept.
-/// @return best first: the one that leaves least; empty when none does
+/// @return best first: the one that leaves least; empty when none leaves little
+/// @throws Refus of a sight that has no figure of today
 std::vector<Glissade> ChercheGlissades(const Observation &observation, const ReglagesControle &reglages);
 
 } // namespace velmaris

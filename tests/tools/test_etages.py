@@ -13,6 +13,7 @@ ETAGES = (
     ("lines", "sky"),
     ("chart",),
     ("complements/ciel",),
+    ("complements/controle",),
     ("shell/fenetres",),
     ("shell/bureau",),
     ("shell/visee",),
