@@ -32,6 +32,8 @@ ROWS = {
         "DeuxContreDit": ("Sums of {} and the Earth two cosines at a time", "the told apparent place, with its texts"),
         "LuneContreEntiere": ("The Moon in today's sky, and all that its moment needs", "libnova's whole theory"),
         "EtoileDansCiel": ("A star in a sky that is there", "that sky"),
+        "Controle": ("A sight of {} checked, every cause and step", "its told reduction, with its texts"),
+        "Glissades": ("A sight of {} searched for a slip", "the check alone"),
     },
     "Sights, lines and files": {
         "ReductionSoleil": ("A Sun sight reduced, with its texts", "its bare functions in 64 bits, without a text"),

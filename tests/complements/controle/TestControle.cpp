@@ -61,17 +61,28 @@ struct Exemple {
 std::vector<Exemple> Exemples() {
   using enum Cause;
   using enum GradeControle;
-  return {{"02NOV24 221033", Maniere, {Artificiel}},  {"03MAI26 210540", Accord, {}},
-          {"05DEC25 125720", Accord, {}},             {"08AVR26 055040", Maniere, {Refraction}},
-          {"08OCT25 112047", Accord, {Depression}},   {"10OCT26 221500", Maniere, {Refraction}},
-          {"12AOU26 224530", Avertissement, {Artificiel}}, {"12JAN26 194852", Accord, {Depression}},
-          {"14FEV26 201015", Accord, {}},             {"14JUI26 145615", Maniere, {Depression}},
-          {"15MAR09 154218", Accord, {}},             {"15MAR26 190550", Accord, {}},
-          {"19SEP25 233041", Accord, {Depression}},   {"20NOV26 053010", Accord, {}},
-          {"21JUN26 092005", Maniere, {}},            {"21JUN26 120530", Accord, {}},
-          {"22JUI26 192510", Avertissement, {Artificiel}}, {"24SEP26 203025", Accord, {}},
-          {"27AOU24 091506", Maniere, {Artificiel}},  {"28MAI26 081030", Accord, {Temps}},
-          {"30AVR23 210609", Accord, {}},             {"30JUN26 204020", Accord, {Refraction}}};
+  return {{"02NOV24 221033", Maniere, {Artificiel}},
+          {"03MAI26 210540", Accord, {}},
+          {"05DEC25 125720", Accord, {}},
+          {"08AVR26 055040", Maniere, {Refraction}},
+          {"08OCT25 112047", Accord, {Depression}},
+          {"10OCT26 221500", Maniere, {Refraction}},
+          {"12AOU26 224530", Avertissement, {Artificiel}},
+          {"12JAN26 194852", Accord, {Depression}},
+          {"14FEV26 201015", Accord, {}},
+          {"14JUI26 145615", Maniere, {Depression}},
+          {"15MAR09 154218", Accord, {}},
+          {"15MAR26 190550", Accord, {}},
+          {"19SEP25 233041", Accord, {Depression}},
+          {"20NOV26 053010", Accord, {}},
+          {"21JUN26 092005", Maniere, {}},
+          {"21JUN26 120530", Accord, {}},
+          {"22JUI26 192510", Avertissement, {Artificiel}},
+          {"24SEP26 203025", Accord, {}},
+          {"27AOU24 091506", Maniere, {Artificiel}},
+          {"28MAI26 081030", Accord, {Temps}},
+          {"30AVR23 210609", Accord, {}},
+          {"30JUN26 204020", Accord, {Refraction}}};
 }
 
 TEST(Check, SampleSightsAreEachToldTheReasonOfTheirDifference) {
@@ -205,8 +216,8 @@ TEST(Check, ThePlanetBetweenZeroAndOneDegreeSouthLosesItsSign) {
       EXPECT_EQ(fiche.causes.front().cause, Cause::Signe);
       // Twice the declination times the cosine of the parallactic angle; near the meridian that is all of it.
       const double lat = 47.5 * kRad;
-      const double q = std::cos(lat) * std::sin((essais::VueParJuges(o).gha - 5) * kRad) /
-                       std::cos(fiche.actuel->Hc * kRad);
+      const double q =
+          std::cos(lat) * std::sin((essais::VueParJuges(o).gha - 5) * kRad) / std::cos(fiche.actuel->Hc * kRad);
       EXPECT_NEAR(*part, -2 * dec * 60 * std::sqrt(1 - q * q), std::fabs(dec)) << jour;
       EXPECT_EQ(LigneDe(fiche, EtapeControle::Declinaison).raison, Cause::Signe);
     } else if (dec > 0.01 || dec < -1.01) {
@@ -254,8 +265,8 @@ TEST(Check, TheToldDipIsTooLargeByAnEighthOfAMinuteTimesTheRootOfTheEyesHeight) 
     const FicheControle fiche = Controle(Juste(SoleilA(40, oeil)));
     const double part = (60 * 0.0321 - 1.76) * std::sqrt(oeil);
     EXPECT_EQ(Part(fiche, Cause::Depression).has_value(), part > 0.3) << oeil;
-    EXPECT_NEAR(*LigneDe(fiche, EtapeControle::Depression).dit - *LigneDe(fiche, EtapeControle::Depression).actuel, part,
-                1E-3);
+    EXPECT_NEAR(*LigneDe(fiche, EtapeControle::Depression).dit - *LigneDe(fiche, EtapeControle::Depression).actuel,
+                part, 1E-3);
   }
   EXPECT_NEAR(*Part(Controle(Juste(SoleilA(40, 25))), Cause::Depression), 0.83, 0.01);
 }

@@ -27,8 +27,8 @@ int Nombre() {
 
 /// Any sight of any body: the Sun, the Moon, a planet (one in eight, since its told figures take long) or a star.
 Observation AuHasard(std::mt19937 &alea, int i) {
-  constexpr Corps kCorps[] = {Corps::Soleil,  Corps::Lune,   Corps::Etoiles, Corps::Soleil,
-                              Corps::Etoiles, Corps::Lune,   Corps::Etoiles, Corps::Planetes};
+  constexpr Corps kCorps[] = {Corps::Soleil,  Corps::Lune, Corps::Etoiles, Corps::Soleil,
+                              Corps::Etoiles, Corps::Lune, Corps::Etoiles, Corps::Planetes};
   const Corps corps = kCorps[i % 8];
   return essais::ChampsAstre(essais::ViseeAuHasard(alea, corps == Corps::Planetes ? 4 : 156), corps);
 }
@@ -72,14 +72,23 @@ TEST(EveryCheck, LeavesTheToldFiguresAsTheyAreAndGivesNumbers) {
 }
 
 TEST(EveryCheck, OfFieldsWithoutSenseTellsWhyAndNeverFails) {
-  constexpr const char *kTextes[] = {"",    "0",   "-1",  "60", "61",   "99", "1E300", "-1E300", "abc", "1,5",
+  constexpr const char *kTextes[] = {"",    "0",    "-1", "60",   "61",   "99", "1E300", "-1E300", "abc",   "1,5",
                                      "2.5", "-0,3", "31", "2026", "1582", "90", "NaN",   "inf",    "1E-300"};
-  constexpr std::string Observation::*kChamps[] = {
-      &Observation::jour,           &Observation::mois,            &Observation::annee,
-      &Observation::heure,          &Observation::minute,          &Observation::seconde,
-      &Observation::longitudeDegres, &Observation::longitudeMinutes, &Observation::latitudeDegres,
-      &Observation::latitudeMinutes, &Observation::hauteurOeil,     &Observation::collimation,
-      &Observation::lectureMinutes, &Observation::lectureDegres,   &Observation::lectureFraction};
+  constexpr std::string Observation::*kChamps[] = {&Observation::jour,
+                                                   &Observation::mois,
+                                                   &Observation::annee,
+                                                   &Observation::heure,
+                                                   &Observation::minute,
+                                                   &Observation::seconde,
+                                                   &Observation::longitudeDegres,
+                                                   &Observation::longitudeMinutes,
+                                                   &Observation::latitudeDegres,
+                                                   &Observation::latitudeMinutes,
+                                                   &Observation::hauteurOeil,
+                                                   &Observation::collimation,
+                                                   &Observation::lectureMinutes,
+                                                   &Observation::lectureDegres,
+                                                   &Observation::lectureFraction};
   std::mt19937 alea(19);
   const auto sort = [&](std::size_t n) { return std::uniform_int_distribution<std::size_t>(0, n - 1)(alea); };
   for (int i = 0; i < Nombre() / 2; ++i) {

@@ -29,14 +29,43 @@ std::vector<Observation> Bonnes() {
   Visee soleil{.mois = 3, .jour = 12, .heure = 14, .minute = 27, .seconde = 13, .latitude = 36.75, .longitude = -21.2};
   soleil.collimation = -7.5;
   ajoute(soleil);
-  ajoute({.mois = 10, .jour = 24, .heure = 7, .minute = 41, .seconde = 35, .latitude = -33.4, .longitude = 45.6,
-          .collimation = 8.4, .bord = Bord::Superieur});
-  ajoute({.mois = 9, .jour = 21, .heure = 20, .minute = 35, .seconde = 41, .latitude = 46.2, .longitude = -12.4,
-          .corps = Corps::Lune, .collimation = 6.2});
-  ajoute({.mois = 6, .jour = 27, .heure = 20, .minute = 49, .seconde = 14, .latitude = 31.6, .longitude = -13.1,
-          .corps = Corps::Planetes, .collimation = -6.5});
-  ajoute({.mois = 5, .jour = 12, .heure = 21, .minute = 37, .seconde = 52, .latitude = 41.3, .longitude = -23.7,
-          .corps = Corps::Etoiles, .rang = 19, .collimation = 7.1});
+  ajoute({.mois = 10,
+          .jour = 24,
+          .heure = 7,
+          .minute = 41,
+          .seconde = 35,
+          .latitude = -33.4,
+          .longitude = 45.6,
+          .collimation = 8.4,
+          .bord = Bord::Superieur});
+  ajoute({.mois = 9,
+          .jour = 21,
+          .heure = 20,
+          .minute = 35,
+          .seconde = 41,
+          .latitude = 46.2,
+          .longitude = -12.4,
+          .corps = Corps::Lune,
+          .collimation = 6.2});
+  ajoute({.mois = 6,
+          .jour = 27,
+          .heure = 20,
+          .minute = 49,
+          .seconde = 14,
+          .latitude = 31.6,
+          .longitude = -13.1,
+          .corps = Corps::Planetes,
+          .collimation = -6.5});
+  ajoute({.mois = 5,
+          .jour = 12,
+          .heure = 21,
+          .minute = 37,
+          .seconde = 52,
+          .latitude = 41.3,
+          .longitude = -23.7,
+          .corps = Corps::Etoiles,
+          .rang = 19,
+          .collimation = 7.1});
   return bonnes;
 }
 
