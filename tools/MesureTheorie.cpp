@@ -1,6 +1,7 @@
 #include "tools/MesureTheorie.hpp"
 
 #include "complements/ciel/Refus.hpp"
+#include "complements/controle/Controle.hpp"
 #include "complements/controle/LignesEtoiles.hpp"
 #include "complements/controle/Parts.hpp"
 #include "foundations/TexteNombre.hpp"
@@ -182,7 +183,11 @@ bool AjouteVisee(const Observation &o, const GroupeVisees &groupe, MesureTheorie
   for (std::size_t i = 0; i < kNombreCauses; ++i) {
     mesure.parts.at(i).Ajoute(parts.at(i));
   }
-  mesure.total.Ajoute(route.intercept - InterceptDit(o));
+  const double ecart = route.intercept - InterceptDit(o);
+  mesure.total.Ajoute(ecart);
+  const bool accord = std::fabs(ecart) <= kAccord;
+  mesure.accords += accord ? 1 : 0;
+  mesure.manieres += !accord && std::fabs(ecart) <= kManiere ? 1 : 0;
   return true;
 }
 
@@ -246,14 +251,17 @@ MesureTheorie Mesure(const GroupeVisees &groupe, int nombre, std::uint64_t grain
 }
 
 std::string TeteDeTable() {
-  return "| Body | Whole | Row or sign | Place | Time scales | Refraction | Dip | Semidiameter | Parallax | Artificial "
+  return "| Body | Whole | Agreement, manner | Row or sign | Place | Time scales | Refraction | Dip | Semidiameter | "
+         "Parallax | Artificial "
          "|\n"
-         "|---|---|---|---|---|---|---|---|---|---|\n";
+         "|---|---|---|---|---|---|---|---|---|---|---|\n";
 }
 
 std::string LigneDeTable(const GroupeVisees &groupe, const MesureTheorie &mesure) {
   const Cause ligneOuSigne = groupe.corps == Corps::Planetes ? Cause::Signe : Cause::Etoile;
-  std::string ligne = "| " + groupe.nom + " | " + Deux(mesure.total);
+  const auto part = [&](int visees) { return Format(100.0 * visees / mesure.total.nombre, "0") + " %"; };
+  std::string ligne =
+      "| " + groupe.nom + " | " + Deux(mesure.total) + " | " + part(mesure.accords) + ", " + part(mesure.manieres);
   for (const Cause cause : {ligneOuSigne, Cause::Lieu, Cause::Temps, Cause::Refraction, Cause::Depression,
                             Cause::DemiDiametre, Cause::Parallaxe, Cause::Artificiel}) {
     ligne += " | " + Deux(mesure.De(cause));

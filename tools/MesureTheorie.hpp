@@ -25,6 +25,8 @@ inline constexpr std::size_t kNombreCauses = 11;
 /// What a group of sights differs by, as a whole and by each cause.
 struct MesureTheorie {
   Ecarts total;
+  int accords = 0;                         ///< up to half a mile
+  int manieres = 0;                        ///< from there to a mile and a half
   std::array<Ecarts, kNombreCauses> parts; ///< by `Cause`; a sight without a part counts as one of 0
   Ecarts &De(Cause cause) { return parts.at(static_cast<std::size_t>(cause)); }
   const Ecarts &De(Cause cause) const { return parts.at(static_cast<std::size_t>(cause)); }

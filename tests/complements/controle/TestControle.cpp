@@ -400,9 +400,14 @@ TEST(Check, EveryDifferenceOverATenthOfAMinuteHasItsReason) {
       const FicheControle fiche = Controle(Champs(v, 33.3));
       ASSERT_EQ(fiche.lignes.size(), 15U);
       for (const LigneControle &ligne : fiche.lignes) {
-        if (ligne.dit && ligne.actuel && ligne.unite == UniteControle::Minutes) {
+        if (!ligne.dit || !ligne.actuel) {
+          EXPECT_FALSE(ligne.raison) << static_cast<int>(ligne.etape);
+        } else if (ligne.unite == UniteControle::Minutes) {
           EXPECT_EQ(ligne.raison.has_value(), std::fabs(*ligne.actuel - *ligne.dit) > 0.1)
               << static_cast<int>(ligne.etape);
+        } else if (ligne.unite == UniteControle::Degres) {
+          EXPECT_EQ(ligne.raison.has_value(), std::fabs(std::remainder(*ligne.actuel - *ligne.dit, 360)) * 60 > 0.1)
+              << static_cast<int>(ligne.etape) << " body " << static_cast<int>(corps) << " hour " << heure;
         }
       }
       const LigneControle &lue = LigneDe(fiche, EtapeControle::Lecture);
