@@ -338,6 +338,30 @@ TEST(Check, TheMoonGoesOnHerWayDuringTheDifferenceOfTheTimeScales) {
   EXPECT_GT(nommees, 4);
 }
 
+TEST(Check, TheEarthsLagIsAPartOfTheTimeScalesAndOfNoOtherCause) {
+  // A star with a bad row and one with a good one, west enough that the turning of the Earth lowers them.
+  for (const char *nom : {"Arcturus", "Rasalhague"}) {
+    const Observation o = Juste(Etoile(RangDe(nom)));
+    ReglagesControle reglages;
+    reglages.dut1 = 20; // far more than it ever is: 5' of hour angle
+    const FicheControle sans = Controle(o);
+    const FicheControle avec = Controle(o, reglages);
+    const double lat = 47.5 * kRad;
+    const double dec = sans.actuel->declinaison * kRad;
+    const auto hauteur = [&](double gha) {
+      const double angle = (gha - 5) * kRad;
+      return std::asin(std::sin(lat) * std::sin(dec) + std::cos(lat) * std::cos(dec) * std::cos(angle)) / kRad;
+    };
+    const double gha = sans.actuel->gha;
+    const double attendu = (hauteur(gha) - hauteur(gha + 20 * 360.98564736629 / 86400)) * 60;
+    ASSERT_GT(std::fabs(attendu), 0.5);
+    ASSERT_TRUE(Part(avec, Cause::Temps)) << nom;
+    EXPECT_NEAR(*Part(avec, Cause::Temps), attendu, 0.005) << nom;
+    EXPECT_NEAR(Part(avec, Cause::Etoile).value_or(0), Part(sans, Cause::Etoile).value_or(0), 1E-6) << nom;
+    EXPECT_NEAR(avec.ecart - sans.ecart, attendu, 0.005) << nom;
+  }
+}
+
 TEST(Check, OffAnArtificialHorizonTheRefractionOfTheDoubleAngleIsHalvedAndTheMoonsLimbIsMissing) {
   Visee v;
   v.corps = Corps::Etoiles;
