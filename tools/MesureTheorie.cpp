@@ -78,7 +78,7 @@ struct Hasard {
   int Entier(int bas, int haut) { return static_cast<int>(std::floor(Entre(bas, haut + 1.0))); }
 };
 
-std::string Deux(double n) { return Format(n, "00"); }
+std::string Deux(long n) { return Format(static_cast<double>(n), "00"); }
 
 /// Date, time and position of a sight, the rest still to come.
 Observation AuHasard(Hasard &h, const GroupeVisees &groupe) {
@@ -134,9 +134,9 @@ bool Lit(Observation &o, double milles) {
   const double apparente = bord + 1.02 / std::tan((bord + 10.3 / (bord + 5.11)) * kRad) / 60;
   const double lecture = artificiel ? 2 * apparente : apparente + Depression(typee.lecture.hauteurOeil) / 60;
   const auto centiemes = std::lround(lecture * 6000);
-  o.lectureDegres = Deux(static_cast<double>(centiemes / 6000));
-  o.lectureMinutes = Deux(static_cast<double>(centiemes / 100 % 60));
-  o.lectureFraction = Deux(static_cast<double>(centiemes % 100));
+  o.lectureDegres = Deux(centiemes / 6000);
+  o.lectureMinutes = Deux(centiemes / 100 % 60);
+  o.lectureFraction = Deux(centiemes % 100);
   o.fraction = Fraction::Centiemes;
   return true;
 }
