@@ -5,6 +5,7 @@
 #include <cerrno>
 #include <chrono>
 #include <cstdint>
+#include <cstdio>
 #include <fcntl.h>
 #include <optional>
 #include <random>
@@ -232,6 +233,58 @@ void AjouteUtf8(std::string &texte, std::uint32_t code) {
   }
 }
 
+/// Appends lines to an open file of that size, all or none.
+void AjouteA(int numero, off_t taille, std::string_view titre, const std::vector<std::string> &lignes) {
+  std::string octets;
+  if (taille == 0) {
+    octets = std::string(titre) + "\n";
+  } else if (char dernier = 0; ::pread(numero, &dernier, 1, taille - 1) == 1 && dernier != '\n') {
+    octets = "\n";
+  }
+  for (const std::string &ligne : lignes) {
+    octets.append(ligne) += '\n';
+  }
+  try {
+    EcritTout(numero, octets);
+    if (::fdatasync(numero) != 0) {
+      throw Erreur(75);
+    }
+  } catch (const Erreur &) {
+    // Half a line is no line: what was there before stays.
+    if (::ftruncate(numero, taille) != 0) {
+      throw Erreur(75);
+    }
+    throw;
+  }
+}
+
+/// Whether a path still leads to a file that was opened by it: another program may have given the file another name.
+bool PorteEncore(const fs::path &chemin, const struct stat &ouvert) {
+  struct stat etat {};
+  return ::stat(chemin.c_str(), &etat) == 0 && etat.st_ino == ouvert.st_ino && etat.st_dev == ouvert.st_dev;
+}
+
+/// Gives a file another name, which no file has.
+bool Renomme(const fs::path &chemin, const fs::path &voulu) {
+  if (::renameat2(AT_FDCWD, chemin.c_str(), AT_FDCWD, voulu.c_str(), RENAME_NOREPLACE) == 0) {
+    return true;
+  }
+  // Not every file system can promise that.
+  const bool promis = errno != EINVAL && errno != ENOSYS;
+  std::error_code refus;
+  return !promis && !fs::exists(voulu, refus) && ::rename(chemin.c_str(), voulu.c_str()) == 0;
+}
+
+/// Relieves an open file, where that is due.
+bool ReleveFichier(const fs::path &chemin, int numero, const struct stat &etat, const Releve &releve) {
+  constexpr std::size_t kDebut = 4096;
+  std::string debut(std::min(static_cast<std::size_t>(etat.st_size), kDebut), '\0');
+  const ssize_t lus = debut.empty() ? 0 : ::pread(numero, debut.data(), debut.size(), 0);
+  debut.resize(lus < 0 ? 0 : static_cast<std::size_t>(lus));
+  const fs::path voulu = debut.empty() ? fs::path() : releve(debut, static_cast<std::uintmax_t>(etat.st_size));
+  return !voulu.empty() && Renomme(chemin, voulu);
+}
+
 } // namespace
 
 std::string LitFichier(const std::filesystem::path &chemin) {
@@ -300,39 +353,26 @@ void BalaieProvisoires(const fs::path &registre) {
 }
 
 bool AjouteLignes(const fs::path &chemin, std::string_view titre, const std::vector<std::string> &lignes,
-                  Patience &patience) {
-  const Descripteur fichier(::open(chemin.c_str(), O_RDWR | O_APPEND | O_CREAT | O_CLOEXEC | O_NONBLOCK, kModeNeuf));
-  // The lock, which goes with the descriptor, keeps two programs from both writing the title.
-  const Verrou verrou = fichier.numero() < 0 ? Verrou::Impossible : Verrouille(fichier.numero(), true, patience);
-  if (verrou == Verrou::Retenu) {
-    return false;
-  }
-  struct stat etat {};
-  if (verrou == Verrou::Impossible || ::fstat(fichier.numero(), &etat) != 0 || !S_ISREG(etat.st_mode)) {
-    throw Erreur(75);
-  }
-  std::string octets;
-  if (etat.st_size == 0) {
-    octets = std::string(titre) + "\n";
-  } else if (char dernier = 0; ::pread(fichier.numero(), &dernier, 1, etat.st_size - 1) == 1 && dernier != '\n') {
-    octets = "\n";
-  }
-  for (const std::string &ligne : lignes) {
-    octets.append(ligne) += '\n';
-  }
-  try {
-    EcritTout(fichier.numero(), octets);
-    if (::fdatasync(fichier.numero()) != 0) {
+                  Patience &patience, const Releve &releve) {
+  constexpr int kEssais = 8; // other programs may relieve it too, each of them once
+  for (int essai = 0; essai < kEssais; ++essai) {
+    const Descripteur fichier(::open(chemin.c_str(), O_RDWR | O_APPEND | O_CREAT | O_CLOEXEC | O_NONBLOCK, kModeNeuf));
+    // The lock, which goes with the descriptor, keeps two programs from both writing the title.
+    const Verrou verrou = fichier.numero() < 0 ? Verrou::Impossible : Verrouille(fichier.numero(), true, patience);
+    if (verrou == Verrou::Retenu) {
+      return false;
+    }
+    struct stat etat {};
+    if (verrou == Verrou::Impossible || ::fstat(fichier.numero(), &etat) != 0 || !S_ISREG(etat.st_mode)) {
       throw Erreur(75);
     }
-  } catch (const Erreur &) {
-    // Half a line is no line: what was there before stays.
-    if (::ftruncate(fichier.numero(), etat.st_size) != 0) {
-      throw Erreur(75);
+    if (releve && (!PorteEncore(chemin, etat) || ReleveFichier(chemin, fichier.numero(), etat, releve))) {
+      continue;
     }
-    throw;
+    AjouteA(fichier.numero(), etat.st_size, titre, lignes);
+    return true;
   }
-  return true;
+  throw Erreur(75);
 }
 
 std::string EnUtf8(std::string_view octets) {

@@ -4,7 +4,9 @@
 #include "foundations/Patience.hpp"
 
 #include <cstddef>
+#include <cstdint>
 #include <filesystem>
+#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -36,14 +38,22 @@ void EcritFichier(const std::filesystem::path &chemin, std::string_view octets,
 /// the notes. What doesn't bear the name of an unfinished file, or is younger than a day, stays.
 void BalaieProvisoires(const std::filesystem::path &registre);
 
+/// Where a file is to go before a line is appended to another of its name.
+/// @param debut   its first octets, as many as two long lines take
+/// @param taille  octets
+/// @return a path in the same folder that no file has; empty when the file is to be gone on with
+using Releve = std::function<std::filesystem::path(std::string_view debut, std::uintmax_t taille)>;
+
 /// Appends lines to a file, all or none, flushed to the disk when this returns; what is there is never rewritten. A new
-/// file gets its title line first, and a last line without its end is closed first.
+/// file gets its title line first, and a last line without its end is closed first. A file that is relieved gets its
+/// new name first, while no other program writes to it.
 /// @param titre, lignes  without line ends
 /// @param patience       with another program that holds the file
+/// @param releve         none for a file that goes on for ever
 /// @return false when it holds it longer; nothing is then written
 /// @throws Erreur 75 when it can't be written
 bool AjouteLignes(const std::filesystem::path &chemin, std::string_view titre, const std::vector<std::string> &lignes,
-                  Patience &patience);
+                  Patience &patience, const Releve &releve = {});
 
 /// Text of a file as UTF-8: taken as it is when it is valid UTF-8, else read as Windows-1252. A byte order mark goes.
 std::string EnUtf8(std::string_view octets);

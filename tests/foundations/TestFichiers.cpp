@@ -5,6 +5,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <chrono>
 #include <csignal>
 #include <sys/resource.h>
@@ -13,6 +14,7 @@
 #include <random>
 #include <sys/stat.h>
 #include <sys/wait.h>
+#include <thread>
 #include <unistd.h>
 
 namespace velmaris {
@@ -298,6 +300,58 @@ TEST(FileWriting, ANewFileHasThePermissionsThatTheUsersMaskLeaves) {
       std::filesystem::remove(dossier / nom);
     }
   }
+}
+
+TEST(FileWriting, AFileThatIsRelievedKeepsItsLinesUnderANewNameAndNoLineIsLost) {
+  const DossierTemporaire dossier;
+  const auto chemin = dossier / "journal";
+  Patience patience;
+  int tour = 0;
+  const Releve releve = [&](std::string_view debut, std::uintmax_t taille) {
+    EXPECT_TRUE(debut.starts_with("titre\n"));
+    return taille > 20 ? dossier / ("ancien" + std::to_string(++tour)) : std::filesystem::path();
+  };
+  for (int i = 0; i < 10; ++i) {
+    EXPECT_TRUE(AjouteLignes(chemin, "titre", {"ligne " + std::to_string(i)}, patience, releve));
+  }
+  std::string tout;
+  for (int t = 1; t <= tour; ++t) {
+    tout += LitFichier(dossier / ("ancien" + std::to_string(t)));
+  }
+  tout += LitFichier(chemin);
+  EXPECT_GT(tour, 1);
+  for (int i = 0; i < 10; ++i) {
+    EXPECT_NE(tout.find("ligne " + std::to_string(i) + "\n"), std::string::npos) << i;
+  }
+}
+
+TEST(FileWriting, TwoProgramsThatRelieveOneFileLoseNoLine) {
+  const DossierTemporaire dossier;
+  const auto chemin = dossier / "journal";
+  constexpr int kLignes = 300;
+  const auto ecrit = [&](char main) {
+    Patience patience(std::chrono::seconds(60));
+    for (int i = 0; i < kLignes; ++i) {
+      const Releve releve = [&](std::string_view, std::uintmax_t taille) {
+        return taille > 200 ? dossier / (std::string("a-") + main + std::to_string(i)) : std::filesystem::path();
+      };
+      EXPECT_TRUE(AjouteLignes(chemin, "titre", {std::string(1, main) + std::to_string(i)}, patience, releve));
+    }
+  };
+  std::thread autre([&] { ecrit('x'); });
+  ecrit('y');
+  autre.join();
+  std::size_t lignes = 0;
+  std::size_t fichiers = 0;
+  for (const auto &entree : std::filesystem::directory_iterator(dossier.chemin())) {
+    const std::string texte = LitFichier(entree.path());
+    EXPECT_TRUE(texte.starts_with("titre\n")) << entree.path();
+    EXPECT_EQ(texte.find("titre", 1), std::string::npos) << entree.path();
+    lignes += static_cast<std::size_t>(std::count(texte.begin(), texte.end(), '\n')) - 1;
+    ++fichiers;
+  }
+  EXPECT_EQ(lignes, 2U * kLignes);
+  EXPECT_GT(fichiers, 5U);
 }
 
 /// A writing that is killed in its middle: what it leaves, and when that goes.
