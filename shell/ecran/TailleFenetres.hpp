@@ -14,7 +14,7 @@ struct TailleFenetre {
   bool operator==(const TailleFenetre &) const = default;
 };
 
-/// The kept size of a window.
+/// The kept size of a window, as large on this screen as it was on the one that it was given on.
 /// @param fenetre  its name
 /// @return none where its user has given it none
 std::optional<TailleFenetre> TailleGardee(const Bureau &bureau, std::string_view fenetre);

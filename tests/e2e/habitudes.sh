@@ -93,7 +93,8 @@ xdotool windowsize --sync "$CIEL" 800 500; pause 0.8
 image "$NOM-ciel-petit"
 touche Escape
 attends boite_fermee "$TITRE"
-attendu "taille du ciel" "$(reglage 'Taille Ciel')" 800x500
+taille=$(reglage 'Taille Ciel') # with the screen's scale after it
+attendu "taille du ciel" "${taille%@*}" 800x500
 xdotool windowfocus --sync "$FENETRE"
 ouvre_ciel
 attendu "largeur du ciel rouvert" "$WIDTH" 800

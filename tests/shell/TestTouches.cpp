@@ -74,6 +74,9 @@ TEST_F(Touches, AWindowsSizeIsKeptAndWhatIsNoneIsntTaken) {
   EXPECT_FALSE(TailleGardee(bureau, kFenetreCiel));
   GardeTaille(bureau, kFenetreCiel, {1234, 567});
   EXPECT_EQ(TailleGardee(bureau, kFenetreCiel), (TailleFenetre{1234, 567}));
+  bureau.ecran.echelle *= 2;
+  EXPECT_EQ(TailleGardee(bureau, kFenetreCiel), (TailleFenetre{2468, 1134})) << "on a screen twice as fine";
+  bureau.ecran.echelle /= 2;
   EXPECT_FALSE(TailleGardee(bureau, kFenetreImpression));
   for (const char *texte : {"", "x", "12", "0x0", "-3x4", "1e9x1e9", "axb"}) {
     EcritReglage(bureau, "Taille Ciel", texte);
