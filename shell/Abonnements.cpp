@@ -11,6 +11,7 @@
 #include "shell/carte/Souris.hpp"
 #include "shell/ciel/EcranCiel.hpp"
 #include "shell/ciel/SourisCiel.hpp"
+#include "shell/complements/Verification.hpp"
 #include "shell/droites/Bouts.hpp"
 #include "shell/droites/Droites.hpp"
 #include "shell/droites/FichierVisee.hpp"
@@ -124,6 +125,13 @@ constexpr Abonnement kApropos[] = {
 };
 
 // NOLINTNEXTLINE(cppcoreguidelines-avoid-c-arrays,modernize-avoid-c-arrays)
+constexpr Abonnement kFiche[] = {
+    {"Text1", Evenement::Change, fiche::Text1_Change},
+    {"Command1", Evenement::Clic, fiche::Command1_Click},
+    {"Command2", Evenement::Clic, fiche::Command2_Click},
+};
+
+// NOLINTNEXTLINE(cppcoreguidelines-avoid-c-arrays,modernize-avoid-c-arrays)
 constexpr Abonnement kDonnees[] = {
     {"TDate", Evenement::Quitte, TDate_Quitte},
     {"TDate", Evenement::Change, TDate_Change},
@@ -149,6 +157,8 @@ constexpr Abonnement kDonnees[] = {
     {"Command1", Evenement::Clic, Revocable<NomTop, Command1_Click>},
     {"Command2", Evenement::Clic, Command2_Click},
     {"Command26", Evenement::Clic, Command26_Click},
+    {"LabControle", Evenement::Clic, OuvreFiche_Click},
+    {"PU_Fiche", Evenement::Clic, OuvreFiche_Click},
     {"Command3", Evenement::Clic, Command3_Click},
     {"Command4", Evenement::Clic, Revocable<NomBouton<kOuvre>, Command4_Click>},
     {"Command4", Evenement::ClicLong, OuvreRecentes},
@@ -253,6 +263,9 @@ std::span<const Abonnement> AbonnementsDe(std::string_view fenetre) {
   }
   if (fenetre == kFenetreApropos) {
     return kApropos;
+  }
+  if (fenetre == kFenetreFiche) {
+    return kFiche;
   }
   return fenetre == kFenetreFSelect ? std::span<const Abonnement>(kFSelect) : std::span<const Abonnement>();
 }

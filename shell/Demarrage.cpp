@@ -12,6 +12,7 @@
 #include "shell/carte/Carte.hpp"
 #include "shell/carte/Souris.hpp"
 #include "shell/ciel/EcranCiel.hpp"
+#include "shell/complements/Verification.hpp"
 #include "shell/droites/Bouts.hpp"
 #include "shell/droites/Droites.hpp"
 #include "shell/droites/MemoireDroites.hpp"
@@ -181,6 +182,7 @@ void Donnees_Charge(Bureau &bureau, const Ecran &ecran) {
   LitBouts(bureau);
   LitTaille(bureau);
   LitDisposition(bureau);
+  LitReglagesVerification(bureau);
   DisposeFenetre(bureau, ecran);
   d.ImAstre[0].image = d.Soleil.image;
   bureau.TitreFichier = bureau.messages[9];
@@ -272,7 +274,10 @@ bool ToucheControle(Bureau &bureau, char lettre) {
   if (bouton != nullptr) {
     ClicControle(bureau, *bouton);
   }
-  return bouton != nullptr;
+  if (lettre == 'I') {
+    OuvreFiche_Click(bureau, -1);
+  }
+  return bouton != nullptr || lettre == 'I';
 }
 
 bool ToucheMenu(Bureau &bureau, const Controle *pointe, Point place, const Controle *clavier) {
@@ -308,6 +313,7 @@ void Image10_Click(Bureau &bureau, int indice) {
     bureau.TitreFichier = bureau.messages[9];
   }
   ChargeLangue(bureau, kFenetreEtat);
+  ChargeLangue(bureau, kFenetreFiche);
   PoseDomaines(bureau);
   if (bureau.fselect.chargee) {
     ChargeLangue(bureau, kFenetreFSelect);

@@ -24,7 +24,8 @@ inline constexpr int kToucheF1 = 112;
 /// @return whether the key does something here
 bool Donnees_KeyDown(Bureau &bureau, int code);
 
-/// A letter with the control key: S saves, O opens, P shows the print page, Q leaves, each by its button.
+/// A letter with the control key: S saves, O opens, P shows the print page, Q leaves, each by its button;
+/// I opens the check sheet.
 /// @param lettre  a capital
 /// @return whether it does something here
 bool ToucheControle(Bureau &bureau, char lettre);

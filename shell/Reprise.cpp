@@ -26,6 +26,7 @@ constexpr std::string_view kEstime = "estime";     ///< latitude and longitude, 
 constexpr std::string_view kValeurs = "valeurs";   ///< six figures of a reduction
 constexpr std::string_view kResultat = "resultat"; ///< body, intercept, azimuth, tool tip, eight details
 constexpr std::string_view kReduite = "reduite";   ///< the sight that was reduced, as its file
+constexpr std::string_view kDite = "dite";         ///< four figures of that sight as it was told, and the sight
 constexpr std::string_view kObjets = "objets";
 constexpr std::ptrdiff_t kPremierDetail = 5; ///< part of a result's line
 constexpr std::size_t kPartiesResultat = 12;
@@ -95,6 +96,11 @@ void AjouteResultat(std::string &texte, const EtatResultat &r) {
          {r.astre, a.intercept, a.azimut, a.infobulle, d[0], d[1], d[2], d[3], d[4], d[5], d[6], d[7]});
   if (r.reduite) {
     Ajoute(texte, kReduite, {EcritLoP(*r.reduite)});
+  }
+  if (r.dite) {
+    const ResultatDit &dit = r.dite->dit;
+    Ajoute(texte, kDite,
+           {Court(dit.Ho), Court(dit.Hc), Court(dit.azimut), Court(dit.intercept), EcritLoP(r.dite->observation)});
   }
 }
 
@@ -166,6 +172,10 @@ void LitLigne(const std::vector<std::string> &p, Session &session) {
     LitResultat(p, session.resultat);
   } else if (est(kReduite, 1)) {
     session.resultat.reduite = LitReduite(p[1]);
+  } else if (est(kDite, 5)) {
+    session.resultat.dite = {
+        LitReduite(p[5]),
+        {LitExact<double>(p[1]), LitExact<double>(p[2]), LitExact<double>(p[3]), LitExact<double>(p[4])}};
   } else if (est(kObjets, 1)) {
     session.objets = p[1];
   } else {

@@ -19,6 +19,7 @@ struct ResultatDit {
   double Hc = 0;        ///< degrees, that the intercept was formed with
   double azimut = 0;    ///< degrees
   double intercept = 0; ///< miles
+  bool operator==(const ResultatDit &) const = default;
 };
 
 /// The same by the sky of today.

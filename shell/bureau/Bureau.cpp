@@ -19,6 +19,7 @@ Bureau::Bureau() {
   InitialiseCiel(ciel);
   InitialiseApropos(apropos);
   InitialiseEtat(etat);
+  InitialiseFiche(fiche);
 }
 
 Bureau::~Bureau() = default;
@@ -42,11 +43,14 @@ ListeControles ControlesDe(Bureau &bureau, std::string_view fenetre) {
   if (fenetre == kFenetreEtat) {
     return Liste(bureau.etat);
   }
+  if (fenetre == kFenetreFiche) {
+    return Liste(bureau.fiche);
+  }
   return fenetre == kFenetreImpression ? Liste(bureau.impression) : ListeControles();
 }
 
 std::vector<CadreFenetre *> FenetresLibres(Bureau &bureau) {
-  return {&bureau.utilisateur.cadre, &bureau.ciel.cadre, &bureau.impression.cadre};
+  return {&bureau.utilisateur.cadre, &bureau.ciel.cadre, &bureau.impression.cadre, &bureau.fiche.cadre};
 }
 
 Surface *SurfaceDe(Bureau &bureau, const Controle &controle) {

@@ -17,7 +17,9 @@
 #include "shell/fenetres/Apropos.hpp"
 #include "shell/fenetres/Ciel.hpp"
 #include "shell/fenetres/Donnees.hpp"
+#include "shell/bureau/Verification.hpp"
 #include "shell/fenetres/Etat.hpp"
+#include "shell/fenetres/Fiche.hpp"
 #include "shell/fenetres/FSelect.hpp"
 #include "shell/fenetres/Impression.hpp"
 #include "shell/fenetres/Utilisateur.hpp"
@@ -102,6 +104,7 @@ struct Bureau {
   Ciel ciel;
   Apropos apropos;
   Etat etat;
+  Fiche fiche;
   Ecran ecran;                           ///< that it has started on
   double largeurFenetre = 0.0;           ///< of the main window, 1/1440 inch
   double hauteurFenetre = 0.0;           ///< of the main window, 1/1440 inch
@@ -139,6 +142,7 @@ struct Bureau {
   PointSolaire soleil;
   Lune lune;
   Etoiles etoiles;
+  std::vector<bool> lignesLoin; ///< rows of the star table far from their stars, by row; empty before they are measured
   Horloge horloge;
   Transports transports;
   CarteOuverte carte;
@@ -147,6 +151,7 @@ struct Bureau {
   bool sansQuestion = false;               ///< lines are erased without asking for each, while all four are
   std::string NomAstre;                    ///< name of the body of the last reduced line
   std::optional<Observation> viseeReduite; ///< the sight whose results are shown
+  Verification verification;               ///< of that sight
   Annulations annulations;                 ///< what can be undone and redone
 
   Ports ports;

@@ -4,6 +4,7 @@
 #include "lines/DroiteMemoire.hpp"
 #include "lines/Feuille.hpp"
 #include "lines/Transport.hpp"
+#include "shell/bureau/Verification.hpp"
 #include "sights/Affichage.hpp"
 #include "sights/Observation.hpp"
 
@@ -31,6 +32,7 @@ struct EtatResultat {
   AffichageDroite affichage;
   std::string astre;                  ///< name of the body
   std::optional<Observation> reduite; ///< the sight that was reduced, none where there is none to compare with
+  std::optional<ViseeDite> dite;      ///< that is checked against the sky of today
   bool operator==(const EtatResultat &) const = default;
 };
 

@@ -5,6 +5,7 @@
 #include "shell/bureau/Langage.hpp"
 #include "shell/ciel/DessinCiel.hpp"
 #include "shell/ciel/MomentCiel.hpp"
+#include "shell/complements/LignesLoin.hpp"
 
 #include <algorithm>
 #include <array>
@@ -78,6 +79,7 @@ void Ciel_Charge(Bureau &bureau) {
   const Donnees &d = bureau.donnees;
   InitialiseCiel(c);
   ChargeLangue(bureau, kFenetreCiel);
+  MarqueCiel(bureau);
   c.cadre.titre = d.Label50[kLegendeAstres].legende;
   c.cadre.largeur = bureau.ecran.largeur - 100;
   c.cadre.hauteur = bureau.ecran.hauteur - 300;

@@ -4,6 +4,7 @@
 #include "foundations/TexteNombre.hpp"
 #include "shell/bureau/Evenements.hpp"
 #include "shell/ciel/DessinCiel.hpp"
+#include "shell/complements/LignesLoin.hpp"
 #include "shell/visee/Astres.hpp"
 #include "shell/visee/Saisie.hpp"
 #include "sights/Reduction.hpp"
@@ -192,6 +193,7 @@ void Laet_MouseMove(Bureau &bureau, int indice) {
   Ciel &c = bureau.ciel;
   const auto i = static_cast<std::size_t>(indice);
   MontreEtoile(bureau, i);
+  AviseLigneLoin(bureau, i);
   for (std::size_t j = 1; j <= kEtoilesCiel; ++j) {
     // A text that is empty is found in every other.
     Allume(c, j, bureau.etoiles.EtoileBayer[j].find(c.Bayer2.legende) != std::string_view::npos);

@@ -60,7 +60,7 @@ void DispositionCompacte(Donnees &d) {
   d.Command1.image.clear();
   d.Command2.image.clear();
   d.Command2.place = {90, 6600, 1740, 360};
-  d.Command26.place = {1890, 7000, 1050, 600};
+  d.Command26.place = {1890, 7000, 1050, 290};
   d.Command1.place = {1890, 6600, 1050, 360};
   d.Frame17.place.haut = 4050;
   d.Frame17.place.hauteur = 1750;
@@ -72,6 +72,10 @@ void DispositionCompacte(Donnees &d) {
   d.Label72.legende = "In\nAz";
   Rapetisse(d.Affichage_Intercept, 7000);
   Rapetisse(d.Affichage_Azimuth, 7300);
+  d.LabControle[0].place = {1890, 7305, 1080, 190};
+  d.LabControle[1].place = {1890, 7495, 1080, 190};
+  d.LabControle[0].taille = 8;
+  d.LabControle[1].taille = 8;
   d.Frame7.place.hauteur = 7700;
   for (Controle *champ : {&d.TDate[0], &d.TDate[1], &d.TDate[2], &d.Text3, &d.Text4, &d.Text5}) {
     champ->taille = 8;

@@ -85,6 +85,7 @@ struct Controle {
   int grandPas = 10;         ///< of the slider
   std::vector<std::string> liste;
   int rang = -1; ///< chosen line of a list, -1 for none
+  std::vector<bool> loin; ///< of a list of stars: the lines that bear a warning sign; empty for none
   Couleur couleur = kNoir;
   Couleur bordure = kNoir; ///< of a mark
   Couleur fond = kBlanc;   ///< behind the words of an opaque caption that has a background of its own

@@ -24,6 +24,7 @@ struct Donnees {
   Controle PopUp, PU_Carte, PU_Centre, PU_Distance, PU_Coord, PU_Modules, PU_DM, PU_D, PU_S, PU_C, PU_E, PU_Caps;
   Controle PU_Clear, PU_Exit, PU_Apropos, PU_Nuit, PU_Crepuscule, PU_Terres, PU_Bouts, PU_Secours, PU_Quitter;
   Controle PU_Taille, PU_TaillePlus, PU_TailleMoins, PU_TailleAuto, PU_PleinEcran, PU_Annule, PU_Retablit;
+  Controle PU_Complements, PU_Fiche;
   Controle PU_Ranger, PU_Disposition, PU_Copier, PU_CopieImage, PU_CopiePoint, PU_Image;
   std::array<Controle, 7> PU_Trait;
 
@@ -49,6 +50,7 @@ struct Donnees {
   std::array<Controle, 2> Option5;
   Controle Frame6, Label21, Text11, Label22, Text10, Command2, Command26, Label18, Affichage_Intercept;
   Controle Label20, Affichage_Azimuth, Label72;
+  std::array<Controle, 2> LabControle; ///< the check: its figures, its grade
 
   // Module 3: the eight detail lines of a sight.
   Controle Frame9, Image9;

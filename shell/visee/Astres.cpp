@@ -3,6 +3,7 @@
 #include "foundations/Erreur.hpp"
 #include "foundations/TexteNombre.hpp"
 #include "shell/bureau/Evenements.hpp"
+#include "shell/complements/LignesLoin.hpp"
 #include "shell/visee/PanneauDirect.hpp"
 #include "shell/visee/Saisie.hpp"
 #include "sights/ConseilLune.hpp"
@@ -99,6 +100,7 @@ void Check3_Click(Bureau &bureau, int /*indice*/) {
 void Combo6_Click(Bureau &bureau, int /*indice*/) {
   SuitEtoileChoisie(bureau.donnees);
   MontreBayer(bureau);
+  AviseLigneLoin(bureau, static_cast<std::size_t>(bureau.donnees.Combo6.rang + 1));
   if (bureau.donnees.Frame8.visible) {
     PositionEtoileLive(bureau, true);
   }
@@ -134,6 +136,7 @@ void MajListeVisibles(Bureau &bureau) {
                                 bureau.visee.LonEstimee);
   });
   SuitEtoileChoisie(bureau.donnees);
+  MarqueListes(bureau);
 }
 
 } // namespace velmaris

@@ -60,7 +60,7 @@ void JugeListes(Bureau &bureau, const Observation &o) {
 void JugeResultats(Bureau &bureau, const Observation &o) {
   Donnees &d = bureau.donnees;
   const bool bons = bureau.viseeReduite && MemeVisee(*bureau.viseeReduite, o);
-  for (Controle *resultat : {&d.Affichage_Intercept, &d.Affichage_Azimuth}) {
+  for (Controle *resultat : {&d.Affichage_Intercept, &d.Affichage_Azimuth, &d.LabControle[0], &d.LabControle[1]}) {
     resultat->alerte = bons || resultat->legende.empty() ? "" : bureau.etat.TexteResultatPerime.legende;
   }
 }

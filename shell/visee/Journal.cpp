@@ -3,21 +3,33 @@
 #include "foundations/Erreur.hpp"
 #include "foundations/Fichiers.hpp"
 #include "foundations/TexteNombre.hpp"
+#include "shell/complements/Verification.hpp"
 #include "shell/visee/Saisie.hpp"
 
 #include <algorithm>
 #include <array>
+#include <cctype>
 #include <charconv>
+#include <cmath>
+#include <cstdint>
+#include <cstdio>
+#include <random>
 #include <system_error>
 
 namespace velmaris {
 
-const std::string_view kTitresJournal =
+constinit const std::string_view kTitresJournal =
     "utc,corps,astre,jour,mois,annee,heure,minute,seconde,latitude_degres,latitude_minutes,hemisphere,"
     "longitude_degres,longitude_minutes,cote,lecture_degres,lecture_minutes,lecture_fraction,fraction,collimation,"
-    "hauteur_oeil,bord,horizon,ho,hc,intercept,azimut";
+    "hauteur_oeil,bord,horizon,ho,hc,intercept,azimut,forme,identite,intercept_actuel,ecart";
+
+constinit const std::string_view kAnciensTitres = kTitresJournal.substr(0, kTitresJournal.find(",forme"));
 
 namespace {
+
+constexpr const char *kForme = "2"; ///< of the journal: what has no such column is of the first
+
+constexpr std::uintmax_t kTailleMax = std::uintmax_t{16} << 20; ///< octets, from which on a new file begins
 
 /// A text without its control characters, those of the upper half of Latin-1 included.
 std::string SansControles(std::string_view texte) {
@@ -84,6 +96,47 @@ const char *NomCorps(Corps corps) {
 /// What became of the lines that were to be entered.
 enum class Inscription : std::uint8_t { Faite, Retenue, Refusee };
 
+/// A number that no other row bears.
+std::string Identite() {
+  std::random_device hasard;
+  std::array<char, 17> texte{};
+  std::snprintf(texte.data(), texte.size(), "%08x%08x", static_cast<unsigned>(hasard()),
+                static_cast<unsigned>(hasard()));
+  return texte.data();
+}
+
+/// A figure of the check, thousandths of a mile.
+std::string Milliemes(double milles) { return TexteGeneral(std::round(milles * 1000) / 1000); }
+
+/// The first name that no file has: of "journal-2026", "journal-2026-2", "journal-2026-3"...
+std::filesystem::path NomLibre(const std::filesystem::path &premier) {
+  std::error_code refus;
+  std::filesystem::path nom = premier;
+  for (int n = 2; std::filesystem::exists(nom, refus); ++n) {
+    nom = premier.parent_path() / (premier.stem().string() + "-" + std::to_string(n) + premier.extension().string());
+  }
+  return nom;
+}
+
+/// Where the journal goes when a new one begins: one of the old form, of another year, or too large.
+std::filesystem::path Place(const Bureau &bureau, std::string_view debut, std::uintmax_t taille) {
+  constexpr std::size_t kChiffresAnnee = 4;
+  const std::size_t fin = std::min(debut.find('\n'), debut.size());
+  const std::string_view titres = debut.substr(0, fin);
+  const std::filesystem::path &dossier = bureau.dossiers.utilisateur;
+  if (titres == kAnciensTitres) {
+    return NomLibre(dossier / "journal-1.csv");
+  }
+  const std::string annee(debut.substr(std::min(fin + 1, debut.size()), kChiffresAnnee));
+  const bool datee = annee.size() == kChiffresAnnee &&
+                     std::all_of(annee.begin(), annee.end(), [](unsigned char c) { return std::isdigit(c) != 0; });
+  const std::string presente = Format(bureau.horloge.source().annee, "0000");
+  if (titres != kTitresJournal || !datee || (annee == presente && taille < kTailleMax)) {
+    return {};
+  }
+  return NomLibre(dossier / ("journal-" + annee + ".csv"));
+}
+
 std::filesystem::path Fichier(const Bureau &bureau) { return bureau.dossiers.utilisateur / "journal.csv"; }
 
 /// Enters all lines that wait, in their order; they go on waiting unless that is done.
@@ -92,7 +145,8 @@ Inscription Ajoute(Bureau &bureau, Patience &patience) {
   std::error_code refus;
   std::filesystem::create_directories(fichier.parent_path(), refus);
   bool libre = false;
-  if (!Passe([&] { libre = AjouteLignes(fichier, kTitresJournal, bureau.journalEnAttente, patience); })) {
+  const Releve releve = [&](std::string_view debut, std::uintmax_t taille) { return Place(bureau, debut, taille); };
+  if (!Passe([&] { libre = AjouteLignes(fichier, kTitresJournal, bureau.journalEnAttente, patience, releve); })) {
     return Inscription::Refusee;
   }
   if (!libre) {
@@ -113,10 +167,12 @@ void Signale(Bureau &bureau, const Controle &texte, bool &signale) {
 
 } // namespace
 
-std::string LigneJournal(const Bureau &bureau, const Hauteurs &hauteurs) {
+std::string LigneJournal(Bureau &bureau, const Hauteurs &hauteurs) {
+  const FicheControle *controle = ControleDuResultat(bureau);
+  const bool actuel = controle != nullptr && controle->actuel;
   const Observation o = LitPanneau(bureau.donnees);
   constexpr std::array<const char *, 4> kBords = {"superieur", "inferieur", "centre", ""};
-  const std::array<std::string, 27> champs = {Instant(bureau.horloge.source()),
+  const std::array<std::string, 31> champs = {Instant(bureau.horloge.source()),
                                               NomCorps(o.corps),
                                               bureau.NomAstre,
                                               o.jour,
@@ -142,7 +198,11 @@ std::string LigneJournal(const Bureau &bureau, const Hauteurs &hauteurs) {
                                               TexteGeneral(hauteurs.Ho),
                                               TexteGeneral(hauteurs.Hc),
                                               TexteGeneral(bureau.visee.Intercept),
-                                              TexteGeneral(bureau.visee.Azimut)};
+                                              TexteGeneral(bureau.visee.Azimut),
+                                              kForme,
+                                              Identite(),
+                                              actuel ? Milliemes(controle->actuel->intercept) : "",
+                                              actuel ? Milliemes(controle->ecart) : ""};
   std::string ligne;
   for (const std::string &champ : champs) {
     ligne += (ligne.empty() ? "" : ",") + Champ(champ);

@@ -89,6 +89,7 @@ std::optional<Hauteurs> ReduitVisee(Bureau &bureau, Observation &observation, De
     // What was written before the failure stands on the screen.
     MontreResultat(bureau);
     PoseReduction(bureau, observation);
+    bureau.verification.visee.reset();
     if (demande == Demande::Retrace) {
       return std::nullopt;
     }
@@ -100,12 +101,14 @@ std::optional<Hauteurs> ReduitVisee(Bureau &bureau, Observation &observation, De
   PoseReduction(bureau, observation);
   if (hauteurs) {
     bureau.viseeReduite = LitPanneau(bureau.donnees);
+    bureau.verification.visee =
+        ViseeDite{observation, {hauteurs->Ho, hauteurs->Hc, bureau.visee.Azimut, bureau.visee.Intercept}};
   }
   return hauteurs;
 }
 
 EtatResultat PriseResultat(const Bureau &bureau) {
-  return {bureau.visee, bureau.affichage, bureau.NomAstre, bureau.viseeReduite};
+  return {bureau.visee, bureau.affichage, bureau.NomAstre, bureau.viseeReduite, bureau.verification.visee};
 }
 
 void RemetResultat(Bureau &bureau, const EtatResultat &resultat) {
@@ -113,6 +116,7 @@ void RemetResultat(Bureau &bureau, const EtatResultat &resultat) {
   bureau.affichage = resultat.affichage;
   bureau.NomAstre = resultat.astre;
   bureau.viseeReduite = resultat.reduite;
+  bureau.verification.visee = resultat.dite;
   MontreResultat(bureau);
 }
 

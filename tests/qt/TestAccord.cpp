@@ -5,6 +5,7 @@
 
 #include <QAbstractItemView>
 #include <QComboBox>
+#include <QDialog>
 #include <QListWidget>
 #include <QPointer>
 #include <QSlider>
@@ -245,6 +246,50 @@ TEST_F(Accord, TheWheelOverAClosedListChoosesNothing) {
   liste->setFocus();
   QApplication::sendEvent(liste, &molette);
   EXPECT_EQ(d.Combo6.rang, rang + 1);
+}
+
+TEST_F(Accord, ARowFarFromItsStarBearsASignInTheListAndItsNameStays) {
+  Ouvre(kGrandEcran);
+  Joue([this] { ClicOption(bureau, d.Option7[3]); });
+  const auto *liste = Trouve<QComboBox>("Combo6");
+  int marquees = 0;
+  for (int i = 0; i < liste->count(); ++i) {
+    const auto rang = static_cast<std::size_t>(i);
+    EXPECT_EQ(liste->itemText(i).toStdString(), d.Combo6.liste[rang]);
+    EXPECT_EQ(liste->itemIcon(i).isNull(), !d.Combo6.loin[rang]) << d.Combo6.liste[rang];
+    marquees += liste->itemIcon(i).isNull() ? 0 : 1;
+  }
+  EXPECT_GT(marquees, 50);
+}
+
+TEST_F(Accord, TheCheckSheetHasRoomForItsWordsInBothLanguagesAndGoesByEscape) {
+  for (const bool anglais : {false, true}) {
+    Ouvre(kPetitEcran, anglais);
+    TapeVisee();
+    Joue([this] {
+      ClicOption(bureau, d.Option7[3]);
+      PoseRang(bureau, d.Combo6, 9, kNombreEtoiles);
+      Tape(d.Text3, "23");
+      Calcule();
+      ClicControle(bureau, d.PU_Fiche);
+    });
+    auto *fiche = fenetre->findChild<QDialog *>("Fiche");
+    ASSERT_NE(fiche, nullptr);
+    EXPECT_TRUE(fiche->isVisible());
+    RienDeCoupe(*fiche, nullptr);
+    for (const Controle *c : ControlesDe(bureau, kFenetreFiche)) {
+      const auto *label = fiche->findChild<QLabel *>(QString::fromStdString(c->nom) +
+                                                     (c->indice < 0 ? QString() : QString::number(c->indice)));
+      if (label != nullptr && c->visible) {
+        EXPECT_EQ(label->text().toStdString(), c->legende) << "cut";
+      }
+    }
+    QKeyEvent echap(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier);
+    QApplication::sendEvent(fiche, &echap);
+    QApplication::processEvents();
+    EXPECT_FALSE(bureau.fiche.cadre.visible);
+    fenetre.reset();
+  }
 }
 
 TEST_F(Accord, NamesForAScreenReaderFollowTheLanguage) {

@@ -16,6 +16,7 @@ ETAGES = (
     ("complements/controle",),
     ("shell/fenetres",),
     ("shell/bureau",),
+    ("shell/complements",),
     ("shell/visee",),
     ("shell/ecran", "shell/ciel"),
     ("shell/droites",),

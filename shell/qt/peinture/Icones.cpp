@@ -203,6 +203,13 @@ void Quitter(QPainter &p) {
   Brise(p, {{16, 8}, {20, 12}, {16, 16}});
 }
 
+void Attention(QPainter &p) {
+  p.setPen(Trait(kAlerte, 2));
+  p.drawPolygon(QPolygonF{{12, 3}, {22, 20.5}, {2, 20.5}});
+  p.drawLine(QPointF(12, 9), QPointF(12, 14));
+  p.drawPoint(QPointF(12, 17.2));
+}
+
 void Ferme(QPainter &p) {
   p.setPen(Trait(kTrait, 2.4));
   p.drawLine(QPointF(6, 6), QPointF(18, 18));
@@ -277,6 +284,7 @@ constexpr Dessin kDessins[] = {{"sauve", Sauve},
                                {"astres", Astres},
                                {"aide", Aide},
                                {"quitter", Quitter},
+                               {"attention", Attention},
                                {"ferme", Ferme},
                                {"top", Top},
                                {"calcul", Calcul},

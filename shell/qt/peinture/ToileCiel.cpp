@@ -91,6 +91,10 @@ void ToileCiel::PeintMarque(QPainter &painter, const Controle &marque) const {
   painter.setPen(QPen(Encre(eclaire ? kBlanc : marque.bordure), trait));
   painter.setBrush(Encre(marque.couleur));
   painter.drawEllipse(zone);
+  if (!marque.marque.empty()) { // struck through: no star stands where this row puts it
+    const double d = 2 * g;
+    painter.drawLine(zone.bottomLeft() + QPointF(-d, d), zone.topRight() + QPointF(d, -d));
+  }
   if (eclaire) {
     painter.setBrush(Qt::NoBrush);
     painter.drawEllipse(zone.adjusted(-4 * g, -4 * g, 4 * g, 4 * g));
@@ -107,6 +111,13 @@ void ToileCiel::PeintEtiquette(QPainter &painter, const Controle &etiquette, con
   painter.setPen(Encre(eclaire && EstNuit() ? kBlanc : etiquette.couleur));
   painter.drawText(zone, static_cast<int>(Qt::AlignCenter) | static_cast<int>(Qt::TextDontClip),
                    Texte(etiquette.legende));
+  if (!etiquette.marque.empty() && !Texte(etiquette.legende).trimmed().isEmpty()) {
+    const QRectF suite(zone.topRight() + QPointF(2 * Grandeur(*this), 0), zone.size());
+    painter.drawText(suite,
+                     static_cast<int>(Qt::AlignLeft) | static_cast<int>(Qt::AlignVCenter) |
+                         static_cast<int>(Qt::TextDontClip),
+                     Texte(etiquette.marque));
+  }
 }
 
 void ToileCiel::PeintImage(QPainter &painter, const Controle &astre) const {

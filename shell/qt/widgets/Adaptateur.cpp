@@ -90,7 +90,7 @@ void Adaptateur::AccordeAspect(const Controle &c, const Controle &vu, bool tout)
 
 void Adaptateur::Accorde(const Controle &c, const Controle &vu, const QString &nom, bool tout) {
   AccordeAspect(c, vu, tout);
-  if (tout || Montre() != Voulu(c) || c.liste != vu.liste) {
+  if (tout || Montre() != Voulu(c) || c.liste != vu.liste || c.loin != vu.loin) {
     const QSignalBlocker silence(&widget_);
     PoseContenu(c, vu, tout);
   }

@@ -299,6 +299,10 @@ protected:
         w.addItem(Texte(ligne));
       }
     }
+    for (int i = 0; i < w.count(); ++i) {
+      const auto rang = static_cast<std::size_t>(i);
+      w.setItemIcon(i, rang < c.loin.size() && c.loin[rang] ? Icone("attention") : QIcon());
+    }
     w.setPlaceholderText(Texte(c.texte));
     w.setCurrentIndex(Ligne(c));
   }

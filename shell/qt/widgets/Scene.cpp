@@ -2,6 +2,7 @@
 
 #include "shell/Reprise.hpp"
 #include "shell/Sortie.hpp"
+#include "shell/complements/Verification.hpp"
 #include "shell/ecran/Echelle.hpp"
 #include "shell/ecran/Statut.hpp"
 #include "shell/qt/peinture/Apparat.hpp"
@@ -90,6 +91,7 @@ void Scene::Accorde() {
   // Moving the focus, or hiding what has it, is an event in its turn.
   while (encore_) {
     encore_ = false;
+    AccordeVerification(bureau_);
     JugeChamps(bureau_);
     AccordeStatut(bureau_);
     AccordeEclairage(bureau_.eclairage);

@@ -108,6 +108,7 @@ TEST_F(Souris, TheEntriesOfTheMenuStandInTheirOrderBetweenTheirSeparators) {
                                              "PU_Apropos",
                                              "PU_Annule",
                                              "PU_Retablit",
+                                             "PU_Complements",
                                              "PU_Terres",
                                              "PU_Bouts",
                                              "PU_Crepuscule",
