@@ -84,7 +84,7 @@ struct Controle {
   int petitPas = 1;          ///< of the slider
   int grandPas = 10;         ///< of the slider
   std::vector<std::string> liste;
-  int rang = -1; ///< chosen line of a list, -1 for none
+  int rang = -1;          ///< chosen line of a list, -1 for none
   std::vector<bool> loin; ///< of a list of stars: the lines that bear a warning sign; empty for none
   Couleur couleur = kNoir;
   Couleur bordure = kNoir; ///< of a mark

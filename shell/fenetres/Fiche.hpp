@@ -22,8 +22,8 @@ struct Fiche {
   std::array<Controle, kEtapesFiche> Etape, Dit, Actuel, Raison;
   Controle TitreCauses, TitreGlissades;
   std::array<Controle, 4> Causes, Glissades; ///< the first ones, one a line
-  Controle Frame1;                       ///< "Réglages du contrôle"
-  std::array<Controle, 5> Label1, Text1; ///< pressure, temperature, near shore, UT1 - UTC, arc errors
+  Controle Frame1;                           ///< "Réglages du contrôle"
+  std::array<Controle, 5> Label1, Text1;     ///< pressure, temperature, near shore, UT1 - UTC, arc errors
   Controle Command1, Command2;
 
   /// Words that no control shows.

@@ -91,33 +91,12 @@ TEST_F(Souris, TheEntriesOfTheMenuStandInTheirOrderBetweenTheirSeparators) {
       ordre.push_back(c->genre == Genre::Separateur ? "-" : c->nom);
     }
   }
-  EXPECT_EQ(ordre, (std::vector<std::string>{"PU_Carte",
-                                             "-",
-                                             "PU_Centre",
-                                             "-",
-                                             "PU_Distance",
-                                             "PU_Coord",
-                                             "-",
-                                             "PU_Modules",
-                                             "PU_Clear",
-                                             "-",
-                                             "PU_Copier",
-                                             "PU_Image",
-                                             "-",
-                                             "PU_Exit",
-                                             "PU_Apropos",
-                                             "PU_Annule",
-                                             "PU_Retablit",
-                                             "PU_Complements",
-                                             "PU_Terres",
-                                             "PU_Bouts",
-                                             "PU_Crepuscule",
-                                             "PU_Nuit",
-                                             "PU_Taille",
-                                             "PU_PleinEcran",
-                                             "PU_Secours",
-                                             "-",
-                                             "PU_Quitter"}));
+  EXPECT_EQ(ordre, (std::vector<std::string>{
+                       "PU_Carte",   "-",          "PU_Centre",     "-",         "PU_Distance", "PU_Coord",
+                       "-",          "PU_Modules", "PU_Clear",      "-",         "PU_Copier",   "PU_Image",
+                       "-",          "PU_Exit",    "PU_Apropos",    "PU_Annule", "PU_Retablit", "PU_Complements",
+                       "PU_Terres",  "PU_Bouts",   "PU_Crepuscule", "PU_Nuit",   "PU_Taille",   "PU_PleinEcran",
+                       "PU_Secours", "-",          "PU_Quitter"}));
 }
 
 TEST_F(Souris, UndoAndRedoAreGreyInTheMenuWhileThereIsNothingForThem) {
