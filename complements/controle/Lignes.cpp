@@ -54,6 +54,16 @@ Cause RaisonDuLieu(const Matiere &m, bool signe) {
 
 bool EstLune(const Matiere &m) { return m.visee->astre.genre == GenreAstre::Lune; }
 
+/// Why the azimuth differs: by the body's place, as far as that goes. Where it doesn't, the told formula has failed,
+/// near the meridian or the zenith, and no cause of this list is it.
+std::optional<Cause> RaisonDeLAzimut(const Matiere &m) {
+  constexpr double kParLeLieu = 0.5; ///< degrees
+  const double ecart = std::fabs(std::remainder(m.route->vue.azimutCentre - m.dit.azimut, kTour));
+  const Cause lieu = RaisonDuLieu(m, true);
+  const bool nommee = lieu == Cause::Etoile || lieu == Cause::Signe;
+  return nommee || ecart < kParLeLieu ? std::optional(lieu) : std::nullopt;
+}
+
 /// Why the step of a correction differs: off an artificial horizon because that is one.
 Cause RaisonDeCorrection(const Matiere &m, Cause cause) {
   const bool tout = cause != Cause::Parallaxe || m.visee->astre.genre == GenreAstre::Soleil;
@@ -70,8 +80,9 @@ std::optional<Cause> Raison(const Matiere &m, EtapeControle etape) {
     return RaisonDuLieu(m, false);
   case EtapeControle::Declinaison:
     return RaisonDuLieu(m, true);
-  case EtapeControle::HauteurCalculee:
   case EtapeControle::Azimut:
+    return RaisonDeLAzimut(m);
+  case EtapeControle::HauteurCalculee:
     return EstLune(m) ? Cause::Parallaxe : RaisonDuLieu(m, true);
   case EtapeControle::Lecture:
   case EtapeControle::Collimation:

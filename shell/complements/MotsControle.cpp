@@ -74,12 +74,42 @@ std::string Detail(const Donnees &d, const Glissade &glissade) {
   return {};
 }
 
-/// The cause that a line of two has room for.
+/// What parts a word from what it is about, by the language of the words.
+const char *DeuxPoints(const Fiche &fiche) {
+  return fiche.TexteControle.legende.find(" :") == std::string::npos ? ": " : " : ";
+}
+
+bool EstSousHorizon(const FicheControle &controle) {
+  return !controle.causes.empty() && controle.causes.front().cause == Cause::Horizon;
+}
+
+/// Whether the told line runs in another direction than today's: near the meridian the told azimuth can be that of the
+/// sight before, or fold over.
+bool AzimutFaux(const FicheControle &controle) {
+  constexpr double kEcartAzimut = 1; ///< degree
+  return controle.actuel &&
+         std::fabs(std::remainder(controle.actuel->azimut - controle.dit.azimut, 360.0)) > kEcartAzimut;
+}
+
+/// Whether a line is to be drawn with care whatever its grade.
+bool EstDouteux(const FicheControle &controle) {
+  return controle.actuel && (EstSousHorizon(controle) || AzimutFaux(controle) ||
+                             std::fabs(controle.actuel->intercept) > kInterceptSuspect);
+}
+
+/// The cause that a line of two has room for. A large intercept that the sky of today has too is the sight's own.
 std::string CauseEnBref(const Fiche &fiche, const FicheControle &controle) {
-  if (!controle.glissades.empty()) {
+  const auto breve = [&](Cause cause) { return fiche.CauseBreve.at(Rang(cause)).legende; };
+  if (EstSousHorizon(controle)) {
+    return breve(Cause::Horizon);
+  }
+  if (AzimutFaux(controle) && controle.grade != GradeControle::Avertissement) {
+    return fiche.Etape.at(Rang(EtapeControle::Azimut)).legende;
+  }
+  if (EstDouteux(controle) && controle.grade != GradeControle::Avertissement) {
     return fiche.GlissadeBreve.legende;
   }
-  return controle.causes.empty() ? std::string() : fiche.CauseBreve.at(Rang(controle.causes.front().cause)).legende;
+  return controle.causes.empty() ? std::string() : breve(controle.causes.front().cause);
 }
 
 } // namespace
@@ -104,15 +134,21 @@ std::string JugementDuControle(const Fiche &fiche, const FicheControle &controle
   if (!controle.actuel) {
     return std::string(kSignes[0]) + " " + SansLigne(controle, fiche);
   }
-  const bool dit = !bref && (controle.grade != GradeControle::Accord || !controle.glissades.empty());
+  const bool douteux = EstDouteux(controle);
+  const bool dit = douteux || controle.grade != GradeControle::Accord;
   const std::string cause = dit ? CauseEnBref(fiche, controle) : "";
-  return MotsDuGrade(fiche, controle.grade) + (cause.empty() ? "" : " : " + cause);
+  if (bref && dit && !cause.empty()) {
+    return std::string(kSignes[douteux ? Rang(GradeControle::Avertissement) : Rang(controle.grade)]) + " " + cause;
+  }
+  const GradeControle grade =
+      EstSousHorizon(controle) || AzimutFaux(controle) ? GradeControle::Avertissement : controle.grade;
+  return MotsDuGrade(fiche, grade) + (cause.empty() ? "" : DeuxPoints(fiche) + cause);
 }
 
 std::string MotsDuVerdict(const Fiche &fiche, const FicheControle &controle, const std::string &astre) {
-  const std::string debut = astre + (astre.empty() ? "" : "   ") + MotsDuGrade(fiche, controle.grade);
+  const std::string debut = astre + (astre.empty() ? "" : "   ") + JugementDuControle(fiche, controle, false);
   if (!controle.actuel) {
-    return debut + ", " + SansLigne(controle, fiche);
+    return debut;
   }
   return debut + ", " + fiche.TexteContre.legende + Dixiemes(controle.actuel->intercept) + " '  (" +
          AvecSigne(controle.ecart) + ")";
@@ -121,7 +157,7 @@ std::string MotsDuVerdict(const Fiche &fiche, const FicheControle &controle, con
 std::vector<std::string> MotsDesCauses(const Fiche &fiche, const FicheControle &controle) {
   std::vector<std::string> lignes;
   for (const PartCause &part : controle.causes) {
-    const std::string minutes = part.minutes == 0 ? "" : " : " + AvecSigne(part.minutes) + " '";
+    const std::string minutes = part.minutes == 0 ? "" : DeuxPoints(fiche) + AvecSigne(part.minutes) + " '";
     lignes.push_back(fiche.MotCause.at(Rang(part.cause)).legende + minutes);
   }
   return lignes;
@@ -132,8 +168,9 @@ std::vector<std::string> MotsDesGlissades(const Bureau &bureau, const FicheContr
   std::vector<std::string> lignes;
   for (const Glissade &glissade : controle.glissades) {
     const std::string detail = Detail(bureau.donnees, glissade);
-    lignes.push_back(fiche.MotGlissade.at(Rang(glissade.genre)).legende + (detail.empty() ? "" : " : " + detail) +
-                     fiche.TexteReste.legende + Dixiemes(glissade.intercept) + " '");
+    lignes.push_back(fiche.MotGlissade.at(Rang(glissade.genre)).legende +
+                     (detail.empty() ? "" : DeuxPoints(fiche) + detail) + fiche.TexteReste.legende +
+                     Dixiemes(glissade.intercept) + " '");
   }
   return lignes;
 }

@@ -17,8 +17,10 @@ std::string MotsDuGrade(const Fiche &fiche, GradeControle grade);
 /// @param bref  where there is little room: the figures alone
 std::string ChiffresDuControle(const Fiche &fiche, const FicheControle &controle, bool bref);
 
-/// Below that: sign and word of the grade and its first cause, or why there is no figure of today.
-/// @param bref  the grade alone
+/// Below that: sign and word of the grade and its first cause, or why there is no figure of today. A body below the
+/// horizon and an azimuth that is off by over a degree are a warning whatever the intercept; an intercept over ten
+/// miles that today's sky has too asks for a slip.
+/// @param bref  the cause without the grade's word, where there is one
 std::string JugementDuControle(const Fiche &fiche, const FicheControle &controle, bool bref);
 
 /// The head of the check sheet.

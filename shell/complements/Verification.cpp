@@ -45,13 +45,43 @@ void PoseListe(std::array<Controle, 4> &montrees, const std::vector<std::string>
   }
 }
 
+/// The body in the language of the moment; a star's and a planet's names are those of the lists.
+std::string NomDeLAstre(const Bureau &bureau) {
+  const Corps corps = bureau.verification.visee->observation.corps;
+  const bool seul = corps == Corps::Soleil || corps == Corps::Lune;
+  return seul ? bureau.donnees.Option7.at(static_cast<std::size_t>(corps)).legende : bureau.NomAstre;
+}
+
+/// The sight itself, for a copy: date, time and estimated position as typed.
+std::string ViseeEnTexte(const Observation &o) {
+  return o.jour + "/" + o.mois + "/" + o.annee + " " + o.heure + ":" + o.minute + ":" + o.seconde + " UTC  " +
+         o.latitudeDegres + "° " + o.latitudeMinutes + "' " + (o.sud ? "S" : "N") + "  " + o.longitudeDegres + "° " +
+         o.longitudeMinutes + "' " + (o.est ? "E" : "W");
+}
+
+/// The sheet grows faint with the results that it is of.
+void VieillitFiche(Bureau &bureau) {
+  Fiche &f = bureau.fiche;
+  const std::string &alerte = bureau.donnees.Affichage_Intercept.alerte;
+  f.Verdict.alerte = alerte;
+  for (std::size_t i = 0; i < kEtapesFiche; ++i) {
+    f.Dit.at(i).alerte = alerte;
+    f.Actuel.at(i).alerte = alerte;
+    f.Raison.at(i).alerte = alerte;
+  }
+  for (std::size_t i = 0; i < f.Causes.size(); ++i) {
+    f.Causes.at(i).alerte = alerte;
+    f.Glissades.at(i).alerte = alerte;
+  }
+}
+
 /// Fills the sheet.
 void RemplitFiche(Bureau &bureau, const FicheControle *controle) {
   Fiche &f = bureau.fiche;
   const std::string &aucune = f.TexteAucune.legende;
   f.cadre.titre = bureau.donnees.PU_Fiche.legende;
   PoseLignes(f, controle != nullptr ? *controle : FicheControle());
-  f.Verdict.legende = controle != nullptr ? MotsDuVerdict(f, *controle, bureau.NomAstre) : f.TexteSansVisee.legende;
+  f.Verdict.legende = controle != nullptr ? MotsDuVerdict(f, *controle, NomDeLAstre(bureau)) : f.TexteSansVisee.legende;
   PoseListe(f.Causes, controle != nullptr ? MotsDesCauses(f, *controle) : std::vector<std::string>(), aucune);
   PoseListe(f.Glissades, controle != nullptr ? MotsDesGlissades(bureau, *controle) : std::vector<std::string>(),
             aucune);
@@ -82,6 +112,7 @@ void AccordeVerification(Bureau &bureau) {
   grade.visible = controle != nullptr;
   if (bureau.fiche.cadre.visible) {
     RemplitFiche(bureau, controle);
+    VieillitFiche(bureau);
   }
 }
 
@@ -110,7 +141,8 @@ void Text1_Change(Bureau &bureau, int indice) {
 }
 
 void Command1_Click(Bureau &bureau, int /*indice*/) {
-  bureau.ports.copieTexte(TexteDeFiche(bureau.fiche));
+  const std::optional<ViseeDite> &visee = bureau.verification.visee;
+  bureau.ports.copieTexte((visee ? ViseeEnTexte(visee->observation) + "\n" : "") + TexteDeFiche(bureau.fiche));
   Avise(bureau, bureau.etat.TexteCopie.legende + bureau.donnees.PU_Fiche.legende);
 }
 

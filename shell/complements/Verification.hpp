@@ -9,7 +9,8 @@ namespace velmaris {
 /// @return null while no sight is reduced, and after a reduction that failed
 const FicheControle *ControleDuResultat(Bureau &bureau);
 
-/// Brings the line under the results and the check sheet, where it is open, in line with the sight.
+/// Brings the line under the results and the check sheet, where it is open, in line with the sight, once the results
+/// have been judged.
 void AccordeVerification(Bureau &bureau);
 
 /// Opens the check sheet, or brings it to the front. The click on the line under the results, the menu, and Ctrl+I.

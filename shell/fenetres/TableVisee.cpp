@@ -83,7 +83,7 @@ constexpr LigneDonnees kVisee[] = {
     {SEUL(Affichage_Intercept), Genre::Etiquette, "Frame7", {90, 7590, 2850, 480}, "", "", {.cadre = true, .taille = 18, .cote = Cote::Centre, .par = "Label18"}},
     {SEUL(Label20), Genre::Etiquette, "Frame7", {90, 8130, 2850, 240}, " Azimut en degrés :"},
     {SEUL(Affichage_Azimuth), Genre::Etiquette, "Frame7", {90, 8370, 2850, 480}, "", "", {.cadre = true, .taille = 18, .cote = Cote::Centre, .par = "Label20"}},
-    {RANG(LabControle, 0), Genre::Etiquette, "Frame7", {90, 8925, 2850, 315}, "", "Par le ciel d'aujourd'hui, et de combien la droite en diffère (Ctrl+I : fiche de contrôle)", {.visible = false, .renvoi = true, .taille = 10}},
+    {RANG(LabControle, 0), Genre::Etiquette, "Frame7", {90, 8925, 2850, 330}, "", "Par le ciel d'aujourd'hui, et de combien la droite en diffère (Ctrl+I : fiche de contrôle)", {.visible = false, .renvoi = true, .taille = 10}},
     {RANG(LabControle, 1), Genre::Etiquette, "Frame7", {90, 9240, 2850, 315}, "", "Par le ciel d'aujourd'hui, et de combien la droite en diffère (Ctrl+I : fiche de contrôle)", {.visible = false, .renvoi = true, .taille = 10}},
     {SEUL(Label72), Genre::Etiquette, "Frame7", {60, 7000, 300, 600}, "", "", {.visible = false}},
     // Module 3: the eight detail lines of a sight.

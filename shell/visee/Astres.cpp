@@ -100,7 +100,7 @@ void Check3_Click(Bureau &bureau, int /*indice*/) {
 void Combo6_Click(Bureau &bureau, int /*indice*/) {
   SuitEtoileChoisie(bureau.donnees);
   MontreBayer(bureau);
-  AviseLigneLoin(bureau, static_cast<std::size_t>(bureau.donnees.Combo6.rang + 1));
+  AviseLigneLoin(bureau, static_cast<std::size_t>(bureau.donnees.Combo6.rang) + 1);
   if (bureau.donnees.Frame8.visible) {
     PositionEtoileLive(bureau, true);
   }

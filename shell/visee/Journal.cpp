@@ -18,12 +18,17 @@
 
 namespace velmaris {
 
-constinit const std::string_view kTitresJournal =
+namespace {
+
+constexpr std::string_view kTitres =
     "utc,corps,astre,jour,mois,annee,heure,minute,seconde,latitude_degres,latitude_minutes,hemisphere,"
     "longitude_degres,longitude_minutes,cote,lecture_degres,lecture_minutes,lecture_fraction,fraction,collimation,"
     "hauteur_oeil,bord,horizon,ho,hc,intercept,azimut,forme,identite,intercept_actuel,ecart";
 
-constinit const std::string_view kAnciensTitres = kTitresJournal.substr(0, kTitresJournal.find(",forme"));
+} // namespace
+
+const std::string_view kTitresJournal = kTitres;
+const std::string_view kAnciensTitres = kTitres.substr(0, kTitres.find(",forme"));
 
 namespace {
 

@@ -16,7 +16,7 @@ DETOUR=0
 avance() { touche F3; repete Tab "$1"; }
 recule() { touche F3; repete shift+Tab $(($1 > JOUR ? $1 + DETOUR : $1)); }
 JOUR=13 DRAPEAU=16 ASTRES=19 MULTIPLES=25 ECRAN=27 IMPRIME=30 OUVRE=32 # back
-MODES=15                                                                       # on
+MODES=16                                                                       # on, with a result
 ouvre() {
   recule $OUVRE; touche space
   attends boite_ouverte "$CHARGE"
@@ -33,11 +33,11 @@ demarre
 image clavier-1-depart
 recule $MULTIPLES; touche space
 recule $JOUR; tape_bretagne; touche space; pause 0.3
-repete Tab 7; repete Up 6; touche F5 # the modes, the first of them
+repete Tab 8; repete Up 6; touche F5 # the modes, the first of them
 attends stocke 'AS(0)' 0
 recule $JOUR; tape_suivante 16 40 00 47 15 04 35 33 41 10
 repete Tab 5; touche space; pause 0.3
-repete Tab 7; repete Up 6; touche F6
+repete Tab 8; repete Up 6; touche F6
 attends stocke 'AS(1)' 0
 recule $ECRAN; touche space; touche F5 F6; pause 0.3
 mode_clavier 5; touche Tab Down; pause 0.2 # to the point of line 2

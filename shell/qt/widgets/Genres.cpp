@@ -120,7 +120,11 @@ protected:
 
 class ARenvoi : public AEtiquette {
 public:
-  ARenvoi(Renvoi *renvoi, const Controle &c) : AEtiquette(renvoi, c), renvoi_(*renvoi) {}
+  ARenvoi(Renvoi *renvoi, const Controle &c) : AEtiquette(renvoi, c), renvoi_(*renvoi) {
+    if (c.indice > 0) { // links of one name lead to one place: the keyboard stops at the first
+      renvoi_.setFocusPolicy(Qt::NoFocus);
+    }
+  }
   void Ecoute(Bureau &bureau, Controle &c, const Joueur &joue) override { renvoi_.auClic = Clic(bureau, c, joue); }
 
 private:

@@ -91,8 +91,8 @@ void Scene::Accorde() {
   // Moving the focus, or hiding what has it, is an event in its turn.
   while (encore_) {
     encore_ = false;
-    AccordeVerification(bureau_);
     JugeChamps(bureau_);
+    AccordeVerification(bureau_);
     AccordeStatut(bureau_);
     AccordeEclairage(bureau_.eclairage);
     AccordeGrandeur(EchelleFenetre(bureau_));

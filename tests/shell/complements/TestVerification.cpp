@@ -26,8 +26,8 @@ protected:
 
   /// What is done after each event.
   void Accorde() {
-    AccordeVerification(bureau);
     JugeChamps(bureau);
+    AccordeVerification(bureau);
   }
 
   void Vise() {
@@ -133,12 +133,50 @@ TEST_F(Verifie, ASlipIsAskedForInTheLineAndNamedInTheSheet) {
   }));
 }
 
+TEST_F(Verifie, AnAzimuthThatIsOffIsAWarningWhateverTheIntercept) {
+  // At the upper passage the told azimuth is that of the sight before.
+  Vise();
+  bureau.verification.visee->dit.azimut += 90;
+  AccordeVerification(bureau);
+  EXPECT_EQ(ControleDuResultat(bureau)->grade, GradeControle::Accord) << "the intercept agrees";
+  EXPECT_EQ(d.LabControle[1].legende, "! attention : Azimut");
+  bureau.verification.visee->dit.azimut += 270.5;
+  AccordeVerification(bureau);
+  EXPECT_EQ(d.LabControle[1].legende, "= accord") << "half a degree, over north";
+}
+
+TEST_F(Verifie, ABodyBelowTheHorizonIsAWarningAndALargeInterceptAsksForASlip) {
+  Vise();
+  Tape(d.Text3, "23");
+  Calcule();
+  Accorde();
+  EXPECT_EQ(d.LabControle[1].legende, "! attention : horizon");
+  Tape(d.Text3, "16");
+  Calcule();
+  Accorde();
+  EXPECT_GT(std::fabs(ControleDuResultat(bureau)->actuel->intercept), 10);
+  EXPECT_THAT(d.LabControle[1].legende, HasSubstr("faute de saisie ?"));
+}
+
+TEST_F(Verifie, TheCompactLayoutTellsTheCauseInShort) {
+  Vise();
+  EXPECT_EQ(JugementDuControle(f, *ControleDuResultat(bureau), true), "= accord");
+  Tape(d.Text3, "23");
+  Calcule();
+  EXPECT_EQ(JugementDuControle(f, *ControleDuResultat(bureau), true), "! horizon");
+  EXPECT_EQ(ChiffresDuControle(f, *ControleDuResultat(bureau), true).find("Contrôle"), std::string::npos);
+}
+
 TEST_F(Verifie, ItAgesWithItsResults) {
   Vise();
   EXPECT_EQ(d.LabControle[0].alerte, "");
   Tape(d.Text12, "35");
   Accorde();
   EXPECT_EQ(d.LabControle[0].alerte, d.Affichage_Intercept.alerte);
+  ClicControle(bureau, d.PU_Fiche);
+  Accorde();
+  EXPECT_EQ(f.Verdict.alerte, d.Affichage_Intercept.alerte);
+  EXPECT_EQ(f.Dit[14].alerte, d.Affichage_Intercept.alerte);
   EXPECT_NE(d.LabControle[0].alerte, "");
 }
 
@@ -203,7 +241,7 @@ TEST_F(Verifie, TheSheetFollowsTheSightAndTheLanguage) {
   ClicControle(bureau, d.Image10[1]);
   Accorde();
   EXPECT_THAT(d.LabControle[0].legende, StartsWith("Check: "));
-  EXPECT_THAT(f.Verdict.legende, HasSubstr("= agreement"));
+  EXPECT_THAT(f.Verdict.legende, StartsWith("Sun   = agreement"));
   EXPECT_EQ(f.cadre.titre, "Check sheet");
   ClicControle(bureau, f.Command2);
   EXPECT_FALSE(f.cadre.visible);
@@ -218,6 +256,7 @@ TEST_F(Verifie, TheSheetIsCopiedAsARowAStep) {
   ClicControle(bureau, f.Command1);
   EXPECT_THAT(copie, HasSubstr("Intercept\t" + f.Dit[14].legende + "\t" + f.Actuel[14].legende + "\t"));
   EXPECT_THAT(copie, HasSubstr("Réfraction\t"));
+  EXPECT_THAT(copie, StartsWith("21/06/2026 12:05:30 UTC  47° 30' N  05° 10' W\n"));
 }
 
 TEST_F(Verifie, ASettingActsAtOnceAndIsKept) {
