@@ -146,12 +146,12 @@ std::string JugementDuControle(const Fiche &fiche, const FicheControle &controle
 }
 
 std::string MotsDuVerdict(const Fiche &fiche, const FicheControle &controle, const std::string &astre) {
-  const std::string debut = astre + (astre.empty() ? "" : "   ") + JugementDuControle(fiche, controle, false);
-  if (!controle.actuel) {
-    return debut;
+  std::string mots = astre + (astre.empty() ? "" : "   ") + JugementDuControle(fiche, controle, false);
+  if (controle.actuel) {
+    mots += ", " + fiche.TexteContre.legende + Dixiemes(controle.actuel->intercept) + " '  (" +
+            AvecSigne(controle.ecart) + ")";
   }
-  return debut + ", " + fiche.TexteContre.legende + Dixiemes(controle.actuel->intercept) + " '  (" +
-         AvecSigne(controle.ecart) + ")";
+  return mots;
 }
 
 std::vector<std::string> MotsDesCauses(const Fiche &fiche, const FicheControle &controle) {
