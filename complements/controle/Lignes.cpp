@@ -49,7 +49,12 @@ Cause RaisonDuLieu(const Matiere &m, bool signe) {
   if (m.dites.signePerdu && signe) {
     return Cause::Signe;
   }
-  return m.visee->astre.genre == GenreAstre::Lune ? Cause::Temps : Cause::Lieu;
+  if (m.visee->astre.genre == GenreAstre::Lune) {
+    return Cause::Temps;
+  }
+  // The Earth's lag is a setting: it turns the sky as a theory's fault does.
+  return Principale(m.parts, [](Cause cause) { return cause == Cause::Temps || cause == Cause::Lieu; })
+      .value_or(Cause::Lieu);
 }
 
 bool EstLune(const Matiere &m) { return m.visee->astre.genre == GenreAstre::Lune; }

@@ -359,6 +359,9 @@ TEST(Check, TheEarthsLagIsAPartOfTheTimeScalesAndOfNoOtherCause) {
     EXPECT_NEAR(*Part(avec, Cause::Temps), attendu, 0.005) << nom;
     EXPECT_NEAR(Part(avec, Cause::Etoile).value_or(0), Part(sans, Cause::Etoile).value_or(0), 1E-6) << nom;
     EXPECT_NEAR(avec.ecart - sans.ecart, attendu, 0.005) << nom;
+    if (!Part(sans, Cause::Etoile)) {
+      EXPECT_EQ(avec.lignes.at(static_cast<std::size_t>(EtapeControle::AngleHoraire)).raison, Cause::Temps) << nom;
+    }
   }
 }
 
