@@ -136,6 +136,14 @@ clic 9400 520
 piece lune 0 1050 3040 9650
 ouvre_visee "$HOME/visees/14FEV26 201015.LoP"
 piece etoile 0 1050 3040 9650
+FICHE='^(Fiche de contrôle|Check sheet)$'
+touche ctrl+i
+attends boite_ouverte "$FICHE"
+boite "$FICHE" fiche
+xdotool windowfocus --sync "$(xdotool search --onlyvisible --name "$FICHE" | tail -n 1)"
+touche Escape
+attends boite_fermee "$FICHE"
+xdotool windowfocus --sync "$FENETRE"
 clic 1100 500
 attends boite_ouverte "$CHARGE"
 touche Tab Down; pause 0.2
