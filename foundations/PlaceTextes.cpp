@@ -96,6 +96,12 @@ bool EstPlace(const Surface &surface, Point p) {
   return std::fabs(p.x) < 10 * surface.largeur + 1 && std::fabs(p.y) < 10 * surface.hauteur + 1;
 }
 
+/// One of the surface's names of lines, those of its layer counted after them.
+const Etiquette &EtiquetteDe(const Surface &surface, std::size_t rang) {
+  const std::size_t noms = surface.etiquettes.size();
+  return rang < noms ? surface.etiquettes[rang] : surface.calque.etiquettes.at(rang - noms);
+}
+
 /// Texts on the surface in the order in which they take their places.
 std::vector<Texte> Ordonnes(const Surface &surface, const MesureTexte &mesure) {
   std::vector<Texte> textes;
@@ -112,8 +118,9 @@ std::vector<Texte> Ordonnes(const Surface &surface, const MesureTexte &mesure) {
       }
     }
   }
-  for (std::size_t i = 0; surface.etiquetee && i < surface.etiquettes.size(); ++i) {
-    const Etiquette &etiquette = surface.etiquettes[i];
+  const std::size_t noms = surface.etiquettes.size();
+  for (std::size_t i = surface.etiquetee ? 0 : noms; i < noms + surface.calque.etiquettes.size(); ++i) {
+    const Etiquette &etiquette = EtiquetteDe(surface, i);
     if (EstPlace(surface, etiquette.texte.position) && EstPlace(surface, etiquette.autreBout)) {
       textes.push_back({i, &etiquette.texte, zone(etiquette.texte), &etiquette});
     }
@@ -216,8 +223,7 @@ ZoneTexte PlanTextes::Proche(const ZoneTexte &zone) const {
 }
 
 const TexteTrace &TexteDe(const Surface &surface, const TextePlace &place) {
-  return place.etiquette ? surface.etiquettes.at(place.rang).texte
-                         : std::get<TexteTrace>(surface.traces.at(place.rang));
+  return place.etiquette ? EtiquetteDe(surface, place.rang).texte : std::get<TexteTrace>(surface.traces.at(place.rang));
 }
 
 std::vector<TextePlace> PlaceTextes(const Surface &surface, const MesureTexte &mesure) {

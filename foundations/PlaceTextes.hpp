@@ -34,7 +34,7 @@ using MesureTexte = std::function<TailleTexte(const TexteTrace &)>;
 
 /// A text that is shown.
 struct TextePlace {
-  std::size_t rang = 0;   ///< its place among the surface's traces, or among its names of lines
+  std::size_t rang = 0;   ///< its place among the surface's traces; or among its names of lines, the layer's after them
   ZoneTexte zone;         ///< where it is shown
   bool etiquette = false; ///< it is a name of a line
 };

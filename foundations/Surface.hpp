@@ -110,6 +110,13 @@ struct Etiquette {
 /// Anything drawn.
 using Trace = std::variant<Polyligne, CercleTrace, TexteTrace>;
 
+/// A drawing over a surface that isn't recorded with it: whoever made it makes it anew when what it shows changes.
+struct Calque {
+  std::vector<Trace> traces;         ///< lines and circles; texts among them aren't shown
+  std::vector<Etiquette> etiquettes; ///< its words
+  bool operator==(const Calque &) const = default;
+};
+
 /// A drawing surface as the list of what has been drawn on it.
 struct Surface {
   double largeur = 0.0; ///< drawable width, 1/1440 inch
@@ -128,6 +135,7 @@ struct Surface {
   bool teintee = true;               ///< the filled shapes are to be seen
   std::vector<Etiquette> etiquettes; ///< names of lines, a layer of their own over all traces
   bool etiquetee = true;             ///< the names of lines are to be seen
+  Calque calque;                     ///< what lies over all traces; clearing the surface leaves it
   std::uint64_t effacements = 0;     ///< how often the surface was cleared
 };
 

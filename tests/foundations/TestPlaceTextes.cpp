@@ -207,6 +207,18 @@ TEST_F(TextesPlaces, NamesOfLinesComeBeforeThoseOfPlacesAndAfterFigures) {
   RienNeSeCouvre();
 }
 
+TEST_F(TextesPlaces, WordsOfTheLayerAreShownWhetherNamesOfLinesAreOrNot) {
+  surface.etiquettes.push_back(Nom({3000, 3000}, {8000, 8000}));
+  surface.calque.etiquettes.push_back({{kNoir, {}, {5000, 5000}, "06:12", {GenreTexte::Bout}}, {5000, 5000}});
+  EXPECT_EQ(Coin(Zone("06:12")), (Point{5000, 5000}));
+  EXPECT_EQ(Montres().size(), 2U);
+  surface.etiquetee = false;
+  EXPECT_EQ(Coin(Zone("06:12")), (Point{5000, 5000}));
+  EXPECT_EQ(Montres().size(), 1U);
+  Efface(surface);
+  EXPECT_EQ(Coin(Zone("06:12")), (Point{5000, 5000})) << "clearing what is recorded leaves the layer";
+}
+
 TEST_F(TextesPlaces, NamesOfLinesThatAreNotToBeSeenTakeNoRoom) {
   surface.etiquetee = false;
   surface.etiquettes.push_back(Nom({3000, 3000}, {8000, 8000}));

@@ -63,6 +63,17 @@ TEST_F(CarteOuverte, ANameThatChangesAtALinesEndIsPaintedAnew) {
   EXPECT_NE(toile->grab().toImage(), avant);
 }
 
+TEST_F(CarteOuverte, TheLayerLiesOverTheLinesAndGoesWithoutATrace) {
+  OuvreFeuille();
+  const QImage avant = toile->grab().toImage();
+  const auto traces = bureau.image1.traces;
+  Joue([this] { bureau.image1.calque.traces.emplace_back(CercleTrace{{kRouge, 2}, {6000, 5000}, 500}); });
+  EXPECT_NE(toile->grab().toImage(), avant);
+  Joue([this] { bureau.image1.calque = {}; });
+  EXPECT_EQ(toile->grab().toImage(), avant);
+  EXPECT_EQ(bureau.image1.traces, traces);
+}
+
 TEST_F(CarteOuverte, TheLeftButtonOpensTheMenuAtThePointer) {
   OuvreFeuille();
   Presse({400, 300}, Qt::LeftButton);

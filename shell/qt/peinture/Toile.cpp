@@ -71,7 +71,9 @@ void Toile::Accorde() {
       tourne || change || lignes_.size() != taille || effacements_ != surface_.effacements || aires_ != aires;
   const std::vector<Etiquette> &etiquettes = surface_.etiquetee ? surface_.etiquettes : kSansEtiquettes;
   const bool nomme = etiquettes_ != etiquettes;
-  if (!neuve && !retiree && !nomme && traces_ == surface_.traces.size() && points_ == NombrePoints(surface_)) {
+  const bool decalque = calque_ != surface_.calque;
+  if (!neuve && !retiree && !nomme && !decalque && traces_ == surface_.traces.size() &&
+      points_ == NombrePoints(surface_)) {
     return;
   }
   if (lignes_.size() != taille) {
@@ -93,7 +95,9 @@ void Toile::Accorde() {
   Recopie();
   QPainter painter(&image_);
   etiquettes_ = etiquettes;
-  if (neuve || retiree || nomme || TexteDepuis(traces_)) {
+  calque_ = surface_.calque;
+  PeintCalque(painter, surface_, facteur, maniere);
+  if (neuve || retiree || nomme || decalque || TexteDepuis(traces_)) {
     textes_ = TextesPeints(painter, surface_, facteur, mesures_);
   }
   PeintTextes(painter, surface_, facteur, textes_, maniere);

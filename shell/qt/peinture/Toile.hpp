@@ -61,7 +61,7 @@ private:
 
   const Surface &surface_;
   QImage lignes_; ///< filled shapes, lines and circles
-  QImage image_;  ///< and the texts over them
+  QImage image_;  ///< and the layer and the texts over them
   std::uint64_t effacements_ = 0;
   std::size_t traces_ = 0;
   std::vector<TextePlace> textes_;
@@ -70,6 +70,7 @@ private:
   std::size_t points_ = 0;                ///< of the last trace painted, which may have grown since
   std::vector<Aire> aires_;               ///< filled shapes in the image
   std::vector<Etiquette> etiquettes_;     ///< names of lines in it, none where they aren't to be seen
+  Calque calque_;                         ///< over the lines in it
   Eclairage eclairage_ = Eclairage::Jour; ///< by which the image is painted
   std::optional<QLineF> elastique_;
   QPointF presseDroite_; ///< where the right button went down

@@ -205,6 +205,15 @@ void PeintLignes(QPainter &painter, const Surface &surface, double facteur, std:
   }
 }
 
+void PeintCalque(QPainter &painter, const Surface &surface, double facteur, Maniere maniere) {
+  const Peintre peintre{painter, facteur, CouleurQt(surface.fond), maniere.eclairage, maniere.pixel};
+  for (const Trace &trace : surface.calque.traces) {
+    if (std::visit(Visible{}, trace)) {
+      std::visit(peintre, trace);
+    }
+  }
+}
+
 MesuresTextes::Fonte &MesuresTextes::FonteDe(const Police &police, const QPaintDevice &support) {
   const auto connue =
       std::find_if(fontes_.begin(), fontes_.end(), [&](const Fonte &fonte) { return fonte.police == police; });
@@ -247,6 +256,7 @@ void PeintTextes(QPainter &painter, const Surface &surface, double facteur, cons
 std::vector<TextePlace> PeintTraces(QPainter &painter, const Surface &surface, double facteur, Maniere maniere) {
   PeintAires(painter, surface, facteur, maniere);
   PeintLignes(painter, surface, facteur, 0, maniere);
+  PeintCalque(painter, surface, facteur, maniere);
   MesuresTextes mesures;
   std::vector<TextePlace> textes = TextesPeints(painter, surface, facteur, mesures);
   // Texts come over lines, so that no line strikes a figure through.

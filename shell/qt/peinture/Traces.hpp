@@ -42,6 +42,10 @@ void PeintAires(QPainter &painter, const Surface &surface, double facteur, Manie
 /// @param maniere  how, beyond what is recorded
 void PeintLignes(QPainter &painter, const Surface &surface, double facteur, std::size_t premier, Maniere maniere);
 
+/// Paints lines and circles of the layer over a surface.
+/// @param painter, facteur, maniere  as for PeintLignes
+void PeintCalque(QPainter &painter, const Surface &surface, double facteur, Maniere maniere);
+
 /// The sizes of texts by one scale, kept from one picture to the next.
 class MesuresTextes {
 public:
@@ -72,7 +76,8 @@ std::vector<TextePlace> TextesPeints(const QPainter &painter, const Surface &sur
 void PeintTextes(QPainter &painter, const Surface &surface, double facteur, const std::vector<TextePlace> &textes,
                  Maniere maniere);
 
-/// Paints what is recorded on a surface, filled shapes first, then lines, and over them the texts that are to be seen.
+/// Paints what is recorded on a surface, filled shapes first, then lines and the layer, and over them the texts
+/// that are to be seen.
 /// @param painter, facteur, maniere  as for PeintLignes
 /// @return the texts painted, in 1/1440 inch
 std::vector<TextePlace> PeintTraces(QPainter &painter, const Surface &surface, double facteur, Maniere maniere = {});
