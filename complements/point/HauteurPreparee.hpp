@@ -54,6 +54,10 @@ HauteurPreparee PrepareHauteur(const ViseeTypee &visee, const std::optional<Resu
 /// @param theorie  one that the sight has figures of
 double HauteurDuLieu(const HauteurPreparee &hauteur, TheoriePoint theorie, const LieuNavire &lieu);
 
+/// The direction that the body has from there, degrees in [0, 360).
+/// @param theorie  one that the sight has figures of
+double AzimutDuLieu(const HauteurPreparee &hauteur, TheoriePoint theorie, const LieuNavire &lieu);
+
 /// Assumed error of an altitude: the given one, and under 10 degrees 15 % of what refraction is more there than at 10
 /// degrees, their squares added: 1.5' at 3 degrees and 4.4' on the horizon for 0.7'.
 /// @param base       minutes of arc

@@ -112,6 +112,7 @@ struct SolutionPoint {
   std::vector<ErreurCommune> communes;    ///< those that were solved, by time; the sextant's last
   std::optional<FondTrouve> fond;
   std::optional<std::size_t> improbable; ///< the sight that is, by its place in `residus`
+  bool sansNom = false;                  ///< some sight is improbable, but which one can't be told
   double seuil = 0;                      ///< of the statistics, over which one is improbable; 0 without a test
 };
 
@@ -128,6 +129,11 @@ struct FichePoint {
 /// (the same as the full covariance of the sights). It starts from the crossings of two circles and needs no estimated
 /// position; that of the sights only orders two solutions as likely as each other.
 FichePoint FaitPoint(std::span<const ViseePoint> visees, const ReglagesPoint &reglages);
+
+/// The assumed error that a sight is weighed by: its own, or that of its height. What is no number over 0 counts as not
+/// given.
+/// @return minutes of arc
+double EcartTypeDe(const ViseePoint &visee, const DoutesPoint &doutes);
 
 /// The watches of sights: each sight's watch, counted from 0 by time. One ends where the next sight comes over an hour
 /// and a half later.
