@@ -88,6 +88,30 @@ InstantUTC UTCDe(const DateCivile &date) {
   return utc;
 }
 
+DateCivile CivileDe(const InstantUTC &utc) {
+  constexpr int kChiffres = 6;
+  constexpr double kMillionieme = 1E-6;
+  DateCivile date;
+  int temps[4]{};
+  // Outside the years of leap seconds the name of a scale without them keeps any from being put in.
+  eraD2dtf(Atomique(utc) ? "UTC" : "UT1", kChiffres, utc.jour, utc.fraction, &date.annee, &date.mois, &date.jour,
+           temps);
+  date.heure = temps[0];
+  date.minute = temps[1];
+  date.seconde = temps[2] + temps[3] * kMillionieme;
+  return date;
+}
+
+InstantUTC PlusTard(const InstantUTC &utc, double secondes) {
+  const double somme = utc.fraction + secondes / ERFA_DAYSEC;
+  const double jours = std::floor(somme);
+  return {utc.jour + jours, somme - jours};
+}
+
+double SecondesEntre(const InstantUTC &de, const InstantUTC &a) {
+  return ((a.jour - de.jour) + (a.fraction - de.fraction)) * ERFA_DAYSEC;
+}
+
 InstantUT1 UT1De(const InstantUTC &utc, double dut1) {
   InstantUT1 ut1{utc.jour, utc.fraction + dut1 / ERFA_DAYSEC};
   if (Atomique(utc)) {

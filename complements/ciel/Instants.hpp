@@ -41,6 +41,16 @@ inline constexpr int kDerniereAnnee = 2199;
 /// @throws Refus AnneeHorsLimites, DateImpossible or HeureImpossible; a second of 60 stands only in a leap second
 InstantUTC UTCDe(const DateCivile &date);
 
+/// The civil date of an instant.
+/// @return seconds to the microsecond; 60 and more stand only in a leap second
+DateCivile CivileDe(const InstantUTC &utc);
+
+/// An instant some seconds later, its first part again a day at 0 h. Leap seconds in between don't count.
+InstantUTC PlusTard(const InstantUTC &utc, double secondes);
+
+/// How much later the second instant is, seconds; leap seconds in between don't count.
+double SecondesEntre(const InstantUTC &de, const InstantUTC &a);
+
 /// @param dut1  UT1 - UTC, seconds
 InstantUT1 UT1De(const InstantUTC &utc, double dut1);
 

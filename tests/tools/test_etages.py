@@ -14,6 +14,7 @@ ETAGES = (
     ("chart",),
     ("complements/ciel",),
     ("complements/controle",),
+    ("complements/point",),
     ("shell/fenetres",),
     ("shell/bureau",),
     ("shell/complements",),

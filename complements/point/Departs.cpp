@@ -1,0 +1,98 @@
+#include "complements/point/Departs.hpp"
+
+#include "complements/point/Croisements.hpp"
+#include "complements/point/Sphere.hpp"
+
+#include <algorithm>
+#include <cmath>
+#include <optional>
+
+namespace velmaris {
+namespace {
+
+/// A sight's circle at its own time. A near body is lifted by its parallax: close enough to start from.
+CercleHauteur CercleDe(const HauteurPreparee &h, TheoriePoint theorie) {
+  if (theorie == TheoriePoint::Dite) {
+    return {h.dite->sous, h.dite->observee};
+  }
+  const PlaceGeocentrique &place = h.actuelle->place;
+  const double vue = h.actuelle->observee;
+  return {{place.declinaison, LongitudeUnTour(-place.gha)}, vue + place.parallaxe / 60 * std::cos(vue * kRadian)};
+}
+
+/// One crossing, as it comes to lie when each circle is moved by the run that its place makes.
+LieuNavire Affine(const SystemePoint &systeme, const EquationVisee &a, const EquationVisee &b, std::size_t lequel,
+                  LieuNavire lieu) {
+  constexpr int kTours = 6;
+  const auto deplace = [&](const EquationVisee &visee) {
+    const LieuNavire alors = SuitTroncons(visee.troncons, systeme.courant, lieu).lieu;
+    return TourneCercle(CercleDe(*visee.hauteur, systeme.theorie), alors, lieu);
+  };
+  for (int tour = 0; tour < kTours; ++tour) {
+    const auto croisement = CroiseCercles(deplace(a), deplace(b));
+    if (!croisement) {
+      return lieu;
+    }
+    lieu = croisement->lieux.at(lequel);
+  }
+  return lieu;
+}
+
+} // namespace
+
+std::vector<LieuNavire> DepartsDe(const SystemePoint &systeme) {
+  const std::vector<EquationVisee> &visees = systeme.visees;
+  std::vector<CercleHauteur> cercles;
+  cercles.reserve(visees.size());
+  for (const EquationVisee &visee : visees) {
+    cercles.push_back(CercleDe(*visee.hauteur, systeme.theorie));
+  }
+  double meilleure = -1;
+  std::size_t i = 0;
+  std::size_t j = 0;
+  for (std::size_t a = 0; a < cercles.size(); ++a) {
+    for (std::size_t b = a + 1; b < cercles.size(); ++b) {
+      const double franchise = FranchiseCroisement(cercles[a], cercles[b]);
+      if (franchise > meilleure) {
+        meilleure = franchise;
+        i = a;
+        j = b;
+      }
+    }
+  }
+  const auto croisement = i == j ? std::nullopt : CroiseCercles(cercles[i], cercles[j]);
+  if (!croisement) {
+    return {};
+  }
+  std::vector<LieuNavire> departs;
+  for (std::size_t lequel = 0; lequel < (croisement->coupe ? 2U : 1U); ++lequel) {
+    departs.push_back(Affine(systeme, visees[i], visees[j], lequel, croisement->lieux.at(lequel)));
+  }
+  return departs;
+}
+
+bool SeCroisent(std::span<const double> azimuts) {
+  const double moindre = std::sin(kCroisementMin * kRadian);
+  for (std::size_t i = 0; i < azimuts.size(); ++i) {
+    for (std::size_t j = i + 1; j < azimuts.size(); ++j) {
+      if (std::fabs(std::sin((azimuts[i] - azimuts[j]) * kRadian)) >= moindre) {
+        return true;
+      }
+    }
+  }
+  return false;
+}
+
+bool FontLeTour(std::vector<double> azimuts) {
+  if (azimuts.empty()) {
+    return false;
+  }
+  std::sort(azimuts.begin(), azimuts.end());
+  double vide = azimuts.front() + 360 - azimuts.back();
+  for (std::size_t i = 1; i < azimuts.size(); ++i) {
+    vide = std::max(vide, azimuts[i] - azimuts[i - 1]);
+  }
+  return vide < 180;
+}
+
+} // namespace velmaris

@@ -1,0 +1,166 @@
+#include "complements/point/Jugement.hpp"
+
+#include "complements/point/Lois.hpp"
+#include "complements/point/Sphere.hpp"
+
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+namespace velmaris {
+namespace {
+
+constexpr std::size_t kViseesEllipse = 6; ///< from here on residuals say something of their own
+constexpr double kSansControle = 1E-4;    ///< a redundancy under it controls nothing
+
+/// The sights' share of the test: how each is controlled by the others.
+struct Controle {
+  Eigen::MatrixXd partages; ///< of the adjusted heights, over the assumed errors
+  Eigen::VectorXd redondances;
+};
+
+Controle ControleDe(const EquilibrePoint &e) {
+  Controle c;
+  c.partages = e.matrices.lignes * e.cofacteurs * e.matrices.lignes.transpose();
+  c.redondances = (1 - c.partages.diagonal().array()).cwiseMax(0).cwiseMin(1);
+  return c;
+}
+
+/// What a sight has from a place, whether it counts or not.
+ResiduPoint ResiduDe(const ViseePoint &visee, const ReglagesPoint &reglages, const LieuNavire &lieu,
+                     const EcartRoute &ecart) {
+  ResiduPoint r;
+  r.identite = visee.identite;
+  const HauteurPreparee &h = visee.hauteur;
+  const bool actuelle = reglages.theorie == TheoriePoint::Actuelle;
+  r.mesuree = actuelle ? h.actuelle.has_value() : h.dite.has_value();
+  if (!r.mesuree) {
+    return r;
+  }
+  r.ecartType = EcartTypeDe(visee, reglages.doutes);
+  r.lieu = SuitTroncons(TronconsEntre(reglages.route, reglages.heure, h.utc), reglages.route.courant, lieu, ecart).lieu;
+  r.residu = ((actuelle ? h.actuelle->observee : h.dite->observee) - HauteurDuLieu(h, reglages.theorie, r.lieu)) * 60;
+  r.azimut = AzimutDuLieu(h, reglages.theorie, r.lieu);
+  return r;
+}
+
+/// The test of one sight at a time, and which one is improbable.
+void Teste(SolutionPoint &solution, const SystemePoint &systeme, const Controle &controle, double chanceAlarme) {
+  std::vector<Eigen::Index> testees;
+  for (Eigen::Index i = 0; i < controle.redondances.size(); ++i) {
+    if (controle.redondances[i] > kSansControle) {
+      testees.push_back(i);
+    }
+  }
+  if (solution.surplus < 1 || testees.empty()) {
+    return;
+  }
+  std::vector<double> correlations;
+  for (const Eigen::Index i : testees) {
+    for (const Eigen::Index j : testees) {
+      const double racine = std::sqrt(controle.redondances[i] * controle.redondances[j]);
+      correlations.push_back(i == j ? 1 : -controle.partages(i, j) / racine);
+    }
+  }
+  solution.seuil = SeuilDuPlusGrand(correlations, chanceAlarme);
+  const auto statistique = [&](Eigen::Index i) {
+    return std::fabs(solution.residus[systeme.visees[static_cast<std::size_t>(i)].place].statistique);
+  };
+  std::sort(testees.begin(), testees.end(),
+            [&](Eigen::Index i, Eigen::Index j) { return statistique(i) > statistique(j); });
+  const double pire = statistique(testees.front());
+  if (!(pire > solution.seuil)) {
+    return;
+  }
+  const double suivante = testees.size() > 1 ? statistique(testees[1]) : 0;
+  solution.sansNom = solution.surplus < 2 || pire * pire - suivante * suivante < kNettement;
+  if (!solution.sansNom) {
+    solution.improbable = systeme.visees[static_cast<std::size_t>(testees.front())].place;
+  }
+}
+
+/// The residuals, those of the sights that count with what the common errors explain of them.
+void PoseResidus(SolutionPoint &solution, const SystemePoint &systeme, const EquilibrePoint &e,
+                 std::span<const ViseePoint> visees, const ReglagesPoint &reglages, const Controle &controle) {
+  const EcartRoute ecart = EcartDeLEtat(systeme, e.etat);
+  for (const ViseePoint &visee : visees) {
+    solution.residus.push_back(ResiduDe(visee, reglages, e.etat.lieu, ecart));
+  }
+  for (std::size_t k = 0; k < systeme.visees.size(); ++k) {
+    const auto i = static_cast<Eigen::Index>(k);
+    ResiduPoint &r = solution.residus[systeme.visees[k].place];
+    r.utilisee = true;
+    r.residu = e.matrices.ecarts[i] * systeme.visees[k].ecartType;
+    r.redondance = controle.redondances[i];
+    if (r.redondance > kSansControle && solution.surplus > 0) {
+      r.statistique = e.matrices.ecarts[i] / std::sqrt(r.redondance);
+    }
+  }
+}
+
+void PoseCommunes(SolutionPoint &solution, const SystemePoint &systeme, const EquilibrePoint &e) {
+  for (Eigen::Index k = 0; k < systeme.communes; ++k) {
+    const InconnueCommune &inconnue = systeme.sens[static_cast<std::size_t>(k)];
+    solution.communes.push_back(
+        {inconnue.genre, inconnue.debut, e.etat.reste[k], std::sqrt(std::max(e.cofacteurs(k + 2, k + 2), 0.0))});
+  }
+}
+
+/// Mean course and speed from the first to the last sight, by the vectors of the track.
+FondTrouve FondDe(const SystemePoint &systeme, const EquilibrePoint &e, const ReglagesPoint &reglages) {
+  const auto tot = [](const EquationVisee &a, const EquationVisee &b) {
+    return SecondesEntre(a.hauteur->utc, b.hauteur->utc) > 0;
+  };
+  const auto [premiere, derniere] = std::minmax_element(systeme.visees.begin(), systeme.visees.end(), tot);
+  double nord = 0;
+  double est = 0;
+  double heures = 0;
+  for (const Troncon &t : TronconsEntre(reglages.route, premiere->hauteur->utc, derniere->hauteur->utc)) {
+    nord += t.heures * t.vitesse * std::cos(t.cap * kRadian);
+    est += t.heures * t.vitesse * std::sin(t.cap * kRadian);
+    heures += t.heures;
+  }
+  const EcartRoute ecart = EcartDeLEtat(systeme, e.etat);
+  const double vers = reglages.route.courant.direction * kRadian;
+  nord = nord / heures + reglages.route.courant.vitesse * std::cos(vers) + ecart.nord;
+  est = est / heures + reglages.route.courant.vitesse * std::sin(vers) + ecart.est;
+  const Eigen::Index k = 2 + systeme.communes;
+  return {AngleUnTour(std::atan2(est, nord) / kRadian), std::hypot(nord, est),
+          std::sqrt(std::max(e.cofacteurs(k, k), 0.0)), std::sqrt(std::max(e.cofacteurs(k + 1, k + 1), 0.0))};
+}
+
+} // namespace
+
+EllipsePoint EllipseDe(double nordNord, double nordEst, double estEst, double facteur) {
+  const double demi = (nordNord + estEst) / 2;
+  const double ecart = std::hypot((nordNord - estEst) / 2, nordEst);
+  double direction = std::atan2(2 * nordEst, nordNord - estEst) / 2 / kRadian;
+  direction += direction < 0 ? 180 : 0;
+  return {std::sqrt(std::max(demi + ecart, 0.0) * facteur), std::sqrt(std::max(demi - ecart, 0.0) * facteur),
+          direction >= 180 ? 0 : direction};
+}
+
+SolutionPoint JugeEquilibre(const SystemePoint &systeme, const EquilibrePoint &e, std::span<const ViseePoint> visees,
+                            const ReglagesPoint &reglages) {
+  SolutionPoint solution;
+  const Eigen::MatrixXd &q = e.cofacteurs;
+  solution.lieu = e.etat.lieu;
+  solution.ellipse = EllipseDe(q(0, 0), q(0, 1), q(1, 1), kFacteurEllipse);
+  solution.khi2 = e.matrices.khi2;
+  solution.surplus = static_cast<int>(static_cast<Eigen::Index>(systeme.visees.size()) - InconnuesLibres(systeme));
+  solution.chance = ChanceKhi2(solution.khi2, solution.surplus);
+  if (systeme.visees.size() >= kViseesEllipse && solution.surplus > 0) {
+    const double variance = solution.khi2 / solution.surplus;
+    solution.parResidus = EllipseDe(q(0, 0), q(0, 1), q(1, 1), variance * FacteurFisher(solution.surplus));
+  }
+  const Controle controle = ControleDe(e);
+  PoseResidus(solution, systeme, e, visees, reglages, controle);
+  PoseCommunes(solution, systeme, e);
+  if (systeme.fond) {
+    solution.fond = FondDe(systeme, e, reglages);
+  }
+  Teste(solution, systeme, controle, reglages.chanceAlarme);
+  return solution;
+}
+
+} // namespace velmaris

@@ -1,0 +1,168 @@
+#include "complements/point/Point.hpp"
+
+#include "complements/point/Departs.hpp"
+#include "complements/point/Inconnues.hpp"
+#include "complements/point/Jugement.hpp"
+#include "complements/point/Sphere.hpp"
+
+#include <algorithm>
+#include <cmath>
+#include <numeric>
+#include <set>
+#include <utility>
+
+namespace velmaris {
+namespace {
+
+constexpr double kSecondeAdmise = 0.001; ///< chance under which a second place doesn't agree with the heights
+constexpr double kDesaccord = 0.01;
+
+/// A doubt that is a number and none below zero.
+double Doute(double valeur) { return valeur > 0 && std::isfinite(valeur) ? valeur : 0; }
+
+bool AFigure(const HauteurPreparee &h, TheoriePoint theorie) {
+  return theorie == TheoriePoint::Actuelle ? h.actuelle.has_value() : h.dite.has_value();
+}
+
+SystemePoint SystemeDe(std::span<const ViseePoint> visees, const ReglagesPoint &reglages, std::set<AvisPoint> &avis) {
+  SystemePoint systeme;
+  systeme.theorie = reglages.theorie;
+  systeme.courant = reglages.route.courant;
+  const DoutesPoint &d = reglages.doutes;
+  systeme.doute = {Doute(d.cap), Doute(d.vitesse) / 100, Doute(d.courant), Doute(d.courant)};
+  for (std::size_t i = 0; i < visees.size(); ++i) {
+    if (!visees[i].cochee) {
+      continue;
+    }
+    const HauteurPreparee &h = visees[i].hauteur;
+    if (!AFigure(h, reglages.theorie)) {
+      avis.insert(AvisPoint::SansFigure);
+      continue;
+    }
+    systeme.visees.push_back(
+        {&h, i, EcartTypeDe(visees[i], d), TronconsEntre(reglages.route, reglages.heure, h.utc), {}});
+  }
+  return systeme;
+}
+
+/// Walks from one start.
+/// @return nothing where no place comes of it; `avis` tells why
+std::optional<Recherche> Cherche(const SystemePoint &systeme, const LieuNavire &depart, const ReglagesPoint &reglages,
+                                 std::span<const int> quarts, std::set<AvisPoint> &avis) {
+  constexpr double kSansReste = 0.01; ///< two circles that don't cross leave more
+  const EtatPoint debut = EtatDe(systeme, depart);
+  auto equilibre = Equilibre(systeme, debut);
+  const bool croise = SeCroisent(equilibre ? equilibre->matrices.azimuts : EquationsDe(systeme, debut).azimuts);
+  const bool deux = systeme.visees.size() == 2;
+  if (!croise || !equilibre || (deux && equilibre->matrices.khi2 > kSansReste)) {
+    avis.insert(croise ? AvisPoint::SansSolution : AvisPoint::AzimutsSerres);
+    return std::nullopt;
+  }
+  Recherche recherche{systeme, std::move(*equilibre), {}};
+  AjouteInconnues(recherche, reglages, quarts);
+  return recherche;
+}
+
+/// How far a place lies from where the sights were typed, degrees in all.
+double LoinDesEstimes(const Recherche &r) {
+  double somme = 0;
+  for (std::size_t i = 0; i < r.systeme.visees.size(); ++i) {
+    somme += EcartLieux(r.equilibre.matrices.lieux[i], r.systeme.visees[i].hauteur->estime);
+  }
+  return somme;
+}
+
+/// Whether the first place is to be told before the second: the likelier, or of two that are alike the nearer one.
+bool Avant(const Recherche &a, const Recherche &b) {
+  const double ecart = a.equilibre.matrices.khi2 - b.equilibre.matrices.khi2;
+  return std::fabs(ecart) < kNettement ? LoinDesEstimes(a) < LoinDesEstimes(b) : ecart < 0;
+}
+
+bool MemeLieu(const Recherche &a, const Recherche &b) {
+  constexpr double kMeme = 0.1; ///< degrees
+  return EcartLieux(a.equilibre.etat.lieu, b.equilibre.etat.lieu) < kMeme;
+}
+
+void PoseAvis(const Recherche &recherche, const SolutionPoint &solution, std::set<AvisPoint> &avis) {
+  avis.insert(recherche.refus.begin(), recherche.refus.end());
+  if (recherche.equilibre.matrices.auPole) {
+    avis.insert(AvisPoint::AuPole);
+  }
+  if (solution.chance < kDesaccord) {
+    avis.insert(AvisPoint::Desaccord);
+  }
+  if (solution.improbable) {
+    avis.insert(AvisPoint::ViseeImprobable);
+  }
+  if (solution.sansNom) {
+    avis.insert(AvisPoint::ErreurSansNom);
+  }
+}
+
+/// All that can be said of two sights or more.
+void Resous(const SystemePoint &systeme, std::span<const ViseePoint> visees, const ReglagesPoint &reglages,
+            FichePoint &fiche, std::set<AvisPoint> &avis) {
+  const std::vector<int> quarts = QuartsDeVisees(visees);
+  std::set<AvisPoint> raisons;
+  std::vector<Recherche> trouvees;
+  const std::vector<LieuNavire> departs = DepartsDe(systeme);
+  for (const LieuNavire &depart : departs) {
+    auto recherche = Cherche(systeme, depart, reglages, quarts, raisons);
+    if (recherche && (trouvees.empty() || !MemeLieu(trouvees.front(), *recherche))) {
+      trouvees.push_back(std::move(*recherche));
+    }
+  }
+  if (trouvees.empty()) {
+    avis.insert(raisons.contains(AvisPoint::AzimutsSerres) || departs.empty() ? AvisPoint::AzimutsSerres
+                                                                              : AvisPoint::SansSolution);
+    return;
+  }
+  std::sort(trouvees.begin(), trouvees.end(), Avant);
+  fiche.solution = JugeEquilibre(trouvees.front().systeme, trouvees.front().equilibre, visees, reglages);
+  PoseAvis(trouvees.front(), *fiche.solution, avis);
+  if (trouvees.size() > 1) {
+    SolutionPoint seconde = JugeEquilibre(trouvees[1].systeme, trouvees[1].equilibre, visees, reglages);
+    if (seconde.chance > kSecondeAdmise) {
+      fiche.seconde = std::move(seconde);
+      avis.insert(AvisPoint::DeuxSolutions);
+    }
+  }
+}
+
+} // namespace
+
+double EcartTypeDe(const ViseePoint &visee, const DoutesPoint &doutes) {
+  const double base = Doute(doutes.hauteur) > 0 ? doutes.hauteur : DoutesPoint{}.hauteur;
+  const double sien = Doute(visee.ecartType.value_or(0));
+  return sien > 0 ? sien : ErreurSupposee(base, visee.hauteur.apparente);
+}
+
+FichePoint FaitPoint(std::span<const ViseePoint> visees, const ReglagesPoint &reglages) {
+  FichePoint fiche;
+  std::set<AvisPoint> avis;
+  const SystemePoint systeme = SystemeDe(visees, reglages, avis);
+  if (systeme.visees.size() < 2) {
+    avis.insert(systeme.visees.empty() ? AvisPoint::SansVisee : AvisPoint::UneVisee);
+  } else {
+    Resous(systeme, visees, reglages, fiche, avis);
+  }
+  fiche.avis.assign(avis.begin(), avis.end());
+  return fiche;
+}
+
+std::vector<int> QuartsDeVisees(std::span<const ViseePoint> visees) {
+  constexpr double kEntreQuarts = 5400; ///< seconds
+  std::vector<std::size_t> ordre(visees.size());
+  std::iota(ordre.begin(), ordre.end(), std::size_t{0});
+  const auto entre = [&](std::size_t a, std::size_t b) {
+    return SecondesEntre(visees[a].hauteur.utc, visees[b].hauteur.utc);
+  };
+  std::stable_sort(ordre.begin(), ordre.end(), [&](std::size_t a, std::size_t b) { return entre(a, b) > 0; });
+  std::vector<int> quarts(visees.size(), 0);
+  for (std::size_t i = 1; i < ordre.size(); ++i) {
+    quarts[ordre[i]] = quarts[ordre[i - 1]] + (entre(ordre[i - 1], ordre[i]) > kEntreQuarts ? 1 : 0);
+  }
+  return quarts;
+}
+
+} // namespace velmaris
