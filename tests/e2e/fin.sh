@@ -2,6 +2,8 @@
 # The ends that nobody has asked for: signals that kill and signals that ask, a lost screen. Each leaves the recovery
 # file whole, with what was typed last; the program's own exit leaves none.
 # Usage: fin.sh PROGRAMME IMAGES
+# A journey started under nohup would hand its deafness on to the program, which heeds it rightly.
+[ -n "${SIGNAUX_REMIS:-}" ] || SIGNAUX_REMIS=oui exec env --default-signal=HUP,INT,QUIT bash "$0" "$@"
 PROGRAMME=$1 IMAGES=$2
 . "$(dirname "$0")/outils.sh"
 gestionnaire
