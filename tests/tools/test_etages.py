@@ -16,6 +16,7 @@ ETAGES = (
     ("complements/controle",),
     ("complements/point",),
     ("shell/fenetres",),
+    ("shell/fenetres/donnees",),
     ("shell/bureau",),
     ("shell/complements",),
     ("shell/visee",),
