@@ -10,6 +10,18 @@ namespace {
 
 bool Utilisable(const Controle &controle) { return controle.actif && controle.visible; }
 
+bool ALaLigne(const Controle &table, int ligne) {
+  return ligne >= 0 && static_cast<std::size_t>(ligne) < table.tableau.lignes;
+}
+
+/// Something that happens at one row of a table.
+void JoueALaLigne(Bureau &bureau, Controle &table, int ligne, Evenement evenement) {
+  if (Utilisable(table) && ALaLigne(table, ligne)) {
+    table.tableau.courante = ligne;
+    Declenche(bureau, table, evenement);
+  }
+}
+
 } // namespace
 
 void PoseTexte(Bureau &bureau, Controle &controle, std::string texte) {
@@ -125,6 +137,25 @@ void ChoisitLigne(Bureau &bureau, Controle &controle, int rang) {
   if (Utilisable(controle)) {
     PoseRang(bureau, controle, rang, static_cast<int>(controle.liste.size()));
   }
+}
+
+void ChoisitLignes(Bureau &bureau, Controle &controle, std::vector<std::size_t> choisies, int courante) {
+  Tableau &t = controle.tableau;
+  std::erase_if(choisies, [&](std::size_t ligne) { return ligne >= t.lignes; });
+  const int voulue = ALaLigne(controle, courante) ? courante : kSansLigne;
+  if (Utilisable(controle) && (choisies != t.choisies || voulue != t.courante)) {
+    t.choisies = std::move(choisies);
+    t.courante = voulue;
+    Declenche(bureau, controle, Evenement::Clic);
+  }
+}
+
+void CocheLigne(Bureau &bureau, Controle &controle, int ligne) {
+  JoueALaLigne(bureau, controle, ligne, Evenement::Coche);
+}
+
+void ValideLigne(Bureau &bureau, Controle &controle, int ligne) {
+  JoueALaLigne(bureau, controle, ligne, Evenement::Valide);
 }
 
 } // namespace velmaris

@@ -7,6 +7,7 @@
 #include <cstdint>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace velmaris {
 
@@ -15,7 +16,8 @@ enum class Evenement : std::uint8_t {
   Clic,       ///< pressed, chosen, ticked: by the user or by code
   DoubleClic, ///< pressed twice
   ClicLong,   ///< held down for a while
-  Valide,     ///< Return on a list that has a use of its own for it
+  Valide,     ///< Return on a list that has a use of its own for it; a row of a table pressed twice too
+  Coche,      ///< the box of a table's current row was pressed
   Relache,    ///< a choice made by the user, once mouse or key is released
   Change,     ///< its text or value has changed, by the user or by code
   Entre,      ///< a field takes the focus
@@ -81,6 +83,14 @@ void QuitteChamp(Bureau &bureau, Controle &controle);
 void SaisitTexte(Bureau &bureau, Controle &controle, std::string texte);
 /// Chooses a line of a list.
 void ChoisitLigne(Bureau &bureau, Controle &controle, int rang);
+/// Chooses rows of a table and moves to one. What answers that leaves the rows as they are: the toolkit is among them.
+/// @param choisies  in ascending order; those that the table hasn't are left out
+/// @param courante  row, `kSansLigne` for none
+void ChoisitLignes(Bureau &bureau, Controle &controle, std::vector<std::size_t> choisies, int courante);
+/// Presses the box of a row, which becomes the current one.
+void CocheLigne(Bureau &bureau, Controle &controle, int ligne);
+/// Return on a row, or a double click: it becomes the current one.
+void ValideLigne(Bureau &bureau, Controle &controle, int ligne);
 /// @}
 
 } // namespace velmaris

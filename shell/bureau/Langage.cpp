@@ -22,6 +22,7 @@ bool AUneLegende(Genre genre) {
   case Genre::Champ:
   case Genre::Liste:
   case Genre::ListeBoite:
+  case Genre::Table:
   case Genre::Curseur:
   case Genre::Image:
   case Genre::Separateur:

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "foundations/Surface.hpp"
+#include "shell/fenetres/Tableau.hpp"
 
 #include <cstdint>
 #include <string>
@@ -21,6 +22,7 @@ enum class Genre : std::uint8_t {
   Case,       ///< a box to tick: `valeur` 0, 1, or 2 for the greyed state
   Liste,      ///< a drop-down list with its text
   ListeBoite, ///< a list that shows its lines
+  Table,      ///< a long list in columns, whose rows are read as they come into sight: `tableau`
   Curseur,    ///< the slider
   Image,      ///< a picture, pressed like a button when a click means something
   Menu,       ///< a menu that opens at the pointer, or within another one
@@ -86,6 +88,7 @@ struct Controle {
   std::vector<std::string> liste;
   int rang = -1;          ///< chosen line of a list, -1 for none
   std::vector<bool> loin; ///< of a list of stars: the lines that bear a warning sign; empty for none
+  Tableau tableau;        ///< of a table
   Couleur couleur = kNoir;
   Couleur bordure = kNoir; ///< of a mark
   Couleur fond = kBlanc;   ///< behind the words of an opaque caption that has a background of its own

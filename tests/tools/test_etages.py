@@ -15,6 +15,7 @@ ETAGES = (
     ("complements/ciel",),
     ("complements/controle",),
     ("shell/fenetres",),
+    ("shell/fenetres/donnees",),
     ("shell/bureau",),
     ("shell/complements",),
     ("shell/visee",),

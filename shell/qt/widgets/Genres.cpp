@@ -6,6 +6,7 @@
 #include "shell/qt/peinture/Toile.hpp"
 #include "shell/qt/peinture/ToileCiel.hpp"
 #include "shell/qt/widgets/Elements.hpp"
+#include "shell/qt/widgets/Table.hpp"
 #include "shell/qt/widgets/Widgets.hpp"
 
 #include <QCheckBox>
@@ -414,6 +415,8 @@ std::unique_ptr<Adaptateur> CreeAdaptateur(Bureau &bureau, const Controle &c, QW
     return std::make_unique<AListe>(new Deroulante(parent));
   case Genre::ListeBoite:
     return CreeListeBoite(parent);
+  case Genre::Table:
+    return CreeTable(parent);
   case Genre::Curseur:
     return std::make_unique<ACurseur>(new QSlider(Qt::Horizontal, parent), c);
   case Genre::Image:
