@@ -27,6 +27,8 @@
 #include "shell/ecran/PageImprimee.hpp"
 #include "shell/ecran/Presentation.hpp"
 #include "shell/ecran/Rangement.hpp"
+#include "shell/registre/FichiersRegistre.hpp"
+#include "shell/registre/Registre.hpp"
 #include "shell/visee/Annulation.hpp"
 #include "shell/visee/Astres.hpp"
 #include "shell/visee/Saisie.hpp"
@@ -132,6 +134,19 @@ constexpr Abonnement kFiche[] = {
 };
 
 // NOLINTNEXTLINE(cppcoreguidelines-avoid-c-arrays,modernize-avoid-c-arrays)
+constexpr Abonnement kRegistre[] = {
+    {"Text1", Evenement::Change, registre::Text1_Change},    {"Check1", Evenement::Clic, registre::Check1_Click},
+    {"Table1", Evenement::Clic, registre::Table1_Click},     {"Table1", Evenement::Coche, registre::Table1_Coche},
+    {"Table1", Evenement::Valide, registre::Command1_Click}, {"Text2", Evenement::Quitte, registre::Text2_Quitte},
+    {"Text2", Evenement::Valide, registre::Text2_Quitte},    {"Command1", Evenement::Clic, registre::Command1_Click},
+    {"Command2", Evenement::Clic, registre::Command2_Click}, {"Command3", Evenement::Clic, registre::Command3_Click},
+    {"Command4", Evenement::Clic, registre::Command4_Click}, {"Command5", Evenement::Clic, registre::Command5_Click},
+    {"Command6", Evenement::Clic, registre::Command6_Click}, {"Command7", Evenement::Clic, registre::Command7_Click},
+    {"Command8", Evenement::Clic, registre::Command8_Click}, {"Text3", Evenement::Change, registre::Text3_Change},
+    {"Text3", Evenement::Valide, registre::Command8_Click},
+};
+
+// NOLINTNEXTLINE(cppcoreguidelines-avoid-c-arrays,modernize-avoid-c-arrays)
 constexpr Abonnement kDonnees[] = {
     {"TDate", Evenement::Quitte, TDate_Quitte},
     {"TDate", Evenement::Change, TDate_Change},
@@ -159,6 +174,7 @@ constexpr Abonnement kDonnees[] = {
     {"Command26", Evenement::Clic, Command26_Click},
     {"LabControle", Evenement::Clic, OuvreFiche_Click},
     {"PU_Fiche", Evenement::Clic, OuvreFiche_Click},
+    {"PU_Registre", Evenement::Clic, OuvreRegistre_Click},
     {"Command3", Evenement::Clic, Command3_Click},
     {"Command4", Evenement::Clic, Revocable<NomBouton<kOuvre>, Command4_Click>},
     {"Command4", Evenement::ClicLong, OuvreRecentes},
@@ -266,6 +282,9 @@ std::span<const Abonnement> AbonnementsDe(std::string_view fenetre) {
   }
   if (fenetre == kFenetreFiche) {
     return kFiche;
+  }
+  if (fenetre == kFenetreRegistre) {
+    return kRegistre;
   }
   return fenetre == kFenetreFSelect ? std::span<const Abonnement>(kFSelect) : std::span<const Abonnement>();
 }

@@ -23,6 +23,8 @@
 #include "shell/ecran/Eclairage.hpp"
 #include "shell/ecran/Rangement.hpp"
 #include "shell/ecran/Statut.hpp"
+#include "shell/registre/LectureRegistre.hpp"
+#include "shell/registre/Registre.hpp"
 #include "shell/visee/Journal.hpp"
 #include "shell/visee/PanneauDirect.hpp"
 #include "shell/visee/Saisie.hpp"
@@ -224,6 +226,7 @@ void Donnees_Charge(Bureau &bureau, const Ecran &ecran) {
 
 void Timer1_Tick(Bureau &bureau) {
   RetenteEcritures(bureau);
+  BatRegistre(bureau);
   VieillitAvis(bureau);
   LitHorloge(bureau.horloge);
   PositionLive(bureau);
@@ -276,8 +279,10 @@ bool ToucheControle(Bureau &bureau, char lettre) {
   }
   if (lettre == 'I') {
     OuvreFiche_Click(bureau, -1);
+  } else if (lettre == 'L') {
+    OuvreRegistre_Click(bureau, -1);
   }
-  return bouton != nullptr || lettre == 'I';
+  return bouton != nullptr || lettre == 'I' || lettre == 'L';
 }
 
 bool ToucheMenu(Bureau &bureau, const Controle *pointe, Point place, const Controle *clavier) {
@@ -314,6 +319,7 @@ void Image10_Click(Bureau &bureau, int indice) {
   }
   ChargeLangue(bureau, kFenetreEtat);
   ChargeLangue(bureau, kFenetreFiche);
+  ChargeLangue(bureau, kFenetreRegistre);
   PoseDomaines(bureau);
   if (bureau.fselect.chargee) {
     ChargeLangue(bureau, kFenetreFSelect);

@@ -12,6 +12,8 @@
 #include "shell/droites/FichierVisee.hpp"
 #include "shell/ecran/PageImprimee.hpp"
 #include "shell/ecran/Rangement.hpp"
+#include "shell/registre/LectureRegistre.hpp"
+#include "shell/registre/Registre.hpp"
 #include "shell/visee/Journal.hpp"
 #include "shell/visee/Saisie.hpp"
 
@@ -76,6 +78,10 @@ void Sortie_Click(Bureau &bureau, int /*indice*/) {
   Ciel_Ferme(bureau);
   bureau.fselect.cadre.visible = false;
   Impression_Ferme(bureau);
+  if (bureau.registre.cadre.visible) {
+    registre::Command7_Click(bureau, -1);
+  }
+  BatRegistre(bureau);
   QuitteObjets(bureau);
   FermeReprise(bureau);
   bureau.termine = true;
@@ -101,6 +107,7 @@ void Secours(Bureau &bureau, const std::exception &erreur) {
   }
   Patience derniere;
   RetenteJournal(bureau, derniere);
+  Passe([&] { BatRegistre(bureau); });
   const std::string suite = conservee ? d.TexteSecours.legende + "\n" + fichier.string() : d.TexteSansSecours.legende;
   Boite boite{.texte = erreurDite + remede + "\n\n" + suite, .icone = Icone::Erreur};
   if (bureau.reprise && bureau.reprise->tenue()) {

@@ -20,6 +20,7 @@ Bureau::Bureau() {
   InitialiseApropos(apropos);
   InitialiseEtat(etat);
   InitialiseFiche(fiche);
+  InitialiseRegistre(registre);
 }
 
 Bureau::~Bureau() = default;
@@ -46,11 +47,15 @@ ListeControles ControlesDe(Bureau &bureau, std::string_view fenetre) {
   if (fenetre == kFenetreFiche) {
     return Liste(bureau.fiche);
   }
+  if (fenetre == kFenetreRegistre) {
+    return Liste(bureau.registre);
+  }
   return fenetre == kFenetreImpression ? Liste(bureau.impression) : ListeControles();
 }
 
 std::vector<CadreFenetre *> FenetresLibres(Bureau &bureau) {
-  return {&bureau.utilisateur.cadre, &bureau.ciel.cadre, &bureau.impression.cadre, &bureau.fiche.cadre};
+  return {&bureau.utilisateur.cadre, &bureau.ciel.cadre, &bureau.impression.cadre, &bureau.fiche.cadre,
+          &bureau.registre.cadre};
 }
 
 Surface *SurfaceDe(Bureau &bureau, const Controle &controle) {

@@ -14,6 +14,7 @@
 #include "lines/Transport.hpp"
 #include "shell/bureau/EtatRevocable.hpp"
 #include "shell/bureau/Ports.hpp"
+#include "shell/bureau/RegistreOuvert.hpp"
 #include "shell/bureau/Verification.hpp"
 #include "shell/fenetres/Apropos.hpp"
 #include "shell/fenetres/Ciel.hpp"
@@ -22,6 +23,7 @@
 #include "shell/fenetres/FSelect.hpp"
 #include "shell/fenetres/Fiche.hpp"
 #include "shell/fenetres/Impression.hpp"
+#include "shell/fenetres/Registre.hpp"
 #include "shell/fenetres/Utilisateur.hpp"
 #include "sights/Affichage.hpp"
 #include "sights/Observation.hpp"
@@ -105,6 +107,7 @@ struct Bureau {
   Apropos apropos;
   Etat etat;
   Fiche fiche;
+  Registre registre;
   Ecran ecran;                           ///< that it has started on
   double largeurFenetre = 0.0;           ///< of the main window, 1/1440 inch
   double hauteurFenetre = 0.0;           ///< of the main window, 1/1440 inch
@@ -153,6 +156,7 @@ struct Bureau {
   std::optional<Observation> viseeReduite; ///< the sight whose results are shown
   Verification verification;               ///< of that sight
   Annulations annulations;                 ///< what can be undone and redone
+  RegistreOuvert registreOuvert;           ///< all sights ever reduced
 
   Ports ports;
   Dossiers dossiers;

@@ -43,6 +43,10 @@ struct Ports {
   std::function<void()> attend = [] {};
   /// Lets the interface paint itself, in the middle of a long drawing; all events wait.
   std::function<void()> respire = [] {};
+  /// Does a piece of work beside the interface. What it gives is run as an event once it is done; pieces are done in
+  /// the order in which they are given. Without another thread it is done at once.
+  std::function<void(std::function<std::function<void()>()>)> travaille =
+      [](const std::function<std::function<void()>()> &travail) { travail()(); };
   /// Width of a text in one line, 1/1440 inch: its words, the font's points, and whether it is bold.
   std::function<double(const std::string &, double, bool)> largeurTexte = [](const std::string &texte, double taille,
                                                                              bool gras) {

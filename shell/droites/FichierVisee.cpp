@@ -103,6 +103,23 @@ void AppliqueAuPanneau(Bureau &bureau) {
   }
 }
 
+/// Pours the table of lines into the panel, reduces the sight and draws its sheet.
+void MontreChargee(Bureau &bureau) {
+  bureau.image1.police = {"ms sans serif", 9.0, true};
+  AppliqueAuPanneau(bureau);
+  Observation observation = LitPanneau(bureau.donnees);
+  PrepareVisee(bureau, observation);
+  bool reduite = false;
+  Passe([&] { reduite = ReduitVisee(bureau, observation).has_value(); });
+  TraceNommee(bureau, NomReduite(bureau, observation, reduite),
+              [&] { TraceDroites(bureau.feuille, bureau.image1, observation, bureau.visee); });
+  MontreTitresFeuille(bureau);
+  PublieLigneImpression(bureau, 1, 0);
+  PoseMode(bureau, ModeDroite::Enregistre);
+  MontreDroitesMultiples(bureau);
+  RetraceCarte(bureau);
+}
+
 } // namespace
 
 void Command3_Click(Bureau &bureau, int /*indice*/) {
@@ -154,20 +171,14 @@ bool ChargeVisee(Bureau &bureau, const std::filesystem::path &chemin) {
   if (chemin != FichierSecours(bureau)) {
     NoteRecente(bureau, chemin);
   }
-  bureau.image1.police = {"ms sans serif", 9.0, true};
-  AppliqueAuPanneau(bureau);
-  Observation observation = LitPanneau(bureau.donnees);
-  PrepareVisee(bureau, observation);
-  bool reduite = false;
-  Passe([&] { reduite = ReduitVisee(bureau, observation).has_value(); });
-  TraceNommee(bureau, NomReduite(bureau, observation, reduite),
-              [&] { TraceDroites(bureau.feuille, bureau.image1, observation, bureau.visee); });
-  MontreTitresFeuille(bureau);
-  PublieLigneImpression(bureau, 1, 0);
-  PoseMode(bureau, ModeDroite::Enregistre);
-  MontreDroitesMultiples(bureau);
-  RetraceCarte(bureau);
+  MontreChargee(bureau);
   return true;
+}
+
+void ReprendVisee(Bureau &bureau, const Observation &observation) {
+  RemetFeuille(bureau);
+  LitLignesLoP(EcritLoP(observation), bureau.lignesLoP);
+  MontreChargee(bureau);
 }
 
 } // namespace velmaris

@@ -15,6 +15,10 @@ void Command4_Click(Bureau &bureau, int indice);
 /// bears its name. A file that can't be read is told, one that is too large isn't, and nothing else changes.
 void OuvreVisee(Bureau &bureau, const std::filesystem::path &chemin);
 
+/// Takes up a sight that was typed before, as "Ouvre" does with one from a file: the sheet's state is taken back, the
+/// panel filled, the sight reduced and drawn.
+void ReprendVisee(Bureau &bureau, const Observation &observation);
+
 /// The file that a failure leaves the sight of the panel in.
 std::filesystem::path FichierSecours(const Bureau &bureau);
 

@@ -1,14 +1,9 @@
 #pragma once
 
+#include "complements/registre/Rangee.hpp"
 #include "shell/visee/ReduitVisee.hpp"
 
 namespace velmaris {
-
-/// The journal's first line: the names of its columns.
-extern const std::string_view kTitresJournal;
-
-/// What it was before rows had an identity and the check's figures.
-extern const std::string_view kAnciensTitres;
 
 /// One line of the journal: UTC of now, body and its name, the fields as they stand, observed and computed height in
 /// degrees, intercept in miles and azimuth in degrees; version of this form, the row's identity, intercept by the sky
@@ -23,6 +18,9 @@ std::string LigneJournal(Bureau &bureau, const Hauteurs &hauteurs);
 /// Tells the user once when it can't be written. While another program holds the journal its lines wait in memory,
 /// which is told once too.
 void Journalise(Bureau &bureau, const Hauteurs &hauteurs);
+
+/// Appends a line that stands as it is to be, in the same way.
+void JournaliseLigne(Bureau &bureau, std::string ligne);
 
 /// Enters the lines that wait, in their order, if the journal is free.
 void RetenteJournal(Bureau &bureau, Patience &patience);

@@ -4,6 +4,7 @@
 #include "shell/carte/FichierObjets.hpp"
 #include "shell/carte/Objets.hpp"
 #include "shell/droites/FichierVisee.hpp"
+#include "shell/registre/LectureRegistre.hpp"
 #include "shell/visee/Journal.hpp"
 
 #include <algorithm>
@@ -291,6 +292,23 @@ TEST_F(MortSubite, InTheJournalEveryLineThatWasEnteredStandsInItsOrder) {
           dernier = n;
         }
         return dernier;
+      });
+}
+
+TEST_F(MortSubite, OfASightTheLogSaysWhatWasSaidLastAndACutLineSaysNothing) {
+  const fs::path masques = donnees_.utilisateur / "masques.csv";
+  Coupe(
+      [](Bureau &programme, int n) {
+        if (programme.registreOuvert.annotations == nullptr) {
+          DemandeRegistre(programme);
+        }
+        Annote(programme, {"aa"}, [&](Annotation &annotation) {
+          annotation = {!annotation.masquee, std::to_string(n)}; // said anew each time
+        });
+      },
+      [&](int) {
+        const Annotations lues = LitAnnotations(Contenu(masques));
+        return lues.empty() ? 0 : std::stoi(lues.at("aa").note);
       });
 }
 

@@ -32,7 +32,7 @@ def _du_fichier(chemin):
 
 def _du_programme(dossier):
     """Captions that the program is built with, which a language file may replace."""
-    for source in sorted(dossier.glob("Table*.cpp")):
+    for source in sorted(dossier.rglob("Table*.cpp")):
         texte = source.read_text("utf-8")
         fenetre = re.search(r"using Fenetre = (\w+);", texte)
         for nom, rang, legende in LIGNE.findall(texte):

@@ -42,6 +42,7 @@ constexpr LigneDonnees kMenu[] = {
     {SEUL(PU_Retablit), Genre::Entree, "PopUp", {}, "Rétablir", "Ctrl+Maj+Z"},
     {SEUL(PU_Complements), Genre::Menu, "PopUp", {}, "Compléments"},
     {SEUL(PU_Fiche), Genre::Entree, "PU_Complements", {}, "Fiche de contrôle", "Ctrl+I"},
+    {SEUL(PU_Registre), Genre::Entree, "PU_Complements", {}, "Registre des visées", "Ctrl+L"},
     {SEUL(PU_Terres), Genre::Entree, "PopUp", {}, "Terres teintées"},
     {SEUL(PU_Bouts), Genre::Entree, "PopUp", {}, "Astre et heure au bout des droites"},
     {SEUL(PU_Crepuscule), Genre::Entree, "PopUp", {}, "Vue du crépuscule (sombre)", "Ctrl+N"},

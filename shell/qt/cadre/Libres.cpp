@@ -3,6 +3,7 @@
 #include "shell/qt/cadre/Dialogue.hpp"
 #include "shell/qt/cadre/FenetreCiel.hpp"
 #include "shell/qt/cadre/FenetreImpression.hpp"
+#include "shell/qt/cadre/FenetreRegistre.hpp"
 
 #include <utility>
 
@@ -15,6 +16,9 @@ Dialogue *Cree(Scene &scene, CadreFenetre &cadre, QWidget &principale) {
   }
   if (cadre.nom == kFenetreImpression) {
     return new FenetreImpression(scene, &principale);
+  }
+  if (cadre.nom == kFenetreRegistre) {
+    return new FenetreRegistre(scene, &principale);
   }
   return new Dialogue(scene, cadre, &principale);
 }

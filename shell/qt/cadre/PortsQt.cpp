@@ -179,6 +179,9 @@ void Boites::Ouvre(Scene &scene, QWidget &fenetre) {
     OuvreLien(fenetre, adresse, [&scene, sansProgramme] { scene.Joue(sansProgramme); });
   };
   bureau_.ports.lecteur = AUnLecteur;
+  bureau_.ports.travaille = [this, &scene](std::function<std::function<void()>()> travail) {
+    atelier_.Confie(scene, std::move(travail));
+  };
   for (const Boite &boite : std::exchange(attente_, {})) {
     MontreBoite(bureau_, boite, fenetre_);
   }

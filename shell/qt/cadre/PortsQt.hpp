@@ -1,6 +1,7 @@
 #pragma once
 
 #include "shell/bureau/Bureau.hpp"
+#include "shell/qt/widgets/Atelier.hpp"
 
 #include <vector>
 
@@ -26,6 +27,7 @@ private:
   Bureau &bureau_;
   QWidget *fenetre_ = nullptr;
   std::vector<Boite> attente_;
+  Atelier atelier_; ///< what works beside the interface
 };
 
 } // namespace velmaris::qt

@@ -9,6 +9,7 @@
 #include "shell/qt/peinture/Apparence.hpp"
 #include "shell/qt/peinture/Grandeur.hpp"
 #include "shell/qt/widgets/Rendu.hpp"
+#include "shell/registre/Registre.hpp"
 #include "shell/visee/ChampsJuges.hpp"
 
 #include <QApplication>
@@ -93,6 +94,7 @@ void Scene::Accorde() {
     encore_ = false;
     JugeChamps(bureau_);
     AccordeVerification(bureau_);
+    AccordeRegistre(bureau_);
     AccordeStatut(bureau_);
     AccordeEclairage(bureau_.eclairage);
     AccordeGrandeur(EchelleFenetre(bureau_));

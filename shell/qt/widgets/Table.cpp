@@ -113,7 +113,7 @@ QVariant ModeleTable::headerData(int section, Qt::Orientation sens, int role) co
   case Qt::DisplayRole:
     return Texte(c.legende);
   case Qt::TextAlignmentRole:
-    return QVariant::fromValue(Alignement(c.cote));
+    return static_cast<int>(Alignement(c.cote));
   default:
     return {};
   }
