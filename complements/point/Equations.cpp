@@ -132,7 +132,7 @@ EcartRoute EcartDeLEtat(const SystemePoint &systeme, const EtatPoint &etat) {
 
 MatricesPoint EquationsDe(const SystemePoint &systeme, const EtatPoint &etat) {
   const auto n = static_cast<Eigen::Index>(systeme.visees.size());
-  const EcartRoute ecart = EcartDeLEtat(systeme, etat);
+  const EcartRoute ecart = systeme.fond ? EcartDeLEtat(systeme, etat) : EcartRoute{};
   MatricesPoint m;
   m.lignes.resize(n, InconnuesLibres(systeme) + kDoutes);
   m.ecarts.resize(n);
@@ -143,14 +143,13 @@ MatricesPoint EquationsDe(const SystemePoint &systeme, const EtatPoint &etat) {
     const Visee vue = VueDuLieu(*visee.hauteur, systeme.theorie, lieu);
     const auto &h = *visee.hauteur;
     const double observee = systeme.theorie == TheoriePoint::Actuelle ? h.actuelle->observee : h.dite->observee;
-    double calculee = vue.hauteur * kMinutes;
-    for (Eigen::Index k = 0; k < systeme.communes; ++k) {
-      calculee += visee.communes.at(static_cast<std::size_t>(k)) * etat.reste[k];
-    }
     const PenteHauteur pente = PenteDe(h, systeme.theorie, vue.hauteur, vue.azimut, lieu.latitude);
     const std::vector<double> ligne = LigneDe(systeme, visee, a, pente, etat.lieu.latitude);
-    m.lignes.row(i) = Eigen::RowVectorXd::Map(ligne.data(), m.lignes.cols()) / visee.ecartType;
-    m.ecarts[i] = (observee * kMinutes - calculee) / visee.ecartType;
+    m.lignes.row(i) = Eigen::RowVectorXd::Map(ligne.data(), m.lignes.cols());
+    const double commun = m.lignes.row(i).segment(kLieu, systeme.communes).dot(etat.reste.head(systeme.communes));
+    const double doute = m.lignes.row(i).tail(kDoutes).dot(etat.reste.tail(kDoutes));
+    m.ecarts[i] = ((observee - vue.hauteur) * kMinutes - commun - doute) / visee.ecartType;
+    m.lignes.row(i) /= visee.ecartType;
     m.azimuts.push_back(vue.azimut);
     m.lieux.push_back(lieu);
     m.auPole = m.auPole || a.arrivee.auPole;

@@ -66,9 +66,7 @@ void SansBruit(const Genre &genre, int nombre, std::uint64_t graine) {
 
 TEST(Voyages, WithoutErrorsTheFixIsWhereTheShipWas) { SansBruit({}, Nombre(), 1901); }
 
-TEST(Voyages, NearAPoleTheFixIsWhereTheShipWas) {
-  SansBruit({3, 9, 6, 70, 88}, std::max(Nombre() / 10, 40), 1902);
-}
+TEST(Voyages, NearAPoleTheFixIsWhereTheShipWas) { SansBruit({3, 9, 6, 70, 88}, std::max(Nombre() / 10, 40), 1902); }
 
 /// Voyages with errors as the fix assumes them: the ellipse, the mean, the alarms.
 void AvecBruit(const Genre &genre, const Bruit &bruit, int nombre, std::uint64_t graine) {
@@ -94,7 +92,8 @@ void AvecBruit(const Genre &genre, const Bruit &bruit, int nombre, std::uint64_t
     testes += s.seuil > 0 ? 1 : 0;
     alarmes += s.improbable || s.sansNom ? 1 : 0;
     nord += (s.lieu.latitude - v.vrai.latitude) * 60 / s.ellipse.a;
-    est += std::remainder(s.lieu.longitude - v.vrai.longitude, 360) * 60 * std::cos(v.vrai.latitude * kRadian) / s.ellipse.a;
+    est += std::remainder(s.lieu.longitude - v.vrai.longitude, 360) * 60 * std::cos(v.vrai.latitude * kRadian) /
+           s.ellipse.a;
   }
   AttendPart(dedans, faits, 0.95, Raconte() ? 0 : 0.01);
   AttendPart(alarmes, testes, 0.01, 0.002);
@@ -102,8 +101,9 @@ void AvecBruit(const Genre &genre, const Bruit &bruit, int nombre, std::uint64_t
   EXPECT_LT(std::fabs(nord / faits), 4 / 2.45 / std::sqrt(faits));
   EXPECT_LT(std::fabs(est / faits), 4 / 2.45 / std::sqrt(faits));
   if (Raconte()) {
-    std::cout << faits << " fixes: " << 100.0 * dedans / faits << " % in the ellipse, alarms " << 100.0 * alarmes / testes
-              << " % of " << testes << ", mean " << nord / faits << " north, " << est / faits << " east of a half axis\n";
+    std::cout << faits << " fixes: " << 100.0 * dedans / faits << " % in the ellipse, alarms "
+              << 100.0 * alarmes / testes << " % of " << testes << ", mean " << nord / faits << " north, "
+              << est / faits << " east of a half axis\n";
   }
 }
 
