@@ -55,11 +55,14 @@ std::optional<Recherche> Cherche(const SystemePoint &systeme, const LieuNavire &
   auto equilibre = Equilibre(systeme, debut);
   const bool croise = SeCroisent(equilibre ? equilibre->matrices.azimuts : EquationsDe(systeme, debut).azimuts);
   const bool deux = systeme.visees.size() == 2;
-  if (!croise || !equilibre || (deux && equilibre->matrices.khi2 > kSansReste)) {
+  if (!equilibre || (deux && equilibre->matrices.khi2 > kSansReste)) {
     avis.insert(croise ? AvisPoint::SansSolution : AvisPoint::AzimutsSerres);
     return std::nullopt;
   }
-  Recherche recherche{systeme, std::move(*equilibre), {}};
+  Recherche recherche{systeme, std::move(*equilibre), !croise, {}};
+  if (recherche.serree) {
+    return recherche;
+  }
   AjouteInconnues(recherche, reglages, quarts);
   return recherche;
 }
@@ -134,9 +137,13 @@ void Resous(const SystemePoint &systeme, std::span<const ViseePoint> visees, con
     return;
   }
   std::sort(trouvees.begin(), trouvees.end(), Avant);
+  if (trouvees.front().serree) {
+    avis.insert(AvisPoint::AzimutsSerres); // another place, where they cross well, is the less likely one
+    return;
+  }
   fiche.solution = JugeEquilibre(trouvees.front().systeme, trouvees.front().equilibre, visees, reglages);
   PoseAvis(trouvees.front(), *fiche.solution, avis);
-  if (trouvees.size() > 1) {
+  if (trouvees.size() > 1 && !trouvees[1].serree) {
     SolutionPoint seconde = JugeEquilibre(trouvees[1].systeme, trouvees[1].equilibre, visees, reglages);
     if (seconde.chance > kSecondeAdmise) {
       fiche.seconde = std::move(seconde);
