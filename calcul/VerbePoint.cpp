@@ -12,7 +12,7 @@ void AjouteRoute(CLI::App &verbe, const Langue &dit, DemandePointDit &point) {
         point.cap = lue;
       })->type_name("C");
   CLI::Option *vitesse =
-      AjouteNombreLibre(verbe, dit, "--vitesse", dit("Vitesse, noeuds", "Speed, knots"), [&point](double lue) {
+      AjouteNombreLibre(verbe, dit, "--vitesse", dit("Vitesse, nœuds", "Speed, knots"), [&point](double lue) {
         point.vitesse = lue;
       })->type_name("V");
   const CLI::Option *route =
