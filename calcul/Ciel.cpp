@@ -1,6 +1,6 @@
 #include "calcul/Ciel.hpp"
 
-#include "calcul/Json.hpp"
+#include "calcul/outils/Json.hpp"
 #include "complements/ciel/Places.hpp"
 #include "ephemerides/TableEtoiles.hpp"
 #include "foundations/TexteNombre.hpp"

@@ -1,6 +1,6 @@
 #include "calcul/Etoile.hpp"
 
-#include "calcul/Json.hpp"
+#include "calcul/outils/Json.hpp"
 #include "ephemerides/Etoiles.hpp"
 #include "foundations/TexteNombre.hpp"
 

@@ -1,6 +1,6 @@
 #include "calcul/Horizon.hpp"
 
-#include "calcul/Json.hpp"
+#include "calcul/outils/Json.hpp"
 #include "foundations/CelHor.hpp"
 #include "foundations/Erreur.hpp"
 

@@ -1,6 +1,6 @@
 #include "calcul/Lune.hpp"
 
-#include "calcul/Json.hpp"
+#include "calcul/outils/Json.hpp"
 #include "ephemerides/ModulePosLune.hpp"
 #include "foundations/Erreur.hpp"
 

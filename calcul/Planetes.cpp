@@ -1,6 +1,6 @@
 #include "calcul/Planetes.hpp"
 
-#include "calcul/Json.hpp"
+#include "calcul/outils/Json.hpp"
 #include "ephemerides/ParamPlanet.hpp"
 #include "ephemerides/pLANETE.hpp"
 #include "foundations/Erreur.hpp"

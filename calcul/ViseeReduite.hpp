@@ -1,6 +1,6 @@
 #pragma once
 
-#include "calcul/Json.hpp"
+#include "calcul/outils/Json.hpp"
 #include "ephemerides/Etoiles.hpp"
 #include "foundations/Fichiers.hpp"
 #include "foundations/Messages.hpp"

@@ -2,11 +2,14 @@
 #include "calcul/Controle.hpp"
 #include "calcul/Etoile.hpp"
 #include "calcul/Horizon.hpp"
-#include "calcul/Langue.hpp"
-#include "calcul/Lot.hpp"
 #include "calcul/Lune.hpp"
 #include "calcul/Planetes.hpp"
+#include "calcul/Point.hpp"
 #include "calcul/Reduit.hpp"
+#include "calcul/VerbePoint.hpp"
+#include "calcul/outils/Arguments.hpp"
+#include "calcul/outils/Langue.hpp"
+#include "calcul/outils/Lot.hpp"
 #include "ephemerides/TableEtoiles.hpp"
 #include "foundations/Erreur.hpp"
 #include "shell/bureau/FichierLangue.hpp"
@@ -16,11 +19,9 @@
 
 #include <algorithm>
 #include <charconv>
-#include <cmath>
 #include <cstdio>
 #include <cstdlib>
 #include <filesystem>
-#include <functional>
 #include <iostream>
 #include <sstream>
 
@@ -44,6 +45,7 @@ struct Demande {
   DemandeLune lune;
   DemandePlanete planete;
   DemandeCiel ciel;
+  DemandePointDit point;
   double dut1 = 0.0; ///< UT1 - UTC of the sights that are checked, seconds
 };
 
@@ -134,49 +136,10 @@ int Ciel(const Demande &demande) {
   return Vide(sortie, demande.dit) && reussi ? kReussi : kEchec;
 }
 
-/// A whole argument as a number, "." being the decimal point; an infinity is none.
-/// @param valeur  left alone when the argument is not a number
-bool LitFigure(std::string_view texte, double &valeur) {
-  if (texte.starts_with('+') && !texte.starts_with("+-")) {
-    texte.remove_prefix(1);
-  }
-  double lu = 0.0;
-  const auto [fin, code] = std::from_chars(texte.data(), texte.data() + texte.size(), lu);
-  if (code != std::errc() || fin != texte.data() + texte.size() || !std::isfinite(lu)) {
-    return false;
-  }
-  valeur = lu;
-  return true;
-}
-
-/// An argument that must be a number.
-/// @return the argument, which may be left out until it is required
-CLI::Option *AjouteNombreLibre(CLI::App &verbe, const Langue &dit, const std::string &nom, const std::string &aide,
-                               const std::function<void(double)> &pose) {
-  return verbe
-      .add_option_function<std::string>(
-          nom,
-          [pose, &dit, nom](const std::string &texte) {
-            double valeur = 0;
-            if (!LitFigure(texte, valeur)) {
-              throw CLI::ValidationError(nom, texte + dit(" n'est pas un nombre", " isn't a number"));
-            }
-            pose(valeur);
-          },
-          aide)
-      ->type_name("");
-}
-
-/// A positional argument that must be there and be a number.
-void AjouteNombreLu(CLI::App &verbe, const Langue &dit, const std::string &nom, double &valeur,
-                    const std::string &aide) {
-  AjouteNombreLibre(verbe, dit, nom, aide, [&valeur](double lue) { valeur = lue; })->required();
-}
-
-void AjouteDut1(CLI::App &verbe, const Langue &dit, double &dut1) {
-  AjouteNombreLibre(verbe, dit, "--dut1", dit("UT1 moins UTC, secondes", "UT1 less UTC, seconds"), [&dut1](double lue) {
-    dut1 = lue;
-  })->type_name("S");
+int Point(const Demande &demande) {
+  std::string sortie;
+  const bool reussi = EcritPoint(demande.point, sortie);
+  return Vide(sortie, demande.dit) && reussi ? kReussi : kEchec;
 }
 
 /// The choice of the language of the texts.
@@ -383,6 +346,7 @@ int Execute(int argc, char **argv) {
   NommeAide(programme, dit);
   const CLI::App *reduit = DeclareReduit(programme, dit, demande);
   const CLI::App *controle = DeclareControle(programme, dit, demande);
+  const CLI::App *point = DeclarePoint(programme, dit, demande.point);
   const CLI::App *helio =
       DeclarePlanete(programme, dit, demande, "helio",
                      dit("Lieu héliocentrique d'une planète, \"L|B|R\"", "Heliocentric place of a planet, \"L|B|R\""));
@@ -410,6 +374,9 @@ int Execute(int argc, char **argv) {
   }
   if (controle->parsed()) {
     return Controle(demande);
+  }
+  if (point->parsed()) {
+    return Point(demande);
   }
   if (helio->parsed()) {
     return Planete(demande, EcritHelio);

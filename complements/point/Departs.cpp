@@ -40,33 +40,47 @@ LieuNavire Affine(const SystemePoint &systeme, const EquationVisee &a, const Equ
 
 } // namespace
 
-std::vector<LieuNavire> DepartsDe(const SystemePoint &systeme) {
-  const std::vector<EquationVisee> &visees = systeme.visees;
+std::vector<PaireVisees> PairesDe(const SystemePoint &systeme) {
+  constexpr std::size_t kPaires = 4;
   std::vector<CercleHauteur> cercles;
-  cercles.reserve(visees.size());
-  for (const EquationVisee &visee : visees) {
+  cercles.reserve(systeme.visees.size());
+  for (const EquationVisee &visee : systeme.visees) {
     cercles.push_back(CercleDe(*visee.hauteur, systeme.theorie));
   }
-  double meilleure = -1;
-  std::size_t i = 0;
-  std::size_t j = 0;
-  for (std::size_t a = 0; a < cercles.size(); ++a) {
-    for (std::size_t b = a + 1; b < cercles.size(); ++b) {
-      const double franchise = FranchiseCroisement(cercles[a], cercles[b]);
-      if (franchise > meilleure) {
-        meilleure = franchise;
-        i = a;
-        j = b;
+  std::vector<bool> prise(cercles.size(), false);
+  std::vector<PaireVisees> paires;
+  while (paires.size() < kPaires) {
+    double meilleure = -1;
+    PaireVisees paire{};
+    for (std::size_t a = 0; a < cercles.size(); ++a) {
+      for (std::size_t b = a + 1; b < cercles.size(); ++b) {
+        const double franchise = prise[a] && prise[b] ? -1 : FranchiseCroisement(cercles[a], cercles[b]);
+        if (franchise > meilleure) {
+          meilleure = franchise;
+          paire = {a, b};
+        }
       }
     }
+    if (meilleure < 0) {
+      break;
+    }
+    prise[paire[0]] = true;
+    prise[paire[1]] = true;
+    paires.push_back(paire);
   }
-  const auto croisement = i == j ? std::nullopt : CroiseCercles(cercles[i], cercles[j]);
+  return paires;
+}
+
+std::vector<LieuNavire> DepartsDe(const SystemePoint &systeme, const PaireVisees &paire) {
+  const EquationVisee &a = systeme.visees[paire[0]];
+  const EquationVisee &b = systeme.visees[paire[1]];
+  const auto croisement = CroiseCercles(CercleDe(*a.hauteur, systeme.theorie), CercleDe(*b.hauteur, systeme.theorie));
   if (!croisement) {
     return {};
   }
   std::vector<LieuNavire> departs;
   for (std::size_t lequel = 0; lequel < (croisement->coupe ? 2U : 1U); ++lequel) {
-    departs.push_back(Affine(systeme, visees[i], visees[j], lequel, croisement->lieux.at(lequel)));
+    departs.push_back(Affine(systeme, a, b, lequel, croisement->lieux.at(lequel)));
   }
   return departs;
 }

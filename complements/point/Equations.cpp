@@ -16,9 +16,6 @@ constexpr Eigen::Index kLieu = 2; ///< unknowns of the place
 constexpr Eigen::Index kFond = 2; ///< of the speed over the ground
 constexpr Eigen::Index kDoutes = 4;
 
-/// The first of the run's doubts among the unknowns.
-Eigen::Index PremierDoute(const SystemePoint &systeme) { return InconnuesLibres(systeme); }
-
 /// What moves with one unit of an unknown of the run, in the order of `ParametreRoute` from the course on.
 std::array<double, kDoutes> Unites(const SystemePoint &systeme) {
   return {systeme.doute.cap, systeme.doute.vitesse, systeme.doute.nord, systeme.doute.est};
@@ -54,26 +51,23 @@ Visee VueDuLieu(const HauteurPreparee &h, TheoriePoint theorie, const LieuNavire
 }
 
 /// One row: what each unknown makes of the computed height, minutes.
-Eigen::RowVectorXd LigneDe(const SystemePoint &systeme, const EquationVisee &visee, const ArriveePentes &a,
-                           const PenteHauteur &pente, double latitudeDuPoint) {
+std::vector<double> LigneDe(const SystemePoint &systeme, const EquationVisee &visee, const ArriveePentes &a,
+                            const PenteHauteur &pente, double latitudeDuPoint) {
   constexpr double kPresPole = 1E-6;
-  Eigen::RowVectorXd ligne = Eigen::RowVectorXd::Zero(InconnuesLibres(systeme) + kDoutes);
+  std::vector<double> ligne;
   const auto par = [&](std::size_t i) {
     return pente.latitude * a.latitude.at(i) + pente.longitude * a.longitude.at(i);
   };
-  ligne[0] = par(kLatitudeDepart) / kMinutes;
-  ligne[1] = par(kLongitudeDepart) / kMinutes / std::max(std::cos(latitudeDuPoint * kRadian), kPresPole);
-  for (Eigen::Index i = 0; i < systeme.communes; ++i) {
-    ligne[kLieu + i] = visee.communes.at(static_cast<std::size_t>(i));
-  }
+  ligne.push_back(par(kLatitudeDepart) / kMinutes);
+  ligne.push_back(par(kLongitudeDepart) / kMinutes / std::max(std::cos(latitudeDuPoint * kRadian), kPresPole));
+  ligne.insert(ligne.end(), visee.communes.begin(), visee.communes.end());
   if (systeme.fond) {
-    ligne[kLieu + systeme.communes] = par(kEcartNord);
-    ligne[kLieu + systeme.communes + 1] = par(kEcartEst);
+    ligne.insert(ligne.end(), {par(kEcartNord), par(kEcartEst), 0, 0, 0, 0});
     return ligne;
   }
   const auto unites = Unites(systeme);
   for (std::size_t i = 0; i < unites.size(); ++i) {
-    ligne[PremierDoute(systeme) + static_cast<Eigen::Index>(i)] = par(kEcartCap + i) * unites.at(i);
+    ligne.push_back(par(kEcartCap + i) * unites.at(i));
   }
   return ligne;
 }
@@ -138,7 +132,7 @@ EcartRoute EcartDeLEtat(const SystemePoint &systeme, const EtatPoint &etat) {
 
 MatricesPoint EquationsDe(const SystemePoint &systeme, const EtatPoint &etat) {
   const auto n = static_cast<Eigen::Index>(systeme.visees.size());
-  const EcartRoute ecart = EcartDeLEtat(systeme, etat);
+  const EcartRoute ecart = systeme.fond ? EcartDeLEtat(systeme, etat) : EcartRoute{};
   MatricesPoint m;
   m.lignes.resize(n, InconnuesLibres(systeme) + kDoutes);
   m.ecarts.resize(n);
@@ -149,13 +143,13 @@ MatricesPoint EquationsDe(const SystemePoint &systeme, const EtatPoint &etat) {
     const Visee vue = VueDuLieu(*visee.hauteur, systeme.theorie, lieu);
     const auto &h = *visee.hauteur;
     const double observee = systeme.theorie == TheoriePoint::Actuelle ? h.actuelle->observee : h.dite->observee;
-    double calculee = vue.hauteur * kMinutes;
-    for (Eigen::Index k = 0; k < systeme.communes; ++k) {
-      calculee += visee.communes.at(static_cast<std::size_t>(k)) * etat.reste[k];
-    }
     const PenteHauteur pente = PenteDe(h, systeme.theorie, vue.hauteur, vue.azimut, lieu.latitude);
-    m.lignes.row(i) = LigneDe(systeme, visee, a, pente, etat.lieu.latitude) / visee.ecartType;
-    m.ecarts[i] = (observee * kMinutes - calculee) / visee.ecartType;
+    const std::vector<double> ligne = LigneDe(systeme, visee, a, pente, etat.lieu.latitude);
+    m.lignes.row(i) = Eigen::RowVectorXd::Map(ligne.data(), m.lignes.cols());
+    const double commun = m.lignes.row(i).segment(kLieu, systeme.communes).dot(etat.reste.head(systeme.communes));
+    const double doute = m.lignes.row(i).tail(kDoutes).dot(etat.reste.tail(kDoutes));
+    m.ecarts[i] = ((observee - vue.hauteur) * kMinutes - commun - doute) / visee.ecartType;
+    m.lignes.row(i) /= visee.ecartType;
     m.azimuts.push_back(vue.azimut);
     m.lieux.push_back(lieu);
     m.auPole = m.auPole || a.arrivee.auPole;

@@ -65,7 +65,8 @@ EtatPoint EtatDe(const SystemePoint &systeme, const LieuNavire &lieu);
 /// What the run is off by in a state.
 EcartRoute EcartDeLEtat(const SystemePoint &systeme, const EtatPoint &etat);
 
-/// Works the equations out.
+/// Works the equations out. The doubts of the run act on the heights as they are linear along the logged track: that is
+/// the full covariance of the sights, and a blunder can't bend the track.
 MatricesPoint EquationsDe(const SystemePoint &systeme, const EtatPoint &etat);
 
 /// A state that no step makes better.

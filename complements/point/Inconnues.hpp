@@ -11,6 +11,7 @@ namespace velmaris {
 struct Recherche {
   SystemePoint systeme; ///< with the unknowns that were granted
   EquilibrePoint equilibre;
+  bool serree = false; ///< no two lines cross there well enough to make a fix
   std::vector<AvisPoint> refus;
 };
 

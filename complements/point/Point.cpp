@@ -3,6 +3,7 @@
 #include "complements/point/Departs.hpp"
 #include "complements/point/Inconnues.hpp"
 #include "complements/point/Jugement.hpp"
+#include "complements/point/Lois.hpp"
 #include "complements/point/Sphere.hpp"
 
 #include <algorithm>
@@ -54,11 +55,14 @@ std::optional<Recherche> Cherche(const SystemePoint &systeme, const LieuNavire &
   auto equilibre = Equilibre(systeme, debut);
   const bool croise = SeCroisent(equilibre ? equilibre->matrices.azimuts : EquationsDe(systeme, debut).azimuts);
   const bool deux = systeme.visees.size() == 2;
-  if (!croise || !equilibre || (deux && equilibre->matrices.khi2 > kSansReste)) {
+  if (!equilibre || (deux && equilibre->matrices.khi2 > kSansReste)) {
     avis.insert(croise ? AvisPoint::SansSolution : AvisPoint::AzimutsSerres);
     return std::nullopt;
   }
-  Recherche recherche{systeme, std::move(*equilibre), {}};
+  Recherche recherche{systeme, std::move(*equilibre), !croise, {}};
+  if (recherche.serree) {
+    return recherche;
+  }
   AjouteInconnues(recherche, reglages, quarts);
   return recherche;
 }
@@ -99,28 +103,47 @@ void PoseAvis(const Recherche &recherche, const SolutionPoint &solution, std::se
   }
 }
 
+bool SAccorde(const Recherche &r) {
+  const auto libertes = static_cast<Eigen::Index>(r.systeme.visees.size()) - InconnuesLibres(r.systeme);
+  return ChanceKhi2(r.equilibre.matrices.khi2, static_cast<int>(libertes)) >= kDesaccord;
+}
+
+/// The places that a search comes to from the crossings of a pair; those of further pairs as long as none agrees.
+std::vector<Recherche> ChercheLieux(const SystemePoint &systeme, const ReglagesPoint &reglages,
+                                    std::span<const int> quarts, std::set<AvisPoint> &raisons) {
+  std::vector<Recherche> trouvees;
+  for (const PaireVisees &paire : PairesDe(systeme)) {
+    for (const LieuNavire &depart : DepartsDe(systeme, paire)) {
+      auto recherche = Cherche(systeme, depart, reglages, quarts, raisons);
+      const auto meme = [&](const Recherche &r) { return MemeLieu(r, *recherche); };
+      if (recherche && std::none_of(trouvees.begin(), trouvees.end(), meme)) {
+        trouvees.push_back(std::move(*recherche));
+      }
+    }
+    if (std::any_of(trouvees.begin(), trouvees.end(), SAccorde)) {
+      break;
+    }
+  }
+  return trouvees;
+}
+
 /// All that can be said of two sights or more.
 void Resous(const SystemePoint &systeme, std::span<const ViseePoint> visees, const ReglagesPoint &reglages,
             FichePoint &fiche, std::set<AvisPoint> &avis) {
-  const std::vector<int> quarts = QuartsDeVisees(visees);
   std::set<AvisPoint> raisons;
-  std::vector<Recherche> trouvees;
-  const std::vector<LieuNavire> departs = DepartsDe(systeme);
-  for (const LieuNavire &depart : departs) {
-    auto recherche = Cherche(systeme, depart, reglages, quarts, raisons);
-    if (recherche && (trouvees.empty() || !MemeLieu(trouvees.front(), *recherche))) {
-      trouvees.push_back(std::move(*recherche));
-    }
-  }
+  std::vector<Recherche> trouvees = ChercheLieux(systeme, reglages, QuartsDeVisees(visees), raisons);
   if (trouvees.empty()) {
-    avis.insert(raisons.contains(AvisPoint::AzimutsSerres) || departs.empty() ? AvisPoint::AzimutsSerres
-                                                                              : AvisPoint::SansSolution);
+    avis.insert(raisons == std::set{AvisPoint::SansSolution} ? AvisPoint::SansSolution : AvisPoint::AzimutsSerres);
     return;
   }
   std::sort(trouvees.begin(), trouvees.end(), Avant);
+  if (trouvees.front().serree) {
+    avis.insert(AvisPoint::AzimutsSerres); // another place, where they cross well, is the less likely one
+    return;
+  }
   fiche.solution = JugeEquilibre(trouvees.front().systeme, trouvees.front().equilibre, visees, reglages);
   PoseAvis(trouvees.front(), *fiche.solution, avis);
-  if (trouvees.size() > 1) {
+  if (trouvees.size() > 1 && !trouvees[1].serree) {
     SolutionPoint seconde = JugeEquilibre(trouvees[1].systeme, trouvees[1].equilibre, visees, reglages);
     if (seconde.chance > kSecondeAdmise) {
       fiche.seconde = std::move(seconde);

@@ -34,6 +34,8 @@ ROWS = {
         "EtoileDansCiel": ("A star in a sky that is there", "that sky"),
         "Controle": ("A sight of {} checked, every cause and step", "its told reduction, with its texts"),
         "Glissades": ("A sight of {} searched for a slip", "the check alone"),
+        "PreparePoint": ("A sight made ready for fixes", "the sky of its moment alone"),
+        "Point": ("The fix of {}, ellipse and tests with it", "their heights from one place"),
     },
     "Sights, lines and files": {
         "ReductionSoleil": ("A Sun sight reduced, with its texts", "its bare functions in 64 bits, without a text"),

@@ -1,4 +1,4 @@
-#include "calcul/Langue.hpp"
+#include "calcul/outils/Langue.hpp"
 
 #include <array>
 #include <string_view>

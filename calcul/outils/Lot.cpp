@@ -1,4 +1,4 @@
-#include "calcul/Lot.hpp"
+#include "calcul/outils/Lot.hpp"
 
 #include <algorithm>
 #include <atomic>

@@ -1,4 +1,4 @@
-#include "calcul/Json.hpp"
+#include "calcul/outils/Json.hpp"
 
 #include <array>
 #include <charconv>
