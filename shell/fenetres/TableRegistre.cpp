@@ -32,7 +32,7 @@ constexpr LigneRegistre kRegistre[] = {
     {SEUL(Command5), Genre::Bouton, "", {9270, 6120, 1140, 390}, ".LoP...", "Ecrit chaque visée choisie dans un fichier"},
     {SEUL(Command6), Genre::Bouton, "", {10500, 6120, 1260, 390}, "Au point", "Retient les visées choisies pour le point"},
     {SEUL(Frame1), Genre::Groupe, "", {180, 6630, 14040, 2520}, "Montre"},
-    {SEUL(List1), Genre::ListeBoite, "Frame1", {180, 330, 6600, 2010}, "", "Comparaisons de la montre, la plus récente d'abord"},
+    {SEUL(List1), Genre::ListeBoite, "Frame1", {180, 420, 6600, 1920}, "", "Comparaisons de la montre, la plus récente d'abord"},
     {RANG(Label4, 0), Genre::Etiquette, "Frame1", {7020, 390, 3300, 255}, "Date et heure (UTC) :"},
     {RANG(Text3, 0), Genre::Champ, "Frame1", {10440, 360, 2400, 315}, "", "21/6/2026 12:05:30 ; vide, maintenant", {.par = "Label4", .parIndice = 0}},
     {RANG(Label4, 1), Genre::Etiquette, "Frame1", {7020, 810, 3300, 255}, "Avance (s) ; un retard, négative :"},

@@ -65,9 +65,10 @@ ReleveSaisi LitReleve(const std::array<std::string, 3> &textes, std::int64_t pre
 void AccordeMontre(Bureau &bureau) {
   Registre &f = bureau.registre;
   std::vector<std::string> lignes;
-  for (auto r = bureau.registreOuvert.montre.rbegin(); r != bureau.registreOuvert.montre.rend(); ++r) {
-    lignes.push_back(MotsDeReleve(f, *r));
+  for (const ReleveMontre &releve : bureau.registreOuvert.montre) {
+    lignes.push_back(MotsDeReleve(f, releve));
   }
+  std::reverse(lignes.begin(), lignes.end());
   if (lignes != f.List1.liste) {
     f.List1.liste = std::move(lignes);
     f.List1.rang = -1;

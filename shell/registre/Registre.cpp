@@ -55,7 +55,7 @@ void Reprend(Bureau &bureau, const std::string &nom, const std::function<void()>
 void PoseColonnes(Registre &f) {
   constexpr std::array<double, kColonnesRegistre> kLargeurs = {2350, 1750, 1500, 1350, 1200, 2050, 1500};
   constexpr std::array<Cote, kColonnesRegistre> kCotes = {Cote::Gauche, Cote::Gauche, Cote::Droite, Cote::Droite,
-                                                          Cote::Droite, Cote::Droite, Cote::Gauche};
+                                                          Cote::Droite, Cote::Centre, Cote::Gauche};
   std::vector<Colonne> &colonnes = f.Table1.tableau.colonnes;
   colonnes.resize(kColonnesRegistre);
   for (std::size_t i = 0; i < kColonnesRegistre; ++i) {

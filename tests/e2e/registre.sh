@@ -53,25 +53,25 @@ touche Tab Tab Tab space
 attends contient masques.csv masquee
 image "registre-$LANGUE-2-masquee"
 
-# Filters from the first field on, by way of the window's end.
-touche ctrl+n # no key of this window: the light stays
+# Filters, by dusk; the log opens with the keyboard in its list.
 touche Escape; attends boite_fermee "$LOG"
 xdotool windowfocus --sync "$FENETRE"
 touche ctrl+n ctrl+l
 attends boite_ouverte "$LOG"
 xdotool windowfocus --sync "$(fenetre_log)"; pause 0.5
-touche shift+Tab shift+Tab shift+Tab shift+Tab
+touche shift+Tab shift+Tab shift+Tab
 tape vega; touche Tab
-tape 2025
+tape 12/2025; touche Tab Tab
 pause 0.5
 image "registre-$LANGUE-3-crepuscule"
-touche Escape; attends boite_fermee "$LOG"
-xdotool windowfocus --sync "$FENETRE"
-touche ctrl+n ctrl+l
-attends boite_ouverte "$LOG"
-xdotool windowfocus --sync "$(fenetre_log)"; pause 0.5
-# The watch: from the note on past ten buttons and the list of comparisons.
-touche End shift+Up shift+Up
+# The watch, by night: past the note, nine buttons and the list of comparisons; an empty date is now.
+touche ctrl+n
+for _ in $(seq 13); do touche Tab; done
+tape 1,5; touche Return
+attends contient montre.csv ',1.5,0,'
+for _ in $(seq 11); do touche shift+Tab; done
+touche shift+Tab End shift+Up shift+Up
+pause 0.3
 image "registre-$LANGUE-4-nuit"
 touche Escape; attends boite_fermee "$LOG"
 xdotool windowfocus --sync "$FENETRE"

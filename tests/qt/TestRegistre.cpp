@@ -8,6 +8,7 @@
 #include "shell/registre/Registre.hpp"
 
 #include <QDialog>
+#include <QDragEnterEvent>
 #include <QDropEvent>
 #include <QMimeData>
 #include <QUrl>
@@ -90,9 +91,9 @@ TEST_F(FenetreDuRegistre, TheKeyboardIsInTheListAndReturnTakesARowUp) {
 TEST_F(FenetreDuRegistre, MadeLargerItShowsMoreRowsAndItsSizeIsKept) {
   OuvreLog(kPetitEcran);
   const int avant = table->height();
-  journal->resize(journal->size() + QSize(40, 120));
+  journal->resize(journal->size() + QSize(0, 30));
   QApplication::processEvents();
-  EXPECT_NEAR(table->height(), avant + 120, 2);
+  EXPECT_NEAR(table->height(), avant + 30, 2);
   const QSize taille = journal->size();
   Verifie();
   Joue([this] { ClicControle(bureau, bureau.registre.Command7); });
@@ -112,6 +113,9 @@ TEST_F(FenetreDuRegistre, AFileOfASightDroppedOnItComesIn) {
   const std::string panneau = d.Text13.texte;
   QMimeData fichiers;
   fichiers.setUrls({QUrl::fromLocalFile(QString(VELMARIS_DONNEES) + "/exemples/24SEP26 203025.LoP")});
+  QDragEnterEvent arrivee({10, 10}, Qt::CopyAction, &fichiers, Qt::LeftButton, Qt::NoModifier);
+  QApplication::sendEvent(journal, &arrivee);
+  EXPECT_TRUE(arrivee.isAccepted());
   QDropEvent depot(QPointF(10, 10), Qt::CopyAction, &fichiers, Qt::LeftButton, Qt::NoModifier);
   QApplication::sendEvent(journal, &depot);
   QApplication::processEvents();

@@ -47,7 +47,8 @@ FenetreRegistre::FenetreRegistre(Scene &scene, QWidget *parent)
   setMinimumSize((Taille() - QSize(0, static_cast<int>(moins * f))).boundedTo(libre));
   resize(Taille().boundedTo(libre));
   ReprendSaTaille();
-  Redimensionne();
+  DisposeRegistre(bureau_, width() / f, height() / f);
+  enTaille_ = false;
 }
 
 double FenetreRegistre::EchelleVoulue() const {

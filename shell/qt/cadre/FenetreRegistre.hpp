@@ -19,7 +19,9 @@ protected:
 
 private:
   Bureau &bureau_;
-  bool enTaille_ = false; ///< a new size is being laid out: one that comes meanwhile waits
+  /// A new size is being laid out: one that comes meanwhile waits. Until the window is made no event may be played:
+  /// the window isn't known yet, and would be made again.
+  bool enTaille_ = true;
 };
 
 } // namespace velmaris::qt
