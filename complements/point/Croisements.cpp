@@ -25,13 +25,16 @@ std::optional<Croisement> CroiseCercles(const CercleHauteur &a, const CercleHaut
   return Croisement{{LieuDe(Ajoute(pied, k, normale)), LieuDe(Ajoute(pied, -k, normale))}, reste >= 0};
 }
 
-double FranchiseCroisement(const CercleHauteur &a, const CercleHauteur &b) {
-  const double produit = std::cos(a.hauteur * kRadian) * std::cos(b.hauteur * kRadian);
+CerclePret PretDe(const CercleHauteur &cercle) {
+  return {DirectionDe(cercle.sous), std::sin(cercle.hauteur * kRadian), std::cos(cercle.hauteur * kRadian)};
+}
+
+double FranchiseCroisement(const CerclePret &a, const CerclePret &b) {
+  const double produit = a.cosinus * b.cosinus;
   if (!(produit > 0)) {
     return 0;
   }
-  const double entre = std::cos(EcartLieux(a.sous, b.sous) * kRadian);
-  const double cosinus = (entre - std::sin(a.hauteur * kRadian) * std::sin(b.hauteur * kRadian)) / produit;
+  const double cosinus = (Scalaire(a.sous, b.sous) - a.sinus * b.sinus) / produit;
   return std::sqrt(std::max(1 - cosinus * cosinus, 0.0));
 }
 

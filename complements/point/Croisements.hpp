@@ -1,5 +1,6 @@
 #pragma once
 
+#include "complements/ciel/Vecteurs.hpp"
 #include "complements/point/Route.hpp"
 
 #include <array>
@@ -23,9 +24,18 @@ struct Croisement {
 /// @return nothing where they have one centre, or two that face each other
 std::optional<Croisement> CroiseCercles(const CercleHauteur &a, const CercleHauteur &b);
 
+/// A circle with its trigonometry, for many pairs.
+struct CerclePret {
+  Vecteur3 sous{};    ///< direction of the centre
+  double sinus = 0;   ///< of the height
+  double cosinus = 0; ///< of the height
+};
+
+CerclePret PretDe(const CercleHauteur &cercle);
+
 /// How squarely two circles cross: the sine of the angle between the directions to their centres.
 /// @return 0 to 1; 0 where they don't cross
-double FranchiseCroisement(const CercleHauteur &a, const CercleHauteur &b);
+double FranchiseCroisement(const CerclePret &a, const CerclePret &b);
 
 /// The circle turned by what takes one place to another, so that the second has the height that the first had.
 CercleHauteur TourneCercle(const CercleHauteur &cercle, const LieuNavire &de, const LieuNavire &a);

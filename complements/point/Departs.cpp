@@ -42,10 +42,10 @@ LieuNavire Affine(const SystemePoint &systeme, const EquationVisee &a, const Equ
 
 std::vector<PaireVisees> PairesDe(const SystemePoint &systeme) {
   constexpr std::size_t kPaires = 4;
-  std::vector<CercleHauteur> cercles;
+  std::vector<CerclePret> cercles;
   cercles.reserve(systeme.visees.size());
   for (const EquationVisee &visee : systeme.visees) {
-    cercles.push_back(CercleDe(*visee.hauteur, systeme.theorie));
+    cercles.push_back(PretDe(CercleDe(*visee.hauteur, systeme.theorie)));
   }
   std::vector<bool> prise(cercles.size(), false);
   std::vector<PaireVisees> paires;

@@ -158,12 +158,11 @@ MatricesPoint EquationsDe(const SystemePoint &systeme, const EtatPoint &etat) {
   return m;
 }
 
-std::optional<EquilibrePoint> Equilibre(const SystemePoint &systeme, const EtatPoint &depart) {
+std::optional<EquilibrePoint> Equilibre(const SystemePoint &systeme, const EtatPoint &depart, int tours) {
   constexpr double kAtteint = 0.001; ///< miles
-  constexpr int kTours = 60;
   constexpr int kMoities = 12;
   EquilibrePoint e{depart, EquationsDe(systeme, depart), {}};
-  for (int tour = 0; tour < kTours; ++tour) {
+  for (int tour = 0; tour < tours; ++tour) {
     Eigen::MatrixXd normales = NormalesDe(e.matrices);
     const auto pas = PasDe(e.etat, e.matrices, normales);
     if (!pas || !Determine(normales)) {

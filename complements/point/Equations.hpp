@@ -76,9 +76,13 @@ struct EquilibrePoint {
   Eigen::MatrixXd cofacteurs; ///< covariances of the unknowns by the assumed errors
 };
 
+/// Steps of a walk that may take its time: few need ten.
+inline constexpr int kTours = 60;
+
 /// Walks to the least sum of squares by Gauss and Newton's steps, each halved until it makes the sum smaller, to within
 /// 0.001 minute.
+/// @param tours  steps after which it is given up
 /// @return nothing where the equations don't determine the unknowns, or no end is found
-std::optional<EquilibrePoint> Equilibre(const SystemePoint &systeme, const EtatPoint &depart);
+std::optional<EquilibrePoint> Equilibre(const SystemePoint &systeme, const EtatPoint &depart, int tours = kTours);
 
 } // namespace velmaris

@@ -47,12 +47,13 @@ SystemePoint SystemeDe(std::span<const ViseePoint> visees, const ReglagesPoint &
 }
 
 /// Walks from one start.
+/// @param tours  steps after which it is given up
 /// @return nothing where no place comes of it; `avis` tells why
 std::optional<Recherche> Cherche(const SystemePoint &systeme, const LieuNavire &depart, const ReglagesPoint &reglages,
-                                 std::span<const int> quarts, std::set<AvisPoint> &avis) {
+                                 std::span<const int> quarts, int tours, std::set<AvisPoint> &avis) {
   constexpr double kSansReste = 0.01; ///< two circles that don't cross leave more
   const EtatPoint debut = EtatDe(systeme, depart);
-  auto equilibre = Equilibre(systeme, debut);
+  auto equilibre = Equilibre(systeme, debut, tours);
   const bool croise = SeCroisent(equilibre ? equilibre->matrices.azimuts : EquationsDe(systeme, debut).azimuts);
   const bool deux = systeme.visees.size() == 2;
   if (!equilibre || (deux && equilibre->matrices.khi2 > kSansReste)) {
@@ -108,19 +109,33 @@ bool SAccorde(const Recherche &r) {
   return ChanceKhi2(r.equilibre.matrices.khi2, static_cast<int>(libertes)) >= kDesaccord;
 }
 
-/// The places that a search comes to from the crossings of a pair; those of further pairs as long as none agrees.
+/// The starts of a pair, the one that leaves less first.
+std::vector<LieuNavire> DepartsOrdonnes(const SystemePoint &systeme, const PaireVisees &paire) {
+  std::vector<LieuNavire> departs = DepartsDe(systeme, paire);
+  const auto reste = [&](const LieuNavire &lieu) { return EquationsDe(systeme, EtatDe(systeme, lieu)).khi2; };
+  if (departs.size() == 2 && reste(departs[1]) < reste(departs[0])) {
+    std::swap(departs[0], departs[1]);
+  }
+  return departs;
+}
+
+/// The places that a search comes to from the crossings of a pair; those of further pairs as long as none agrees. Once
+/// one does, another that agrees as well is as near its start, and no long walk is worth it.
 std::vector<Recherche> ChercheLieux(const SystemePoint &systeme, const ReglagesPoint &reglages,
                                     std::span<const int> quarts, std::set<AvisPoint> &raisons) {
+  constexpr int kToursDouble = 8;
   std::vector<Recherche> trouvees;
+  bool accord = false;
   for (const PaireVisees &paire : PairesDe(systeme)) {
-    for (const LieuNavire &depart : DepartsDe(systeme, paire)) {
-      auto recherche = Cherche(systeme, depart, reglages, quarts, raisons);
+    for (const LieuNavire &depart : DepartsOrdonnes(systeme, paire)) {
+      auto recherche = Cherche(systeme, depart, reglages, quarts, accord ? kToursDouble : kTours, raisons);
       const auto meme = [&](const Recherche &r) { return MemeLieu(r, *recherche); };
       if (recherche && std::none_of(trouvees.begin(), trouvees.end(), meme)) {
+        accord = accord || SAccorde(*recherche);
         trouvees.push_back(std::move(*recherche));
       }
     }
-    if (std::any_of(trouvees.begin(), trouvees.end(), SAccorde)) {
+    if (accord) {
       break;
     }
   }

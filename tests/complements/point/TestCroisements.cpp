@@ -54,9 +54,9 @@ TEST(TwoCircles, CrossAsSquarelyAsTheDirectionsOfTheirCentresPart) {
   for (const double angle : {10.0, 45.0, 90.0, 135.0, 175.0}) {
     const CercleHauteur a{GrandCercle(lieu, 20, 50), 40};
     const CercleHauteur b{GrandCercle(lieu, 20 + angle, 30), 60};
-    EXPECT_NEAR(FranchiseCroisement(a, b), std::sin(angle * kRadian), 1E-9) << angle;
+    EXPECT_NEAR(FranchiseCroisement(PretDe(a), PretDe(b)), std::sin(angle * kRadian), 1E-9) << angle;
   }
-  EXPECT_EQ(FranchiseCroisement({{0, 0}, 80}, {{0, 90}, 80}), 0);
+  EXPECT_EQ(FranchiseCroisement(PretDe({{0, 0}, 80}), PretDe({{0, 90}, 80})), 0);
 }
 
 TEST(TwoCircles, ACircleThatIsTurnedHasAtTheSecondPlaceWhatItHadAtTheFirst) {
