@@ -11,7 +11,12 @@ export LC_ALL="${LC_ALL:-C.UTF-8}" TZ="${TZ:-UTC}"
 MAGASIN="$XDG_DATA_HOME/velmaris/valeurs.sqlite"
 mkdir -p "$IMAGES" "$XDG_DATA_HOME"
 
-echoue() { echo "ÉCHEC : $*" >&2; exit 1; }
+# Ends the journey; what the screen shows is left as a picture.
+echoue() {
+  echo "ÉCHEC : $*" >&2
+  import -window root "$IMAGES/echec-$(basename "$0" .sh)-${LANGUE:-}.png" 2>/dev/null || true
+  exit 1
+}
 
 # Waits up to three minutes for a command to succeed: a busy machine takes its time.
 attends() {
