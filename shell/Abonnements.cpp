@@ -29,6 +29,7 @@
 #include "shell/ecran/Rangement.hpp"
 #include "shell/registre/FichiersRegistre.hpp"
 #include "shell/registre/Registre.hpp"
+#include "shell/point/Point.hpp"
 #include "shell/visee/Annulation.hpp"
 #include "shell/visee/Astres.hpp"
 #include "shell/visee/Saisie.hpp"
@@ -63,6 +64,12 @@ std::string NomDroite(const Bureau &bureau, int ligne) {
 /// An event that undo takes back.
 template <std::string (*Nom)(const Bureau &, int), Fonction Geste> void Revocable(Bureau &bureau, int indice) {
   RetientGeste(bureau, Nom(bureau, indice), [&] { Geste(bureau, indice); });
+}
+
+/// "Ecran": the sheet is cleared, and the fix is put away.
+void EffaceEcran(Bureau &bureau, int indice) {
+  Command6_Click(bureau, indice);
+  RetirePoint(bureau);
 }
 
 constexpr std::size_t kOuvre = 1; ///< captions of the toolbar
@@ -127,6 +134,17 @@ constexpr Abonnement kApropos[] = {
 };
 
 // NOLINTNEXTLINE(cppcoreguidelines-avoid-c-arrays,modernize-avoid-c-arrays)
+constexpr Abonnement kPoint[] = {
+    {"Text1", Evenement::Change, point::Champ_Change},    {"Text2", Evenement::Change, point::Text2_Change},
+    {"Text4", Evenement::Change, point::Champ_Change},    {"Text5", Evenement::Change, point::Champ_Change},
+    {"Visees", Evenement::Coche, point::Visees_Coche},    {"Visees", Evenement::Clic, point::Visees_Click},
+    {"Jambes", Evenement::Clic, point::Jambes_Click},     {"Check1", Evenement::Clic, point::Case_Click},
+    {"Check2", Evenement::Clic, point::Case_Click},       {"Check3", Evenement::Clic, point::Check3_Click},
+    {"Check4", Evenement::Clic, point::Check4_Click},     {"Command1", Evenement::Clic, point::Command1_Click},
+    {"Command2", Evenement::Clic, point::Command2_Click}, {"Command3", Evenement::Clic, point::Command3_Click},
+};
+
+// NOLINTNEXTLINE(cppcoreguidelines-avoid-c-arrays,modernize-avoid-c-arrays)
 constexpr Abonnement kFiche[] = {
     {"Text1", Evenement::Change, fiche::Text1_Change},
     {"Command1", Evenement::Clic, fiche::Command1_Click},
@@ -175,13 +193,16 @@ constexpr Abonnement kDonnees[] = {
     {"LabControle", Evenement::Clic, OuvreFiche_Click},
     {"PU_Fiche", Evenement::Clic, OuvreFiche_Click},
     {"PU_Registre", Evenement::Clic, OuvreRegistre_Click},
+    {"PU_Point", Evenement::Clic, OuvrePoint_Click},
+    {"PU_PointTrace", Evenement::Clic, PU_PointTrace_Click},
+    {"PU_Sillage", Evenement::Clic, PU_Sillage_Click},
     {"Command3", Evenement::Clic, Command3_Click},
     {"Command4", Evenement::Clic, Revocable<NomBouton<kOuvre>, Command4_Click>},
     {"Command4", Evenement::ClicLong, OuvreRecentes},
     {"FlecheOuvre", Evenement::Clic, OuvreRecentes},
     {"Recente", Evenement::Clic, Recente_Click},
     {"Command5", Evenement::Clic, Command5_Click},
-    {"Command6", Evenement::Clic, Revocable<NomBouton<kEcran>, Command6_Click>},
+    {"Command6", Evenement::Clic, Revocable<NomBouton<kEcran>, EffaceEcran>},
     {"Command8", Evenement::Clic, Revocable<NomBouton<kMemoire>, Command8_Click>},
     {"Droite", Evenement::Clic, Revocable<NomDroite, Droite_Click>},
     {"Option1", Evenement::Clic, Option1_Click},
@@ -279,6 +300,9 @@ std::span<const Abonnement> AbonnementsDe(std::string_view fenetre) {
   }
   if (fenetre == kFenetreApropos) {
     return kApropos;
+  }
+  if (fenetre == kFenetrePoint) {
+    return kPoint;
   }
   if (fenetre == kFenetreFiche) {
     return kFiche;

@@ -13,6 +13,7 @@
 #include "shell/carte/Souris.hpp"
 #include "shell/ciel/EcranCiel.hpp"
 #include "shell/complements/Verification.hpp"
+#include "shell/point/Point.hpp"
 #include "shell/droites/Bouts.hpp"
 #include "shell/droites/Droites.hpp"
 #include "shell/droites/MemoireDroites.hpp"
@@ -185,6 +186,7 @@ void Donnees_Charge(Bureau &bureau, const Ecran &ecran) {
   LitTaille(bureau);
   LitDisposition(bureau);
   LitReglagesVerification(bureau);
+  LitReglagesPoint(bureau);
   DisposeFenetre(bureau, ecran);
   d.ImAstre[0].image = d.Soleil.image;
   bureau.TitreFichier = bureau.messages[9];
@@ -281,8 +283,10 @@ bool ToucheControle(Bureau &bureau, char lettre) {
     OuvreFiche_Click(bureau, -1);
   } else if (lettre == 'L') {
     OuvreRegistre_Click(bureau, -1);
+  } else if (lettre == 'G') {
+    OuvrePoint_Click(bureau, -1);
   }
-  return bouton != nullptr || lettre == 'I' || lettre == 'L';
+  return bouton != nullptr || lettre == 'I' || lettre == 'L' || lettre == 'G';
 }
 
 bool ToucheMenu(Bureau &bureau, const Controle *pointe, Point place, const Controle *clavier) {
@@ -320,6 +324,7 @@ void Image10_Click(Bureau &bureau, int indice) {
   ChargeLangue(bureau, kFenetreEtat);
   ChargeLangue(bureau, kFenetreFiche);
   ChargeLangue(bureau, kFenetreRegistre);
+  ChargeLangue(bureau, kFenetrePoint);
   PoseDomaines(bureau);
   if (bureau.fselect.chargee) {
     ChargeLangue(bureau, kFenetreFSelect);

@@ -25,7 +25,7 @@ inline constexpr int kToucheF1 = 112;
 bool Donnees_KeyDown(Bureau &bureau, int code);
 
 /// A letter with the control key: S saves, O opens, P shows the print page, Q leaves, each by its button;
-/// I opens the check sheet, L the log.
+/// I opens the check sheet, L the log, G the fix in figures.
 /// @param lettre  a capital
 /// @return whether it does something here
 bool ToucheControle(Bureau &bureau, char lettre);

@@ -21,6 +21,7 @@ Bureau::Bureau() {
   InitialiseEtat(etat);
   InitialiseFiche(fiche);
   InitialiseRegistre(registre);
+  InitialiseFenetrePoint(fenetrePoint);
 }
 
 Bureau::~Bureau() = default;
@@ -50,12 +51,15 @@ ListeControles ControlesDe(Bureau &bureau, std::string_view fenetre) {
   if (fenetre == kFenetreRegistre) {
     return Liste(bureau.registre);
   }
+  if (fenetre == kFenetrePoint) {
+    return Liste(bureau.fenetrePoint);
+  }
   return fenetre == kFenetreImpression ? Liste(bureau.impression) : ListeControles();
 }
 
 std::vector<CadreFenetre *> FenetresLibres(Bureau &bureau) {
   return {&bureau.utilisateur.cadre, &bureau.ciel.cadre, &bureau.impression.cadre, &bureau.fiche.cadre,
-          &bureau.registre.cadre};
+          &bureau.registre.cadre,    &bureau.fenetrePoint.cadre};
 }
 
 Surface *SurfaceDe(Bureau &bureau, const Controle &controle) {

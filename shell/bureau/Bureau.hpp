@@ -13,6 +13,7 @@
 #include "lines/FichierLoP.hpp"
 #include "lines/Transport.hpp"
 #include "shell/bureau/EtatRevocable.hpp"
+#include "shell/bureau/PointOuvert.hpp"
 #include "shell/bureau/Ports.hpp"
 #include "shell/bureau/RegistreOuvert.hpp"
 #include "shell/bureau/Verification.hpp"
@@ -21,6 +22,7 @@
 #include "shell/fenetres/Donnees.hpp"
 #include "shell/fenetres/Etat.hpp"
 #include "shell/fenetres/FSelect.hpp"
+#include "shell/fenetres/FenetrePoint.hpp"
 #include "shell/fenetres/Fiche.hpp"
 #include "shell/fenetres/Impression.hpp"
 #include "shell/fenetres/Registre.hpp"
@@ -108,6 +110,7 @@ struct Bureau {
   Etat etat;
   Fiche fiche;
   Registre registre;
+  FenetrePoint fenetrePoint;
   Ecran ecran;                           ///< that it has started on
   double largeurFenetre = 0.0;           ///< of the main window, 1/1440 inch
   double hauteurFenetre = 0.0;           ///< of the main window, 1/1440 inch
@@ -155,6 +158,7 @@ struct Bureau {
   std::string NomAstre;                    ///< name of the body of the last reduced line
   std::optional<Observation> viseeReduite; ///< the sight whose results are shown
   Verification verification;               ///< of that sight
+  PointOuvert point;                       ///< the fix in figures
   Annulations annulations;                 ///< what can be undone and redone
   RegistreOuvert registreOuvert;           ///< all sights ever reduced
 

@@ -75,6 +75,22 @@ void ChargeDroite(Bureau &bureau, int ligne) {
   PoseChamps(bureau, lue.textes);
 }
 
+std::optional<Observation> ObservationGardee(Bureau &bureau, int ligne) {
+  if (LitChampDroite(bureau, "AS(", ligne).empty()) {
+    return std::nullopt;
+  }
+  const DroiteLue lue = LitDroite(bureau, ligne);
+  const auto choix = [](int numero, int aucun) { return numero >= 0 && numero < aucun ? numero : aucun; };
+  Observation o = lue.textes;
+  o.corps = static_cast<Corps>(choix(lue.corps, static_cast<int>(Corps::Aucun)));
+  o.planete = o.corps == Corps::Planetes && lue.rang < kNombrePlanetes ? lue.rang : -1;
+  o.etoile = o.corps == Corps::Etoiles && lue.rang < kNombreEtoiles ? lue.rang : -1;
+  o.bord = static_cast<Bord>(choix(lue.bord, static_cast<int>(Bord::Aucun)));
+  o.horizon = static_cast<Horizon>(choix(lue.horizon, static_cast<int>(Horizon::Aucun)));
+  o.fraction = lue.fraction == 0 ? Fraction::Secondes : Fraction::Centiemes;
+  return o;
+}
+
 void MajListeDroites(Bureau &bureau) {
   Donnees &d = bureau.donnees;
   bureau.valeurs->EnsembleLu([&] {

@@ -2,6 +2,8 @@
 
 #include "shell/bureau/Bureau.hpp"
 
+#include <optional>
+
 namespace velmaris {
 
 /// A field of a stored line, empty when it was never stored.
@@ -19,6 +21,10 @@ void EffaceDroite(Bureau &bureau, int ligne);
 /// Pours a stored line into the panel, field by field, each with what its change sets in motion. A choice that doesn't
 /// exist changes nothing.
 void ChargeDroite(Bureau &bureau, int ligne);
+
+/// A stored line as a sight of its own; the panel stays as it is. A choice that doesn't exist is none.
+/// @return nothing for a line that was never stored, or erased
+std::optional<Observation> ObservationGardee(Bureau &bureau, int ligne);
 
 /// Shows what the store holds of the four lines: date, time, and the body's name as the button's tool tip.
 void MajListeDroites(Bureau &bureau);

@@ -28,10 +28,12 @@ struct Bout {
   Controle &nord, &sud, &est, &ouest;
 };
 
-Bout Depart(Donnees &d) { return {d.Text14, d.Text16, d.Text17, d.Text18, d.OptN[2], d.OptN[3], d.OptE[2], d.OptE[3]}; }
+Bout BoutDepart(Donnees &d) {
+  return {d.Text14, d.Text16, d.Text17, d.Text18, d.OptN[2], d.OptN[3], d.OptE[2], d.OptE[3]};
+}
 
 /// In the arrival's rows the minutes have the lower numbers.
-Bout Arrivee(Donnees &d) {
+Bout BoutArrivee(Donnees &d) {
   return {d.Text20, d.Text19, d.Text22, d.Text21, d.OptN[5], d.OptN[4], d.OptE[5], d.OptE[4]};
 }
 
@@ -125,10 +127,10 @@ void PositionEstimee_Click(Bureau &bureau, int /*indice*/) {
 
 void Command10_Click(Bureau &bureau, int /*indice*/) {
   Donnees &d = bureau.donnees;
-  const PlaceRoute depart = Lit(Depart(d));
-  const PlaceRoute arrivee = Lit(Arrivee(d));
-  MontreDegres(Depart(d), depart);
-  MontreDegres(Arrivee(d), arrivee);
+  const PlaceRoute depart = Lit(BoutDepart(d));
+  const PlaceRoute arrivee = Lit(BoutArrivee(d));
+  MontreDegres(BoutDepart(d), depart);
+  MontreDegres(BoutArrivee(d), arrivee);
   const CapDistance resultat = CalculeOuExplique(d, depart, arrivee);
   if (resultat.memePoint) {
     bureau.ports.boite({.texte = bureau.messages[4], .titre = bureau.messages[5], .icone = Icone::Attention});
@@ -141,10 +143,10 @@ void Command10_Click(Bureau &bureau, int /*indice*/) {
 void RemplitBoutRoute(Bureau &bureau, int ligne) {
   Donnees &d = bureau.donnees;
   if (d.Option2.choisi) {
-    Remplit(bureau, Depart(d), ligne);
+    Remplit(bureau, BoutDepart(d), ligne);
     PoseOption(bureau, d.Option3);
   } else {
-    Remplit(bureau, Arrivee(d), ligne);
+    Remplit(bureau, BoutArrivee(d), ligne);
   }
 }
 

@@ -24,7 +24,7 @@ struct Donnees {
   Controle PopUp, PU_Carte, PU_Centre, PU_Distance, PU_Coord, PU_Modules, PU_DM, PU_D, PU_S, PU_C, PU_E, PU_Caps;
   Controle PU_Clear, PU_Exit, PU_Apropos, PU_Nuit, PU_Crepuscule, PU_Terres, PU_Bouts, PU_Secours, PU_Quitter;
   Controle PU_Taille, PU_TaillePlus, PU_TailleMoins, PU_TailleAuto, PU_PleinEcran, PU_Annule, PU_Retablit;
-  Controle PU_Complements, PU_Fiche, PU_Registre;
+  Controle PU_Complements, PU_Fiche, PU_Registre, PU_Point, PU_PointTrace, PU_Sillage;
   Controle PU_Ranger, PU_Disposition, PU_Copier, PU_CopieImage, PU_CopiePoint, PU_Image;
   std::array<Controle, 7> PU_Trait;
 

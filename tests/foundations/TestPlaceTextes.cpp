@@ -209,7 +209,9 @@ TEST_F(TextesPlaces, NamesOfLinesComeBeforeThoseOfPlacesAndAfterFigures) {
 
 TEST_F(TextesPlaces, WordsOfTheLayerAreShownWhetherNamesOfLinesAreOrNot) {
   surface.etiquettes.push_back(Nom({3000, 3000}, {8000, 8000}));
-  surface.calque.etiquettes.push_back({{kNoir, {}, {5000, 5000}, "06:12", {GenreTexte::Bout}}, {5000, 5000}});
+  Etiquette heure = Nom({5000, 5000}, {5000, 5000});
+  heure.texte.texte = "06:12";
+  surface.calque.etiquettes.push_back(heure);
   EXPECT_EQ(Coin(Zone("06:12")), (Point{5000, 5000}));
   EXPECT_EQ(Montres().size(), 2U);
   surface.etiquetee = false;

@@ -24,6 +24,7 @@ ETAGES = (
     ("shell/ecran", "shell/ciel"),
     ("shell/droites",),
     ("shell/carte", "shell/registre"),
+    ("shell/point",),
     ("shell",),
     ("calcul/outils",),
     ("calcul", "shell/qt/peinture"),

@@ -5,6 +5,7 @@
 #include "shell/complements/Verification.hpp"
 #include "shell/ecran/Echelle.hpp"
 #include "shell/ecran/Statut.hpp"
+#include "shell/point/Point.hpp"
 #include "shell/qt/peinture/Apparat.hpp"
 #include "shell/qt/peinture/Apparence.hpp"
 #include "shell/qt/peinture/Grandeur.hpp"
@@ -95,6 +96,7 @@ void Scene::Accorde() {
     JugeChamps(bureau_);
     AccordeVerification(bureau_);
     AccordeRegistre(bureau_);
+    AccordePoint(bureau_);
     AccordeStatut(bureau_);
     AccordeEclairage(bureau_.eclairage);
     AccordeGrandeur(EchelleFenetre(bureau_));

@@ -1,0 +1,405 @@
+#include "shell/point/Point.hpp"
+
+#include "complements/point/PointsGardes.hpp"
+#include "foundations/Erreur.hpp"
+#include "foundations/Fichiers.hpp"
+#include "foundations/TexteNombre.hpp"
+#include "shell/bureau/Avis.hpp"
+#include "shell/bureau/Evenements.hpp"
+#include "shell/point/CalquePoint.hpp"
+#include "shell/point/LecturePoint.hpp"
+#include "shell/point/MotsPoint.hpp"
+#include "shell/point/SourcesPoint.hpp"
+#include "shell/point/TableauxPoint.hpp"
+#include "shell/registre/Registre.hpp"
+#include "shell/visee/Annulation.hpp"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <string_view>
+
+namespace velmaris {
+namespace {
+
+/// Where the store keeps the doubts, in the order of their fields.
+constexpr std::array<std::string_view, 4> kCles = {"PointHauteur", "PointCap", "PointVitesse", "PointCourant"};
+constexpr std::string_view kCleSillage = "Sillage";
+constexpr double kJoursSillage = 7;
+
+std::filesystem::path FichierPoints(const Bureau &bureau) { return bureau.dossiers.utilisateur / "points.csv"; }
+
+/// The solution that is looked at: of two, the one that the user has chosen.
+const SolutionPoint *SolutionVue(const PointOuvert &point, const FichePoint &fiche) {
+  const std::optional<SolutionPoint> &vue = point.seconde && fiche.seconde ? fiche.seconde : fiche.solution;
+  return vue ? &*vue : nullptr;
+}
+
+/// The fix that counts: by the sky of today, or for want of it by the told lines.
+const SolutionPoint *SolutionRetenue(const PointOuvert &point) {
+  const SolutionPoint *actuelle = SolutionVue(point, point.actuelle);
+  return actuelle != nullptr ? actuelle : SolutionVue(point, point.dite);
+}
+
+void PoseResultats(const FenetrePoint &f, const PointOuvert &point, const FichePoint &fiche,
+                   std::array<Controle, 4> &rangees) {
+  const SolutionPoint *solution = SolutionVue(point, fiche);
+  rangees[0].legende = solution != nullptr ? TexteLieu(solution->lieu) : f.TexteSansPoint.legende;
+  rangees[1].legende = solution != nullptr ? TexteEllipse(solution->ellipse) : "";
+  rangees[2].legende = solution != nullptr && solution->parResidus ? TexteEllipse(*solution->parResidus) : "";
+  rangees[3].legende = solution != nullptr ? TexteTrouve(f, *solution) : "";
+}
+
+/// Fills the window from the fix.
+void Montre(Bureau &bureau) {
+  FenetrePoint &f = bureau.fenetrePoint;
+  const PointOuvert &p = bureau.point;
+  f.cadre.titre = bureau.donnees.PU_Point.legende;
+  PoseResultats(f, p, p.actuelle, f.Actuel);
+  PoseResultats(f, p, p.dite, f.Dit);
+  const SolutionPoint *actuelle = SolutionVue(p, p.actuelle);
+  const SolutionPoint *dite = SolutionVue(p, p.dite);
+  f.LabEntre.legende =
+      actuelle != nullptr && dite != nullptr ? f.TexteEntre.legende + TexteDistance(actuelle->lieu, dite->lieu) : "";
+  const std::vector<std::string> avis = MotsDesAvis(bureau);
+  for (std::size_t i = 0; i < f.LabAvis.size(); ++i) {
+    f.LabAvis.at(i).legende = i < avis.size() ? avis[i] : "";
+  }
+  const bool fait = SolutionRetenue(p) != nullptr;
+  f.Check4.visible = p.actuelle.seconde || p.dite.seconde;
+  f.Check4.valeur = p.seconde ? 1 : 0;
+  f.Check3.valeur = p.surFeuille ? 1 : 0;
+  for (std::size_t i = 0; i < 3; ++i) {
+    f.Command3.at(i).actif = fait;
+  }
+  PoseTableauVisees(bureau);
+  PoseTableauJambes(bureau);
+}
+
+/// The track of a fix: the ship's places at the sights, at the beginning of each leg between them, and at the fix.
+std::vector<LieuNavire> RouteDe(const PointOuvert &point, const SolutionPoint &solution) {
+  std::vector<std::pair<InstantUTC, LieuNavire>> lieux = {{*point.heure, solution.lieu}};
+  for (std::size_t i = 0; i < solution.residus.size(); ++i) {
+    if (solution.residus[i].utilisee && point.visees.at(i).hauteur) {
+      lieux.emplace_back(point.visees[i].hauteur->utc, solution.residus[i].lieu);
+    }
+  }
+  const auto avant = [](const auto &a, const auto &b) { return SecondesEntre(a.first, b.first) > 0; };
+  const auto [premier, dernier] = std::minmax_element(lieux.begin(), lieux.end(), avant);
+  const InstantUTC debut = premier->first;
+  const InstantUTC fin = dernier->first;
+  for (const Jambe &jambe : point.jambes) {
+    if (!solution.fond && SecondesEntre(debut, jambe.depuis) > 0 && SecondesEntre(jambe.depuis, fin) > 0) {
+      lieux.emplace_back(jambe.depuis, Deplace(point.route, solution.lieu, *point.heure, jambe.depuis).lieu);
+    }
+  }
+  std::sort(lieux.begin(), lieux.end(), avant);
+  std::vector<LieuNavire> route;
+  for (const auto &[instant, lieu] : lieux) {
+    route.push_back(lieu);
+  }
+  return route;
+}
+
+PointTrace TraceDe(const PointOuvert &point, const SolutionPoint &solution) {
+  constexpr std::size_t kHeureMinute = 5;
+  PointTrace trace{.lieu = solution.lieu,
+                   .ellipse = solution.ellipse,
+                   .heure = TexteHeureUtc(*point.heure).substr(0, kHeureMinute),
+                   .droites = {},
+                   .route = RouteDe(point, solution)};
+  for (std::size_t i = 0; i < solution.residus.size(); ++i) {
+    const ResiduPoint &residu = solution.residus[i];
+    if (residu.utilisee) {
+      trace.droites.push_back({residu.azimut, residu.residu, point.visees.at(i).hauteur->apparente});
+    }
+  }
+  return trace;
+}
+
+Calque CalqueVoulu(const Bureau &bureau) {
+  const PointOuvert &p = bureau.point;
+  const SolutionPoint *solution = SolutionRetenue(p);
+  std::vector<PointTrace> points;
+  if (p.surFeuille && solution != nullptr) {
+    points.push_back(TraceDe(p, *solution));
+  }
+  Calque calque;
+  if (!points.empty() || !p.sillage.empty()) {
+    Passe([&] { calque = CalqueDuPoint(bureau.feuille, bureau.image1, points, p.sillage); });
+  }
+  return calque;
+}
+
+void LitSillage(Bureau &bureau) {
+  bureau.point.sillage.clear();
+  if (bureau.donnees.PU_Sillage.valeur == 1) {
+    Passe([&] { bureau.point.sillage = SillageDe(LitPoints(LitFichier(FichierPoints(bureau))), kJoursSillage); });
+  }
+}
+
+void PoseSurFeuille(Bureau &bureau, bool montre) {
+  bureau.point.surFeuille = montre;
+  bureau.fenetrePoint.Check3.valeur = montre ? 1 : 0;
+}
+
+/// The fix as the sight's estimated position, whole minutes.
+void PrendEstime(Bureau &bureau, const LieuNavire &lieu) {
+  constexpr double kMinutes = 60;
+  Donnees &d = bureau.donnees;
+  const auto latitude = static_cast<long>(std::lround(std::fabs(lieu.latitude) * kMinutes));
+  const auto longitude = static_cast<long>(std::lround(std::fabs(lieu.longitude) * kMinutes));
+  PoseOption(bureau, d.OptN[lieu.latitude >= 0 ? 0 : 1]);
+  PoseTexte(bureau, d.Text8, Format(static_cast<double>(latitude / 60), "00"));
+  PoseTexte(bureau, d.Text9, Format(static_cast<double>(latitude % 60), "00"));
+  PoseOption(bureau, d.OptE[lieu.longitude >= 0 ? 0 : 1]);
+  PoseTexte(bureau, d.Text6, Format(static_cast<double>(longitude / 60), "00"));
+  PoseTexte(bureau, d.Text7, Format(static_cast<double>(longitude % 60), "00"));
+}
+
+/// Keeps both fixes in the file of fixes.
+void Garde(Bureau &bureau) {
+  const PointOuvert &p = bureau.point;
+  std::vector<std::string> lignes;
+  for (const auto &[fiche, theorie] :
+       {std::pair(&p.actuelle, TheoriePoint::Actuelle), std::pair(&p.dite, TheoriePoint::Dite)}) {
+    if (const SolutionPoint *s = SolutionVue(p, *fiche)) {
+      const auto utilisees =
+          std::count_if(s->residus.begin(), s->residus.end(), [](const auto &r) { return r.utilisee; });
+      lignes.push_back(LignePoint({*p.heure, s->lieu, s->ellipse, static_cast<int>(utilisees), theorie}));
+    }
+  }
+  Patience patience;
+  bool libre = false;
+  const bool ecrit = Passe([&] { libre = AjouteLignes(FichierPoints(bureau), kTitresPoints, lignes, patience); });
+  const FenetrePoint &f = bureau.fenetrePoint;
+  Avise(bureau, ecrit && libre ? f.TexteGarde.legende : f.TexteGardeRefuse.legende);
+  LitSillage(bureau);
+}
+
+} // namespace
+
+void AjouteVisee(Bureau &bureau, const std::string &identite, const Observation &observation,
+                 const std::optional<ResultatDit> &dit) {
+  std::vector<ViseeDuPoint> &visees = bureau.point.visees;
+  std::erase_if(visees, [&](const ViseeDuPoint &v) { return v.identite == identite; });
+  ViseeDuPoint visee;
+  visee.identite = identite;
+  visee.observation = observation;
+  visee.dit = dit;
+  PrepareVisee(bureau, visee);
+  visees.push_back(std::move(visee));
+  OrdonneVisees(bureau.point);
+}
+
+void RefaitPoint(Bureau &bureau) {
+  PointOuvert &p = bureau.point;
+  ReglagesPoint demande = LitDemande(bureau);
+  std::vector<ViseePoint> visees;
+  for (std::size_t i = 0; i < p.visees.size(); ++i) {
+    const ViseeDuPoint &v = p.visees[i];
+    if (v.hauteur) {
+      visees.push_back({*v.hauteur, static_cast<std::int64_t>(i), v.cochee, v.ecartType});
+    }
+  }
+  p.heure = demande.heure;
+  p.route = demande.route;
+  demande.theorie = TheoriePoint::Actuelle;
+  p.actuelle = FaitPoint(visees, demande);
+  demande.theorie = TheoriePoint::Dite;
+  p.dite = FaitPoint(visees, demande);
+  if (!p.actuelle.seconde && !p.dite.seconde) {
+    p.seconde = false;
+  }
+}
+
+void AccordePoint(Bureau &bureau) {
+  if (bureau.fenetrePoint.cadre.visible) {
+    if (SuitRegistre(bureau)) {
+      RefaitPoint(bureau);
+    }
+    Montre(bureau);
+  }
+  bureau.donnees.PU_PointTrace.valeur = bureau.point.surFeuille ? 1 : 0;
+  Calque calque = CalqueVoulu(bureau);
+  if (bureau.image1.calque != calque) {
+    bureau.image1.calque = std::move(calque);
+  }
+}
+
+void OuvrePoint_Click(Bureau &bureau, int /*indice*/) {
+  PointOuvert &p = bureau.point;
+  if (p.visees.empty() && bureau.registreOuvert.auPoint.empty()) {
+    ReprendVisees(bureau);
+  } else if (SuitRegistre(bureau); !bureau.fenetrePoint.cadre.visible) {
+    ReprendDroites(bureau, false);
+  }
+  if (p.jambes.empty()) {
+    p.jambes = JambesDEstime(bureau);
+  }
+  RefaitPoint(bureau);
+  bureau.fenetrePoint.cadre.visible = true;
+  bureau.premierPlan = kFenetrePoint;
+  bureau.focus = &bureau.fenetrePoint.Visees;
+}
+
+void LitReglagesPoint(Bureau &bureau) {
+  for (std::size_t i = 0; i < kCles.size(); ++i) {
+    bureau.fenetrePoint.Text5.at(i).texte = LitReglage(bureau, kCles.at(i));
+  }
+  bureau.donnees.PU_Sillage.valeur = LitReglage(bureau, kCleSillage) == "1" ? 1 : 0;
+  LitSillage(bureau);
+}
+
+void RetirePoint(Bureau &bureau) { PoseSurFeuille(bureau, false); }
+
+void PU_PointTrace_Click(Bureau &bureau, int /*indice*/) { PoseSurFeuille(bureau, !bureau.point.surFeuille); }
+
+void PU_Sillage_Click(Bureau &bureau, int /*indice*/) {
+  Controle &entree = bureau.donnees.PU_Sillage;
+  entree.valeur = entree.valeur == 1 ? 0 : 1;
+  EcritReglage(bureau, kCleSillage, entree.valeur == 1 ? "1" : "0");
+  LitSillage(bureau);
+}
+
+namespace point {
+namespace {
+
+/// The sight that the keyboard is at.
+ViseeDuPoint *Courante(Bureau &bureau) {
+  const int rang = bureau.fenetrePoint.Visees.tableau.courante;
+  std::vector<ViseeDuPoint> &visees = bureau.point.visees;
+  return rang >= 0 && static_cast<std::size_t>(rang) < visees.size() ? &visees[static_cast<std::size_t>(rang)]
+                                                                     : nullptr;
+}
+
+void PrepareToutes(Bureau &bureau) {
+  for (ViseeDuPoint &visee : bureau.point.visees) {
+    PrepareVisee(bureau, visee);
+  }
+  OrdonneVisees(bureau.point);
+}
+
+void PoseJambe(Bureau &bureau) {
+  FenetrePoint &f = bureau.fenetrePoint;
+  const std::optional<Jambe> jambe = LitJambeTapee(f);
+  if (!jambe) {
+    Avise(bureau, f.TexteJambe.legende);
+    return;
+  }
+  std::vector<Jambe> &jambes = bureau.point.jambes;
+  std::erase_if(jambes, [&](const Jambe &j) { return SecondesEntre(j.depuis, jambe->depuis) == 0; });
+  const auto place = std::find_if(jambes.begin(), jambes.end(),
+                                  [&](const Jambe &j) { return SecondesEntre(jambe->depuis, j.depuis) > 0; });
+  jambes.insert(place, *jambe);
+}
+
+void OteJambe(Bureau &bureau) {
+  std::vector<Jambe> &jambes = bureau.point.jambes;
+  const int rang = bureau.fenetrePoint.Jambes.tableau.courante;
+  if (rang >= 0 && static_cast<std::size_t>(rang) < jambes.size()) {
+    jambes.erase(jambes.begin() + rang);
+  }
+}
+
+} // namespace
+
+void Visees_Coche(Bureau &bureau, int /*indice*/) {
+  if (ViseeDuPoint *visee = Courante(bureau)) {
+    visee->cochee = !visee->cochee;
+    RefaitPoint(bureau);
+  }
+}
+
+void Visees_Click(Bureau &bureau, int /*indice*/) {
+  const ViseeDuPoint *visee = Courante(bureau);
+  Controle &champ = bureau.fenetrePoint.Text2;
+  champ.texte = visee != nullptr && visee->ecartType ? TexteGeneral(*visee->ecartType) : "";
+  champ.alerte.clear();
+}
+
+void Champ_Change(Bureau &bureau, int /*indice*/) {
+  RefaitPoint(bureau);
+  const FenetrePoint &f = bureau.fenetrePoint;
+  for (std::size_t i = 0; i < kCles.size(); ++i) {
+    if (f.Text5.at(i).alerte.empty()) {
+      EcritReglage(bureau, kCles.at(i), f.Text5.at(i).texte);
+    }
+  }
+}
+
+void Text2_Change(Bureau &bureau, int /*indice*/) {
+  if (ViseeDuPoint *visee = Courante(bureau)) {
+    visee->ecartType = LitEcartTape(bureau.fenetrePoint);
+    RefaitPoint(bureau);
+  }
+}
+
+void Case_Click(Bureau &bureau, int /*indice*/) {
+  const bool comptee = bureau.fenetrePoint.Check1.valeur == 1;
+  if (comptee != bureau.point.montreComptee) {
+    bureau.point.montreComptee = comptee;
+    PrepareToutes(bureau);
+  }
+  RefaitPoint(bureau);
+}
+
+void Command1_Click(Bureau &bureau, int indice) {
+  if (indice == 0) {
+    ReprendVisees(bureau);
+  } else if (indice == 1) {
+    const int rang = bureau.fenetrePoint.Visees.tableau.courante;
+    if (const ViseeDuPoint *visee = Courante(bureau)) {
+      std::erase(bureau.registreOuvert.auPoint, visee->identite);
+      ++bureau.registre.Table1.tableau.version;
+      bureau.point.visees.erase(bureau.point.visees.begin() + rang);
+    }
+  } else {
+    OuvreRegistre_Click(bureau, -1);
+    return;
+  }
+  RefaitPoint(bureau);
+}
+
+void Jambes_Click(Bureau &bureau, int /*indice*/) {
+  FenetrePoint &f = bureau.fenetrePoint;
+  const int rang = f.Jambes.tableau.courante;
+  if (rang >= 0 && static_cast<std::size_t>(rang) < bureau.point.jambes.size()) {
+    const Jambe &jambe = bureau.point.jambes[static_cast<std::size_t>(rang)];
+    constexpr std::size_t kHeureMinute = 5;
+    f.Text3[0].texte = TexteDate(jambe.depuis);
+    f.Text3[1].texte = TexteHeureUtc(jambe.depuis).substr(0, kHeureMinute);
+    f.Text3[2].texte = TexteGeneral(jambe.cap);
+    f.Text3[3].texte = TexteGeneral(jambe.vitesse);
+  }
+}
+
+void Command2_Click(Bureau &bureau, int indice) {
+  indice == 0 ? PoseJambe(bureau) : OteJambe(bureau);
+  RefaitPoint(bureau);
+}
+
+void Check3_Click(Bureau &bureau, int /*indice*/) { PoseSurFeuille(bureau, bureau.fenetrePoint.Check3.valeur == 1); }
+
+void Check4_Click(Bureau &bureau, int /*indice*/) { bureau.point.seconde = bureau.fenetrePoint.Check4.valeur == 1; }
+
+void Command3_Click(Bureau &bureau, int indice) {
+  const SolutionPoint *solution = SolutionRetenue(bureau.point);
+  if (indice == 3) {
+    bureau.fenetrePoint.cadre.visible = false;
+    bureau.premierPlan = kFenetreDonnees;
+  } else if (solution == nullptr) {
+    return;
+  } else if (indice == 0) {
+    const LieuNavire lieu = solution->lieu;
+    RetientGeste(bureau, bureau.fenetrePoint.Command3[0].infobulle, [&] { PrendEstime(bureau, lieu); });
+  } else if (indice == 1) {
+    Garde(bureau);
+  } else {
+    bureau.ports.copieTexte(TexteDuPoint(bureau));
+    Avise(bureau, bureau.etat.TexteCopie.legende + bureau.donnees.PU_Point.legende);
+  }
+}
+
+} // namespace point
+} // namespace velmaris

@@ -1,0 +1,193 @@
+#include "shell/point/SourcesPoint.hpp"
+
+#include "complements/ciel/Refus.hpp"
+#include "complements/registre/FiltreRegistre.hpp"
+#include "complements/registre/ReduitCopie.hpp"
+#include "complements/registre/RegistreLu.hpp"
+#include "foundations/Erreur.hpp"
+#include "foundations/Fichiers.hpp"
+#include "foundations/TexteNombre.hpp"
+#include "shell/complements/ReglagesLus.hpp"
+#include "shell/droites/MemoireDroites.hpp"
+#include "shell/point/Point.hpp"
+
+#include <algorithm>
+#include <cmath>
+#include <numeric>
+#include <set>
+#include <tuple>
+
+namespace velmaris {
+namespace {
+
+constexpr std::int64_t kEntreQuarts = 5400; ///< seconds
+constexpr double kVitesseMax = 100;         ///< knots
+constexpr double kTour = 360;
+constexpr std::string_view kDroite = "droite "; ///< what the identity of a stored line begins with
+
+/// What makes two rows one sight: body and time.
+using Sujet = std::tuple<Corps, int, int, std::int64_t>;
+
+Sujet SujetDe(const Observation &o, std::int64_t instant) {
+  return {o.corps, o.corps == Corps::Planetes ? o.planete : -1, o.corps == Corps::Etoiles ? o.etoile : -1, instant};
+}
+
+/// Whether two sights are one: body and time as typed.
+bool EstLaMeme(const Observation &a, const Observation &b) {
+  const auto temps = [](const Observation &o) {
+    return std::tuple(Val(o.annee), Val(o.mois), Val(o.jour), Val(o.heure), Val(o.minute), Val(o.seconde));
+  };
+  return SujetDe(a, 0) == SujetDe(b, 0) && temps(a) == temps(b);
+}
+
+bool EstDroite(const std::string &identite) { return identite.starts_with(kDroite); }
+
+void AjouteRangee(Bureau &bureau, const RegistreLu &registre, std::size_t rang) {
+  if (const std::optional<Rangee> r = RangeeDe(registre, rang)) {
+    AjouteVisee(bureau, r->identite, r->observation, ResultatDit{r->Ho, r->Hc, r->azimut, r->intercept});
+  }
+}
+
+} // namespace
+
+void ReprendDroites(Bureau &bureau, bool cochees) {
+  for (int ligne = 0; ligne < kNombreDroites; ++ligne) {
+    std::optional<Observation> gardee = ObservationGardee(bureau, ligne);
+    if (!gardee) {
+      continue;
+    }
+    const bool connue = std::any_of(bureau.point.visees.begin(), bureau.point.visees.end(),
+                                    [&](const ViseeDuPoint &v) { return EstLaMeme(v.observation, *gardee); });
+    const std::optional<ResultatDit> dit = ReduitCopie(*gardee, bureau.etoiles, bureau.messages);
+    if (!connue && dit) {
+      const std::string identite = std::string(kDroite) + std::to_string(ligne + 1);
+      AjouteVisee(bureau, identite, *gardee, dit);
+      const auto ici = std::find_if(bureau.point.visees.begin(), bureau.point.visees.end(),
+                                    [&](const ViseeDuPoint &v) { return v.identite == identite; });
+      ici->cochee = cochees;
+    }
+  }
+}
+
+std::vector<std::size_t> DernierQuart(const RegistreLu &registre, const Annotations &annotations) {
+  std::vector<std::size_t> rangs;
+  std::set<Sujet> connus;
+  std::optional<std::int64_t> avant;
+  for (std::size_t i = 0; i < registre.lignes.size(); ++i) {
+    const std::int64_t instant = registre.lignes[i].instant;
+    if (avant && *avant - instant > kEntreQuarts) {
+      break;
+    }
+    const auto annotation = annotations.find(IdentiteDe(registre, i));
+    const std::optional<Rangee> rangee = RangeeDe(registre, i);
+    if (!rangee || (annotation != annotations.end() && annotation->second.masquee)) {
+      continue;
+    }
+    avant = instant;
+    if (connus.insert(SujetDe(rangee->observation, instant)).second) {
+      rangs.push_back(i);
+    }
+  }
+  return rangs;
+}
+
+SourcesLues LitSources(Bureau &bureau) {
+  const std::filesystem::path &dossier = bureau.dossiers.utilisateur;
+  SourcesLues lues{LitRegistre(dossier, bureau.registreOuvert.lu), {}};
+  Passe([&] { lues.annotations = LitAnnotations(LitFichier(dossier / "masques.csv")); });
+  bureau.point.montre.clear();
+  Passe([&] { bureau.point.montre = LitMontre(LitFichier(dossier / "montre.csv")); });
+  return lues;
+}
+
+void ReprendVisees(Bureau &bureau) {
+  bureau.point.visees.clear();
+  std::vector<std::string> identites;
+  const SourcesLues lues = LitSources(bureau);
+  for (const std::size_t rang : DernierQuart(*lues.registre, lues.annotations)) {
+    identites.push_back(IdentiteDe(*lues.registre, rang));
+    AjouteRangee(bureau, *lues.registre, rang);
+  }
+  bureau.registreOuvert.auPoint = std::move(identites);
+  ++bureau.registre.Table1.tableau.version;
+  ReprendDroites(bureau, true);
+}
+
+bool SuitRegistre(Bureau &bureau) {
+  const std::vector<std::string> &voulues = bureau.registreOuvert.auPoint;
+  std::vector<ViseeDuPoint> &visees = bureau.point.visees;
+  const auto voulue = [&](const std::string &identite) {
+    return EstDroite(identite) || std::find(voulues.begin(), voulues.end(), identite) != voulues.end();
+  };
+  bool change = std::erase_if(visees, [&](const ViseeDuPoint &v) { return !voulue(v.identite); }) > 0;
+  std::vector<std::string> manquent;
+  for (const std::string &identite : voulues) {
+    if (std::none_of(visees.begin(), visees.end(), [&](const ViseeDuPoint &v) { return v.identite == identite; })) {
+      manquent.push_back(identite);
+    }
+  }
+  if (manquent.empty()) {
+    return change;
+  }
+  const std::shared_ptr<const RegistreLu> registre = LitSources(bureau).registre;
+  std::vector<std::size_t> tous(registre->lignes.size());
+  std::iota(tous.begin(), tous.end(), std::size_t{0});
+  for (const std::size_t rang : RangsDe(*registre, tous, manquent)) {
+    AjouteRangee(bureau, *registre, rang);
+    change = true;
+  }
+  // What no journal has is asked for once.
+  std::erase_if(bureau.registreOuvert.auPoint, [&](const std::string &identite) {
+    return std::none_of(visees.begin(), visees.end(), [&](const ViseeDuPoint &v) { return v.identite == identite; });
+  });
+  return change;
+}
+
+void PrepareVisee(const Bureau &bureau, ViseeDuPoint &visee) {
+  visee.hauteur.reset();
+  visee.refus.reset();
+  try {
+    const ViseeTypee typee = LitVisee(visee.observation, bureau.verification.reglages);
+    double montre = 0;
+    if (bureau.point.montreComptee) {
+      constexpr double kEpoque = 2440587.5; ///< Julian day of 1970
+      constexpr double kJour = 86400;
+      const InstantUTC utc = UTCDe(typee.date);
+      const double secondes = (utc.jour - kEpoque + utc.fraction) * kJour;
+      montre = -ErreurMontre(bureau.point.montre, static_cast<std::int64_t>(std::llround(secondes))).value_or(0);
+    }
+    visee.hauteur = PrepareHauteur(typee, visee.dit, montre, bureau.verification.reglages.dut1);
+    visee.refus = visee.hauteur->refus;
+  } catch (const Refus &refus) {
+    visee.refus = refus.raison;
+  }
+}
+
+void OrdonneVisees(PointOuvert &point) {
+  std::stable_sort(point.visees.begin(), point.visees.end(), [](const ViseeDuPoint &a, const ViseeDuPoint &b) {
+    if (!a.hauteur || !b.hauteur) {
+      return a.hauteur.has_value() && !b.hauteur;
+    }
+    return SecondesEntre(a.hauteur->utc, b.hauteur->utc) > 0;
+  });
+}
+
+std::vector<Jambe> JambesDEstime(const Bureau &bureau) {
+  const Donnees &d = bureau.donnees;
+  const auto cap = LitNombreBorne(d.Text1.texte, 0, kTour);
+  const auto vitesse = LitNombreBorne(d.Text2.texte, 0, kVitesseMax);
+  const auto premiere = std::find_if(bureau.point.visees.begin(), bureau.point.visees.end(),
+                                     [](const ViseeDuPoint &v) { return v.hauteur.has_value(); });
+  if (!cap || !vitesse || premiere == bureau.point.visees.end()) {
+    return {};
+  }
+  DateCivile depuis = CivileDe(premiere->hauteur->utc);
+  constexpr int kHeureMax = 23;
+  constexpr int kMinuteMax = 59;
+  depuis.heure = static_cast<int>(LitNombreBorne(d.Combo1.texte, 0, kHeureMax).value_or(0));
+  depuis.minute = static_cast<int>(LitNombreBorne(d.Combo2.texte, 0, kMinuteMax).value_or(0));
+  depuis.seconde = 0;
+  return {{UTCDe(depuis), *cap, *vitesse}};
+}
+
+} // namespace velmaris

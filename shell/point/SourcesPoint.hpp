@@ -1,0 +1,47 @@
+#pragma once
+
+#include "complements/registre/Annotations.hpp"
+#include "complements/registre/RegistreLu.hpp"
+#include "shell/bureau/Bureau.hpp"
+
+#include <cstddef>
+#include <memory>
+#include <vector>
+
+namespace velmaris {
+
+/// The rows of the log's last watch that aren't hidden: each comes at most an hour and a half before the next one. A
+/// sight that was reduced more than once counts as it was entered last.
+/// @return their places in the log
+std::vector<std::size_t> DernierQuart(const RegistreLu &registre, const Annotations &annotations);
+
+/// Reads log, notes and watch, where they have changed, in place of what the log's window shows of them.
+struct SourcesLues {
+  std::shared_ptr<const RegistreLu> registre;
+  Annotations annotations;
+};
+SourcesLues LitSources(Bureau &bureau);
+
+/// Lists the sights of the log's last watch and the stored lines, all ticked, in place of those listed; the log shows
+/// them as ticked too.
+void ReprendVisees(Bureau &bureau);
+
+/// Lists the stored lines that aren't listed as sights of the log.
+/// @param cochees  whether they count at once
+void ReprendDroites(Bureau &bureau, bool cochees);
+
+/// Brings the list in line with the rows that are ticked in the log: more of them come, others go; stored lines stay.
+/// @return whether it has changed
+bool SuitRegistre(Bureau &bureau);
+
+/// Works a sight of the list out for fixes, by the settings of the check and, where it counts, the watch's rows.
+void PrepareVisee(const Bureau &bureau, ViseeDuPoint &visee);
+
+/// Puts the list in the order of time; sights without one come last.
+void OrdonneVisees(PointOuvert &point);
+
+/// The first leg, from "Estime" where course and speed are filled: from its first hour on the day of the first sight.
+/// Without them there is none.
+std::vector<Jambe> JambesDEstime(const Bureau &bureau);
+
+} // namespace velmaris
