@@ -185,9 +185,9 @@ std::string EcritRangee(const Rangee &r) {
                                                             r.identite,
                                                             r.actuel ? Milliemes(*r.actuel) : "",
                                                             r.ecart ? Milliemes(*r.ecart) : ""};
-  std::string ligne;
-  for (const std::string &champ : champs) {
-    ligne += (ligne.empty() ? "" : ",") + ChampCsv(champ);
+  std::string ligne = ChampCsv(champs.front());
+  for (std::size_t i = 1; i < champs.size(); ++i) {
+    ligne += "," + ChampCsv(champs.at(i));
   }
   return ligne;
 }

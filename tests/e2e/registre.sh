@@ -69,7 +69,7 @@ touche ctrl+n
 for _ in $(seq 13); do touche Tab; done
 tape 1,5; touche Return
 attends contient montre.csv ',1.5,0,'
-for _ in $(seq 11); do touche shift+Tab; done
+for _ in $(seq 12); do touche shift+Tab; done
 touche shift+Tab End shift+Up shift+Up
 pause 0.3
 image "registre-$LANGUE-4-nuit"

@@ -96,6 +96,14 @@ TEST(Rangee, WhatIsWrittenIsReadBackToTheBit) {
   }
 }
 
+TEST(Rangee, AnEmptyFirstFieldKeepsItsPlace) {
+  Rangee r;
+  r.identite = "aa";
+  ASSERT_TRUE(LitRangee(EcritRangee(r)));
+  EXPECT_EQ(LitRangee(EcritRangee(r))->utc, "");
+  EXPECT_EQ(LitRangee(EcritRangee(r))->identite, "aa");
+}
+
 TEST(Rangee, ALineCutAnywhereBeforeItsLastFieldIsNone) {
   const std::string ligne = LigneMain("21,06,2026", "12,05,30");
   const std::size_t fin = ligne.rfind(',');
