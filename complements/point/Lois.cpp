@@ -81,9 +81,9 @@ double ChanceKhi2(double khi2, int libertes) {
   const bool impair = libertes % 2 == 1;
   double somme = impair ? std::erfc(std::sqrt(x)) : std::exp(-x);
   double terme = impair ? 2 * std::sqrt(x / std::numbers::pi) * std::exp(-x) : x * std::exp(-x);
-  for (double k = impair ? 1.5 : 2; k <= libertes / 2.0; ++k) {
+  for (int n = impair ? 3 : 4; n <= libertes; n += 2) {
     somme += terme;
-    terme *= x / k;
+    terme *= 2 * x / n;
   }
   return std::min(somme, 1.0);
 }

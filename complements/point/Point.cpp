@@ -119,23 +119,30 @@ std::vector<LieuNavire> DepartsOrdonnes(const SystemePoint &systeme, const Paire
   return departs;
 }
 
-/// The places that a search comes to from the crossings of a pair; those of further pairs as long as none agrees. Once
-/// one does, another that agrees as well is as near its start, and no long walk is worth it.
+/// How long a walk may be: once a place is found, another that agrees as well is as near its start.
+int ToursPour(bool accord, bool trouvee) {
+  constexpr int kToursDouble = 8;
+  constexpr int kToursAutre = 20;
+  return accord ? kToursDouble : trouvee ? kToursAutre : kTours;
+}
+
+/// The places that a search comes to from the crossings of a pair; those of further pairs as long as none agrees and a
+/// pair comes to a new one.
 std::vector<Recherche> ChercheLieux(const SystemePoint &systeme, const ReglagesPoint &reglages,
                                     std::span<const int> quarts, std::set<AvisPoint> &raisons) {
-  constexpr int kToursDouble = 8;
   std::vector<Recherche> trouvees;
   bool accord = false;
   for (const PaireVisees &paire : PairesDe(systeme)) {
+    const std::size_t avant = trouvees.size();
     for (const LieuNavire &depart : DepartsOrdonnes(systeme, paire)) {
-      auto recherche = Cherche(systeme, depart, reglages, quarts, accord ? kToursDouble : kTours, raisons);
+      auto recherche = Cherche(systeme, depart, reglages, quarts, ToursPour(accord, !trouvees.empty()), raisons);
       const auto meme = [&](const Recherche &r) { return MemeLieu(r, *recherche); };
       if (recherche && std::none_of(trouvees.begin(), trouvees.end(), meme)) {
         accord = accord || SAccorde(*recherche);
         trouvees.push_back(std::move(*recherche));
       }
     }
-    if (accord) {
+    if (accord || (avant > 0 && trouvees.size() == avant)) {
       break;
     }
   }

@@ -36,6 +36,7 @@ ROWS = {
         "Glissades": ("A sight of {} searched for a slip", "the check alone"),
         "PreparePoint": ("A sight made ready for fixes", "the sky of its moment alone"),
         "Point": ("The fix of {}, ellipse and tests with it", "their heights from one place"),
+        "PointFautif": ("The same of {}, one a degree off", "their heights from one place"),
     },
     "Sights, lines and files": {
         "ReductionSoleil": ("A Sun sight reduced, with its texts", "its bare functions in 64 bits, without a text"),
