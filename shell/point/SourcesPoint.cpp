@@ -15,6 +15,7 @@
 #include <cmath>
 #include <numeric>
 #include <set>
+#include <string>
 #include <tuple>
 
 namespace velmaris {
@@ -26,10 +27,12 @@ constexpr double kTour = 360;
 constexpr std::string_view kDroite = "droite "; ///< what the identity of a stored line begins with
 
 /// What makes two rows one sight: body and time.
-using Sujet = std::tuple<Corps, int, int, std::int64_t>;
+using Sujet = std::tuple<Corps, std::string, std::int64_t>;
 
-Sujet SujetDe(const Observation &o, std::int64_t instant) {
-  return {o.corps, o.corps == Corps::Planetes ? o.planete : -1, o.corps == Corps::Etoiles ? o.etoile : -1, instant};
+/// Of a row: a star or a planet by its name, the Sun and the Moon whatever the language.
+Sujet SujetDe(const Rangee &rangee, std::int64_t instant) {
+  const Corps corps = rangee.observation.corps;
+  return {corps, corps == Corps::Soleil || corps == Corps::Lune ? "" : rangee.astre, instant};
 }
 
 /// Whether two sights are one: body and time as typed.
@@ -37,13 +40,15 @@ bool EstLaMeme(const Observation &a, const Observation &b) {
   const auto temps = [](const Observation &o) {
     return std::tuple(Val(o.annee), Val(o.mois), Val(o.jour), Val(o.heure), Val(o.minute), Val(o.seconde));
   };
-  return SujetDe(a, 0) == SujetDe(b, 0) && temps(a) == temps(b);
+  const bool corps = a.corps == b.corps && (a.corps != Corps::Planetes || a.planete == b.planete) &&
+                     (a.corps != Corps::Etoiles || a.etoile == b.etoile);
+  return corps && temps(a) == temps(b);
 }
 
 bool EstDroite(const std::string &identite) { return identite.starts_with(kDroite); }
 
 void AjouteRangee(Bureau &bureau, const RegistreLu &registre, std::size_t rang) {
-  if (const std::optional<Rangee> r = RangeeDe(registre, rang)) {
+  if (std::optional<Rangee> r = RangeeDe(registre, rang); r && ChoisitAstre(*r, bureau.etoiles)) {
     AjouteVisee(bureau, r->identite, r->observation, ResultatDit{r->Ho, r->Hc, r->azimut, r->intercept});
   }
 }
@@ -84,7 +89,7 @@ std::vector<std::size_t> DernierQuart(const RegistreLu &registre, const Annotati
       continue;
     }
     avant = instant;
-    if (connus.insert(SujetDe(rangee->observation, instant)).second) {
+    if (connus.insert(SujetDe(*rangee, instant)).second) {
       rangs.push_back(i);
     }
   }

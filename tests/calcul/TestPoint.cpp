@@ -214,6 +214,29 @@ TEST_F(CalculPoint, ItsArgumentsAreJudged) {
   EXPECT_THAT(Objets(Lance({"point", "--", tiret}).sortie).back()["avis"][0], "une_visee");
 }
 
+TEST_F(CalculPoint, TheSampleDayIsWhereItsShipWent) {
+  // The ship of the sample day made 228 degrees at 6.3 knots, worked out apart, while 225 at 6 was reckoned.
+  const std::string dossier = std::string(VELMARIS_DONNEES) + "/exemples/journee/";
+  struct Quart {
+    std::vector<std::string> visees;
+    double latitude, longitude; // of the ship
+    double milles;              // that the fix may lie off
+  };
+  const std::vector<Quart> quarts = {{{"1 Vega", "2 Altair", "3 Capella"}, 47.495316, -5.174366, 0.1},
+                                     {{"4 Soleil", "5 Soleil"}, 46.902801, -6.142887, 1.6},
+                                     {{"6 Arcturus", "7 Vega", "8 Spica"}, 46.268911, -7.167260, 0.1}};
+  for (const Quart &quart : quarts) {
+    std::vector<std::string> arguments = {"--route", dossier + "route.txt"};
+    for (const std::string &nom : quart.visees) {
+      arguments.push_back(dossier + nom + ".LoP");
+    }
+    const ordered_json point = PointDe(arguments);
+    const double nord = (point["latitude"].get<double>() - quart.latitude) * 60;
+    const double est = (point["longitude"].get<double>() - quart.longitude) * 60 * 0.69;
+    EXPECT_LT(std::hypot(nord, est), quart.milles) << point;
+  }
+}
+
 TEST_F(CalculPoint, AFullDiskEndsItWithAWord) {
   const Environnement environnement(Variables{{"LANG", "C"}});
   const Passage p = Lance({"point", EcritVisee("a.LoP", LignesSoleil())}, VELMARIS_CALCUL, "/dev/full");

@@ -31,7 +31,7 @@ protected:
     point.heure = "22:15";
   }
 
-  Calque Trace(std::vector<LieuNavire> sillage = {}) const { return CalqueDuPoint(feuille, surface, {point}, sillage); }
+  Calque Dessine(std::vector<LieuNavire> sillage = {}) const { return CalqueDuPoint(feuille, surface, {point}, sillage); }
 
   static std::vector<Polyligne> Lignes(const Calque &calque) {
     std::vector<Polyligne> lignes;
@@ -50,7 +50,7 @@ protected:
 
 TEST_F(LayerOfAFix, TheRingStandsWhereTheMouseReadsThePlace) {
   point.lieu = {47.8, -4.6};
-  const Calque calque = Trace();
+  const Calque calque = Dessine();
   const auto anneau = std::find_if(calque.traces.rbegin(), calque.traces.rend(),
                                    [](const Trace &t) { return std::holds_alternative<CercleTrace>(t); });
   ASSERT_NE(anneau, calque.traces.rend());
@@ -62,7 +62,7 @@ TEST_F(LayerOfAFix, TheRingStandsWhereTheMouseReadsThePlace) {
 }
 
 TEST_F(LayerOfAFix, TheEllipseHasItsAxesInMilesAndItsDirection) {
-  const std::vector<Polyligne> lignes = Lignes(Trace());
+  const std::vector<Polyligne> lignes = Lignes(Dessine());
   ASSERT_EQ(lignes.size(), 1U);
   double plusLoin = 0;
   double direction = 0;
@@ -84,7 +84,7 @@ TEST_F(LayerOfAFix, TheEllipseHasItsAxesInMilesAndItsDirection) {
 
 TEST_F(LayerOfAFix, AnAdvancedLineRunsAcrossItsAzimuthAtItsResidual) {
   point.droites = {{90, 2, 20}}; // a body in the east, the line two miles east of the fix
-  const std::vector<Polyligne> lignes = Lignes(Trace());
+  const std::vector<Polyligne> lignes = Lignes(Dessine());
   ASSERT_EQ(lignes.size(), 2U);
   const Polyligne &droite = lignes[0];
   const auto milieu = droite.points[droite.points.size() / 2];
@@ -96,7 +96,7 @@ TEST_F(LayerOfAFix, AnAdvancedLineRunsAcrossItsAzimuthAtItsResidual) {
 TEST_F(LayerOfAFix, ALineOfAHighBodyBendsTowardsItAsItsCircleDoes) {
   constexpr double kHauteur = 85; // the circle's radius is 300 miles
   point.droites = {{0, 0, kHauteur}};
-  const Polyligne droite = Lignes(Trace())[0];
+  const Polyligne droite = Lignes(Dessine())[0];
   const double loin = (droite.points.back().x - 7500) / 100;
   const double vers = (5000 - droite.points.back().y) / 100;
   const double rayon = 300;
@@ -108,7 +108,7 @@ TEST_F(LayerOfAFix, ATrackOverTheDateLineIsDrawnInPlaceOnASheetBesideIt) {
   feuille.EchelleX = feuille.EchelleY;
   point.lieu = {10, 179.9}; // over the line from the sheet's centre
   point.route = {{10, -179.9}, {10, 179.9}};
-  const Calque calque = Trace();
+  const Calque calque = Dessine();
   const Polyligne route = Lignes(calque)[0];
   ASSERT_EQ(route.points.size(), 2U);
   EXPECT_NEAR(std::fabs(route.points[0].x - route.points[1].x), 0.2 * 60 * 100, 2);
@@ -117,16 +117,16 @@ TEST_F(LayerOfAFix, ATrackOverTheDateLineIsDrawnInPlaceOnASheetBesideIt) {
 TEST_F(LayerOfAFix, WithoutAScaleNothingIsDrawn) {
   feuille.EchelleX = 0;
   feuille.EchelleY = 0;
-  EXPECT_EQ(Trace(), Calque());
+  EXPECT_EQ(Dessine(), Calque());
 }
 
 TEST_F(LayerOfAFix, AtThePoleWhereAMileHasNoPlaceNothingIsDrawn) {
   point.lieu = {89.5, 0};
-  EXPECT_TRUE(Lignes(Trace()).empty());
+  EXPECT_TRUE(Lignes(Dessine()).empty());
 }
 
 TEST_F(LayerOfAFix, KeptFixesAreJoinedInTheirOrder) {
-  const std::vector<Polyligne> lignes = Lignes(Trace({{47.4, -5}, {47.5, -5.1}, {47.6, -5.2}}));
+  const std::vector<Polyligne> lignes = Lignes(Dessine({{47.4, -5}, {47.5, -5.1}, {47.6, -5.2}}));
   ASSERT_EQ(lignes.size(), 2U);
   EXPECT_EQ(lignes[0].points.size(), 3U);
   EXPECT_GT(lignes[0].points[0].y, lignes[0].points[2].y);

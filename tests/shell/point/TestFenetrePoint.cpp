@@ -61,8 +61,8 @@ protected:
     double lecture = 40;
     for (int i = 0; i < 4; ++i) {
       TapeLecture(lecture);
-      const FicheControle f = ControleVisee(LitPanneau(d), {}, bureau.etoiles);
-      lecture -= f.actuel->intercept / 60;
+      const FicheControle controle = ControleVisee(LitPanneau(d), {}, bureau.etoiles);
+      lecture -= controle.actuel->intercept / 60;
     }
     return lecture;
   }
@@ -128,7 +128,7 @@ TEST_F(PointEnChiffres, FourStarsMakeTheFixWhereTheShipIsWhateverPositionWasEsti
   ViseQuatre();
   OuvrePoint();
   ASSERT_EQ(f.Visees.tableau.lignes, 4U);
-  ASSERT_TRUE(p.actuelle.solution);
+  ASSERT_TRUE(p.actuelle.solution) << TexteDuPoint(bureau);
   EXPECT_LT(Loin(p.actuelle), 0.1);
   EXPECT_EQ(f.Actuel[0].legende, "47° 30.0' N  005° 10.0' W");
   EXPECT_EQ(Mot(0, 0), "21/06/2026  22:10:00");
