@@ -57,6 +57,11 @@ void Montre(Bureau &bureau) {
   f.cadre.titre = bureau.donnees.PU_Point.legende;
   PoseResultats(f, p, p.actuelle, f.Actuel);
   PoseResultats(f, p, p.dite, f.Dit);
+  for (std::size_t i = 2; i < f.Rangee.size(); ++i) { // rows that most fixes haven't
+    f.Rangee.at(i).visible = !f.Actuel.at(i).legende.empty() || !f.Dit.at(i).legende.empty();
+  }
+  constexpr std::size_t kHeureMinute = 5;
+  f.Titre[0].legende = p.heure ? TexteDate(*p.heure) + "  " + TexteHeureUtc(*p.heure).substr(0, kHeureMinute) : "";
   const SolutionPoint *actuelle = SolutionVue(p, p.actuelle);
   const SolutionPoint *dite = SolutionVue(p, p.dite);
   f.LabEntre.legende =

@@ -51,6 +51,12 @@ void Pose(Tableau &tableau, std::vector<Colonne> colonnes, std::vector<RangeeMon
 
 std::string Dixiemes(double valeur) { return Format(valeur, "0.0"); }
 
+/// A residual with its sign, unless it is nothing.
+std::string Ecart(double milles) {
+  constexpr double kDemiDixieme = 0.05;
+  return std::fabs(milles) < kDemiDixieme ? "0.0" : (milles < 0 ? "" : "+") + Dixiemes(milles);
+}
+
 /// What the likelier theory says of a sight.
 const ResiduPoint *ResiduDe(const PointOuvert &point, std::size_t rang) {
   for (const FichePoint *fiche : {&point.actuelle, &point.dite}) {
@@ -73,7 +79,7 @@ RangeeMontree RangeeDe(const Bureau &bureau, std::size_t rang) {
   r.textes[1] = NomDeVisee(bureau.donnees, o);
   if (const ResiduPoint *residu = ResiduDe(bureau.point, rang)) {
     r.textes[2] = Format(std::fmod(std::round(residu->azimut), kTour), "000") + "°";
-    r.textes[3] = (residu->residu < 0 ? "" : "+") + Dixiemes(residu->residu);
+    r.textes[3] = Ecart(residu->residu);
     r.textes[4] = Dixiemes(residu->ecartType);
     r.textes[5] = residu->utilisee ? Format(std::round(residu->redondance * kCent), "0") + " %" : "";
   } else if (visee.ecartType) {
@@ -105,7 +111,7 @@ void PoseTableauVisees(Bureau &bureau) {
 }
 
 void PoseTableauJambes(Bureau &bureau) {
-  constexpr std::array<double, 3> kLargeurs = {2100, 900, 900};
+  constexpr std::array<double, 3> kLargeurs = {1980, 780, 900};
   FenetrePoint &f = bureau.fenetrePoint;
   std::vector<Colonne> colonnes;
   for (std::size_t i = 0; i < kLargeurs.size(); ++i) {

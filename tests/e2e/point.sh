@@ -13,6 +13,7 @@ tabule() { for _ in $(seq "$1"); do touche Tab; done; }
 
 demarre
 [ "$LANGUE" = en ] && clic 14700 520
+clic 7700 520 # the module of the lines
 enregistre_trois_droites
 attends lignes journal.csv 4
 clic 7700 520 # the module of the lines goes

@@ -65,13 +65,17 @@ TEST_F(CarteOuverte, ANameThatChangesAtALinesEndIsPaintedAnew) {
 
 TEST_F(CarteOuverte, TheLayerLiesOverTheLinesAndGoesWithoutATrace) {
   OuvreFeuille();
-  const QImage avant = toile->grab().toImage();
-  const auto traces = bureau.image1.traces;
-  Joue([this] { bureau.image1.calque.traces.emplace_back(CercleTrace{{kRouge, 2}, {6000, 5000}, 500}); });
-  EXPECT_NE(toile->grab().toImage(), avant);
-  Joue([this] { bureau.image1.calque = {}; });
-  EXPECT_EQ(toile->grab().toImage(), avant);
-  EXPECT_EQ(bureau.image1.traces, traces);
+  Surface surface = bureau.image1;
+  qt::Toile seule(surface, nullptr);
+  seule.resize(toile->size());
+  seule.Accorde();
+  const QImage avant = seule.grab().toImage();
+  surface.calque.traces.emplace_back(CercleTrace{{kRouge, 2}, {6000, 5000}, 500});
+  seule.Accorde();
+  EXPECT_NE(seule.grab().toImage(), avant);
+  surface.calque = {};
+  seule.Accorde();
+  EXPECT_EQ(seule.grab().toImage(), avant);
 }
 
 TEST_F(CarteOuverte, TheLeftButtonOpensTheMenuAtThePointer) {
