@@ -72,8 +72,8 @@ void Toile::Accorde() {
   const std::vector<Etiquette> &etiquettes = surface_.etiquetee ? surface_.etiquettes : kSansEtiquettes;
   const bool nomme = etiquettes_ != etiquettes;
   const bool decalque = calque_ != surface_.calque;
-  if (!neuve && !retiree && !nomme && !decalque && traces_ == surface_.traces.size() &&
-      points_ == NombrePoints(surface_)) {
+  const bool tracee = neuve || traces_ != surface_.traces.size() || points_ != NombrePoints(surface_);
+  if (!tracee && !retiree && !nomme && !decalque) {
     return;
   }
   if (lignes_.size() != taille) {
@@ -86,7 +86,7 @@ void Toile::Accorde() {
     traces_ = 0;
   }
   const Maniere maniere{.eclairage = eclairage_, .pixel = Trait(*this)};
-  {
+  if (tracee) {
     QPainter painter(&lignes_);
     // The last polyline may have grown since it was painted: it is painted again.
     const bool reprise = traces_ > 0 && traces_ <= surface_.traces.size() && points_ != 0;
