@@ -12,6 +12,7 @@ namespace velmaris {
 namespace {
 
 constexpr std::size_t kColonneAstre = 2;
+constexpr std::size_t kColonnesLues = 3; ///< up to that one
 constexpr int kDernierJour = 31;
 constexpr std::int64_t kParJour = 86400;
 
@@ -72,7 +73,7 @@ struct Tamis {
 
 private:
   bool DeLAstre(std::size_t rang) const {
-    std::array<std::string_view, kColonneAstre + 1> parties;
+    std::array<std::string_view, kColonnesLues> parties;
     PartiesCsv(LigneBrute(registre, rang), parties);
     return Contient(parties[kColonneAstre], astre) || Contient(parties[kColonneAstre - 1], astre);
   }

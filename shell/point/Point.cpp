@@ -100,6 +100,7 @@ std::vector<LieuNavire> RouteDe(const PointOuvert &point, const SolutionPoint &s
   }
   std::sort(lieux.begin(), lieux.end(), avant);
   std::vector<LieuNavire> route;
+  route.reserve(lieux.size());
   for (const auto &[instant, lieu] : lieux) {
     route.push_back(lieu);
   }
@@ -150,16 +151,17 @@ void PoseSurFeuille(Bureau &bureau, bool montre) {
 
 /// The fix as the sight's estimated position, whole minutes.
 void PrendEstime(Bureau &bureau, const LieuNavire &lieu) {
-  constexpr double kMinutes = 60;
+  constexpr int kMinutes = 60;
   Donnees &d = bureau.donnees;
-  const auto latitude = static_cast<long>(std::lround(std::fabs(lieu.latitude) * kMinutes));
-  const auto longitude = static_cast<long>(std::lround(std::fabs(lieu.longitude) * kMinutes));
+  const auto latitude = static_cast<int>(std::lround(std::fabs(lieu.latitude) * kMinutes));
+  const auto longitude = static_cast<int>(std::lround(std::fabs(lieu.longitude) * kMinutes));
+  const auto deux = [](int nombre) { return Format(nombre, "00"); };
   PoseOption(bureau, d.OptN[lieu.latitude >= 0 ? 0 : 1]);
-  PoseTexte(bureau, d.Text8, Format(static_cast<double>(latitude / 60), "00"));
-  PoseTexte(bureau, d.Text9, Format(static_cast<double>(latitude % 60), "00"));
+  PoseTexte(bureau, d.Text8, deux(latitude / kMinutes));
+  PoseTexte(bureau, d.Text9, deux(latitude % kMinutes));
   PoseOption(bureau, d.OptE[lieu.longitude >= 0 ? 0 : 1]);
-  PoseTexte(bureau, d.Text6, Format(static_cast<double>(longitude / 60), "00"));
-  PoseTexte(bureau, d.Text7, Format(static_cast<double>(longitude % 60), "00"));
+  PoseTexte(bureau, d.Text6, deux(longitude / kMinutes));
+  PoseTexte(bureau, d.Text7, deux(longitude % kMinutes));
 }
 
 /// Keeps both fixes in the file of fixes.
