@@ -20,13 +20,14 @@ constexpr Couleur kEncreDroite = Rvb(70, 70, 90);
 constexpr Couleur kEncreEllipse = kLien;
 constexpr Couleur kEncreRoute = Rvb(120, 90, 40);
 constexpr Couleur kEncreSillage = Rvb(150, 110, 50);
-constexpr double kPoint = 25;   ///< radius of the dot, 1/1440 inch
-constexpr double kAnneau = 110; ///< of the ring around it
-constexpr double kRelais = 45;  ///< of a place on the track
-constexpr int kCotes = 72;      ///< of the ellipse
-constexpr int kPas = 8;         ///< of half a line
-constexpr double kPart = 0.22;  ///< of the surface's height that half a line takes
-constexpr double kTaille = 9.0; ///< of words, points
+constexpr double kPoint = 25;     ///< radius of the dot, 1/1440 inch
+constexpr double kAnneau = 110;   ///< of the ring around it
+constexpr double kRelais = 45;    ///< of a place on the track
+constexpr int kCotes = 72;        ///< of the ellipse
+constexpr int kPas = 8;           ///< of half a line
+constexpr double kPart = 0.22;    ///< of the surface's height that half a line takes
+constexpr double kDemieMax = 120; ///< miles, past which half a line bends too much for its second order
+constexpr double kTaille = 9.0;   ///< of words, points
 
 /// Draws places on a surface by the scales in force.
 class Traceur {
@@ -142,7 +143,7 @@ Calque CalqueDuPoint(const Feuille &feuille, const Surface &surface, const std::
     traceur.Cercle(traceur.PointDe(lieu), kRelais, {kEncreSillage, 2});
   }
   for (const PointTrace &point : points) {
-    TracePoint(traceur, point, milles * kPart);
+    TracePoint(traceur, point, std::min(milles * kPart, kDemieMax));
   }
   return traceur.Rend();
 }

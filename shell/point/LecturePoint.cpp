@@ -2,6 +2,7 @@
 
 #include "complements/ciel/Refus.hpp"
 #include "shell/complements/ReglagesLus.hpp"
+#include "shell/point/MotsPoint.hpp"
 
 #include <array>
 #include <cstddef>
@@ -64,6 +65,24 @@ InstantUTC DerniereVisee(const PointOuvert &point) {
   return derniere;
 }
 
+/// Marks a field whose text can't be used.
+void Marque(const FenetrePoint &f, Controle &champ, bool bon) {
+  champ.alerte = bon ? "" : f.TexteHors.legende + champ.infobulle;
+}
+
+/// The time that the fix is for: as typed, on the last sight's day where no day is, at the last sight's time where no
+/// time is.
+InstantUTC LitHeureDuPoint(FenetrePoint &f, const InstantUTC &derniere) {
+  Controle &date = f.Text1[0];
+  Controle &temps = f.Text1[1];
+  const std::string jour = date.texte.empty() ? TexteDate(derniere) : date.texte;
+  const std::string heure = temps.texte.empty() ? TexteHeureUtc(derniere) : temps.texte;
+  const auto lue = LitMomentTape(jour, heure);
+  Marque(f, date, LitMomentTape(jour, "00:00").has_value());
+  Marque(f, temps, LitMomentTape("01/01/2000", heure).has_value());
+  return date.texte.empty() && temps.texte.empty() ? derniere : lue.value_or(derniere);
+}
+
 } // namespace
 
 std::optional<InstantUTC> LitMomentTape(std::string_view date, std::string_view heure) {
@@ -82,22 +101,21 @@ std::optional<InstantUTC> LitMomentTape(std::string_view date, std::string_view 
   }
 }
 
-std::optional<Jambe> LitJambeTapee(const FenetrePoint &f) {
+std::optional<Jambe> LitJambeTapee(FenetrePoint &f) {
   const auto depuis = LitMomentTape(f.Text3[0].texte, f.Text3[1].texte);
   const auto cap = LitNombreBorne(f.Text3[2].texte, 0, kTour);
   const auto vitesse = LitNombreBorne(f.Text3[3].texte, 0, kVitesseMax);
+  Marque(f, f.Text3[0], LitMomentTape(f.Text3[0].texte, "00:00").has_value());
+  Marque(f, f.Text3[1], LitMomentTape("01/01/2000", f.Text3[1].texte).has_value());
+  Marque(f, f.Text3[2], cap.has_value());
+  Marque(f, f.Text3[3], vitesse.has_value());
   return depuis && cap && vitesse ? std::optional(Jambe{*depuis, *cap, *vitesse}) : std::nullopt;
 }
 
 ReglagesPoint LitDemande(Bureau &bureau) {
   FenetrePoint &f = bureau.fenetrePoint;
   ReglagesPoint demande;
-  const auto heure = LitMomentTape(f.Text1[0].texte, f.Text1[1].texte);
-  const bool vide = f.Text1[0].texte.empty() && f.Text1[1].texte.empty();
-  for (Controle &champ : f.Text1) {
-    champ.alerte = vide || heure ? "" : f.TexteHors.legende + champ.infobulle;
-  }
-  demande.heure = heure.value_or(DerniereVisee(bureau.point));
+  demande.heure = LitHeureDuPoint(f, DerniereVisee(bureau.point));
   demande.route.jambes = bureau.point.jambes;
   const auto direction = Lit(f, f.Text4[0], 0, kTour);
   const auto vitesse = Lit(f, f.Text4[1], 0, kCourantMax);

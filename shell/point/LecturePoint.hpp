@@ -12,9 +12,9 @@ namespace velmaris {
 /// @return nothing for a text that is no date or time
 std::optional<InstantUTC> LitMomentTape(std::string_view date, std::string_view heure);
 
-/// A leg from its four fields.
-/// @return nothing unless all four can be used
-std::optional<Jambe> LitJambeTapee(const FenetrePoint &fenetre);
+/// A leg from its four fields; those that can't be used are marked.
+/// @return nothing unless all four can
+std::optional<Jambe> LitJambeTapee(FenetrePoint &fenetre);
 
 /// What the window's fields ask for. A field that can't be used is marked and counts as empty; without a time the fix
 /// is for the last sight.

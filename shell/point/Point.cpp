@@ -1,5 +1,6 @@
 #include "shell/point/Point.hpp"
 
+#include "complements/point/FichierRoute.hpp"
 #include "complements/point/PointsGardes.hpp"
 #include "foundations/Erreur.hpp"
 #include "foundations/Fichiers.hpp"
@@ -25,6 +26,7 @@ namespace {
 /// Where the store keeps the doubts, in the order of their fields.
 constexpr std::array<std::string_view, 4> kCles = {"PointHauteur", "PointCap", "PointVitesse", "PointCourant"};
 constexpr std::string_view kCleSillage = "Sillage";
+constexpr std::string_view kCleRoute = "PointRoute";
 constexpr double kJoursSillage = 7;
 
 std::filesystem::path FichierPoints(const Bureau &bureau) { return bureau.dossiers.utilisateur / "points.csv"; }
@@ -144,6 +146,27 @@ void LitSillage(Bureau &bureau) {
   }
 }
 
+/// Keeps the legs, a line each as in a route file.
+void GardeRoute(Bureau &bureau) {
+  std::string texte;
+  for (const Jambe &jambe : bureau.point.jambes) {
+    texte += TexteInstant(jambe.depuis) + " " + TexteGeneral(jambe.cap) + " " + TexteGeneral(jambe.vitesse) + "\n";
+  }
+  EcritReglage(bureau, kCleRoute, texte);
+}
+
+/// The kept legs, where they are of these days: none that is over two days from the first sight carries a ship.
+std::vector<Jambe> RouteGardee(const Bureau &bureau) {
+  constexpr double kDeuxJours = 2 * 86400.0;
+  const std::vector<ViseeDuPoint> &visees = bureau.point.visees;
+  std::vector<Jambe> jambes = LitRoute(LitReglage(bureau, kCleRoute)).jambes;
+  std::erase_if(jambes, [&](const Jambe &jambe) {
+    return visees.empty() || !visees[0].hauteur ||
+           std::fabs(SecondesEntre(jambe.depuis, visees[0].hauteur->utc)) > kDeuxJours;
+  });
+  return jambes;
+}
+
 void PoseSurFeuille(Bureau &bureau, bool montre) {
   bureau.point.surFeuille = montre;
   bureau.fenetrePoint.Check3.valeur = montre ? 1 : 0;
@@ -240,6 +263,9 @@ void OuvrePoint_Click(Bureau &bureau, int /*indice*/) {
     ReprendVisees(bureau);
   } else if (SuitRegistre(bureau); !bureau.fenetrePoint.cadre.visible) {
     ReprendDroites(bureau, false);
+  }
+  if (p.jambes.empty()) {
+    p.jambes = RouteGardee(bureau);
   }
   if (p.jambes.empty()) {
     p.jambes = JambesDEstime(bureau);
@@ -383,6 +409,7 @@ void Jambes_Click(Bureau &bureau, int /*indice*/) {
 
 void Command2_Click(Bureau &bureau, int indice) {
   indice == 0 ? PoseJambe(bureau) : OteJambe(bureau);
+  GardeRoute(bureau);
   RefaitPoint(bureau);
 }
 
@@ -399,7 +426,10 @@ void Command3_Click(Bureau &bureau, int indice) {
     return;
   } else if (indice == 0) {
     const LieuNavire lieu = solution->lieu;
-    RetientGeste(bureau, bureau.fenetrePoint.Command3[0].infobulle, [&] { PrendEstime(bureau, lieu); });
+    const FenetrePoint &f = bureau.fenetrePoint;
+    const bool actuelle = solution == SolutionVue(bureau.point, bureau.point.actuelle);
+    RetientGeste(bureau, f.Command3[0].infobulle, [&] { PrendEstime(bureau, lieu); });
+    Avise(bureau, f.Titre.at(actuelle ? 1 : 2).legende + " : " + TexteLieu(lieu)); // which of the two it was
   } else if (indice == 1) {
     Garde(bureau);
   } else {

@@ -10,6 +10,7 @@
 #include "shell/complements/ReglagesLus.hpp"
 #include "shell/droites/MemoireDroites.hpp"
 #include "shell/point/Point.hpp"
+#include "shell/registre/Registre.hpp"
 
 #include <algorithm>
 #include <cmath>
@@ -78,7 +79,7 @@ std::vector<std::size_t> DernierQuart(const RegistreLu &registre, const Annotati
   std::vector<std::size_t> rangs;
   std::set<Sujet> connus;
   std::optional<std::int64_t> avant;
-  for (std::size_t i = 0; i < registre.lignes.size(); ++i) {
+  for (std::size_t i = 0; i < registre.lignes.size() && rangs.size() < kViseesDuPoint; ++i) {
     const std::int64_t instant = registre.lignes[i].instant;
     if (avant && *avant - instant > kEntreQuarts) {
       break;

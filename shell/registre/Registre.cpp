@@ -150,6 +150,9 @@ std::vector<std::string> IdentitesVisees(const Bureau &bureau) {
 void RetientAuPoint(Bureau &bureau, const std::vector<std::string> &identites) {
   std::vector<std::string> &retenues = bureau.registreOuvert.auPoint;
   for (const std::string &identite : identites) {
+    if (retenues.size() >= kViseesDuPoint) {
+      break;
+    }
     if (std::count(retenues.begin(), retenues.end(), identite) == 0) {
       retenues.push_back(identite);
     }
@@ -208,7 +211,7 @@ void Table1_Coche(Bureau &bureau, int /*indice*/) {
   std::vector<std::string> &retenues = bureau.registreOuvert.auPoint;
   if (const auto rang = RangCourant(bureau)) {
     const std::string identite = IdentiteDe(*bureau.registreOuvert.lu, *rang);
-    if (std::erase(retenues, identite) == 0) {
+    if (std::erase(retenues, identite) == 0 && retenues.size() < kViseesDuPoint) {
       retenues.push_back(identite);
     }
     ++bureau.registre.Table1.tableau.version;

@@ -24,7 +24,10 @@ std::vector<std::size_t> RangsVises(const Bureau &bureau);
 /// Their identities.
 std::vector<std::string> IdentitesVisees(const Bureau &bureau);
 
-/// Has the fix made of more sights; one that is there already stays.
+/// Sights that a fix is made of at most: it answers at once, and no watch has more.
+inline constexpr std::size_t kViseesDuPoint = 200;
+
+/// Has the fix made of more sights, up to `kViseesDuPoint`; one that is there already stays.
 void RetientAuPoint(Bureau &bureau, const std::vector<std::string> &identites);
 
 /// The events of the log's window; its controls bear the names of others in the main window.

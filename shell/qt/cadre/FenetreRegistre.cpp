@@ -48,7 +48,7 @@ FenetreRegistre::FenetreRegistre(Scene &scene, QWidget *parent)
   resize(Taille().boundedTo(libre));
   ReprendSaTaille();
   DisposeRegistre(bureau_, width() / f, height() / f);
-  enTaille_ = false;
+  enTaille_ = false; // NOLINT(cppcoreguidelines-prefer-member-initializer): sizes that came until here were its own
 }
 
 double FenetreRegistre::EchelleVoulue() const {

@@ -140,6 +140,7 @@ Table::Table(QWidget *parent) : QTableView(parent), modele_(this) {
   verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
   verticalHeader()->setMinimumSectionSize(1); // with rows in it the toolkit would take half a minute for that
   horizontalHeader()->setMinimumSectionSize(1);
+  horizontalHeader()->setDefaultSectionSize(1); // the last column takes what is left, however little
   horizontalHeader()->setSectionResizeMode(QHeaderView::Fixed);
   horizontalHeader()->setStretchLastSection(true);
   horizontalHeader()->setHighlightSections(false);

@@ -31,7 +31,9 @@ protected:
     point.heure = "22:15";
   }
 
-  Calque Dessine(std::vector<LieuNavire> sillage = {}) const { return CalqueDuPoint(feuille, surface, {point}, sillage); }
+  Calque Dessine(std::vector<LieuNavire> sillage = {}) const {
+    return CalqueDuPoint(feuille, surface, {point}, sillage);
+  }
 
   static std::vector<Polyligne> Lignes(const Calque &calque) {
     std::vector<Polyligne> lignes;
@@ -112,6 +114,14 @@ TEST_F(LayerOfAFix, ATrackOverTheDateLineIsDrawnInPlaceOnASheetBesideIt) {
   const Polyligne route = Lignes(calque)[0];
   ASSERT_EQ(route.points.size(), 2U);
   EXPECT_NEAR(std::fabs(route.points[0].x - route.points[1].x), 0.2 * 60 * 100, 2);
+}
+
+TEST_F(LayerOfAFix, OnTheChartOfTheWorldALineStaysAsLongAsItsArcHolds) {
+  feuille.EchelleX = 1;
+  feuille.EchelleY = 1;
+  point.droites = {{90, 0, 20}};
+  const Polyligne droite = Lignes(Dessine())[0];
+  EXPECT_NEAR(std::fabs(droite.points.front().y - droite.points.back().y), 240, 1);
 }
 
 TEST_F(LayerOfAFix, WithoutAScaleNothingIsDrawn) {

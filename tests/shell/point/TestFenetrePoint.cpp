@@ -317,6 +317,58 @@ TEST_F(PointEnChiffres, TheFirstLegIsThatOfDeadReckoningWhereItIsFilled) {
   EXPECT_EQ(p.jambes[0].vitesse, 6);
 }
 
+TEST_F(PointEnChiffres, LegsAreKeptForTheNextStartAndLeftWhereTheyAreOfOtherDays) {
+  ViseQuatre();
+  bureau.point.jambes = {};
+  OuvrePoint();
+  for (const auto &[rang, texte] : {std::pair(0, "21/06/2026"), {1, "03:30"}, {2, "225"}, {3, "6,5"}}) {
+    Tape(f.Text3.at(static_cast<std::size_t>(rang)), texte);
+  }
+  Clique(f.Command2[0]);
+  p.jambes.clear(); // as a new start has it
+  OuvrePoint();
+  ASSERT_EQ(p.jambes.size(), 1U);
+  EXPECT_EQ(p.jambes[0].cap, 225);
+  EXPECT_EQ(p.jambes[0].vitesse, 6.5);
+  for (const int i : {0, 1, 2, 3}) {
+    Tape(f.Text3.at(static_cast<std::size_t>(i)),
+         std::array{"11/06/2026", "03:30", "90", "5"}.at(static_cast<std::size_t>(i)));
+  }
+  Clique(f.Command2[0]);
+  ASSERT_EQ(p.jambes.size(), 2U);
+  p.jambes.clear();
+  OuvrePoint();
+  EXPECT_EQ(p.jambes.size(), 1U) << "a course of ten days ago carries nobody";
+}
+
+TEST_F(PointEnChiffres, AFixIsMadeOfTwoHundredSightsAtMost) {
+  ViseQuatre();
+  OuvrePoint();
+  std::vector<std::string> beaucoup;
+  for (int i = 0; i < 1000; ++i) {
+    beaucoup.push_back("rang " + std::to_string(i));
+  }
+  RetientAuPoint(bureau, beaucoup);
+  EXPECT_EQ(bureau.registreOuvert.auPoint.size(), kViseesDuPoint);
+}
+
+TEST_F(PointEnChiffres, TheTimeAloneIsOfTheLastSightsDay) {
+  ViseQuatre();
+  OuvrePoint();
+  TapeIci(f.Text1[1], "23:00");
+  EXPECT_EQ(SecondesEntre(*p.heure, UTCDe({2026, 6, 21, 23, 0, 0})), 0);
+  TapeIci(f.Text1[1], "25:00");
+  EXPECT_TRUE(f.Text1[0].alerte.empty());
+  EXPECT_FALSE(f.Text1[1].alerte.empty()) << "the field at fault alone is marked";
+}
+
+TEST_F(PointEnChiffres, WhatIsTakenIsToldByItsTheory) {
+  ViseQuatre();
+  OuvrePoint();
+  Clique(f.Command3[0]);
+  EXPECT_THAT(bureau.etat.avis, HasSubstr("Par le ciel d'aujourd'hui : 47° 30.0' N"));
+}
+
 TEST_F(PointEnChiffres, ALegThatLacksAFigureIsNotTaken) {
   ViseQuatre();
   OuvrePoint();
@@ -324,6 +376,8 @@ TEST_F(PointEnChiffres, ALegThatLacksAFigureIsNotTaken) {
   Clique(f.Command2[0]);
   EXPECT_TRUE(p.jambes.empty());
   EXPECT_THAT(bureau.etat.avis, HasSubstr("une heure, un cap et une vitesse"));
+  EXPECT_TRUE(f.Text3[2].alerte.empty());
+  EXPECT_FALSE(f.Text3[3].alerte.empty()) << "the fields at fault are marked";
 }
 
 TEST_F(PointEnChiffres, ARowThatIsTickedInTheLogIsInTheFixAndGoesWithItsTick) {
