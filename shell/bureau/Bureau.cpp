@@ -58,8 +58,8 @@ ListeControles ControlesDe(Bureau &bureau, std::string_view fenetre) {
 }
 
 std::vector<CadreFenetre *> FenetresLibres(Bureau &bureau) {
-  return {&bureau.utilisateur.cadre, &bureau.ciel.cadre, &bureau.impression.cadre, &bureau.fiche.cadre,
-          &bureau.registre.cadre,    &bureau.fenetrePoint.cadre};
+  return {&bureau.utilisateur.cadre, &bureau.ciel.cadre,     &bureau.impression.cadre,
+          &bureau.fiche.cadre,       &bureau.registre.cadre, &bureau.fenetrePoint.cadre};
 }
 
 Surface *SurfaceDe(Bureau &bureau, const Controle &controle) {
