@@ -220,9 +220,9 @@ TEST_P(FichiersLivres, EveryCaptionAndToolTipOfEveryWindowHasItsLine) {
   // The program writes these, and the last two are the same in every language.
   const std::set<std::string> composes = {"Données Label32 -1", "apropos Label2 3", "apropos Label1 -1"};
   const std::string fichier = LitFichier(std::filesystem::path(VELMARIS_DONNEES) / GetParam());
-  for (const std::string_view fenetre : {kFenetreDonnees, kFenetreFSelect, kFenetreUtilisateur, kFenetreCiel,
-                                         kFenetreApropos, kFenetreEtat, kFenetreFiche, kFenetreRegistre,
-                                         kFenetrePoint}) {
+  for (const std::string_view fenetre :
+       {kFenetreDonnees, kFenetreFSelect, kFenetreUtilisateur, kFenetreCiel, kFenetreApropos, kFenetreEtat,
+        kFenetreFiche, kFenetreRegistre, kFenetrePoint}) {
     const ListeControles controles = ControlesDe(bureau, fenetre);
     std::for_each(controles.begin(), controles.end(), [&](Controle *c) { efface(*c); });
     AppliqueLangue(fichier, fenetre, controles, bureau.messages);
