@@ -101,7 +101,7 @@ std::string InitialiseEtoile(const std::string &fichier, const Rangee &rangee) {
     return Borne(fichier, rangee[colonne], bas, haut);
   };
   return "EtoileIcrs{" + lit(1, 0, 360) + ", " + lit(2, -90, 90) + ", " + lit(3, -1E4, 1E4) + ", " + lit(4, -1E4, 1E4) +
-         ", " + lit(5, 0, 1000) + "},\n";
+         ", " + lit(5, 0, 1000) + ", " + lit(6, -2, 12) + "},\n";
 }
 
 void AjouteEtoiles(const fs::path &dossier, std::string &sortie) {

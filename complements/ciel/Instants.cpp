@@ -12,6 +12,8 @@
 namespace velmaris {
 namespace {
 
+constexpr double kJour1970 = 2440587.5;
+constexpr std::int64_t kSecondesDuJour = 86400;
 constexpr double kJour1972 = 2441317.5; ///< leap seconds from here on
 constexpr double kJour2035 = 2464328.5; ///< from here on what will be put in is anybody's guess
 constexpr double kJoursParAn = 365.25;
@@ -46,6 +48,12 @@ double EcartAtomique(const InstantUTC &utc) {
   double tai2 = 0;
   eraUtctai(utc.jour, utc.fraction, &tai1, &tai2);
   return ((tai1 - utc.jour) + (tai2 - utc.fraction)) * ERFA_DAYSEC + ERFA_TTMTAI;
+}
+
+/// How long a day is: one that ends in a leap second is longer.
+double SecondesDuJour(const InstantUTC &minuit) {
+  return Atomique(minuit) ? ERFA_DAYSEC + EcartAtomique({minuit.jour + 1, 0}) - EcartAtomique({minuit.jour, 0})
+                          : ERFA_DAYSEC;
 }
 
 /// TT - UT outside those years, seconds.
@@ -110,6 +118,25 @@ InstantUTC PlusTard(const InstantUTC &utc, double secondes) {
 
 double SecondesEntre(const InstantUTC &de, const InstantUTC &a) {
   return ((a.jour - de.jour) + (a.fraction - de.fraction)) * ERFA_DAYSEC;
+}
+
+std::int64_t SecondesDe(const InstantUTC &utc) {
+  const DateCivile date = CivileDe(utc);
+  double jour0 = 0;
+  double jour = 0;
+  eraCal2jd(date.annee, date.mois, date.jour, &jour0, &jour);
+  const double secondes = (date.heure * 60 + date.minute) * 60 + date.seconde;
+  return std::llround(jour0 - kJour1970 + jour) * kSecondesDuJour + std::llround(secondes);
+}
+
+InstantUTC UTCDeSecondes(std::int64_t secondes) {
+  const std::int64_t reste = secondes % kSecondesDuJour;
+  const std::int64_t dansLeJour = reste < 0 ? reste + kSecondesDuJour : reste;
+  const std::int64_t minuit = secondes - dansLeJour;
+  const std::int64_t jours = minuit / kSecondesDuJour; // without a rest
+  InstantUTC utc{kJour1970 + static_cast<double>(jours), 0};
+  utc.fraction = static_cast<double>(dansLeJour) / SecondesDuJour(utc);
+  return utc;
 }
 
 InstantUT1 UT1De(const InstantUTC &utc, double dut1) {

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <cstdint>
+
 /// Time scales of the complements. An instant is a Julian day in two parts, whose sum it is: the first a day at 0 h, so
 /// that nothing of a second is lost. Each scale is a type of its own, which no other is taken for.
 namespace velmaris {
@@ -50,6 +52,12 @@ InstantUTC PlusTard(const InstantUTC &utc, double secondes);
 
 /// How much later the second instant is, seconds; leap seconds in between don't count.
 double SecondesEntre(const InstantUTC &de, const InstantUTC &a);
+
+/// Whole seconds since the beginning of 1970, UTC, the nearest; a leap second counts as the one that follows it.
+std::int64_t SecondesDe(const InstantUTC &utc);
+
+/// The instant of whole seconds since the beginning of 1970, UTC.
+InstantUTC UTCDeSecondes(std::int64_t secondes);
 
 /// @param dut1  UT1 - UTC, seconds
 InstantUT1 UT1De(const InstantUTC &utc, double dut1);

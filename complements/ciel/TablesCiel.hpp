@@ -41,6 +41,7 @@ struct EtoileIcrs {
   double muAd = 0;      ///< milliseconds of arc a year, times the cosine of the declination
   double muDec = 0;     ///< milliseconds of arc a year
   double parallaxe = 0; ///< milliseconds of arc
+  double magnitude = 0; ///< visual; of a variable star the mean
 };
 
 inline constexpr std::size_t kNombreEtoilesIcrs = 246;

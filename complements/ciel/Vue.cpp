@@ -68,7 +68,10 @@ DuCentre VersCentre(const Repere &repere, const HauteurAzimut &vu, double distan
 }
 
 PlaceTopocentrique VueDe(const PlaceGeocentrique &place, const Station &station) {
-  const Repere repere = RepereDe(station);
+  return VueDuRepere(place, RepereDe(station));
+}
+
+PlaceTopocentrique VueDuRepere(const PlaceGeocentrique &place, const Repere &repere) {
   const Vecteur3 duCentre = DirectionTerrestre(place);
   const HauteurAzimut centre = SurHorizon(repere, duCentre);
   PlaceTopocentrique vue;

@@ -23,6 +23,9 @@ struct HauteurAzimut {
   double azimut = 0;  ///< degrees in [0, 360)
 };
 
+/// A body seen from a place whose frame is known: `VueDe` without the frame, for many bodies from one place.
+PlaceTopocentrique VueDuRepere(const PlaceGeocentrique &place, const Repere &repere);
+
 HauteurAzimut SurHorizon(const Repere &repere, const Vecteur3 &direction);
 
 /// A body as it stands from the Earth's centre.

@@ -11,19 +11,13 @@ namespace velmaris {
 namespace {
 
 constexpr std::size_t kViseesEllipse = 6; ///< from here on residuals say something of their own
-constexpr double kSansControle = 1E-4;    ///< a redundancy under it controls nothing
 
-/// The sights' share of the test: how each is controlled by the others.
-struct Controle {
-  Eigen::MatrixXd partages; ///< of the adjusted heights, over the assumed errors
-  Eigen::VectorXd redondances;
-};
-
-Controle ControleDe(const EquilibrePoint &e) {
-  Controle c;
-  c.partages = e.matrices.lignes * e.cofacteurs * e.matrices.lignes.transpose();
-  c.redondances = (1 - c.partages.diagonal().array()).cwiseMax(0).cwiseMin(1);
-  return c;
+/// The test of the sights that count, each against the others.
+EpreuveMesures EpreuveDe(const EquilibrePoint &e, int surplus, double chanceAlarme) {
+  const Eigen::Matrix<double, Eigen::Dynamic, Eigen::Dynamic, Eigen::RowMajor> partages =
+      e.matrices.lignes * e.cofacteurs * e.matrices.lignes.transpose();
+  const auto n = static_cast<std::size_t>(e.matrices.ecarts.size());
+  return EprouveMesures({e.matrices.ecarts.data(), n}, {partages.data(), n * n}, surplus, chanceAlarme);
 }
 
 /// What a sight has from a place, whether it counts or not.
@@ -44,44 +38,9 @@ ResiduPoint ResiduDe(const ViseePoint &visee, const ReglagesPoint &reglages, con
   return r;
 }
 
-/// The test of one sight at a time, and which one is improbable.
-void Teste(SolutionPoint &solution, const SystemePoint &systeme, const Controle &controle, double chanceAlarme) {
-  std::vector<Eigen::Index> testees;
-  for (Eigen::Index i = 0; i < controle.redondances.size(); ++i) {
-    if (controle.redondances[i] > kSansControle) {
-      testees.push_back(i);
-    }
-  }
-  if (solution.surplus < 1 || testees.empty()) {
-    return;
-  }
-  std::vector<double> correlations;
-  for (const Eigen::Index i : testees) {
-    for (const Eigen::Index j : testees) {
-      const double racine = std::sqrt(controle.redondances[i] * controle.redondances[j]);
-      correlations.push_back(i == j ? 1 : -controle.partages(i, j) / racine);
-    }
-  }
-  solution.seuil = SeuilDuPlusGrand(correlations, chanceAlarme);
-  const auto statistique = [&](Eigen::Index i) {
-    return std::fabs(solution.residus[systeme.visees[static_cast<std::size_t>(i)].place].statistique);
-  };
-  std::sort(testees.begin(), testees.end(),
-            [&](Eigen::Index i, Eigen::Index j) { return statistique(i) > statistique(j); });
-  const double pire = statistique(testees.front());
-  if (!(pire > solution.seuil)) {
-    return;
-  }
-  const double suivante = testees.size() > 1 ? statistique(testees[1]) : 0;
-  solution.sansNom = solution.surplus < 2 || pire * pire - suivante * suivante < kNettement;
-  if (!solution.sansNom) {
-    solution.improbable = systeme.visees[static_cast<std::size_t>(testees.front())].place;
-  }
-}
-
 /// The residuals, those of the sights that count with what the common errors explain of them.
 void PoseResidus(SolutionPoint &solution, const SystemePoint &systeme, const EquilibrePoint &e,
-                 std::span<const ViseePoint> visees, const ReglagesPoint &reglages, const Controle &controle) {
+                 std::span<const ViseePoint> visees, const ReglagesPoint &reglages, const EpreuveMesures &epreuve) {
   const EcartRoute ecart = EcartDeLEtat(systeme, e.etat);
   for (const ViseePoint &visee : visees) {
     solution.residus.push_back(ResiduDe(visee, reglages, e.etat.lieu, ecart));
@@ -91,10 +50,8 @@ void PoseResidus(SolutionPoint &solution, const SystemePoint &systeme, const Equ
     ResiduPoint &r = solution.residus[systeme.visees[k].place];
     r.utilisee = true;
     r.residu = e.matrices.ecarts[i] * systeme.visees[k].ecartType;
-    r.redondance = controle.redondances[i];
-    if (r.redondance > kSansControle && solution.surplus > 0) {
-      r.statistique = e.matrices.ecarts[i] / std::sqrt(r.redondance);
-    }
+    r.redondance = epreuve.redondances[k];
+    r.statistique = epreuve.statistiques[k];
   }
 }
 
@@ -153,13 +110,17 @@ SolutionPoint JugeEquilibre(const SystemePoint &systeme, const EquilibrePoint &e
     const double variance = solution.khi2 / solution.surplus;
     solution.parResidus = EllipseDe(q(0, 0), q(0, 1), q(1, 1), variance * FacteurFisher(solution.surplus));
   }
-  const Controle controle = ControleDe(e);
-  PoseResidus(solution, systeme, e, visees, reglages, controle);
+  const EpreuveMesures epreuve = EpreuveDe(e, solution.surplus, reglages.chanceAlarme);
+  solution.seuil = epreuve.seuil;
+  solution.sansNom = epreuve.sansNom;
+  if (epreuve.improbable) {
+    solution.improbable = systeme.visees[*epreuve.improbable].place;
+  }
+  PoseResidus(solution, systeme, e, visees, reglages, epreuve);
   PoseCommunes(solution, systeme, e);
   if (systeme.fond) {
     solution.fond = FondDe(systeme, e, reglages);
   }
-  Teste(solution, systeme, controle, reglages.chanceAlarme);
   return solution;
 }
 

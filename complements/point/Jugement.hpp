@@ -1,5 +1,6 @@
 #pragma once
 
+#include "complements/point/Epreuve.hpp"
 #include "complements/point/Equations.hpp"
 #include "complements/point/Point.hpp"
 
@@ -9,9 +10,6 @@ namespace velmaris {
 /// @param visees  all sights of the caller, those that don't count too
 SolutionPoint JugeEquilibre(const SystemePoint &systeme, const EquilibrePoint &equilibre,
                             std::span<const ViseePoint> visees, const ReglagesPoint &reglages);
-
-/// How many times likelier a sight must be a blunder than any other, as twice a logarithm: twenty times.
-inline constexpr double kNettement = 5.991464547107979;
 
 /// The ellipse of a covariance of miles north and east, its half axes by the root of a factor.
 EllipsePoint EllipseDe(double nordNord, double nordEst, double estEst, double facteur);

@@ -48,6 +48,21 @@ double ChanceDesDeux(double seuil, double correlation) {
   return 2 * somme;
 }
 
+/// Chance that Student's t is within bounds of either side, as a finite sum.
+/// Source: Abramowitz and Stegun, 26.7.3 and 26.7.4.
+double PartStudent(double t, int libertes) {
+  const double angle = std::atan(t / std::sqrt(libertes));
+  const double carre = std::cos(angle) * std::cos(angle);
+  const bool impair = libertes % 2 == 1;
+  double terme = impair ? std::cos(angle) : 1;
+  double somme = 0;
+  for (int n = impair ? 3 : 2; n <= libertes; n += 2) {
+    somme += terme;
+    terme *= carre * (n - 1) / n;
+  }
+  return impair ? 2 / std::numbers::pi * (angle + std::sin(angle) * somme) : std::sin(angle) * somme;
+}
+
 /// The closest pairs that join all normals: for each but the first its correlation, without sign, to the tree.
 std::vector<double> PairesDeLArbre(std::span<const double> correlations, std::size_t n) {
   std::vector<double> proche(n, 0);
@@ -72,6 +87,19 @@ std::vector<double> PairesDeLArbre(std::span<const double> correlations, std::si
 } // namespace
 
 double FacteurFisher(int surplus) { return surplus * (std::pow(0.05, -2.0 / surplus) - 1); }
+
+double FacteurStudent(int libertes) {
+  constexpr double kPart = 0.95;
+  constexpr double kPlusGrand = 13; ///< with one degree of freedom it is 12.706
+  constexpr int kTours = 60;
+  double bas = 0;
+  double haut = kPlusGrand;
+  for (int tour = 0; tour < kTours; ++tour) {
+    const double milieu = (bas + haut) / 2;
+    (PartStudent(milieu, libertes) < kPart ? bas : haut) = milieu;
+  }
+  return (bas + haut) / 2;
+}
 
 double ChanceKhi2(double khi2, int libertes) {
   if (libertes <= 0 || !(khi2 > 0)) {

@@ -20,6 +20,11 @@ double ChanceKhi2(double khi2, int libertes);
 /// Chance that a normal of mean 0 and deviation 1 is off by more, to either side.
 double ChanceNormale(double ecart);
 
+/// Student's factor: the mean of normals whose deviation is estimated from themselves is within so many of its own
+/// deviations in 95 of 100 cases.
+/// @param libertes  degrees of freedom, over 0
+double FacteurStudent(int libertes);
+
 /// The bound that the largest of several normals passes, to either side, with a given chance.
 /// @param correlations  between them, n rows of n, 1 where a row meets its own column
 /// @param chance        over 0, under 1

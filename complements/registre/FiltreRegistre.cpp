@@ -14,6 +14,7 @@ namespace {
 constexpr std::size_t kColonneAstre = 2;
 constexpr std::size_t kColonnesLues = 3; ///< up to that one
 constexpr int kDernierJour = 31;
+constexpr int kDernierMois = 12;
 constexpr std::int64_t kParJour = 86400;
 
 char Petite(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; }
@@ -93,6 +94,19 @@ private:
   }
 };
 
+/// A day, a month or a year by how many numbers there are, and by which of them is too large for a day.
+JourCherche JourDe(const std::vector<int> &n) {
+  if (n.size() == 3) {
+    return n[0] > kDernierJour ? JourCherche{n[2], n[1], n[0]} : JourCherche{n[0], n[1], n[2]};
+  }
+  if (n.size() == 2) {
+    return n[1] > kDernierJour   ? JourCherche{{}, n[0], n[1]}
+           : n[0] > kDernierJour ? JourCherche{{}, n[1], n[0]}
+                                 : JourCherche{n[0], n[1], {}};
+  }
+  return n[0] > kDernierJour ? JourCherche{{}, {}, n[0]} : JourCherche{n[0], {}, {}};
+}
+
 } // namespace
 
 std::optional<JourCherche> LitJourCherche(std::string_view texte) {
@@ -103,16 +117,10 @@ std::optional<JourCherche> LitJourCherche(std::string_view texte) {
   if (!lus) {
     return std::nullopt;
   }
-  const std::vector<int> &n = *lus;
-  if (n.size() == 3) {
-    return n[0] > kDernierJour ? JourCherche{n[2], n[1], n[0]} : JourCherche{n[0], n[1], n[2]};
-  }
-  if (n.size() == 2) {
-    return n[1] > kDernierJour   ? JourCherche{{}, n[0], n[1]}
-           : n[0] > kDernierJour ? JourCherche{{}, n[1], n[0]}
-                                 : JourCherche{n[0], n[1], {}};
-  }
-  return n[0] > kDernierJour ? JourCherche{{}, {}, n[0]} : JourCherche{n[0], {}, {}};
+  const JourCherche jour = JourDe(*lus);
+  const bool existe = jour.jour.value_or(1) >= 1 && jour.jour.value_or(1) <= kDernierJour &&
+                      jour.mois.value_or(1) >= 1 && jour.mois.value_or(1) <= kDernierMois;
+  return existe ? std::optional(jour) : std::nullopt;
 }
 
 std::vector<std::size_t> Filtre(const RegistreLu &registre, const Annotations &annotations,

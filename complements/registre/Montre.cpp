@@ -6,9 +6,7 @@
 #include <algorithm>
 #include <array>
 #include <charconv>
-#include <cmath>
 #include <map>
-#include <system_error>
 
 namespace velmaris {
 
@@ -27,13 +25,6 @@ std::string Exact(double valeur) {
   return {texte.data(), static_cast<std::size_t>(fin - texte.data())};
 }
 
-std::optional<double> Lit(std::string_view texte, double max) {
-  double valeur = 0.0;
-  const char *const bout = texte.data() + texte.size();
-  const auto [fin, code] = std::from_chars(texte.data(), bout, valeur);
-  return fin == bout && code == std::errc() && std::fabs(valeur) <= max ? std::optional(valeur) : std::nullopt;
-}
-
 } // namespace
 
 std::string LigneMontre(const ReleveMontre &releve) {
@@ -50,8 +41,8 @@ std::vector<ReleveMontre> LitMontre(std::string_view octets) {
       continue;
     }
     const auto instant = InstantEcrit(parties[0]);
-    const auto erreur = Lit(parties[1], kErreurMax);
-    const auto marche = Lit(parties[2], kMarcheMax);
+    const auto erreur = NombreEntre(parties[1], -kErreurMax, kErreurMax);
+    const auto marche = NombreEntre(parties[2], -kMarcheMax, kMarcheMax);
     if (instant && erreur && marche) {
       parMoment[*instant] = {*instant, *erreur, *marche};
     }

@@ -5,12 +5,10 @@
 #include "foundations/TexteNombre.hpp"
 #include "sights/DroitePLA.hpp"
 
-#include <charconv>
 #include <chrono>
 #include <cmath>
 #include <cstdio>
 #include <random>
-#include <system_error>
 
 namespace velmaris {
 
@@ -70,22 +68,14 @@ constexpr std::int64_t kParMinute = 60;
 constexpr std::int64_t kParHeure = 3600;
 constexpr std::int64_t kParJour = 86400;
 
-/// A whole text as a number; nothing for another one.
-template <class Nombre> std::optional<Nombre> LitEntierement(std::string_view texte) {
-  Nombre nombre{};
-  const char *const bout = texte.data() + texte.size();
-  const auto [fin, code] = std::from_chars(texte.data(), bout, nombre);
-  return texte.empty() || fin != bout || code != std::errc() ? std::nullopt : std::optional<Nombre>(nombre);
-}
-
 /// A figure that is finite.
 template <class Nombre> std::optional<Nombre> LitFigure(std::string_view texte) {
-  const std::optional<Nombre> nombre = LitEntierement<Nombre>(texte);
+  const std::optional<Nombre> nombre = NombreEcrit<Nombre>(texte);
   return nombre && std::isfinite(*nombre) ? nombre : std::nullopt;
 }
 
 /// A field of a date as a whole number; the journal has it as it was typed.
-std::optional<int> LitChamp(std::string_view partie) { return LitEntierement<int>(SansBlancs(partie)); }
+std::optional<int> LitChamp(std::string_view partie) { return NombreEcrit<int>(SansBlancs(partie)); }
 
 /// Thousandths of a mile.
 std::string Milliemes(double milles) { return TexteGeneral(std::round(milles * 1000) / 1000); }
@@ -271,7 +261,7 @@ std::optional<std::int64_t> InstantEcrit(std::string_view t) {
     }
   }
   const auto nombre = [&](std::size_t debut, std::size_t longueur) {
-    return LitEntierement<int>(t.substr(debut, longueur));
+    return NombreEcrit<int>(t.substr(debut, longueur));
   };
   return Instant(nombre(0, 4), nombre(5, 2), nombre(8, 2), nombre(11, 2), nombre(14, 2), nombre(17, 2));
 }

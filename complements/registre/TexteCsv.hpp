@@ -1,9 +1,12 @@
 #pragma once
 
+#include <charconv>
 #include <cstddef>
+#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
+#include <system_error>
 
 namespace velmaris {
 
@@ -22,5 +25,20 @@ std::string TextePartie(std::string_view partie);
 /// Lines of a file of lines: LF and CR LF end one, the last needs none. Each call takes one off.
 /// @param reste  what is still to be read; it loses the line
 std::string_view PrendLigne(std::string_view &reste);
+
+/// A number as the files have it: the whole text, with a point.
+/// @return nothing for another text, or a number that the type has no room for
+template <class Nombre> std::optional<Nombre> NombreEcrit(std::string_view texte) {
+  Nombre nombre{};
+  const char *const bout = texte.data() + texte.size();
+  const auto [fin, code] = std::from_chars(texte.data(), bout, nombre);
+  return code == std::errc() && fin == bout ? std::optional(nombre) : std::nullopt;
+}
+
+/// The same, within limits; what is no number is beyond them.
+template <class Nombre> std::optional<Nombre> NombreEntre(std::string_view texte, Nombre moindre, Nombre plusGrand) {
+  const std::optional<Nombre> nombre = NombreEcrit<Nombre>(texte);
+  return nombre && *nombre >= moindre && *nombre <= plusGrand ? nombre : std::nullopt;
+}
 
 } // namespace velmaris

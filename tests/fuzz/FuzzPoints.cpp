@@ -1,5 +1,5 @@
 #include "Attend.hpp"
-#include "complements/point/PointsGardes.hpp"
+#include "complements/registre/PointsGardes.hpp"
 
 #include <cmath>
 #include <string>

@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include <chrono>
 #include <cmath>
 
 namespace velmaris {
@@ -127,6 +128,32 @@ TEST(Instants, ATimeKeepsItsMicroseconds) {
   const InstantUTC a = UTCDe({2026, 11, 22, 17, 42, 20.000001});
   const InstantUTC b = UTCDe({2026, 11, 22, 17, 42, 20});
   EXPECT_NEAR(((a.jour - b.jour) + (a.fraction - b.fraction)) * ERFA_DAYSEC, 1E-6, 1E-9);
+}
+
+TEST(Instants, SecondsSince1970AreThoseOfTheClockLibrary) {
+  for (int annee = kPremiereAnnee; annee <= kDerniereAnnee; ++annee) {
+    for (const int jour : {1, 17, 28}) {
+      const int mois = 1 + (annee + jour) % 12;
+      const std::chrono::sys_seconds attendu =
+          std::chrono::sys_days(std::chrono::year(annee) / mois / jour) + std::chrono::seconds(86399);
+      const InstantUTC utc = UTCDe({annee, mois, jour, 23, 59, 59});
+      EXPECT_EQ(SecondesDe(utc), attendu.time_since_epoch().count());
+      EXPECT_NEAR(SecondesEntre(UTCDeSecondes(SecondesDe(utc)), utc), 0, 1E-4);
+    }
+  }
+}
+
+TEST(Instants, OfALeapSecondTheSecondsSince1970AreThoseOfTheNextOne) {
+  const std::int64_t bissextile = SecondesDe(UTCDe({2016, 12, 31, 23, 59, 60}));
+  EXPECT_EQ(bissextile, SecondesDe(UTCDe({2017, 1, 1, 0, 0, 0})));
+  const DateCivile apres = CivileDe(UTCDeSecondes(bissextile - 1));
+  EXPECT_EQ(apres.jour, 31);
+  EXPECT_NEAR(apres.seconde, 59, 1E-5);
+}
+
+TEST(Instants, WhatIsLessThanHalfASecondFromMidnightIsMidnight) {
+  const InstantUTC presque{UTCDe({2026, 6, 21}).jour, 1 - 1E-12};
+  EXPECT_EQ(SecondesDe(presque), SecondesDe(UTCDe({2026, 6, 22})));
 }
 
 } // namespace

@@ -9,22 +9,11 @@
 #include <cmath>
 
 namespace velmaris::essais {
-namespace {
 
 double Sort(std::mt19937_64 &alea, double de, double a) { return std::uniform_real_distribution<double>(de, a)(alea); }
 
 double Normale(std::mt19937_64 &alea, double ecart) {
   return ecart > 0 ? std::normal_distribution<double>(0, ecart)(alea) : 0;
-}
-
-RouteNavire RouteAuHasard(std::mt19937_64 &alea, double heures) {
-  RouteNavire route;
-  const int jambes = std::uniform_int_distribution<int>(0, 4)(alea);
-  for (int i = 0; i < jambes; ++i) {
-    route.jambes.push_back({Heure(Sort(alea, -1, heures + 1)), Sort(alea, 0, 360), Sort(alea, 0, 15)});
-  }
-  route.courant = {Sort(alea, 0, 360), Sort(alea, 0, 2)};
-  return route;
 }
 
 Astre AstreAuHasard(std::mt19937_64 &alea) {
@@ -39,7 +28,6 @@ Astre AstreAuHasard(std::mt19937_64 &alea) {
   return {GenreAstre::Etoile, rang};
 }
 
-/// The reading that a height without air makes, by bisection.
 double LectureDe(LectureSextant lecture, const PlaceGeocentrique &place, const Station &station, double hauteur) {
   const double facteur = lecture.horizonArtificiel ? 2 : 1;
   double bas = (hauteur - 2) * facteur;
@@ -49,6 +37,18 @@ double LectureDe(LectureSextant lecture, const PlaceGeocentrique &place, const S
     (CorrigeLecture(lecture, place, station).topocentrique < hauteur ? bas : haut) = lecture.lecture;
   }
   return (bas + haut) / 2;
+}
+
+namespace {
+
+RouteNavire RouteAuHasard(std::mt19937_64 &alea, double heures) {
+  RouteNavire route;
+  const int jambes = std::uniform_int_distribution<int>(0, 4)(alea);
+  for (int i = 0; i < jambes; ++i) {
+    route.jambes.push_back({Heure(Sort(alea, -1, heures + 1)), Sort(alea, 0, 360), Sort(alea, 0, 15)});
+  }
+  route.courant = {Sort(alea, 0, 360), Sort(alea, 0, 2)};
+  return route;
 }
 
 /// A body that stands between 8 and 80 degrees, in a wanted direction if there is one.

@@ -69,6 +69,18 @@ struct Voyage {
   LieuNavire vrai; ///< at the time of the fix
 };
 
+/// An even draw.
+double Sort(std::mt19937_64 &alea, double de, double a);
+
+/// A normal of mean 0; 0 without a deviation.
+double Normale(std::mt19937_64 &alea, double ecart);
+
+/// Any body that has a place: the near ones one time in three.
+Astre AstreAuHasard(std::mt19937_64 &alea);
+
+/// The reading that a height without air makes, by bisection.
+double LectureDe(LectureSextant lecture, const PlaceGeocentrique &place, const Station &station, double hauteur);
+
 /// A voyage at random.
 Voyage VoyageAuHasard(std::mt19937_64 &alea, const Genre &genre, const Bruit &bruit);
 

@@ -1,15 +1,16 @@
 #include "OutilsPoint.hpp"
+#include "Parts.hpp"
 
 #include <gtest/gtest.h>
 
 #include <cmath>
-#include <cstdlib>
 #include <iostream>
 
 /// Fixes of voyages at random, made by another road than theirs; VELMARIS_VOYAGES is how many.
 namespace velmaris {
 namespace {
 
+using essais::AttendPart;
 using essais::Bruit;
 using essais::DansEllipse;
 using essais::Genre;
@@ -19,10 +20,7 @@ using essais::VoyageAuHasard;
 
 constexpr int kVoyages = 400;
 
-int Nombre() {
-  const char *voulu = std::getenv("VELMARIS_VOYAGES");
-  return voulu == nullptr ? kVoyages : std::atoi(voulu);
-}
+int Nombre() { return essais::Voulus() > 0 ? essais::Voulus() : kVoyages; }
 
 /// Whether figures are told: the whole run's are to be read.
 bool Raconte() { return Nombre() > kVoyages; }
@@ -31,12 +29,6 @@ bool Raconte() { return Nombre() > kVoyages; }
 const SolutionPoint &LaVraie(const FichePoint &fiche, const LieuNavire &vrai) {
   const bool seconde = fiche.seconde && Milles(fiche.seconde->lieu, vrai) < Milles(fiche.solution->lieu, vrai);
   return seconde ? *fiche.seconde : *fiche.solution;
-}
-
-/// A share of draws stands within four deviations of what it should be, and within a hundredth more.
-void AttendPart(int compte, int sur, double part, double latitude) {
-  const double ecart = 4 * std::sqrt(part * (1 - part) / sur) + latitude;
-  EXPECT_NEAR(static_cast<double>(compte) / sur, part, ecart) << compte << " of " << sur;
 }
 
 void SansBruit(const Genre &genre, int nombre, std::uint64_t graine) {

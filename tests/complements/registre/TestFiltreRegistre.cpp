@@ -55,6 +55,9 @@ TEST_F(FiltreDuRegistre, ADayAMonthOrAYearIsTakenAsTyped) {
   EXPECT_FALSE(LitJourCherche("demain"));
   EXPECT_FALSE(LitJourCherche("1/2/3/4"));
   EXPECT_FALSE(LitJourCherche("99999999999"));
+  for (const char *texte : {"13/2026", "0/2026", "31/13/2026", "0/1/2026", "2026-13-01", "15/13"}) {
+    EXPECT_FALSE(LitJourCherche(texte)) << texte;
+  }
   EXPECT_TRUE(LitJourCherche("  "));
 }
 

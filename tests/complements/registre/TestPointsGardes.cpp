@@ -1,4 +1,4 @@
-#include "complements/point/PointsGardes.hpp"
+#include "complements/registre/PointsGardes.hpp"
 
 #include <gtest/gtest.h>
 
