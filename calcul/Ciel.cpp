@@ -28,13 +28,6 @@ constexpr std::array kNoms{NomAstre{"Soleil", GenreAstre::Soleil},   NomAstre{"L
                            NomAstre{"Jupiter", GenreAstre::Jupiter}, NomAstre{"Saturne", GenreAstre::Saturne},
                            NomAstre{"Aries", GenreAstre::Belier}};
 
-/// How a body is told: a star by its row.
-std::string NomDe(const Astre &astre) {
-  const auto *const connu =
-      std::find_if(kNoms.begin(), kNoms.end(), [&](const NomAstre &nom) { return nom.genre == astre.genre; });
-  return connu == kNoms.end() ? std::to_string(astre.rang) : std::string(connu->nom);
-}
-
 /// A number that fills its text.
 template <class Nombre> Nombre LitTout(std::string_view texte) {
   Nombre valeur{};
@@ -109,6 +102,12 @@ std::optional<Astre> AstreNomme(std::string_view nom) {
     return std::nullopt;
   }
   return Astre{GenreAstre::Etoile, rang};
+}
+
+std::string NomDe(const Astre &astre) {
+  const auto *const connu =
+      std::find_if(kNoms.begin(), kNoms.end(), [&](const NomAstre &nom) { return nom.genre == astre.genre; });
+  return connu == kNoms.end() ? std::to_string(astre.rang) : std::string(connu->nom);
 }
 
 std::string_view SensRefus(RaisonRefus raison) {

@@ -23,6 +23,9 @@ struct DemandeCiel {
 /// @return nothing for any other name
 std::optional<Astre> AstreNomme(std::string_view nom);
 
+/// How a body is told: by the same names, a star by its row.
+std::string NomDe(const Astre &astre);
+
 /// The words for a refusal, in French as those of run-time errors are.
 std::string_view SensRefus(RaisonRefus raison);
 

@@ -1,7 +1,7 @@
 #include "calcul/Controle.hpp"
 
 #include "calcul/Ciel.hpp"
-#include "calcul/ViseeReduite.hpp"
+#include "calcul/outils/ViseeReduite.hpp"
 #include "complements/controle/Controle.hpp"
 
 #include <cmath>

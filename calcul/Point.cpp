@@ -2,7 +2,7 @@
 
 #include "calcul/Ciel.hpp"
 #include "calcul/Reduit.hpp"
-#include "calcul/ViseeReduite.hpp"
+#include "calcul/outils/ViseeReduite.hpp"
 #include "complements/point/FichierRoute.hpp"
 
 #include <algorithm>
@@ -140,17 +140,6 @@ InstantUTC HeureDuPoint(const DemandePointDit &demande, const std::vector<ViseeP
     }
   }
   return derniere;
-}
-
-template <class Elements, class Ecrit> void AjouteListe(std::string &sortie, const Elements &elements, Ecrit &&ecrit) {
-  sortie += '[';
-  for (const auto &element : elements) {
-    if (sortie.back() != '[') {
-      sortie += ',';
-    }
-    ecrit(element);
-  }
-  sortie += ']';
 }
 
 void AjouteEllipse(std::string &sortie, const SolutionPoint *solution) {

@@ -1,6 +1,6 @@
 #include "calcul/Reduit.hpp"
 
-#include "calcul/ViseeReduite.hpp"
+#include "calcul/outils/ViseeReduite.hpp"
 
 namespace velmaris {
 namespace {

@@ -51,17 +51,9 @@ void AjouteReglages(CLI::App &verbe, const Langue &dit, DemandePointDit &point) 
           ""))
       ->type_name("T")
       ->capture_default_str();
-  const auto pose = [&point, &dit](double lue) {
-    if (!(lue > 0)) {
-      throw CLI::ValidationError("--ecart-type", dit("plus grand que 0", "greater than 0"));
-    }
-    point.ecartType = lue;
-  };
-  AjouteNombreLibre(verbe, dit, "--ecart-type",
-                    dit("Erreur supposée d'une hauteur, minutes (0.7 à défaut)",
-                        "Assumed error of an altitude, minutes (0.7 by default)"),
-                    pose)
-      ->type_name("M");
+  AjouteEcartType(verbe, dit, point.ecartType,
+                  dit("Erreur supposée d'une hauteur, minutes (0.7 à défaut)",
+                      "Assumed error of an altitude, minutes (0.7 by default)"));
 }
 
 } // namespace
@@ -71,9 +63,7 @@ CLI::App *DeclarePoint(CLI::App &programme, const Langue &dit, DemandePointDit &
       "point", dit("Point de visées enregistrées, par moindres carrés, avec son ellipse de 95 %",
                    "The fix of saved sights by least squares, with its ellipse of 95 %"));
   verbe->group(dit("Verbes", "Commands"));
-  verbe->add_option(dit("FICHIER.LoP", "FILE.LoP"), point.fichiers, dit("Fichiers de visée", "Files of sights"))
-      ->required()
-      ->type_name("");
+  AjouteFichiersLoP(*verbe, dit, point.fichiers);
   AjouteRoute(*verbe, dit, point);
   AjouteReglages(*verbe, dit, point);
   AjouteDut1(*verbe, dit, point.dut1);

@@ -1,12 +1,15 @@
 #include "calcul/Ciel.hpp"
 #include "calcul/Controle.hpp"
-#include "calcul/Etoile.hpp"
-#include "calcul/Horizon.hpp"
-#include "calcul/Lune.hpp"
-#include "calcul/Planetes.hpp"
 #include "calcul/Point.hpp"
+#include "calcul/Prepare.hpp"
 #include "calcul/Reduit.hpp"
+#include "calcul/Serie.hpp"
 #include "calcul/VerbePoint.hpp"
+#include "calcul/VerbePrepare.hpp"
+#include "calcul/dit/Etoile.hpp"
+#include "calcul/dit/Horizon.hpp"
+#include "calcul/dit/Lune.hpp"
+#include "calcul/dit/Planetes.hpp"
 #include "calcul/outils/Arguments.hpp"
 #include "calcul/outils/Langue.hpp"
 #include "calcul/outils/Lot.hpp"
@@ -46,6 +49,8 @@ struct Demande {
   DemandePlanete planete;
   DemandeCiel ciel;
   DemandePointDit point;
+  DemandePrepare prepare;
+  DemandeSerie serie;
   double dut1 = 0.0; ///< UT1 - UTC of the sights that are checked, seconds
 };
 
@@ -142,6 +147,18 @@ int Point(const Demande &demande) {
   return Vide(sortie, demande.dit) && reussi ? kReussi : kEchec;
 }
 
+int Prepare(const Demande &demande) {
+  std::string sortie;
+  const bool reussi = EcritPrepare(demande.prepare, sortie);
+  return Vide(sortie, demande.dit) && reussi ? kReussi : kEchec;
+}
+
+int Serie(const Demande &demande) {
+  std::string sortie;
+  const bool reussi = EcritSerie(demande.serie, sortie);
+  return Vide(sortie, demande.dit) && reussi ? kReussi : kEchec;
+}
+
 /// The choice of the language of the texts.
 void AjouteLangue(CLI::App &verbe, const Langue &dit, std::string &langue) {
   verbe
@@ -161,9 +178,7 @@ CLI::App *DeclareReduit(CLI::App &programme, const Langue &dit, Demande &demande
       "reduit", dit("Réduit des visées enregistrées, dans l'ordre", "Reduces saved sights, in their order"));
   verbe->group(dit("Verbes", "Commands"));
   AjouteLangue(*verbe, dit, demande.langue);
-  verbe->add_option(dit("FICHIER.LoP", "FILE.LoP"), demande.fichiers, dit("Fichiers de visée", "Files of sights"))
-      ->required()
-      ->type_name("");
+  AjouteFichiersLoP(*verbe, dit, demande.fichiers);
   return verbe;
 }
 
@@ -172,9 +187,7 @@ CLI::App *DeclareControle(CLI::App &programme, const Langue &dit, Demande &deman
       "controle", dit("Contrôle des visées enregistrées par le ciel d'aujourd'hui, dans l'ordre",
                       "Checks saved sights against the sky of today, in their order"));
   verbe->group(dit("Verbes", "Commands"));
-  verbe->add_option(dit("FICHIER.LoP", "FILE.LoP"), demande.fichiers, dit("Fichiers de visée", "Files of sights"))
-      ->required()
-      ->type_name("");
+  AjouteFichiersLoP(*verbe, dit, demande.fichiers);
   AjouteDut1(*verbe, dit, demande.dut1);
   return verbe;
 }
@@ -347,6 +360,8 @@ int Execute(int argc, char **argv) {
   const CLI::App *reduit = DeclareReduit(programme, dit, demande);
   const CLI::App *controle = DeclareControle(programme, dit, demande);
   const CLI::App *point = DeclarePoint(programme, dit, demande.point);
+  const CLI::App *prepare = DeclarePrepare(programme, dit, demande.prepare);
+  const CLI::App *serie = DeclareSerie(programme, dit, demande.serie);
   const CLI::App *helio =
       DeclarePlanete(programme, dit, demande, "helio",
                      dit("Lieu héliocentrique d'une planète, \"L|B|R\"", "Heliocentric place of a planet, \"L|B|R\""));
@@ -377,6 +392,12 @@ int Execute(int argc, char **argv) {
   }
   if (point->parsed()) {
     return Point(demande);
+  }
+  if (prepare->parsed()) {
+    return Prepare(demande);
+  }
+  if (serie->parsed()) {
+    return Serie(demande);
   }
   if (helio->parsed()) {
     return Planete(demande, EcritHelio);

@@ -45,6 +45,22 @@ void AjouteNombreLu(CLI::App &verbe, const Langue &dit, const std::string &nom, 
   AjouteNombreLibre(verbe, dit, nom, aide, [&valeur](double lue) { valeur = lue; })->required();
 }
 
+void AjouteFichiersLoP(CLI::App &verbe, const Langue &dit, std::vector<std::string> &fichiers) {
+  verbe.add_option(dit("FICHIER.LoP", "FILE.LoP"), fichiers, dit("Fichiers de visée", "Files of sights"))
+      ->required()
+      ->type_name("");
+}
+
+void AjouteEcartType(CLI::App &verbe, const Langue &dit, std::optional<double> &ecartType, const std::string &aide) {
+  const auto pose = [&ecartType, &dit](double lue) {
+    if (!(lue > 0)) {
+      throw CLI::ValidationError("--ecart-type", dit("plus grand que 0", "greater than 0"));
+    }
+    ecartType = lue;
+  };
+  AjouteNombreLibre(verbe, dit, "--ecart-type", aide, pose)->type_name("M");
+}
+
 void AjouteDut1(CLI::App &verbe, const Langue &dit, double &dut1) {
   AjouteNombreLibre(verbe, dit, "--dut1", dit("UT1 moins UTC, secondes", "UT1 less UTC, seconds"), [&dut1](double lue) {
     dut1 = lue;

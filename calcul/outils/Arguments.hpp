@@ -5,7 +5,9 @@
 #include <CLI/CLI.hpp>
 
 #include <functional>
+#include <optional>
 #include <string>
+#include <vector>
 
 /// Arguments that more than one verb takes.
 namespace velmaris {
@@ -19,6 +21,12 @@ CLI::Option *AjouteNombreLibre(CLI::App &verbe, const Langue &dit, const std::st
 /// A positional argument that must be there and be a number.
 void AjouteNombreLu(CLI::App &verbe, const Langue &dit, const std::string &nom, double &valeur,
                     const std::string &aide);
+
+/// Files of sights, one at least.
+void AjouteFichiersLoP(CLI::App &verbe, const Langue &dit, std::vector<std::string> &fichiers);
+
+/// An assumed error, "--ecart-type": minutes, greater than 0.
+void AjouteEcartType(CLI::App &verbe, const Langue &dit, std::optional<double> &ecartType, const std::string &aide);
 
 /// UT1 - UTC, seconds.
 void AjouteDut1(CLI::App &verbe, const Langue &dit, double &dut1);

@@ -27,6 +27,19 @@ void AjouteMembre(std::string &sortie, std::string_view cle, float valeur);
 /// Appends the member "erreur" of an object under way, with its number and its text.
 void AjouteErreur(std::string &sortie, int numero, std::string_view texte);
 
+/// Appends a list.
+/// @param ecrit  appends one element
+template <class Elements, class Ecrit> void AjouteListe(std::string &sortie, const Elements &elements, Ecrit &&ecrit) {
+  sortie += '[';
+  for (const auto &element : elements) {
+    if (sortie.back() != '[') {
+      sortie += ',';
+    }
+    ecrit(element);
+  }
+  sortie += ']';
+}
+
 /// Appends one object and its end of line.
 /// @param membres  appends the members; what it throws as an `Erreur` becomes the member "erreur" after them
 /// @return whether there was none

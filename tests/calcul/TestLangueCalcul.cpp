@@ -37,7 +37,8 @@ constexpr const char *kMotsFrancais[] = {"obligatoire", "Verbe", "degrés", "Mon
 constexpr const char *kMotsAnglais[] = {"required", "Commands", "degrees", "Tells", "COMMAND", "ROW", "Hour", "not "};
 
 TEST(CalculLangue, EveryVerbsHelpHoldsNoWordOfTheOther) {
-  for (const char *verbe : {"reduit", "horizon", "helio", "place", "etoile", "lune", "ciel", "controle", "point"}) {
+  for (const char *verbe :
+       {"reduit", "horizon", "helio", "place", "etoile", "lune", "ciel", "controle", "point", "prepare", "serie"}) {
     const Environnement francais(Variables{{"LANG", "fr_FR.UTF-8"}});
     const std::string enFrancais = Lance({verbe, "--help"}).sortie;
     const Environnement anglais(Variables{{"LANG", "en_US.UTF-8"}});

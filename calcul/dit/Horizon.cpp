@@ -1,4 +1,4 @@
-#include "calcul/Horizon.hpp"
+#include "calcul/dit/Horizon.hpp"
 
 #include "calcul/outils/Json.hpp"
 #include "foundations/CelHor.hpp"

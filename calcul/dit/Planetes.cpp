@@ -1,4 +1,4 @@
-#include "calcul/Planetes.hpp"
+#include "calcul/dit/Planetes.hpp"
 
 #include "calcul/outils/Json.hpp"
 #include "ephemerides/ParamPlanet.hpp"

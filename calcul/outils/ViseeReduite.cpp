@@ -1,4 +1,4 @@
-#include "calcul/ViseeReduite.hpp"
+#include "calcul/outils/ViseeReduite.hpp"
 
 #include "foundations/Erreur.hpp"
 #include "lines/FichierLoP.hpp"

@@ -1,4 +1,4 @@
-#include "calcul/Etoile.hpp"
+#include "calcul/dit/Etoile.hpp"
 
 #include "calcul/outils/Json.hpp"
 #include "ephemerides/Etoiles.hpp"

@@ -1,4 +1,4 @@
-#include "calcul/Lune.hpp"
+#include "calcul/dit/Lune.hpp"
 
 #include "calcul/outils/Json.hpp"
 #include "ephemerides/ModulePosLune.hpp"
