@@ -27,9 +27,12 @@
 #include "shell/ecran/PageImprimee.hpp"
 #include "shell/ecran/Presentation.hpp"
 #include "shell/ecran/Rangement.hpp"
+#include "shell/exercice/EvenementsExercice.hpp"
 #include "shell/point/Point.hpp"
+#include "shell/preparation/Preparation.hpp"
 #include "shell/registre/FichiersRegistre.hpp"
 #include "shell/registre/Registre.hpp"
+#include "shell/serie/Serie.hpp"
 #include "shell/visee/Annulation.hpp"
 #include "shell/visee/Astres.hpp"
 #include "shell/visee/Saisie.hpp"
@@ -165,6 +168,67 @@ constexpr Abonnement kRegistre[] = {
 };
 
 // NOLINTNEXTLINE(cppcoreguidelines-avoid-c-arrays,modernize-avoid-c-arrays)
+constexpr Abonnement kPreparation[] = {
+    {"Text1", Evenement::Change, preparation::Champ_Change},
+    {"Text2", Evenement::Change, preparation::Champ_Change},
+    {"Text3", Evenement::Change, preparation::Champ_Change},
+    {"Command1", Evenement::Clic, preparation::Command1_Click},
+    {"Onglets1", Evenement::Clic, preparation::Onglets1_Click},
+    {"HScroll1", Evenement::Change, preparation::HScroll1_Change},
+    {"Pas", Evenement::Clic, preparation::Pas_Click},
+    {"Check1", Evenement::Clic, preparation::Case_Click},
+    {"Check2", Evenement::Clic, preparation::Case_Click},
+    {"Carte", Evenement::Presse, preparation::Carte_Presse},
+    {"Astres", Evenement::Clic, preparation::Astres_Click},
+    {"Astres", Evenement::Valide, preparation::Prend_Click},
+    {"Prend", Evenement::Clic, preparation::Prend_Click},
+    {"Jeux", Evenement::Clic, preparation::Jeux_Click},
+    {"Text4", Evenement::Change, preparation::Compas_Change},
+    {"Combo1", Evenement::Clic, preparation::Compas_Change},
+    {"Text5", Evenement::Change, preparation::Inconnu_Change},
+    {"Inconnus", Evenement::Valide, preparation::Inconnus_Valide},
+    {"Command2", Evenement::Clic, preparation::Command2_Click},
+};
+
+// NOLINTNEXTLINE(cppcoreguidelines-avoid-c-arrays,modernize-avoid-c-arrays)
+constexpr Abonnement kSerie[] = {
+    {"Text1", Evenement::Change, serie::Champ_Change},
+    {"Text2", Evenement::Change, serie::Champ_Change},
+    {"Text3", Evenement::Change, serie::Champ_Change},
+    {"Text6", Evenement::Change, serie::Champ_Change},
+    {"Combo1", Evenement::Clic, serie::Combo1_Click},
+    {"Combo2", Evenement::Clic, serie::Champ_Change},
+    {"Check1", Evenement::Clic, serie::Check1_Click},
+    {"Command1", Evenement::Clic, serie::Command1_Click},
+    {"Onglets1", Evenement::Clic, serie::Onglets1_Click},
+    {"Lectures", Evenement::Clic, serie::Lectures_Click},
+    {"Lectures", Evenement::Coche, serie::Lectures_Coche},
+    {"Text4", Evenement::Valide, serie::Text4_Valide},
+    {"Command3", Evenement::Clic, serie::Command3_Click},
+    {"Marque", Evenement::Clic, serie::Marque_Click},
+    {"Prend", Evenement::Clic, serie::Prend_Click},
+    {"PrendMidi", Evenement::Clic, serie::PrendMidi_Click},
+    {"Distances", Evenement::Clic, serie::Distances_Click},
+    {"Distances", Evenement::Coche, serie::Distances_Coche},
+    {"Candidats", Evenement::Valide, serie::Candidats_Valide},
+    {"Combo3", Evenement::Clic, serie::Combo3_Click},
+    {"Text5", Evenement::Valide, serie::Text5_Valide},
+    {"Command4", Evenement::Clic, serie::Command4_Click},
+    {"PrendLune", Evenement::Clic, serie::PrendLune_Click},
+    {"Command2", Evenement::Clic, serie::Command2_Click},
+};
+
+// NOLINTNEXTLINE(cppcoreguidelines-avoid-c-arrays,modernize-avoid-c-arrays)
+constexpr Abonnement kExercice[] = {
+    {"Combo1", Evenement::Clic, exercice::Combo1_Click},     {"Text1", Evenement::Change, exercice::Champ_Change},
+    {"Combo2", Evenement::Clic, exercice::Champ_Change},     {"Text2", Evenement::Change, exercice::Champ_Change},
+    {"Command1", Evenement::Clic, exercice::Command1_Click}, {"Visees", Evenement::Clic, exercice::Visees_Click},
+    {"Visees", Evenement::Valide, exercice::Prend_Click},    {"Prend", Evenement::Clic, exercice::Prend_Click},
+    {"Text3", Evenement::Change, exercice::Point_Change},    {"Text3", Evenement::Valide, exercice::Corrige_Click},
+    {"Corrige", Evenement::Clic, exercice::Corrige_Click},   {"Ferme", Evenement::Clic, exercice::Ferme_Click},
+};
+
+// NOLINTNEXTLINE(cppcoreguidelines-avoid-c-arrays,modernize-avoid-c-arrays)
 constexpr Abonnement kDonnees[] = {
     {"TDate", Evenement::Quitte, TDate_Quitte},
     {"TDate", Evenement::Change, TDate_Change},
@@ -194,6 +258,9 @@ constexpr Abonnement kDonnees[] = {
     {"PU_Fiche", Evenement::Clic, OuvreFiche_Click},
     {"PU_Registre", Evenement::Clic, OuvreRegistre_Click},
     {"PU_Point", Evenement::Clic, OuvrePoint_Click},
+    {"PU_Preparation", Evenement::Clic, OuvrePreparation_Click},
+    {"PU_Serie", Evenement::Clic, OuvreSerie_Click},
+    {"PU_Exercice", Evenement::Clic, OuvreExercice_Click},
     {"PU_PointTrace", Evenement::Clic, PU_PointTrace_Click},
     {"PU_Sillage", Evenement::Clic, PU_Sillage_Click},
     {"Command3", Evenement::Clic, Command3_Click},
@@ -228,6 +295,7 @@ constexpr Abonnement kDonnees[] = {
     {"Command13", Evenement::Clic, Command13_Click},
     {"Sortie", Evenement::Clic, Sortie_Click},
     {"Image10", Evenement::Clic, Image10_Click},
+    {"Complement", Evenement::Clic, Complement_Click},
     {"OpCarte", Evenement::Clic, OpCarte_Click},
     {"Image2", Evenement::Clic, FermeModule<10>},
     {"Image3", Evenement::Clic, FermeModule<2>},
@@ -309,6 +377,15 @@ std::span<const Abonnement> AbonnementsDe(std::string_view fenetre) {
   }
   if (fenetre == kFenetreRegistre) {
     return kRegistre;
+  }
+  if (fenetre == kFenetrePreparation) {
+    return kPreparation;
+  }
+  if (fenetre == kFenetreSerie) {
+    return kSerie;
+  }
+  if (fenetre == kFenetreExercice) {
+    return kExercice;
   }
   return fenetre == kFenetreFSelect ? std::span<const Abonnement>(kFSelect) : std::span<const Abonnement>();
 }

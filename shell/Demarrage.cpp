@@ -275,18 +275,24 @@ bool ToucheControle(Bureau &bureau, char lettre) {
                            : lettre == 'O' ? &d.Command4
                            : lettre == 'P' ? &d.Command11
                            : lettre == 'Q' ? &d.Sortie
+                           : lettre == 'I' ? &d.PU_Fiche
+                           : lettre == 'L' ? &d.PU_Registre
+                           : lettre == 'G' ? &d.PU_Point
+                           : lettre == 'K' ? &d.PU_Preparation
+                           : lettre == 'R' ? &d.PU_Serie
+                           : lettre == 'E' ? &d.PU_Exercice
                                            : nullptr;
   if (bouton != nullptr) {
     ClicControle(bureau, *bouton);
   }
-  if (lettre == 'I') {
-    OuvreFiche_Click(bureau, -1);
-  } else if (lettre == 'L') {
-    OuvreRegistre_Click(bureau, -1);
-  } else if (lettre == 'G') {
-    OuvrePoint_Click(bureau, -1);
-  }
-  return bouton != nullptr || lettre == 'I' || lettre == 'L' || lettre == 'G';
+  return bouton != nullptr;
+}
+
+void Complement_Click(Bureau &bureau, int indice) {
+  Donnees &d = bureau.donnees;
+  const std::array<Controle *, 6> entrees = {&d.PU_Fiche,       &d.PU_Registre, &d.PU_Point,
+                                             &d.PU_Preparation, &d.PU_Serie,    &d.PU_Exercice};
+  ClicControle(bureau, *entrees.at(static_cast<std::size_t>(indice)));
 }
 
 bool ToucheMenu(Bureau &bureau, const Controle *pointe, Point place, const Controle *clavier) {
@@ -325,6 +331,9 @@ void Image10_Click(Bureau &bureau, int indice) {
   ChargeLangue(bureau, kFenetreFiche);
   ChargeLangue(bureau, kFenetreRegistre);
   ChargeLangue(bureau, kFenetrePoint);
+  ChargeLangue(bureau, kFenetrePreparation);
+  ChargeLangue(bureau, kFenetreSerie);
+  ChargeLangue(bureau, kFenetreExercice);
   PoseDomaines(bureau);
   if (bureau.fselect.chargee) {
     ChargeLangue(bureau, kFenetreFSelect);

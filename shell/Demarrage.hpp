@@ -49,4 +49,7 @@ bool RetourDansChamp(Bureau &bureau, Controle &champ);
 /// The choice of the language: 0 French, 1 English. The flag that stays is the one that can be chosen.
 void Image10_Click(Bureau &bureau, int indice);
 
+/// A complement's button in the toolbar: as its entry in the menu.
+void Complement_Click(Bureau &bureau, int indice);
+
 } // namespace velmaris

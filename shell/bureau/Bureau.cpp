@@ -22,6 +22,9 @@ Bureau::Bureau() {
   InitialiseFiche(fiche);
   InitialiseRegistre(registre);
   InitialiseFenetrePoint(fenetrePoint);
+  InitialisePreparation(preparation);
+  InitialiseFenetreSerie(fenetreSerie);
+  InitialiseFenetreExercice(fenetreExercice);
 }
 
 Bureau::~Bureau() = default;
@@ -54,23 +57,37 @@ ListeControles ControlesDe(Bureau &bureau, std::string_view fenetre) {
   if (fenetre == kFenetrePoint) {
     return Liste(bureau.fenetrePoint);
   }
+  if (fenetre == kFenetrePreparation) {
+    return Liste(bureau.preparation);
+  }
+  if (fenetre == kFenetreSerie) {
+    return Liste(bureau.fenetreSerie);
+  }
+  if (fenetre == kFenetreExercice) {
+    return Liste(bureau.fenetreExercice);
+  }
   return fenetre == kFenetreImpression ? Liste(bureau.impression) : ListeControles();
 }
 
 std::vector<CadreFenetre *> FenetresLibres(Bureau &bureau) {
-  return {&bureau.utilisateur.cadre, &bureau.ciel.cadre,     &bureau.impression.cadre,
-          &bureau.fiche.cadre,       &bureau.registre.cadre, &bureau.fenetrePoint.cadre};
+  return {&bureau.utilisateur.cadre, &bureau.ciel.cadre,         &bureau.impression.cadre,
+          &bureau.fiche.cadre,       &bureau.registre.cadre,     &bureau.fenetrePoint.cadre,
+          &bureau.preparation.cadre, &bureau.fenetreSerie.cadre, &bureau.fenetreExercice.cadre};
 }
 
 Surface *SurfaceDe(Bureau &bureau, const Controle &controle) {
-  const std::array<std::pair<const Controle *, Surface *>, 7> surfaces = {
+  const std::array<std::pair<const Controle *, Surface *>, 11> surfaces = {
       {{&bureau.donnees.Image1, &bureau.image1},
        {&bureau.donnees.PicAZ, &bureau.picAZ},
        {&bureau.donnees.PicHE, &bureau.picHE},
        {&bureau.ciel.Picture1, &bureau.ciel.picture1},
        {&bureau.ciel.PicAZ, &bureau.ciel.picAZ},
        {&bureau.ciel.PicHE, &bureau.ciel.picHE},
-       {&bureau.impression.Image1, &bureau.impression.image}}};
+       {&bureau.impression.Image1, &bureau.impression.image},
+       {&bureau.preparation.Carte, &bureau.preparation.dessinCarte},
+       {&bureau.preparation.Esquisse, &bureau.preparation.dessinEsquisse},
+       {&bureau.fenetreSerie.Dessin, &bureau.fenetreSerie.dessin},
+       {&bureau.fenetreSerie.DessinMidi, &bureau.fenetreSerie.dessinMidi}}};
   for (const auto &[porte, surface] : surfaces) {
     if (porte == &controle) {
       return surface;

@@ -13,20 +13,26 @@
 #include "lines/FichierLoP.hpp"
 #include "lines/Transport.hpp"
 #include "shell/bureau/EtatRevocable.hpp"
+#include "shell/bureau/ExerciceOuvert.hpp"
+#include "shell/bureau/PlanOuvert.hpp"
 #include "shell/bureau/PointOuvert.hpp"
 #include "shell/bureau/Ports.hpp"
 #include "shell/bureau/RegistreOuvert.hpp"
+#include "shell/bureau/SerieOuverte.hpp"
 #include "shell/bureau/Verification.hpp"
 #include "shell/fenetres/Apropos.hpp"
 #include "shell/fenetres/Ciel.hpp"
 #include "shell/fenetres/Donnees.hpp"
 #include "shell/fenetres/Etat.hpp"
 #include "shell/fenetres/FSelect.hpp"
-#include "shell/fenetres/FenetrePoint.hpp"
-#include "shell/fenetres/Fiche.hpp"
 #include "shell/fenetres/Impression.hpp"
-#include "shell/fenetres/Registre.hpp"
 #include "shell/fenetres/Utilisateur.hpp"
+#include "shell/fenetres/complements/FenetreExercice.hpp"
+#include "shell/fenetres/complements/FenetrePoint.hpp"
+#include "shell/fenetres/complements/FenetreSerie.hpp"
+#include "shell/fenetres/complements/Fiche.hpp"
+#include "shell/fenetres/complements/Preparation.hpp"
+#include "shell/fenetres/complements/Registre.hpp"
 #include "sights/Affichage.hpp"
 #include "sights/Observation.hpp"
 #include "sights/PositionDirecte.hpp"
@@ -111,6 +117,9 @@ struct Bureau {
   Fiche fiche;
   Registre registre;
   FenetrePoint fenetrePoint;
+  Preparation preparation;
+  FenetreSerie fenetreSerie;
+  FenetreExercice fenetreExercice;
   Ecran ecran;                           ///< that it has started on
   double largeurFenetre = 0.0;           ///< of the main window, 1/1440 inch
   double hauteurFenetre = 0.0;           ///< of the main window, 1/1440 inch
@@ -159,6 +168,9 @@ struct Bureau {
   std::optional<Observation> viseeReduite; ///< the sight whose results are shown
   Verification verification;               ///< of that sight
   PointOuvert point;                       ///< the fix in figures
+  PlanOuvert plan;                         ///< the plan of a day
+  SerieOuverte serie;                      ///< a run of readings, noon, the clock from the Moon
+  ExerciceOuvert exercice;                 ///< the practice
   Annulations annulations;                 ///< what can be undone and redone
   RegistreOuvert registreOuvert;           ///< all sights ever reduced
 

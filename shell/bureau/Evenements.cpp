@@ -113,6 +113,13 @@ void BougeCurseur(Bureau &bureau, Controle &controle, int valeur) {
   }
 }
 
+void PresseSurface(Bureau &bureau, Controle &controle, Point point) {
+  if (Utilisable(controle)) {
+    controle.pointe = point;
+    Declenche(bureau, controle, Evenement::Presse);
+  }
+}
+
 void EntreChamp(Bureau &bureau, Controle &controle) {
   controle.toutSelectionne = true;
   bureau.champ = &controle;

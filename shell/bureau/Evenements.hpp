@@ -22,7 +22,8 @@ enum class Evenement : std::uint8_t {
   Change,     ///< its text or value has changed, by the user or by code
   Entre,      ///< a field takes the focus
   Quitte,     ///< a field loses it
-  Survol      ///< the mouse moves over a picture
+  Survol,     ///< the mouse moves over a picture
+  Presse      ///< the left button goes down on a surface: `pointe` tells where
 };
 
 /// Whether anything happens at that event of that control.
@@ -57,6 +58,8 @@ void PoseValeur(Bureau &bureau, Controle &controle, int valeur);
 
 /// Presses a command, a picture or a module.
 void ClicControle(Bureau &bureau, Controle &controle);
+/// Presses a surface at a place, 1/1440 inch.
+void PresseSurface(Bureau &bureau, Controle &controle, Point point);
 /// Moves the mouse over a picture.
 void SurvoleControle(Bureau &bureau, Controle &controle);
 /// Brings a window to the front.

@@ -7,6 +7,8 @@
 #include "shell/bureau/Evenements.hpp"
 #include "shell/bureau/FichierLangue.hpp"
 
+#include <algorithm>
+#include <array>
 #include <optional>
 #include <span>
 #include <utility>
@@ -23,6 +25,7 @@ bool AUneLegende(Genre genre) {
   case Genre::Liste:
   case Genre::ListeBoite:
   case Genre::Table:
+  case Genre::Onglets:
   case Genre::Curseur:
   case Genre::Image:
   case Genre::Separateur:
@@ -34,6 +37,14 @@ bool AUneLegende(Genre genre) {
 }
 
 bool AUnTexte(Genre genre) { return genre == Genre::Champ || genre == Genre::Liste || genre == Genre::ListeBoite; }
+
+/// The windows whose fields take the texts of a language file, empty ones too. In all others what was typed stays.
+bool PoseLesTextes(std::string_view fenetre) {
+  constexpr std::array<std::string_view, 7> kFenetres = {kFenetreDonnees, kFenetreFSelect,    kFenetreUtilisateur,
+                                                         kFenetreCiel,    kFenetreImpression, kFenetreApropos,
+                                                         kFenetreEtat};
+  return std::find(kFenetres.begin(), kFenetres.end(), fenetre) != kFenetres.end();
+}
 
 bool AUneInfobulle(Genre genre) { return genre != Genre::Texte; }
 
@@ -72,7 +83,12 @@ void AppliqueLangue(std::string_view fichier, std::string_view fenetre, const Li
 void ChargeLangue(Bureau &bureau, std::string_view fenetre) {
   std::optional<std::string> fichier;
   Passe([&] { fichier = LitFichier(TrouveFichier(bureau.dossiers, bureau.FichierLangue.substr(1))); });
-  const auto pose = [&](Controle &c, std::string mots) { PoseTexte(bureau, c, std::move(mots)); };
+  const bool textes = PoseLesTextes(fenetre);
+  const auto pose = [&](Controle &c, std::string mots) {
+    if (textes) {
+      PoseTexte(bureau, c, std::move(mots));
+    }
+  };
   const auto applique = [&] { AppliqueLangue(*fichier, fenetre, ControlesDe(bureau, fenetre), bureau.messages, pose); };
   Controle &jour = bureau.donnees.Label1;
   if (fichier && fenetre == kFenetreDonnees) {

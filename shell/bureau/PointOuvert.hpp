@@ -1,9 +1,9 @@
 #pragma once
 
 #include "complements/point/Point.hpp"
-#include "complements/registre/Montre.hpp"
 #include "sights/Observation.hpp"
 
+#include <cstdint>
 #include <optional>
 #include <string>
 #include <vector>
@@ -25,8 +25,8 @@ struct ViseeDuPoint {
 struct PointOuvert {
   std::vector<ViseeDuPoint> visees; ///< by time
   std::vector<Jambe> jambes;        ///< by time
-  std::vector<ReleveMontre> montre; ///< the watch's dated rows
-  bool montreComptee = false;       ///< the sights' times are corrected by them
+  bool montreComptee = false;       ///< the sights' times are corrected by the watch's dated rows
+  std::uint64_t versionMontre = 0;  ///< of the rows that they were corrected by
   FichePoint actuelle;              ///< by the sky of today
   FichePoint dite;                  ///< by the told lines
   std::optional<InstantUTC> heure;  ///< that both are for; nothing before any was made

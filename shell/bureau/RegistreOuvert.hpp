@@ -27,6 +27,7 @@ struct RegistreOuvert {
   std::shared_ptr<const RegistreLu> lu;                     ///< none before a first reading
   std::shared_ptr<const Annotations> annotations;           ///< never none once there is a reading
   std::vector<ReleveMontre> montre;                         ///< the watch, in the order of time
+  std::uint64_t versionMontre = 0;                          ///< another one as soon as `montre` is
   std::shared_ptr<const std::vector<std::size_t>> montrees; ///< rows that the filters let through
   std::vector<std::string> auPoint;                         ///< identities of the sights that the fix is to be made of
   std::string noteDe;                                       ///< identity of the row whose note is in its field

@@ -98,18 +98,30 @@ std::optional<FormeImage> Forme(const std::filesystem::path &chemin) {
   return std::nullopt;
 }
 
-/// Writes the picture, by the house's own way of replacing a file.
-/// @throws Erreur 75 when it can't be made or written
-void EcritImage(Bureau &bureau, const std::filesystem::path &chemin, FormeImage forme) {
-  constexpr int kErreurFichier = 75;
-  const std::string octets = bureau.ports.image(bureau.image1, forme);
-  if (octets.empty()) {
-    throw Erreur(kErreurFichier);
-  }
-  EcritFichier(chemin, octets, bureau.dossiers.utilisateur);
-}
-
 } // namespace
+
+bool EcritImageDe(Bureau &bureau, const Surface &surface, const std::filesystem::path &chemin) {
+  constexpr int kErreurFichier = 75;
+  const Donnees &d = bureau.donnees;
+  const std::optional<FormeImage> forme = Forme(chemin);
+  if (!forme) {
+    bureau.ports.boite({.texte = d.TexteImageForme.legende + "\n" + chemin.string(), .icone = Icone::Attention});
+    return false;
+  }
+  try {
+    const std::string octets = bureau.ports.image(surface, *forme);
+    if (octets.empty()) {
+      throw Erreur(kErreurFichier);
+    }
+    EcritFichier(chemin, octets, bureau.dossiers.utilisateur);
+    return true;
+  } catch (const Erreur &erreur) {
+    bureau.ports.boite(
+        {.texte = MotsErreur(d, erreur.numero) + "\n\n" + d.TexteNonEcrit.legende + "\n" + chemin.string(),
+         .icone = Icone::Erreur});
+    return false;
+  }
+}
 
 std::string ResultatsDe(Bureau &bureau, const Controle &controle) {
   const Donnees &d = bureau.donnees;
@@ -192,18 +204,7 @@ void PU_Image_Click(Bureau &bureau, int /*indice*/) {
   if (!chemin.has_extension()) {
     chemin += ".png";
   }
-  const std::optional<FormeImage> forme = Forme(chemin);
-  if (!forme) {
-    bureau.ports.boite({.texte = d.TexteImageForme.legende + "\n" + chemin.string(), .icone = Icone::Attention});
-    return;
-  }
-  try {
-    EcritImage(bureau, chemin, *forme);
-  } catch (const Erreur &erreur) {
-    bureau.ports.boite(
-        {.texte = MotsErreur(d, erreur.numero) + "\n\n" + d.TexteNonEcrit.legende + "\n" + chemin.string(),
-         .icone = Icone::Erreur});
-  }
+  EcritImageDe(bureau, bureau.image1, chemin);
 }
 
 } // namespace velmaris

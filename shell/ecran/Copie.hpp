@@ -32,4 +32,9 @@ void PU_CopiePoint_Click(Bureau &bureau, int indice);
 /// "Enregistrer l'image...": asks for a file, whose suffix chooses the form; without one it is PNG. What fails is told.
 void PU_Image_Click(Bureau &bureau, int indice);
 
+/// Writes the picture of a surface into a file, in the form that its name ends with: PNG, SVG or PDF. What can't be
+/// written, and a form that isn't known, is told in a box.
+/// @return whether it was written
+bool EcritImageDe(Bureau &bureau, const Surface &surface, const std::filesystem::path &chemin);
+
 } // namespace velmaris

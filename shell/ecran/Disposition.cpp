@@ -39,6 +39,9 @@ void DisposeFenetre(Bureau &bureau, const Ecran &ecran) {
   bureau.largeurFenetre = ecran.largeur;
   d.Image1.place = {50, bureau.hauteurFenetre / 10.88, ecran.largeur / 1.01, ecran.hauteur / 1.15 - 150};
 
+  const Place &complements = d.FrameComplements.place;
+  d.FrameComplements.visible = complements.gauche + complements.largeur <= bureau.largeurFenetre;
+
   Dimensionne(bureau.image1, d.Image1.place);
   Dimensionne(bureau.picAZ, d.PicAZ.place);
   Dimensionne(bureau.picHE, d.PicHE.place);

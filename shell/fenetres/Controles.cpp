@@ -20,6 +20,18 @@ void PoseTraits(Controle &c, const Traits &traits) {
   c.taille = traits.taille;
   c.cote = traits.cote;
   c.couleur = traits.couleur;
+  c.etire = traits.etire;
+}
+
+void Etire(const ListeControles &controles, const CadreFenetre &cadre, double largeur, double hauteur) {
+  const double dx = largeur - cadre.largeur;
+  const double dy = hauteur - cadre.hauteur;
+  for (Controle *c : controles) {
+    if (c->etire != Place{}) {
+      c->place = {c->origine.gauche + c->etire.gauche * dx, c->origine.haut + c->etire.haut * dy,
+                  c->origine.largeur + c->etire.largeur * dx, c->origine.hauteur + c->etire.hauteur * dy};
+    }
+  }
 }
 
 Controle *Cherche(const ListeControles &controles, std::string_view nom, int indice) {

@@ -23,6 +23,7 @@ enum class Genre : std::uint8_t {
   Liste,      ///< a drop-down list with its text
   ListeBoite, ///< a list that shows its lines
   Table,      ///< a long list in columns, whose rows are read as they come into sight: `tableau`
+  Onglets,    ///< tabs: the lines of `liste`, of which `rang` is in front
   Curseur,    ///< the slider
   Image,      ///< a picture, pressed like a button when a click means something
   Menu,       ///< a menu that opens at the pointer, or within another one
@@ -66,6 +67,8 @@ struct Controle {
   std::string image;     ///< name of its picture, empty for none
   std::string etiquette; ///< what code keeps with it, and nobody sees
   Place place;
+  Place origine; ///< its place as the window's table has it
+  Place etire;   ///< its shares of its window's growth: left and width of the width's, top and height of the height's
   bool visible = true;
   bool actif = true;
   bool peint = false;        ///< painted by its window, without a widget of its own
@@ -96,6 +99,7 @@ struct Controle {
   bool gras = false;       ///< of the font
   Cote cote = Cote::Gauche;
   Pointeur pointeur = Pointeur::Normal;
+  Point pointe;                 ///< of a surface: where it was pressed last, 1/1440 inch
   bool toutSelectionne = false; ///< asks that the whole text be selected
   std::string alerte; ///< why a field or a list is to be mended, or a result not to be taken; empty while all is well
   bool operator==(const Controle &) const = default;
@@ -108,6 +112,8 @@ struct CadreFenetre {
   double largeur = 0.0; ///< 1/1440 inch
   double hauteur = 0.0; ///< 1/1440 inch
   bool visible = false;
+  double moindreLargeur = 0.0; ///< that its user can make it, 1/1440 inch; 0 for a window that isn't stretched
+  double moindreHauteur = 0.0; ///< the same
 };
 
 /// What the table of a window says of a control beyond its name, kind and place.
@@ -128,6 +134,7 @@ struct Traits {
   std::string_view image = {};
   std::string_view par = {}; ///< control whose caption names this one to a screen reader
   int parIndice = -1;        ///< its place in its group
+  Place etire = {};          ///< its shares of its window's growth
 };
 
 /// Gives a control what its table says of it beyond name, kind and place.
@@ -158,6 +165,7 @@ template <class Fenetre> Controle ControleNeuf(const LigneDe<Fenetre> &ligne, st
   c.indice = ligne.indice;
   c.genre = ligne.genre;
   c.place = ligne.place;
+  c.origine = ligne.place;
   c.legende = ligne.legende;
   c.infobulle = ligne.infobulle;
   PoseTraits(c, ligne.traits);
@@ -173,6 +181,11 @@ template <class Fenetre> ListeControles Liste(Fenetre &fenetre) {
   PourChaque(fenetre, [&](const LigneDe<Fenetre> &, Controle &c) { liste.push_back(&c); });
   return liste;
 }
+
+/// Lays a window out for another size: each control takes its shares of what there is more, or less.
+/// @param cadre             the window's record, with the size that its table is for
+/// @param largeur, hauteur  of its inside, 1/1440 inch
+void Etire(const ListeControles &controles, const CadreFenetre &cadre, double largeur, double hauteur);
 
 /// A control of a list by its name and index.
 /// @return null when there is none of that name

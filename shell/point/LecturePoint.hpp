@@ -7,11 +7,6 @@
 
 namespace velmaris {
 
-/// A moment from two fields: day, month and year, whatever parts them; hour, minute and, where there is one, second.
-/// Years under 100 stand for 1930 to 2029.
-/// @return nothing for a text that is no date or time
-std::optional<InstantUTC> LitMomentTape(std::string_view date, std::string_view heure);
-
 /// A leg from its four fields; those that can't be used are marked.
 /// @return nothing unless all four can
 std::optional<Jambe> LitJambeTapee(FenetrePoint &fenetre);

@@ -1,7 +1,6 @@
 #include "shell/point/MotsPoint.hpp"
 
-#include "foundations/Angles.hpp"
-#include "foundations/TexteNombre.hpp"
+#include "shell/complements/Mots.hpp"
 
 #include <algorithm>
 #include <cmath>
@@ -15,20 +14,6 @@ constexpr double kTour = 360;
 constexpr double kRadian = std::numbers::pi / 180;
 
 template <class Enum> std::size_t Rang(Enum valeur) { return static_cast<std::size_t>(valeur); }
-
-std::string Dixiemes(double valeur) { return Format(valeur, "0.0"); }
-
-/// A direction as three digits; what is rounded up to 360 is 000.
-std::string Direction(double degres) { return Format(std::fmod(std::round(degres), kTour), "000") + "°"; }
-
-DateCivile ALaSeconde(const InstantUTC &utc) {
-  constexpr double kDemie = 0.5;
-  DateCivile date = CivileDe(PlusTard(utc, kDemie));
-  date.seconde = std::floor(date.seconde);
-  return date;
-}
-
-std::string Signe(double valeur) { return (valeur < 0 ? "" : "+") + Dixiemes(valeur); }
 
 /// A sight by its body and time: "Vega 05:31".
 std::string Courte(const Bureau &bureau, const ViseeDuPoint &visee) {
@@ -80,7 +65,7 @@ void AjouteFiche(const Bureau &bureau, const std::string &titre, const FichePoin
   for (std::size_t i = 0; i < solution->residus.size(); ++i) {
     const ResiduPoint &residu = solution->residus[i];
     if (residu.mesuree) {
-      texte += "  " + Courte(bureau, bureau.point.visees.at(i)) + "  " + Signe(residu.residu) + " '" +
+      texte += "  " + Courte(bureau, bureau.point.visees.at(i)) + "  " + DixiemesSignes(residu.residu) + " '" +
                (residu.utilisee ? "" : "  " + f.TexteLaisse.legende) + "\n";
     }
   }
@@ -88,40 +73,8 @@ void AjouteFiche(const Bureau &bureau, const std::string &titre, const FichePoin
 
 } // namespace
 
-std::string TexteLieu(const LieuNavire &lieu) { return TexteTenue(lieu.latitude, -lieu.longitude); }
-
-std::string TexteDate(const InstantUTC &utc) {
-  const DateCivile date = ALaSeconde(utc);
-  return Format(date.jour, "00") + "/" + Format(date.mois, "00") + "/" + Format(date.annee, "0000");
-}
-
-std::string TexteHeureUtc(const InstantUTC &utc) {
-  const DateCivile date = ALaSeconde(utc);
-  return Format(date.heure, "00") + ":" + Format(date.minute, "00") + ":" + Format(date.seconde, "00");
-}
-
-std::string NomDeVisee(const Donnees &donnees, const Observation &o) {
-  const auto deListe = [](const Controle &liste, int rang) {
-    return rang >= 0 && static_cast<std::size_t>(rang) < liste.liste.size()
-               ? liste.liste[static_cast<std::size_t>(rang)]
-               : std::string("?");
-  };
-  switch (o.corps) {
-  case Corps::Planetes:
-    return deListe(donnees.Combo7, o.planete);
-  case Corps::Etoiles:
-    return deListe(donnees.Combo6, o.etoile);
-  case Corps::Soleil:
-  case Corps::Lune:
-    return donnees.Option7.at(Rang(o.corps)).legende;
-  case Corps::Aucun:
-    break;
-  }
-  return "?";
-}
-
 std::string TexteEllipse(const EllipsePoint &ellipse) {
-  return Dixiemes(ellipse.a) + " x " + Dixiemes(ellipse.b) + " M, " + Direction(ellipse.direction);
+  return Dixiemes(ellipse.a) + " x " + Dixiemes(ellipse.b) + " M, " + TexteDirection(ellipse.direction);
 }
 
 std::string TexteTrouve(const FenetrePoint &f, const SolutionPoint &solution) {
@@ -129,10 +82,10 @@ std::string TexteTrouve(const FenetrePoint &f, const SolutionPoint &solution) {
   const auto ajoute = [&](const std::string &partie) { texte += (texte.empty() ? "" : " ; ") + partie; };
   for (const ErreurCommune &commune : solution.communes) {
     const Controle &mot = commune.genre == GenreCommune::Sextant ? f.TexteSextant : f.TexteCommune;
-    ajoute(mot.legende + Signe(commune.valeur) + " ' ± " + Dixiemes(commune.ecartType));
+    ajoute(mot.legende + DixiemesSignes(commune.valeur) + " ' ± " + Dixiemes(commune.ecartType));
   }
   if (solution.fond) {
-    ajoute(f.TexteFond.legende + Direction(solution.fond->cap) + ", " + Dixiemes(solution.fond->vitesse) + " " +
+    ajoute(f.TexteFond.legende + TexteDirection(solution.fond->cap) + ", " + Dixiemes(solution.fond->vitesse) + " " +
            f.MotColonneRoute[2].legende);
   }
   return texte;
@@ -143,7 +96,7 @@ std::string TexteDistance(const LieuNavire &de, const LieuNavire &a) {
   const double tour = std::remainder(a.longitude - de.longitude, kTour);
   const double est = tour * kMinutes * std::cos((a.latitude + de.latitude) / 2 * kRadian);
   const double cap = std::atan2(est, nord) / kRadian;
-  return Dixiemes(std::hypot(nord, est)) + " M, " + Direction(cap < 0 ? cap + kTour : cap);
+  return Dixiemes(std::hypot(nord, est)) + " M, " + TexteDirection(cap < 0 ? cap + kTour : cap);
 }
 
 std::vector<std::string> MotsDesAvis(const Bureau &bureau) {
@@ -156,7 +109,7 @@ std::vector<std::string> MotsDesAvis(const Bureau &bureau) {
 std::string RemarqueDeVisee(const Bureau &bureau, std::size_t rang) {
   const ViseeDuPoint &visee = bureau.point.visees.at(rang);
   if (visee.refus) {
-    return bureau.fenetrePoint.MotRefus.at(Rang(*visee.refus)).legende;
+    return bureau.fiche.MotRefus.at(Rang(*visee.refus)).legende;
   }
   const bool improbable = EstImprobable(bureau.point.actuelle, rang) || EstImprobable(bureau.point.dite, rang);
   return improbable ? bureau.fenetrePoint.TexteImprobable.legende : std::string();

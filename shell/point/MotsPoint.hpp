@@ -9,16 +9,6 @@ namespace velmaris {
 
 /// The words of a fix, in the language of the window.
 
-/// A place in tenths of a minute: "47° 10.3' N  004° 44.1' W".
-std::string TexteLieu(const LieuNavire &lieu);
-
-/// A date as its field shows it, "21/06/2026", and a time, "12:05:30". An instant is rounded to the second first.
-std::string TexteDate(const InstantUTC &utc);
-std::string TexteHeureUtc(const InstantUTC &utc);
-
-/// The body of a sight, in the language of the moment.
-std::string NomDeVisee(const Donnees &donnees, const Observation &observation);
-
 /// Half axes in miles and the direction of the greater one: "2.4 x 1.1 M, 035°".
 std::string TexteEllipse(const EllipsePoint &ellipse);
 

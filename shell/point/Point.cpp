@@ -1,12 +1,14 @@
 #include "shell/point/Point.hpp"
 
 #include "complements/point/FichierRoute.hpp"
-#include "complements/point/PointsGardes.hpp"
+#include "complements/registre/PointsGardes.hpp"
 #include "foundations/Erreur.hpp"
 #include "foundations/Fichiers.hpp"
 #include "foundations/TexteNombre.hpp"
 #include "shell/bureau/Avis.hpp"
 #include "shell/bureau/Evenements.hpp"
+#include "shell/complements/Mots.hpp"
+#include "shell/complements/Saisies.hpp"
 #include "shell/point/CalquePoint.hpp"
 #include "shell/point/LecturePoint.hpp"
 #include "shell/point/MotsPoint.hpp"
@@ -14,6 +16,7 @@
 #include "shell/point/TableauxPoint.hpp"
 #include "shell/registre/Registre.hpp"
 #include "shell/visee/Annulation.hpp"
+#include "shell/visee/Saisie.hpp"
 
 #include <algorithm>
 #include <array>
@@ -68,7 +71,13 @@ void Montre(Bureau &bureau) {
   const SolutionPoint *dite = SolutionVue(p, p.dite);
   f.LabEntre.legende =
       actuelle != nullptr && dite != nullptr ? f.TexteEntre.legende + TexteDistance(actuelle->lieu, dite->lieu) : "";
-  const std::vector<std::string> avis = MotsDesAvis(bureau);
+  std::vector<std::string> avis;
+  if (std::string faute = PremiereFaute(Liste(f)); !faute.empty()) {
+    avis.push_back(std::move(faute));
+  }
+  for (std::string &mots : MotsDesAvis(bureau)) {
+    avis.push_back(std::move(mots));
+  }
   for (std::size_t i = 0; i < f.LabAvis.size(); ++i) {
     f.LabAvis.at(i).legende = i < avis.size() ? avis[i] : "";
   }
@@ -174,17 +183,8 @@ void PoseSurFeuille(Bureau &bureau, bool montre) {
 
 /// The fix as the sight's estimated position, whole minutes.
 void PrendEstime(Bureau &bureau, const LieuNavire &lieu) {
-  constexpr int kMinutes = 60;
-  Donnees &d = bureau.donnees;
-  const auto latitude = static_cast<int>(std::lround(std::fabs(lieu.latitude) * kMinutes));
-  const auto longitude = static_cast<int>(std::lround(std::fabs(lieu.longitude) * kMinutes));
-  const auto deux = [](int nombre) { return Format(nombre, "00"); };
-  PoseOption(bureau, d.OptN[lieu.latitude >= 0 ? 0 : 1]);
-  PoseTexte(bureau, d.Text8, deux(latitude / kMinutes));
-  PoseTexte(bureau, d.Text9, deux(latitude % kMinutes));
-  PoseOption(bureau, d.OptE[lieu.longitude >= 0 ? 0 : 1]);
-  PoseTexte(bureau, d.Text6, deux(longitude / kMinutes));
-  PoseTexte(bureau, d.Text7, deux(longitude % kMinutes));
+  PoseLatitudeEstimee(bureau, lieu.latitude);
+  PoseLongitudeEstimee(bureau, lieu.longitude);
 }
 
 /// Keeps both fixes in the file of fixes.
@@ -245,7 +245,13 @@ void RefaitPoint(Bureau &bureau) {
 
 void AccordePoint(Bureau &bureau) {
   if (bureau.fenetrePoint.cadre.visible) {
-    if (SuitRegistre(bureau)) {
+    const bool suivi = SuitRegistre(bureau);
+    const bool relevee =
+        bureau.point.montreComptee && bureau.point.versionMontre != bureau.registreOuvert.versionMontre;
+    if (relevee) {
+      PrepareVisees(bureau);
+    }
+    if (suivi || relevee) {
       RefaitPoint(bureau);
     }
     Montre(bureau);
@@ -304,13 +310,6 @@ ViseeDuPoint *Courante(Bureau &bureau) {
   std::vector<ViseeDuPoint> &visees = bureau.point.visees;
   return rang >= 0 && static_cast<std::size_t>(rang) < visees.size() ? &visees[static_cast<std::size_t>(rang)]
                                                                      : nullptr;
-}
-
-void PrepareToutes(Bureau &bureau) {
-  for (ViseeDuPoint &visee : bureau.point.visees) {
-    PrepareVisee(bureau, visee);
-  }
-  OrdonneVisees(bureau.point);
 }
 
 void PoseJambe(Bureau &bureau) {
@@ -372,7 +371,7 @@ void Case_Click(Bureau &bureau, int /*indice*/) {
   const bool comptee = bureau.fenetrePoint.Check1.valeur == 1;
   if (comptee != bureau.point.montreComptee) {
     bureau.point.montreComptee = comptee;
-    PrepareToutes(bureau);
+    PrepareVisees(bureau);
   }
   RefaitPoint(bureau);
 }

@@ -4,12 +4,11 @@
 #include "complements/registre/FiltreRegistre.hpp"
 #include "complements/registre/ReduitCopie.hpp"
 #include "complements/registre/RegistreLu.hpp"
-#include "foundations/Erreur.hpp"
-#include "foundations/Fichiers.hpp"
 #include "foundations/TexteNombre.hpp"
 #include "shell/complements/ReglagesLus.hpp"
 #include "shell/droites/MemoireDroites.hpp"
 #include "shell/point/Point.hpp"
+#include "shell/registre/LectureRegistre.hpp"
 #include "shell/registre/Registre.hpp"
 
 #include <algorithm>
@@ -97,22 +96,14 @@ std::vector<std::size_t> DernierQuart(const RegistreLu &registre, const Annotati
   return rangs;
 }
 
-SourcesLues LitSources(Bureau &bureau) {
-  const std::filesystem::path &dossier = bureau.dossiers.utilisateur;
-  SourcesLues lues{LitRegistre(dossier, bureau.registreOuvert.lu), {}};
-  Passe([&] { lues.annotations = LitAnnotations(LitFichier(dossier / "masques.csv")); });
-  bureau.point.montre.clear();
-  Passe([&] { bureau.point.montre = LitMontre(LitFichier(dossier / "montre.csv")); });
-  return lues;
-}
-
 void ReprendVisees(Bureau &bureau) {
   bureau.point.visees.clear();
   std::vector<std::string> identites;
-  const SourcesLues lues = LitSources(bureau);
-  for (const std::size_t rang : DernierQuart(*lues.registre, lues.annotations)) {
-    identites.push_back(IdentiteDe(*lues.registre, rang));
-    AjouteRangee(bureau, *lues.registre, rang);
+  LitRegistreAussitot(bureau);
+  const RegistreLu &registre = *bureau.registreOuvert.lu;
+  for (const std::size_t rang : DernierQuart(registre, *bureau.registreOuvert.annotations)) {
+    identites.push_back(IdentiteDe(registre, rang));
+    AjouteRangee(bureau, registre, rang);
   }
   bureau.registreOuvert.auPoint = std::move(identites);
   ++bureau.registre.Table1.tableau.version;
@@ -135,7 +126,8 @@ bool SuitRegistre(Bureau &bureau) {
   if (manquent.empty()) {
     return change;
   }
-  const std::shared_ptr<const RegistreLu> registre = LitSources(bureau).registre;
+  LitRegistreAussitot(bureau);
+  const std::shared_ptr<const RegistreLu> registre = bureau.registreOuvert.lu;
   std::vector<std::size_t> tous(registre->lignes.size());
   std::iota(tous.begin(), tous.end(), std::size_t{0});
   for (const std::size_t rang : RangsDe(*registre, tous, manquent)) {
@@ -156,17 +148,21 @@ void PrepareVisee(const Bureau &bureau, ViseeDuPoint &visee) {
     const ViseeTypee typee = LitVisee(visee.observation, bureau.verification.reglages);
     double montre = 0;
     if (bureau.point.montreComptee) {
-      constexpr double kEpoque = 2440587.5; ///< Julian day of 1970
-      constexpr double kJour = 86400;
-      const InstantUTC utc = UTCDe(typee.date);
-      const double secondes = (utc.jour - kEpoque + utc.fraction) * kJour;
-      montre = -ErreurMontre(bureau.point.montre, static_cast<std::int64_t>(std::llround(secondes))).value_or(0);
+      montre = -ErreurMontre(bureau.registreOuvert.montre, SecondesDe(UTCDe(typee.date))).value_or(0);
     }
     visee.hauteur = PrepareHauteur(typee, visee.dit, montre, bureau.verification.reglages.dut1);
     visee.refus = visee.hauteur->refus;
   } catch (const Refus &refus) {
     visee.refus = refus.raison;
   }
+}
+
+void PrepareVisees(Bureau &bureau) {
+  for (ViseeDuPoint &visee : bureau.point.visees) {
+    PrepareVisee(bureau, visee);
+  }
+  bureau.point.versionMontre = bureau.registreOuvert.versionMontre;
+  OrdonneVisees(bureau.point);
 }
 
 void OrdonneVisees(PointOuvert &point) {

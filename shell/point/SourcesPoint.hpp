@@ -5,7 +5,6 @@
 #include "shell/bureau/Bureau.hpp"
 
 #include <cstddef>
-#include <memory>
 #include <vector>
 
 namespace velmaris {
@@ -14,13 +13,6 @@ namespace velmaris {
 /// sight that was reduced more than once counts as it was entered last.
 /// @return their places in the log
 std::vector<std::size_t> DernierQuart(const RegistreLu &registre, const Annotations &annotations);
-
-/// Reads log, notes and watch, where they have changed, in place of what the log's window shows of them.
-struct SourcesLues {
-  std::shared_ptr<const RegistreLu> registre;
-  Annotations annotations;
-};
-SourcesLues LitSources(Bureau &bureau);
 
 /// Lists the sights of the log's last watch and the stored lines, all ticked, in place of those listed; the log shows
 /// them as ticked too.
@@ -36,6 +28,9 @@ bool SuitRegistre(Bureau &bureau);
 
 /// Works a sight of the list out for fixes, by the settings of the check and, where it counts, the watch's rows.
 void PrepareVisee(const Bureau &bureau, ViseeDuPoint &visee);
+
+/// Works all of them out anew, in the order of time.
+void PrepareVisees(Bureau &bureau);
 
 /// Puts the list in the order of time; sights without one come last.
 void OrdonneVisees(PointOuvert &point);

@@ -86,14 +86,17 @@ std::vector<std::string> IdentitesChoisies(const Bureau &bureau) {
   return identites;
 }
 
-/// Shows what a reading has brought.
-void Prend(Bureau &bureau, Lecture lecture) {
+/// Shows what a reading has brought. The first one puts the keyboard at the newest row.
+void Prend(Bureau &bureau, Lecture lecture, std::uint64_t numero) {
   RegistreOuvert &r = bureau.registreOuvert;
   Tableau &t = bureau.registre.Table1.tableau;
   const std::vector<std::string> choisies = IdentitesChoisies(bureau);
   const std::string courante =
       t.courante == kSansLigne ? "" : IdentiteDe(*r.lu, RangMontre(r, static_cast<std::size_t>(t.courante)));
   const int premiere = t.premiere;
+  const bool neuf = r.lu == nullptr;
+  r.rendue = numero;
+  r.versionMontre += lecture.montre != r.montre ? 1 : 0;
   r.lu = std::move(lecture.lu);
   r.annotations = std::move(lecture.annotations);
   r.montre = std::move(lecture.montre);
@@ -103,6 +106,9 @@ void Prend(Bureau &bureau, Lecture lecture) {
   const std::vector<std::size_t> ici =
       courante.empty() ? std::vector<std::size_t>() : RangsDe(*r.lu, *r.montrees, {courante});
   t.courante = ici.empty() ? kSansLigne : static_cast<int>(ici.front());
+  if (neuf && !r.montrees->empty()) {
+    t.courante = 0;
+  }
   t.premiere = t.courante == kSansLigne ? 0 : premiere;
 }
 
@@ -129,24 +135,32 @@ bool Inscrit(Bureau &bureau, const char *nom, std::string_view titres, LignesEnA
   return true;
 }
 
+/// A reading that takes the place of all that were asked for before.
+Commande CommandeNeuve(const Bureau &bureau) {
+  const RegistreOuvert &r = bureau.registreOuvert;
+  const std::uint64_t numero = ++*r.demande;
+  return {
+      bureau.dossiers.utilisateur, r.lu, r.masques.lignes, r.releves.lignes, FiltreVoulu(bureau), r.demande, numero};
+}
+
 } // namespace
 
 void DemandeRegistre(Bureau &bureau) {
-  RegistreOuvert &r = bureau.registreOuvert;
-  const std::uint64_t numero = ++*r.demande;
-  const Commande commande{
-      bureau.dossiers.utilisateur, r.lu, r.masques.lignes, r.releves.lignes, FiltreVoulu(bureau), r.demande, numero};
-  bureau.ports.travaille([commande, &bureau]() -> std::function<void()> {
+  bureau.ports.travaille([commande = CommandeNeuve(bureau), &bureau]() -> std::function<void()> {
     if (*commande.demande != commande.numero) {
       return [] {};
     }
     return [lecture = Lit(commande), numero = commande.numero, &bureau] {
       if (*bureau.registreOuvert.demande == numero) {
-        bureau.registreOuvert.rendue = numero;
-        Prend(bureau, lecture);
+        Prend(bureau, lecture, numero);
       }
     };
   });
+}
+
+void LitRegistreAussitot(Bureau &bureau) {
+  const Commande commande = CommandeNeuve(bureau);
+  Prend(bureau, Lit(commande), commande.numero);
 }
 
 void BatRegistre(Bureau &bureau) {

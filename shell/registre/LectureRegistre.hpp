@@ -13,6 +13,9 @@ namespace velmaris {
 /// stay so where they still show.
 void DemandeRegistre(Bureau &bureau);
 
+/// The same at once: for what can't wait. Files that haven't changed aren't read again.
+void LitRegistreAussitot(Bureau &bureau);
+
 /// A beat of the clock: lines that wait are tried again; while the window shows, journals that have changed are read
 /// again.
 void BatRegistre(Bureau &bureau);

@@ -182,23 +182,6 @@ void AccordeRegistre(Bureau &bureau) {
   AccordeMontre(bureau);
 }
 
-void DisposeRegistre(Bureau &bureau, double largeur, double hauteur) {
-  Registre &f = bureau.registre;
-  const double dx = largeur - f.cadre.largeur;
-  const double dy = hauteur - f.cadre.hauteur;
-  PourChaque(f, [&](const LigneRegistre &ligne, Controle &c) {
-    c.place = ligne.place;
-    if (!ligne.parent.empty() || ligne.genre == Genre::Texte) {
-      return;
-    }
-    const bool table = c.nom == f.Table1.nom;
-    c.place.largeur += table || c.nom == f.Text2.nom || c.nom == f.Frame1.nom ? dx : 0;
-    c.place.hauteur += table ? dy : 0;
-    c.place.gauche += c.nom == f.Label2.nom || c.nom == f.Command7.nom ? dx : 0;
-    c.place.haut += ligne.place.haut > f.Table1.place.haut ? dy : 0;
-  });
-}
-
 namespace registre {
 
 void Text1_Change(Bureau &bureau, int /*indice*/) { DemandeRegistre(bureau); }

@@ -13,10 +13,6 @@ void OuvreRegistre_Click(Bureau &bureau, int indice);
 /// Brings the log's window in line with what it shows, while it is open: title, counts, headers, note, buttons.
 void AccordeRegistre(Bureau &bureau);
 
-/// The log's window has another size: the list takes what there is more, or gives it.
-/// @param largeur, hauteur  of its inside, 1/1440 inch
-void DisposeRegistre(Bureau &bureau, double largeur, double hauteur);
-
 /// Rows that the next gesture is about: those that are chosen, or else the current one.
 /// @return their places in the log, newest first
 std::vector<std::size_t> RangsVises(const Bureau &bureau);

@@ -70,25 +70,6 @@ void PoseValeurTenue(Controle &c, const std::string &valeur) {
   }
 }
 
-/// Pours a sight into the panel as a stored line is poured.
-/// @param visibles  of the box that shortens the list of stars
-void VerseVisee(Bureau &bureau, const Observation &o, int visibles) {
-  Donnees &d = bureau.donnees;
-  const int corps = static_cast<int>(o.corps);
-  PoseChoix(bureau, d.Option5, static_cast<int>(o.horizon));
-  Option5_Relache(bureau, -1);
-  PoseChoix(bureau, d.Option7, corps);
-  SelAstre(bureau, corps);
-  PoseChoix(bureau, d.Option6, static_cast<int>(o.bord));
-  Passe([&] { PoseListeDuCorps(bureau, corps, o.corps == Corps::Etoiles ? o.etoile : o.planete); });
-  PoseChoix(bureau, d.Option4, static_cast<int>(o.fraction));
-  PoseChamps(bureau, o);
-  if (o.corps == Corps::Etoiles) {
-    d.Check3.valeur = visibles;
-    Check3_Click(bureau, -1); // the stars that are visible by the fields as they are now
-  }
-}
-
 } // namespace
 
 std::optional<std::string> ValeurTenue(const Controle &c) {
@@ -108,6 +89,23 @@ std::optional<std::string> ValeurTenue(const Controle &c) {
                    : std::nullopt;
   default:
     return std::nullopt;
+  }
+}
+
+void VerseVisee(Bureau &bureau, const Observation &o, int visibles) {
+  Donnees &d = bureau.donnees;
+  const int corps = static_cast<int>(o.corps);
+  PoseChoix(bureau, d.Option5, static_cast<int>(o.horizon));
+  Option5_Relache(bureau, -1);
+  PoseChoix(bureau, d.Option7, corps);
+  SelAstre(bureau, corps);
+  PoseChoix(bureau, d.Option6, static_cast<int>(o.bord));
+  Passe([&] { PoseListeDuCorps(bureau, corps, o.corps == Corps::Etoiles ? o.etoile : o.planete); });
+  PoseChoix(bureau, d.Option4, static_cast<int>(o.fraction));
+  PoseChamps(bureau, o);
+  if (o.corps == Corps::Etoiles) {
+    d.Check3.valeur = visibles;
+    Check3_Click(bureau, -1); // the stars that are visible by the fields as they are now
   }
 }
 

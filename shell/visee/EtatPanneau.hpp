@@ -16,6 +16,10 @@ std::optional<std::string> ValeurTenue(const Controle &controle);
 /// made, and shows what the whole list has chosen.
 bool EstSuiveur(const Donnees &donnees, const Controle &controle);
 
+/// Pours a sight into the panel as a stored line is poured: each choice and field with what its change sets in motion.
+/// @param visibles  of the box that shortens the list of stars
+void VerseVisee(Bureau &bureau, const Observation &observation, int visibles);
+
 /// What the controls of the main window hold, those that follow another left out, in the order of its table.
 std::vector<EtatControle> PriseControles(Donnees &donnees);
 

@@ -3,6 +3,7 @@
 #include "foundations/Erreur.hpp"
 #include "foundations/Fichiers.hpp"
 #include "foundations/TexteNombre.hpp"
+#include "shell/complements/ExerciceEnCours.hpp"
 #include "shell/complements/Verification.hpp"
 #include "shell/visee/Saisie.hpp"
 
@@ -115,7 +116,11 @@ void JournaliseLigne(Bureau &bureau, std::string ligne) {
   }
 }
 
-void Journalise(Bureau &bureau, const Hauteurs &hauteurs) { JournaliseLigne(bureau, LigneJournal(bureau, hauteurs)); }
+void Journalise(Bureau &bureau, const Hauteurs &hauteurs) {
+  if (!NoteViseeExercice(bureau, LitPanneau(bureau.donnees))) {
+    JournaliseLigne(bureau, LigneJournal(bureau, hauteurs));
+  }
+}
 
 void RetenteJournal(Bureau &bureau, Patience &patience) {
   if (!bureau.journalEnAttente.empty()) {

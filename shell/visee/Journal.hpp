@@ -16,7 +16,7 @@ std::string LigneJournal(Bureau &bureau, const Hauteurs &hauteurs);
 /// never rewritten; a line that an earlier end of the program cut short is closed first. A journal of the old form goes
 /// on as "journal-1.csv"; each year, and at 16 MB, a new one begins, and what there is is kept as "journal-2026.csv".
 /// Tells the user once when it can't be written. While another program holds the journal its lines wait in memory,
-/// which is told once too.
+/// which is told once too. A sight of a practice is noted there and never entered.
 void Journalise(Bureau &bureau, const Hauteurs &hauteurs);
 
 /// Appends a line that stands as it is to be, in the same way.

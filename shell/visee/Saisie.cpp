@@ -7,6 +7,7 @@
 #include "sights/JugementVisee.hpp"
 
 #include <algorithm>
+#include <cmath>
 
 namespace velmaris {
 namespace {
@@ -56,6 +57,14 @@ std::string PremiereMajuscule(std::string texte) {
     texte[1] = static_cast<char>(static_cast<unsigned char>(texte[1]) - 0x20);
   }
   return texte;
+}
+
+/// Whole minutes of an angle in its fields.
+void PoseAngleEntier(Bureau &bureau, Controle &degres, Controle &minutes, double angle) {
+  constexpr int kMinutes = 60;
+  const auto entier = static_cast<int>(std::lround(std::fabs(angle) * kMinutes));
+  PoseTexte(bureau, degres, Format(entier / kMinutes, "00"));
+  PoseTexte(bureau, minutes, Format(entier % kMinutes, "00"));
 }
 
 } // namespace
@@ -117,6 +126,34 @@ void PoseListeDuCorps(Bureau &bureau, int corps, int rang) {
   } else if (corps == static_cast<int>(Corps::Planetes)) {
     PoseRang(bureau, bureau.donnees.Combo7, rang, kNombrePlanetes);
   }
+}
+
+bool PoseAstre(Bureau &bureau, const Astre &astre) {
+  const bool etoile = astre.genre == GenreAstre::Etoile;
+  if (astre.genre == GenreAstre::Belier || (etoile && (astre.rang < 1 || astre.rang > kNombreEtoiles))) {
+    return false;
+  }
+  const Corps corps = etoile                              ? Corps::Etoiles
+                      : astre.genre == GenreAstre::Soleil ? Corps::Soleil
+                      : astre.genre == GenreAstre::Lune   ? Corps::Lune
+                                                          : Corps::Planetes;
+  const int place = etoile ? astre.rang - 1 : static_cast<int>(astre.genre) - static_cast<int>(GenreAstre::Venus);
+  PoseOption(bureau, bureau.donnees.Option7.at(static_cast<std::size_t>(corps)));
+  SelAstre(bureau, static_cast<int>(corps));
+  PoseListeDuCorps(bureau, static_cast<int>(corps), place);
+  return true;
+}
+
+void PoseLatitudeEstimee(Bureau &bureau, double degres) {
+  Donnees &d = bureau.donnees;
+  PoseOption(bureau, d.OptN[degres >= 0 ? 0 : 1]);
+  PoseAngleEntier(bureau, d.Text8, d.Text9, degres);
+}
+
+void PoseLongitudeEstimee(Bureau &bureau, double degres) {
+  Donnees &d = bureau.donnees;
+  PoseOption(bureau, d.OptE[degres >= 0 ? 0 : 1]);
+  PoseAngleEntier(bureau, d.Text6, d.Text7, degres);
 }
 
 void PoseReduction(Bureau &bureau, const Observation &observation) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "complements/ciel/Astre.hpp"
 #include "shell/bureau/Bureau.hpp"
 
 namespace velmaris {
@@ -13,6 +14,17 @@ void PoseChamps(Bureau &bureau, const Observation &observation);
 /// Chooses the star or the planet of a kind of body by its place in the list; for another kind, or a place that doesn't
 /// exist, nothing.
 void PoseListeDuCorps(Bureau &bureau, int corps, int rang);
+
+/// Chooses a body in the panel as a user does; its limb becomes the usual one.
+/// @return false for a body that the panel's lists don't have: nothing has changed
+bool PoseAstre(Bureau &bureau, const Astre &astre);
+
+/// The sight's estimated latitude or longitude, whole minutes.
+/// @param degres  north and east positive
+/// @{
+void PoseLatitudeEstimee(Bureau &bureau, double degres);
+void PoseLongitudeEstimee(Bureau &bureau, double degres);
+/// @}
 
 /// Writes back what a reduction may change: eye height, collimation, the reading's texts and the fraction's colour.
 void PoseReduction(Bureau &bureau, const Observation &observation);

@@ -108,6 +108,23 @@ TEST_F(FenetreDuRegistre, MadeLargerItShowsMoreRowsAndItsSizeIsKept) {
   EXPECT_EQ(journal->size(), taille);
 }
 
+TEST_F(FenetreDuRegistre, ClosedAndOpenedItIsAsLargeAsItWas) {
+  OuvreLog(kGrandEcran);
+  const QSize taille = journal->size();
+  for (int i = 0; i < 3; ++i) {
+    Joue([this] { ClicControle(bureau, bureau.registre.Command7); });
+    QApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QApplication::processEvents();
+    Joue([this] { ClicControle(bureau, d.PU_Registre); });
+    QApplication::processEvents();
+    for (auto *ouverte : fenetre->findChildren<QDialog *>("Registre")) {
+      journal = ouverte->isVisible() ? ouverte : journal;
+    }
+    EXPECT_EQ(journal->size(), taille);
+    EXPECT_LE(journal->minimumHeight(), taille.height());
+  }
+}
+
 TEST_F(FenetreDuRegistre, AFileOfASightDroppedOnItComesIn) {
   OuvreLog(kGrandEcran);
   const std::string panneau = d.Text13.texte;

@@ -296,12 +296,10 @@ TEST_F(DisquePlein, TheObjectsKeepTheirOldFileAndAreWrittenOnceThereIsRoom) {
   }
 }
 
-/// A data folder of somebody else's.
+/// A data folder that may only be read.
 class DossierInterdit : public AvecFichiers {
 protected:
   void SetUp() override {
-    fs::permissions(dossier.chemin(), fs::perms(0755));
-    LanguesSeules(); // the source may lie in a home that no other user can read
     TapeVisee();
     Calcule();
     Garde(0);
@@ -309,10 +307,11 @@ protected:
     ClicControle(bureau, d.Sortie);
     bureau.valeurs.reset();
     Pose(chez / kFichierObjets, "+43.50 -005.00 2 Est\n");
-    fs::permissions(chez, fs::perms(0555));
     for (const auto &entree : fs::directory_iterator(chez)) {
       avant[entree.path()] = Contenu(entree.path());
+      fs::permissions(entree, fs::perms(0222), fs::perm_options::remove);
     }
+    fs::permissions(chez, fs::perms(0555));
     boites.clear();
     reponse = false;
   }

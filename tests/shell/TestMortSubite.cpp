@@ -1,5 +1,6 @@
 #include "tests/shell/droites/OutilsDroites.hpp"
 
+#include "complements/registre/PointsGardes.hpp"
 #include "foundations/Fichiers.hpp"
 #include "shell/carte/FichierObjets.hpp"
 #include "shell/carte/Objets.hpp"
@@ -309,6 +310,27 @@ TEST_F(MortSubite, OfASightTheLogSaysWhatWasSaidLastAndACutLineSaysNothing) {
       [&](int) {
         const Annotations lues = LitAnnotations(Contenu(masques));
         return lues.empty() ? 0 : std::stoi(lues.at("aa").note);
+      });
+}
+
+TEST_F(MortSubite, OfTheKeptFixesEachWholeLineStandsAndACutOneIsNone) {
+  constexpr std::int64_t kDebut = 1'782'000'000; // a fix each minute from June 2026 on
+  const fs::path points = donnees_.utilisateur / "points.csv";
+  Coupe(
+      [](Bureau &programme, int n) {
+        programme.point.heure = UTCDeSecondes(kDebut + 60 * n);
+        programme.point.actuelle.solution = SolutionPoint{};
+        programme.point.actuelle.solution->lieu = {0.1 * (n % 100), -0.1 * (n % 100)};
+        ClicControle(programme, programme.fenetrePoint.Command3[1]);
+      },
+      [&](int) {
+        const std::vector<PointGarde> lus = LitPoints(Contenu(points));
+        int n = 0;
+        for (const PointGarde &point : lus) {
+          n = static_cast<int>((SecondesDe(point.utc) - kDebut) / 60);
+          EXPECT_NEAR(point.lieu.latitude, 0.1 * (n % 100), 1E-5);
+        }
+        return n;
       });
 }
 

@@ -93,6 +93,21 @@ void Dialogue::GardeSaTaille() {
 
 void Dialogue::Redimensionne() { setFixedSize(Taille()); }
 
+/// Before it is shown no event may be played: the core doesn't know that it is made, and would have it made again.
+void Dialogue::Redispose(const std::function<void(double, double)> &dispose) {
+  if (enTaille_ || !isVisible() || !cadre_.visible) {
+    return;
+  }
+  enTaille_ = true;
+  const double f = PixelsParTwip(*this);
+  QSize faite;
+  while (faite != size()) {
+    faite = size();
+    scene_.Joue([&] { dispose(faite.width() / f, faite.height() / f); });
+  }
+  enTaille_ = false;
+}
+
 void Dialogue::Echelonne() {
   const double voulue = EchelleVoulue();
   if (voulue != echelle()) {

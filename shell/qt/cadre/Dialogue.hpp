@@ -5,6 +5,8 @@
 
 #include <QDialog>
 
+#include <functional>
+
 namespace velmaris::qt {
 
 /// What a window does that its user stretches: it can't be, it shows more, or it shows the same larger.
@@ -42,6 +44,9 @@ protected:
   QSize Taille() const;
   /// Brings the window's size in line with a new scale.
   virtual void Redimensionne();
+  /// Has the core lay a shown window out for its present size. One that comes in the middle of that is taken after it.
+  /// @param dispose  gets width and height of its inside, 1/1440 inch
+  void Redispose(const std::function<void(double, double)> &dispose);
   /// Brings in line what the window has beside its controls.
   virtual void AccordeFenetre();
   /// Whether a change of the active window is this one's coming to the front.
@@ -58,8 +63,9 @@ private:
   QWidget *contenu_; ///< what the controls lie in: the window itself where it has no margin
   Rendu rendu_;
   Etirable etirable_;
-  QSize ouverte_;  ///< the size that it opened with
-  bool parDefaut_; ///< Return has a button of its own
+  QSize ouverte_;         ///< the size that it opened with
+  bool enTaille_ = false; ///< it is being laid out for a new size
+  bool parDefaut_;        ///< Return has a button of its own
 };
 
 } // namespace velmaris::qt

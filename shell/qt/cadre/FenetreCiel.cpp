@@ -119,19 +119,8 @@ void FenetreCiel::resizeEvent(QResizeEvent *event) {
   Redimensionne();
 }
 
-/// A size that comes in the middle of a drawing is taken after it.
 void FenetreCiel::Redimensionne() {
-  if (enTaille_ || !bureau_.ciel.cadre.visible) {
-    return;
-  }
-  enTaille_ = true;
-  const double f = PixelsParTwip(*this);
-  QSize faite;
-  while (faite != size()) {
-    faite = size();
-    scene().Joue([&] { Ciel_Redimensionne(bureau_, faite.width() / f, faite.height() / f); });
-  }
-  enTaille_ = false;
+  Redispose([this](double largeur, double hauteur) { Ciel_Redimensionne(bureau_, largeur, hauteur); });
 }
 
 } // namespace velmaris::qt

@@ -28,7 +28,6 @@ private:
   Bureau &bureau_;
   ToileCiel &toile_;
   QTimer horloge_;
-  bool enTaille_ = false; ///< a new size is being drawn: one that comes meanwhile waits
 };
 
 } // namespace velmaris::qt

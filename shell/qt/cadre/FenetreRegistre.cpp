@@ -1,16 +1,12 @@
 #include "shell/qt/cadre/FenetreRegistre.hpp"
 
 #include "shell/droites/Recentes.hpp"
-#include "shell/ecran/Echelle.hpp"
 #include "shell/registre/FichiersRegistre.hpp"
-#include "shell/registre/Registre.hpp"
 
 #include <QDragEnterEvent>
 #include <QDropEvent>
 #include <QFile>
 #include <QMimeData>
-#include <QResizeEvent>
-#include <QScreen>
 #include <QUrl>
 
 #include <filesystem>
@@ -18,8 +14,6 @@
 
 namespace velmaris::qt {
 namespace {
-
-constexpr double kMoindreTable = 1800; ///< 1/1440 inch of height that the list keeps
 
 /// The sights among files that are dropped.
 std::vector<std::filesystem::path> Visees(const QMimeData &donnees) {
@@ -35,45 +29,10 @@ std::vector<std::filesystem::path> Visees(const QMimeData &donnees) {
 
 } // namespace
 
+/// A window of its own, that the main one may cover: rows are taken up in it one after the other.
 FenetreRegistre::FenetreRegistre(Scene &scene, QWidget *parent)
-    : Dialogue(scene, scene.bureau().registre.cadre, parent, Etirable::MontrePlus), bureau_(scene.bureau()) {
-  // A window of its own, that the main one may cover: rows are taken up in it one after the other.
-  setWindowFlags(Qt::Window);
+    : FenetreEtiree(scene, scene.bureau().registre.cadre, parent, Qt::Window), bureau_(scene.bureau()) {
   setAcceptDrops(true);
-  Echelonne();
-  const QSize libre = screen()->availableSize() - QSize(0, kBarreTitre);
-  const double f = PixelsParTwip(*this);
-  const double moins = bureau_.registre.Table1.place.hauteur - kMoindreTable;
-  setMinimumSize((Taille() - QSize(0, static_cast<int>(moins * f))).boundedTo(libre));
-  resize(Taille().boundedTo(libre));
-  ReprendSaTaille();
-  DisposeRegistre(bureau_, width() / f, height() / f);
-  enTaille_ = false; // NOLINT(cppcoreguidelines-prefer-member-initializer): sizes that came until here were its own
-}
-
-double FenetreRegistre::EchelleVoulue() const {
-  const QSize libre = screen()->availableSize();
-  return EchelleDialogue(bureau_, bureau_.registre.cadre, libre.width(), libre.height());
-}
-
-void FenetreRegistre::resizeEvent(QResizeEvent *event) {
-  Dialogue::resizeEvent(event);
-  Redimensionne();
-}
-
-/// A size that comes in the middle of a layout is taken after it.
-void FenetreRegistre::Redimensionne() {
-  if (enTaille_ || !bureau_.registre.cadre.visible) {
-    return;
-  }
-  enTaille_ = true;
-  const double f = PixelsParTwip(*this);
-  QSize faite;
-  while (faite != size()) {
-    faite = size();
-    scene().Joue([&] { DisposeRegistre(bureau_, faite.width() / f, faite.height() / f); });
-  }
-  enTaille_ = false;
 }
 
 void FenetreRegistre::dragEnterEvent(QDragEnterEvent *event) {

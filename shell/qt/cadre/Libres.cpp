@@ -2,6 +2,7 @@
 
 #include "shell/qt/cadre/Dialogue.hpp"
 #include "shell/qt/cadre/FenetreCiel.hpp"
+#include "shell/qt/cadre/FenetreEtiree.hpp"
 #include "shell/qt/cadre/FenetreImpression.hpp"
 #include "shell/qt/cadre/FenetreRegistre.hpp"
 
@@ -20,7 +21,8 @@ Dialogue *Cree(Scene &scene, CadreFenetre &cadre, QWidget &principale) {
   if (cadre.nom == kFenetreRegistre) {
     return new FenetreRegistre(scene, &principale);
   }
-  return new Dialogue(scene, cadre, &principale);
+  return cadre.moindreLargeur > 0 ? new FenetreEtiree(scene, cadre, &principale)
+                                  : new Dialogue(scene, cadre, &principale);
 }
 
 } // namespace

@@ -1,6 +1,7 @@
 #include "shell/qt/peinture/Icones.hpp"
 
 #include "shell/qt/peinture/Apparat.hpp"
+#include "shell/qt/peinture/DessinsComplements.hpp"
 #include "shell/qt/peinture/Palette.hpp"
 #include "shell/qt/peinture/Vignettes.hpp"
 
@@ -282,6 +283,12 @@ constexpr Dessin kDessins[] = {{"sauve", Sauve},
                                {"estime", Estime},
                                {"cap", Cap},
                                {"astres", Astres},
+                               {"fiche", DessineFiche},
+                               {"registre", DessineRegistre},
+                               {"point", DessinePoint},
+                               {"plan", DessinePlan},
+                               {"serie", DessineSerie},
+                               {"exercice", DessineExercice},
                                {"aide", Aide},
                                {"quitter", Quitter},
                                {"attention", Attention},

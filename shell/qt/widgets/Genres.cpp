@@ -16,6 +16,7 @@
 #include <QPushButton>
 #include <QRadioButton>
 #include <QSlider>
+#include <QTabBar>
 #include <QTimer>
 
 #include <algorithm>
@@ -58,7 +59,16 @@ auto Clic(Bureau &bureau, Controle &c, const Joueur &joue) {
 class ASurface : public De<Toile> {
 public:
   using De::De;
-  void Ecoute(Bureau &bureau, Controle &c, const Joueur &joue) override { w.auClic = Clic(bureau, c, joue); }
+  void Ecoute(Bureau &bureau, Controle &c, const Joueur &joue) override {
+    w.auClic = Clic(bureau, c, joue);
+    if (velmaris::Ecoute(c, Evenement::Presse)) {
+      w.auPresse = [&bureau, &c, joue](bool gauche, double x, double y) {
+        if (gauche) {
+          joue([&] { PresseSurface(bureau, c, {x, y}); });
+        }
+      };
+    }
+  }
 };
 
 class ACadre : public De<Volet> {
@@ -314,6 +324,35 @@ protected:
   void PoseAlerte(bool alerte) override { w.PoseAlerte(alerte); }
 };
 
+class AOnglets : public De<QTabBar> {
+public:
+  using De::De;
+  void Ecoute(Bureau &bureau, Controle &c, const Joueur &joue) override {
+    QObject::connect(&w, &QTabBar::currentChanged, &w,
+                     [&bureau, &c, joue](int rang) { joue([&] { ChoisitLigne(bureau, c, rang); }); });
+  }
+  Contenu Montre() const override { return {{}, w.currentIndex(), w.count()}; }
+  Contenu Voulu(const Controle &c) const override { return {{}, Ligne(c), static_cast<qsizetype>(c.liste.size())}; }
+
+protected:
+  void PoseContenu(const Controle &c, const Controle & /*vu*/, bool /*tout*/) override {
+    for (int i = 0; i < static_cast<int>(c.liste.size()); ++i) {
+      const QString mots = Texte(c.liste[static_cast<std::size_t>(i)]);
+      i < w.count() ? w.setTabText(i, mots) : static_cast<void>(w.addTab(mots));
+    }
+    w.setCurrentIndex(Ligne(c));
+  }
+};
+
+QTabBar *CreeOnglets(QWidget *parent) {
+  auto *onglets = new QTabBar(parent);
+  onglets->setDrawBase(false);
+  onglets->setExpanding(false);
+  onglets->setUsesScrollButtons(false);
+  onglets->setFocusPolicy(Qt::StrongFocus);
+  return onglets;
+}
+
 class AListeBoite : public De<QListWidget> {
 public:
   using De::De;
@@ -417,6 +456,8 @@ std::unique_ptr<Adaptateur> CreeAdaptateur(Bureau &bureau, const Controle &c, QW
     return CreeListeBoite(parent);
   case Genre::Table:
     return CreeTable(parent);
+  case Genre::Onglets:
+    return std::make_unique<AOnglets>(CreeOnglets(parent));
   case Genre::Curseur:
     return std::make_unique<ACurseur>(new QSlider(Qt::Horizontal, parent), c);
   case Genre::Image:

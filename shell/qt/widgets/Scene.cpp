@@ -5,12 +5,15 @@
 #include "shell/complements/Verification.hpp"
 #include "shell/ecran/Echelle.hpp"
 #include "shell/ecran/Statut.hpp"
+#include "shell/exercice/EvenementsExercice.hpp"
 #include "shell/point/Point.hpp"
+#include "shell/preparation/Preparation.hpp"
 #include "shell/qt/peinture/Apparat.hpp"
 #include "shell/qt/peinture/Apparence.hpp"
 #include "shell/qt/peinture/Grandeur.hpp"
 #include "shell/qt/widgets/Rendu.hpp"
 #include "shell/registre/Registre.hpp"
+#include "shell/serie/Serie.hpp"
 #include "shell/visee/ChampsJuges.hpp"
 
 #include <QApplication>
@@ -95,8 +98,11 @@ void Scene::Accorde() {
     encore_ = false;
     JugeChamps(bureau_);
     AccordeVerification(bureau_);
+    AccordePoint(bureau_); // it may read the log
     AccordeRegistre(bureau_);
-    AccordePoint(bureau_);
+    AccordePreparation(bureau_);
+    AccordeSerie(bureau_);
+    AccordeExercice(bureau_);
     AccordeStatut(bureau_);
     AccordeEclairage(bureau_.eclairage);
     AccordeGrandeur(EchelleFenetre(bureau_));

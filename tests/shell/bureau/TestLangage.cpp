@@ -222,7 +222,7 @@ TEST_P(FichiersLivres, EveryCaptionAndToolTipOfEveryWindowHasItsLine) {
   const std::string fichier = LitFichier(std::filesystem::path(VELMARIS_DONNEES) / GetParam());
   for (const std::string_view fenetre :
        {kFenetreDonnees, kFenetreFSelect, kFenetreUtilisateur, kFenetreCiel, kFenetreApropos, kFenetreEtat,
-        kFenetreFiche, kFenetreRegistre, kFenetrePoint}) {
+        kFenetreFiche, kFenetreRegistre, kFenetrePoint, kFenetrePreparation, kFenetreSerie, kFenetreExercice}) {
     const ListeControles controles = ControlesDe(bureau, fenetre);
     std::for_each(controles.begin(), controles.end(), [&](Controle *c) { efface(*c); });
     AppliqueLangue(fichier, fenetre, controles, bureau.messages);
@@ -250,6 +250,22 @@ TEST_F(Programme, TheMeaningsOfErrorsAreThoseOfTheCore) {
   for (std::size_t i = 0; i < kErreursNommees.size(); ++i) {
     EXPECT_EQ(d.TexteSens[i].legende, SensErreur(kErreursNommees[i]));
   }
+}
+
+TEST_F(Programme, WhatIsTypedInTheComplementsStaysInAnotherLanguageAndAtAnotherStart) {
+  Demarre();
+  SaisitTexte(bureau, bureau.fiche.Text1[0], "1040");
+  SaisitTexte(bureau, bureau.preparation.Text1[2], "47 N");
+  SaisitTexte(bureau, bureau.fenetreExercice.Text3[0], "12 S");
+  ClicControle(bureau, d.Image10[1]);
+  EXPECT_EQ(bureau.fiche.Text1[0].texte, "1040");
+  EXPECT_EQ(bureau.preparation.Text1[2].texte, "47 N");
+  EXPECT_EQ(bureau.fenetreExercice.Text3[0].texte, "12 S");
+  EXPECT_EQ(Reglage("ControlePression"), "1040");
+  Bureau autre;
+  Branche(autre);
+  Donnees_Charge(autre, {});
+  EXPECT_EQ(autre.fiche.Text1[0].texte, "1040");
 }
 
 TEST_F(Programme, AChangeOfLanguageLeavesTheWeekdayOnShow) {

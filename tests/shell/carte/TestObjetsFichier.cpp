@@ -279,15 +279,16 @@ TEST_F(FichierObjets, ADirectoryInItsPlaceIsToldAndSetAside) {
 TEST_F(FichierObjets, ADirectoryInItsPlaceThatCantBeSetAsideStays) {
   fs::create_directories(fichier);
   Pose(fichier / "dedans", "gardé");
-  fs::permissions(dossier.chemin(), fs::perms::all);
   Ouvre();
   Nouveau("A");
   {
     const UtilisateurSansDroit autre;
     if (!autre.reussi) {
-      GTEST_SKIP() << "no other user here";
+      GTEST_SKIP() << "the superuser's rights can't be laid down here";
     }
+    fs::permissions(fichier.parent_path(), fs::perms(0555));
     Ferme();
+    fs::permissions(fichier.parent_path(), fs::perms(0755));
   }
   EXPECT_EQ(boites.size(), 2U) << "the reading and the writing";
   EXPECT_TRUE(u.cadre.visible);
@@ -297,13 +298,11 @@ TEST_F(FichierObjets, ADirectoryInItsPlaceThatCantBeSetAsideStays) {
 
 TEST_F(FichierObjets, AFileWithoutPermissionIsToldAndSetAside) {
   Pose(fichier, kBonne);
-  fs::permissions(dossier.chemin(), fs::perms::all);
-  fs::permissions(fichier.parent_path(), fs::perms::all);
   fs::permissions(fichier, fs::perms::none);
   {
     const UtilisateurSansDroit autre;
     if (!autre.reussi) {
-      GTEST_SKIP() << "no other user here";
+      GTEST_SKIP() << "the superuser's rights can't be laid down here";
     }
     Ouvre();
     ASSERT_EQ(boites.size(), 1U);
@@ -376,15 +375,16 @@ TEST_F(FichierObjets, LeavingTheProgramTellsAWriteThatFailsOnceAndEnds) {
 
 TEST_F(FichierObjets, AnUnreadFileThatCantBeSetAsideIsNotReplaced) {
   Pose(fichier, "illisible\n");
-  fs::permissions(dossier.chemin(), fs::perms::all);
   Ouvre();
   Nouveau("A");
   {
     const UtilisateurSansDroit autre;
     if (!autre.reussi) {
-      GTEST_SKIP() << "no other user here";
+      GTEST_SKIP() << "the superuser's rights can't be laid down here";
     }
+    fs::permissions(fichier.parent_path(), fs::perms(0555));
     Ferme();
+    fs::permissions(fichier.parent_path(), fs::perms(0755));
   }
   EXPECT_EQ(boites.size(), 2U);
   EXPECT_TRUE(u.cadre.visible);

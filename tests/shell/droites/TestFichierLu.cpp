@@ -280,7 +280,6 @@ TEST_F(FichierLu, AFileOverSixtyFourMegabytesLoadsNothingAndShowsNoBox) {
 }
 
 TEST_F(FichierLu, AFileWithoutPermissionIsToldAndThePanelStays) {
-  ::chmod(dossier.chemin().c_str(), 0755);
   Pose(lieu / "closed.LoP", Joint(LignesSoleil()));
   ::chmod((lieu / "closed.LoP").c_str(), 0);
   std::optional<UtilisateurSansDroit> utilisateur;
@@ -292,7 +291,7 @@ TEST_F(FichierLu, AFileWithoutPermissionIsToldAndThePanelStays) {
   const bool essaye = utilisateur && utilisateur->reussi;
   utilisateur.reset();
   if (!essaye) {
-    GTEST_SKIP() << "the superuser can't become another user here";
+    GTEST_SKIP() << "the superuser's rights can't be laid down here";
   }
   NonLu(lieu / "closed.LoP");
 }

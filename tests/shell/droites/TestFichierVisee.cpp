@@ -65,7 +65,7 @@ TEST_F(FichierVisee, SaveOverAProtectedFileIsError75AndNothingIsWritten) {
   const bool essaye = utilisateur && utilisateur->reussi;
   utilisateur.reset();
   if (!essaye) {
-    GTEST_SKIP() << "the superuser can't become another user here";
+    GTEST_SKIP() << "the superuser's rights can't be laid down here";
   }
   ASSERT_EQ(boites.size(), 1U);
   EXPECT_EQ(boites[0].texte,

@@ -224,13 +224,12 @@ TEST_F(BoutonsDuDialogue, AFolderThatDoesNotExistLeavesTheDialogWhereItIsWithout
 }
 
 TEST_F(BoutonsDuDialogue, AFolderWithoutPermissionLeavesTheDialogWhereItIs) {
-  ::chmod(dossier.chemin().c_str(), 0755);
   const fs::path ferme = Dossier("closed");
   ::chmod(ferme.c_str(), 0);
   Demande([&] {
     const UtilisateurSansDroit utilisateur;
     if (!utilisateur.reussi) {
-      GTEST_SKIP() << "the superuser can't become another user here";
+      GTEST_SKIP() << "the superuser's rights can't be laid down here";
     }
     Donne(ferme.string());
     EXPECT_EQ(f.dossier, lieu);

@@ -42,6 +42,24 @@ TEST_F(Programme, TheToolbarFitsTheNarrowestScreen) {
   });
 }
 
+TEST_F(Programme, TheComplementsHaveTheirButtonsWhereTheScreenHasRoom) {
+  Demarre({20148, 12592.5, 1200}); // 1920 by 1200
+  EXPECT_TRUE(d.FrameComplements.visible);
+  EXPECT_GE(d.FrameComplements.place.gauche, d.Frame3.place.gauche + d.Frame3.place.largeur);
+  ClicControle(bureau, d.Complement[1]);
+  EXPECT_TRUE(bureau.registre.cadre.visible);
+  ClicControle(bureau, d.Complement[3]);
+  EXPECT_TRUE(bureau.preparation.cadre.visible);
+  ClicControle(bureau, d.Complement[5]);
+  EXPECT_TRUE(bureau.fenetreExercice.cadre.visible);
+  ClicControle(bureau, d.Complement[2]);
+  EXPECT_TRUE(bureau.fenetrePoint.cadre.visible);
+  ClicControle(bureau, d.Complement[4]);
+  EXPECT_TRUE(bureau.fenetreSerie.cadre.visible);
+  Demarre({15360, 11520, 768}); // 1024 by 768
+  EXPECT_FALSE(d.FrameComplements.visible);
+}
+
 TEST_F(Programme, NoTwoControlsThatShowTogetherOverlap) {
   for (const int pixels : {1080, 600}) {
     Demarre({15360, pixels * 15.0, pixels});

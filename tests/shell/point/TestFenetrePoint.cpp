@@ -1,7 +1,7 @@
 #include "shell/point/Point.hpp"
 
 #include "complements/controle/RouteActuelle.hpp"
-#include "complements/point/PointsGardes.hpp"
+#include "complements/registre/PointsGardes.hpp"
 #include "foundations/Fichiers.hpp"
 #include "shell/complements/Verification.hpp"
 #include "shell/droites/ModesDroite.hpp"
@@ -472,25 +472,6 @@ TEST_F(PointEnChiffres, ToldFiguresAreTheSameWithTheFixAndWithout) {
   EXPECT_EQ(bureau.affichage, affichage);
   EXPECT_EQ(bureau.visee, visee);
   EXPECT_EQ(bureau.feuille, feuille);
-}
-
-TEST(TypedMoments, DatesAndTimesAreReadWhateverPartsThem) {
-  const InstantUTC attendu = UTCDe({2026, 6, 21, 22, 5, 9});
-  for (const auto &[date, heure] :
-       {std::pair("21/06/2026", "22:05:09"), {"21.6.26", "22h05m09"}, {" 21 6 2026", "22 5 9"}}) {
-    const auto lu = LitMomentTape(date, heure);
-    ASSERT_TRUE(lu) << date << " " << heure;
-    EXPECT_EQ(SecondesEntre(*lu, attendu), 0);
-  }
-  for (const auto &[date, heure] : {std::pair("31/02/2026", "22:05"),
-                                    {"21/06", "22:05"},
-                                    {"21/06/2026", "24:00"},
-                                    {"21/06/2026", "22"},
-                                    {"21/06/2026/1", "22:05"},
-                                    {"", ""},
-                                    {"-1/2/3", "1:1"}}) {
-    EXPECT_FALSE(LitMomentTape(date, heure)) << date << " " << heure;
-  }
 }
 
 } // namespace

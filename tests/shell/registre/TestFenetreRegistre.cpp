@@ -368,31 +368,6 @@ TEST_F(LogOuvert, LeavingTheProgramKeepsANoteThatWasBeingTyped) {
   EXPECT_THAT(Contenu(Fichier("masques.csv")), HasSubstr("en route"));
 }
 
-TEST_F(LogOuvert, LargerTheWindowShowsMoreRowsAndNothingLiesOverAnother) {
-  for (const auto &[largeur, hauteur] : {std::pair{14400.0, 9300.0}, {20000.0, 14000.0}, {14400.0, 6180.0}}) {
-    DisposeRegistre(bureau, largeur, hauteur);
-    const ListeControles controles = ControlesDe(bureau, kFenetreRegistre);
-    for (const Controle *a : controles) {
-      if (a->genre == Genre::Texte || !a->visible || !a->parent.empty()) {
-        continue;
-      }
-      EXPECT_LE(a->place.gauche + a->place.largeur, largeur) << a->nom;
-      EXPECT_LE(a->place.haut + a->place.hauteur, hauteur) << a->nom;
-      for (const Controle *b : controles) {
-        const bool compte = b != a && b->genre != Genre::Texte && b->visible && b->parent.empty();
-        EXPECT_FALSE(compte && a->place.gauche < b->place.gauche + b->place.largeur &&
-                     b->place.gauche < a->place.gauche + a->place.largeur &&
-                     a->place.haut < b->place.haut + b->place.hauteur &&
-                     b->place.haut < a->place.haut + a->place.hauteur)
-            << a->nom << " " << b->nom;
-      }
-    }
-  }
-  const double avant = reg.Table1.place.hauteur;
-  DisposeRegistre(bureau, 14400, 9300 + 3000);
-  EXPECT_GT(reg.Table1.place.hauteur, avant + 3000);
-}
-
 TEST_F(LogOuvert, TheKeyOpensItAndClosingPutsItAway) {
   EXPECT_TRUE(ToucheControle(bureau, 'L'));
   EXPECT_TRUE(reg.cadre.visible);

@@ -1,5 +1,5 @@
 #include "shell/fenetres/Acces.hpp"
-#include "shell/fenetres/Fiche.hpp"
+#include "shell/fenetres/complements/Fiche.hpp"
 
 namespace velmaris {
 namespace {

@@ -44,11 +44,10 @@ struct FenetrePoint {
   std::array<Controle, 7> MotColonne;      ///< columns of the sights
   std::array<Controle, 3> MotColonneRoute; ///< columns of the legs
   std::array<Controle, 16> MotAvis;        ///< in the order of `AvisPoint`
-  std::array<Controle, 7> MotRefus;        ///< in the order of `RaisonRefus`
   Controle TexteImprobable, TexteLaisse, TexteCommune, TexteSextant, TexteFond, TexteEntre, TexteSurplus, TexteHors,
       TexteSansPoint, TexteGarde, TexteGardeRefuse, TexteJambe, TexteAlarme, TexteVisees;
 
-  CadreFenetre cadre{kFenetrePoint, "", 12600, 9450};
+  CadreFenetre cadre{kFenetrePoint, "", 12600, 9450, false, 12600, 8370};
 };
 
 using LigneFenetrePoint = LigneDe<FenetrePoint>;

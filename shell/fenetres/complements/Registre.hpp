@@ -38,7 +38,7 @@ struct Registre {
   Controle TexteSansChoix, TexteSansAstre, TexteAuPoint, TexteMuet, TexteExportees, TexteEntrees, TexteNonEntrees;
   Controle TexteCsv, TexteLoP, TexteReleveRefuse, TexteParJour;
 
-  CadreFenetre cadre{kFenetreRegistre, "", 14400, 9300};
+  CadreFenetre cadre{kFenetreRegistre, "", 14400, 9300, false, 14400, 6180};
 };
 
 using LigneRegistre = LigneDe<Registre>;

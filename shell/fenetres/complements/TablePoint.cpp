@@ -1,0 +1,128 @@
+#include "shell/fenetres/Acces.hpp"
+#include "shell/fenetres/complements/FenetrePoint.hpp"
+
+namespace velmaris {
+namespace {
+
+using Fenetre = FenetrePoint;
+
+// One control a line.
+// clang-format off
+// NOLINTNEXTLINE(cppcoreguidelines-avoid-c-arrays,modernize-avoid-c-arrays)
+constexpr LigneFenetrePoint kPoint[] = {
+    {SEUL(LabHeure), Genre::Etiquette, "", {180, 165, 2100, 255}, "Point à (UTC)", ""},
+    {RANG(Text1, 0), Genre::Champ, "", {2310, 120, 1260, 330}, "", "Jour/mois/année", {.par = "LabHeure"}},
+    {RANG(Text1, 1), Genre::Champ, "", {3630, 120, 960, 330}, "", "Heure:minute:seconde", {.par = "LabHeure"}},
+    {SEUL(Check1), Genre::Case, "", {4890, 150, 4300, 285}, "Corrige les heures de la montre", "Par les relevés de la montre du registre"},
+    {SEUL(Visees), Genre::Table, "", {180, 540, 12240, 2580}, "", "Espace coche une visée ; elle compte alors dans le point", {.etire = {0, 0, 1, 1}}},
+    {SEUL(LabEcart), Genre::Etiquette, "", {180, 3255, 3000, 255}, "Erreur supposée de la visée (')", "", {.etire = {0, 1, 0, 0}}},
+    {SEUL(Text2), Genre::Champ, "", {3210, 3210, 750, 330}, "", "0,1 à 60 minutes ; vide, celle des doutes", {.par = "LabEcart", .etire = {0, 1, 0, 0}}},
+    {RANG(Command1, 0), Genre::Bouton, "", {6600, 3195, 1860, 375}, "Dernier quart", "Les visées du dernier quart et les droites gardées", {.etire = {1, 1, 0, 0}}},
+    {RANG(Command1, 1), Genre::Bouton, "", {8580, 3195, 1860, 375}, "Ôter la visée", "De la liste seulement ; le registre la garde", {.etire = {1, 1, 0, 0}}},
+    {RANG(Command1, 2), Genre::Bouton, "", {10560, 3195, 1860, 375}, "Registre...", "Toutes les visées, pour en ajouter (Ctrl+L)", {.etire = {1, 1, 0, 0}}},
+    {SEUL(Frame1), Genre::Groupe, "", {180, 3720, 7320, 2370}, "Route du navire", "", {.etire = {0, 1, 0.5, 0}}},
+    {SEUL(Jambes), Genre::Table, "Frame1", {120, 300, 4140, 1950}, "", "Chaque branche vaut depuis son heure", {.etire = {0, 0, 0.5, 0}}},
+    {RANG(Label3, 0), Genre::Etiquette, "Frame1", {4380, 345, 1380, 255}, "Date", "", {.etire = {0.5, 0, 0, 0}}},
+    {RANG(Text3, 0), Genre::Champ, "Frame1", {5790, 300, 1410, 315}, "", "Jour/mois/année", {.par = "Label3", .parIndice = 0, .etire = {0.5, 0, 0, 0}}},
+    {RANG(Label3, 1), Genre::Etiquette, "Frame1", {4380, 690, 1380, 255}, "Heure", "", {.etire = {0.5, 0, 0, 0}}},
+    {RANG(Text3, 1), Genre::Champ, "Frame1", {5790, 645, 1410, 315}, "", "Heure:minute, UTC", {.par = "Label3", .parIndice = 1, .etire = {0.5, 0, 0, 0}}},
+    {RANG(Label3, 2), Genre::Etiquette, "Frame1", {4380, 1035, 1380, 255}, "Cap vrai (°)", "", {.etire = {0.5, 0, 0, 0}}},
+    {RANG(Text3, 2), Genre::Champ, "Frame1", {5790, 990, 1410, 315}, "", "0 à 360", {.par = "Label3", .parIndice = 2, .etire = {0.5, 0, 0, 0}}},
+    {RANG(Label3, 3), Genre::Etiquette, "Frame1", {4380, 1380, 1380, 255}, "Vitesse (nds)", "", {.etire = {0.5, 0, 0, 0}}},
+    {RANG(Text3, 3), Genre::Champ, "Frame1", {5790, 1335, 1410, 315}, "", "0 à 100", {.par = "Label3", .parIndice = 3, .etire = {0.5, 0, 0, 0}}},
+    {RANG(Command2, 0), Genre::Bouton, "Frame1", {4380, 1710, 1380, 330}, "Ajouter", "Ajoute la branche, ou remplace celle de la même heure", {.etire = {0.5, 0, 0, 0}}},
+    {RANG(Command2, 1), Genre::Bouton, "Frame1", {5820, 1710, 1380, 330}, "Ôter", "La branche choisie", {.etire = {0.5, 0, 0, 0}}},
+    {RANG(Label4, 0), Genre::Etiquette, "Frame1", {4380, 2085, 1230, 240}, "Courant (°, nds)", "", {.etire = {0.5, 0, 0, 0}}},
+    {RANG(Text4, 0), Genre::Champ, "Frame1", {5790, 2055, 675, 300}, "", "Où porte le courant, 0 à 360 ; vide, sans courant", {.par = "Label4", .parIndice = 0, .etire = {0.5, 0, 0, 0}}},
+    {RANG(Label4, 1), Genre::Etiquette, "Frame1", {6480, 2085, 45, 240}, "", "", {.etire = {0.5, 0, 0, 0}}},
+    {RANG(Text4, 1), Genre::Champ, "Frame1", {6525, 2055, 675, 300}, "", "Sa vitesse, 0 à 20 nœuds", {.par = "Label4", .parIndice = 0, .etire = {0.5, 0, 0, 0}}},
+    {SEUL(Frame2), Genre::Groupe, "", {7620, 3720, 4800, 2370}, "Doutes", "", {.etire = {0.5, 1, 0.5, 0}}},
+    {RANG(Label5, 0), Genre::Etiquette, "Frame2", {150, 345, 2700, 255}, "Hauteur (0,7 ')", "", {.etire = {0, 0, 0.5, 0}}},
+    {RANG(Text5, 0), Genre::Champ, "Frame2", {2910, 300, 1740, 315}, "", "0,1 à 60 minutes ; vide, 0,7", {.par = "Label5", .parIndice = 0, .etire = {0.5, 0, 0, 0}}},
+    {RANG(Label5, 1), Genre::Etiquette, "Frame2", {150, 690, 2700, 255}, "Cap (3 °)", "", {.etire = {0, 0, 0.5, 0}}},
+    {RANG(Text5, 1), Genre::Champ, "Frame2", {2910, 645, 1740, 315}, "", "0 à 45 degrés ; vide, 3", {.par = "Label5", .parIndice = 1, .etire = {0.5, 0, 0, 0}}},
+    {RANG(Label5, 2), Genre::Etiquette, "Frame2", {150, 1035, 2700, 255}, "Vitesse (5 %)", "", {.etire = {0, 0, 0.5, 0}}},
+    {RANG(Text5, 2), Genre::Champ, "Frame2", {2910, 990, 1740, 315}, "", "0 à 100 % ; vide, 5", {.par = "Label5", .parIndice = 2, .etire = {0.5, 0, 0, 0}}},
+    {RANG(Label5, 3), Genre::Etiquette, "Frame2", {150, 1380, 2700, 255}, "Courant (0,3 nd)", "", {.etire = {0, 0, 0.5, 0}}},
+    {RANG(Text5, 3), Genre::Champ, "Frame2", {2910, 1335, 1740, 315}, "", "0 à 10 nœuds ; vide, 0,3", {.par = "Label5", .parIndice = 3, .etire = {0.5, 0, 0, 0}}},
+    {RANG(Check2, 0), Genre::Case, "Frame2", {150, 1710, 4500, 285}, "Erreur commune aux hauteurs, inconnue", "Horizon ou sextant : les visées la donnent, si leurs azimuts couvrent plus de 180°", {.etire = {0, 0, 0.5, 0}}},
+    {RANG(Check2, 1), Genre::Case, "Frame2", {150, 2025, 4500, 285}, "Route et vitesse fond, inconnues", "Les visées les donnent : six au moins, sur trois heures", {.etire = {0, 0, 0.5, 0}}},
+    {RANG(Titre, 0), Genre::Etiquette, "", {180, 6225, 2100, 255}, "", "", {.titre = true, .etire = {0, 1, 0, 0}}},
+    {RANG(Titre, 1), Genre::Etiquette, "", {2310, 6225, 4950, 255}, "Par le ciel d'aujourd'hui", "", {.titre = true, .etire = {0, 1, 0.5, 0}}},
+    {RANG(Titre, 2), Genre::Etiquette, "", {7380, 6225, 4950, 255}, "Comme les droites sont tracées", "", {.titre = true, .etire = {0.5, 1, 0.5, 0}}},
+    {RANG(Rangee, 0), Genre::Etiquette, "", {180, 6570, 2100, 255}, "Position", "", {.etire = {0, 1, 0, 0}}},
+    {RANG(Actuel, 0), Genre::Etiquette, "", {2310, 6510, 4950, 360}, "", "", {.taille = 12, .par = "Rangee", .parIndice = 0, .etire = {0, 1, 0.5, 0}}},
+    {RANG(Dit, 0), Genre::Etiquette, "", {7380, 6510, 4950, 360}, "", "", {.taille = 12, .par = "Rangee", .parIndice = 0, .etire = {0.5, 1, 0.5, 0}}},
+    {RANG(Rangee, 1), Genre::Etiquette, "", {180, 6900, 2100, 255}, "Ellipse à 95 %", "", {.etire = {0, 1, 0, 0}}},
+    {RANG(Actuel, 1), Genre::Etiquette, "", {2310, 6900, 4950, 255}, "", "", {.par = "Rangee", .parIndice = 1, .etire = {0, 1, 0.5, 0}}},
+    {RANG(Dit, 1), Genre::Etiquette, "", {7380, 6900, 4950, 255}, "", "", {.par = "Rangee", .parIndice = 1, .etire = {0.5, 1, 0.5, 0}}},
+    {RANG(Rangee, 2), Genre::Etiquette, "", {180, 7170, 2100, 255}, "Par les résidus", "", {.etire = {0, 1, 0, 0}}},
+    {RANG(Actuel, 2), Genre::Etiquette, "", {2310, 7170, 4950, 255}, "", "", {.par = "Rangee", .parIndice = 2, .etire = {0, 1, 0.5, 0}}},
+    {RANG(Dit, 2), Genre::Etiquette, "", {7380, 7170, 4950, 255}, "", "", {.par = "Rangee", .parIndice = 2, .etire = {0.5, 1, 0.5, 0}}},
+    {RANG(Rangee, 3), Genre::Etiquette, "", {180, 7440, 2100, 255}, "Trouvé", "", {.etire = {0, 1, 0, 0}}},
+    {RANG(Actuel, 3), Genre::Etiquette, "", {2310, 7440, 4950, 255}, "", "", {.par = "Rangee", .parIndice = 3, .etire = {0, 1, 0.5, 0}}},
+    {RANG(Dit, 3), Genre::Etiquette, "", {7380, 7440, 4950, 255}, "", "", {.par = "Rangee", .parIndice = 3, .etire = {0.5, 1, 0.5, 0}}},
+    {SEUL(LabEntre), Genre::Etiquette, "", {180, 7755, 12240, 255}, "", "", {.etire = {0, 1, 1, 0}}},
+    {RANG(LabAvis, 0), Genre::Etiquette, "", {180, 8010, 12240, 255}, "", "", {.etire = {0, 1, 1, 0}}},
+    {RANG(LabAvis, 1), Genre::Etiquette, "", {180, 8265, 12240, 255}, "", "", {.etire = {0, 1, 1, 0}}},
+    {RANG(LabAvis, 2), Genre::Etiquette, "", {180, 8520, 7000, 255}, "", "", {.etire = {0, 1, 1, 0}}},
+    {RANG(LabAvis, 3), Genre::Etiquette, "", {180, 8775, 7000, 255}, "", "", {.etire = {0, 1, 1, 0}}},
+    {RANG(LabAvis, 4), Genre::Etiquette, "", {180, 9030, 7000, 255}, "", "", {.etire = {0, 1, 1, 0}}},
+    {SEUL(Check3), Genre::Case, "", {7380, 8565, 2400, 285}, "Sur la feuille", "Droites avancées, ellipse et route sur la feuille et sur la carte", {.etire = {1, 1, 0, 0}}},
+    {SEUL(Check4), Genre::Case, "", {9900, 8565, 2520, 285}, "Seconde solution", "L'autre point qui s'accorde avec les hauteurs", {.visible = false, .etire = {1, 1, 0, 0}}},
+    {RANG(Command3, 0), Genre::Bouton, "", {7380, 8925, 1470, 405}, "Prendre", "Prendre comme position estimée", {.etire = {1, 1, 0, 0}}},
+    {RANG(Command3, 1), Genre::Bouton, "", {8940, 8925, 1080, 405}, "Garder", "Garde le point, que la carte peut montrer", {.etire = {1, 1, 0, 0}}},
+    {RANG(Command3, 2), Genre::Bouton, "", {10110, 8925, 1080, 405}, "Copier", "Copie le point comme un texte", {.etire = {1, 1, 0, 0}}},
+    {RANG(Command3, 3), Genre::Bouton, "", {11280, 8925, 1140, 405}, "Fermer", "", {.role = Role::Annule, .etire = {1, 1, 0, 0}}},
+    {RANG(MotColonne, 0), Genre::Texte, "", {0, 0, 0, 0}, "Date et heure (UTC)", ""},
+    {RANG(MotColonne, 1), Genre::Texte, "", {0, 0, 0, 0}, "Astre", ""},
+    {RANG(MotColonne, 2), Genre::Texte, "", {0, 0, 0, 0}, "Azimut", ""},
+    {RANG(MotColonne, 3), Genre::Texte, "", {0, 0, 0, 0}, "Résidu '", ""},
+    {RANG(MotColonne, 4), Genre::Texte, "", {0, 0, 0, 0}, "Supposé '", ""},
+    {RANG(MotColonne, 5), Genre::Texte, "", {0, 0, 0, 0}, "Contrôlé", ""},
+    {RANG(MotColonne, 6), Genre::Texte, "", {0, 0, 0, 0}, "Remarque", ""},
+    {RANG(MotColonneRoute, 0), Genre::Texte, "", {0, 0, 0, 0}, "Depuis (UTC)", ""},
+    {RANG(MotColonneRoute, 1), Genre::Texte, "", {0, 0, 0, 0}, "Cap", ""},
+    {RANG(MotColonneRoute, 2), Genre::Texte, "", {0, 0, 0, 0}, "Nœuds", ""},
+    {RANG(MotAvis, 0), Genre::Texte, "", {0, 0, 0, 0}, "Aucune visée cochée", ""},
+    {RANG(MotAvis, 1), Genre::Texte, "", {0, 0, 0, 0}, "Une seule visée : une droite, pas de point", ""},
+    {RANG(MotAvis, 2), Genre::Texte, "", {0, 0, 0, 0}, "Azimuts à moins de 15° l'un de l'autre ou de l'opposé : pas de point", ""},
+    {RANG(MotAvis, 3), Genre::Texte, "", {0, 0, 0, 0}, "Aucun lieu ne s'accorde avec ces hauteurs : une visée est fausse, ou la route", ""},
+    {RANG(MotAvis, 4), Genre::Texte, "", {0, 0, 0, 0}, "Une visée cochée n'a pas de chiffre d'aujourd'hui : laissée", ""},
+    {RANG(MotAvis, 5), Genre::Texte, "", {0, 0, 0, 0}, "La route mène au pôle", ""},
+    {RANG(MotAvis, 6), Genre::Texte, "", {0, 0, 0, 0}, "Deux lieux s'accordent avec les hauteurs : voyez la seconde solution", ""},
+    {RANG(MotAvis, 7), Genre::Texte, "", {0, 0, 0, 0}, "Les visées diffèrent plus que leurs erreurs supposées (une chance sur cent)", ""},
+    {RANG(MotAvis, 8), Genre::Texte, "", {0, 0, 0, 0}, "Visée improbable", ""},
+    {RANG(MotAvis, 9), Genre::Texte, "", {0, 0, 0, 0}, "Une visée est improbable, mais rien ne dit laquelle", ""},
+    {RANG(MotAvis, 10), Genre::Texte, "", {0, 0, 0, 0}, "Erreur commune refusée : les azimuts couvrent 180° ou moins", ""},
+    {RANG(MotAvis, 11), Genre::Texte, "", {0, 0, 0, 0}, "Erreur commune refusée : il faut une visée de plus que d'inconnues", ""},
+    {RANG(MotAvis, 12), Genre::Texte, "", {0, 0, 0, 0}, "Erreur commune refusée : les visées ne la séparent pas du lieu", ""},
+    {RANG(MotAvis, 13), Genre::Texte, "", {0, 0, 0, 0}, "Route fond refusée : il faut six visées, et une de plus que d'inconnues", ""},
+    {RANG(MotAvis, 14), Genre::Texte, "", {0, 0, 0, 0}, "Route fond refusée : il faut trois heures de la première visée à la dernière", ""},
+    {RANG(MotAvis, 15), Genre::Texte, "", {0, 0, 0, 0}, "Route fond refusée : elle ne serait connue qu'à deux nœuds près", ""},
+    {SEUL(TexteImprobable), Genre::Texte, "", {0, 0, 0, 0}, "improbable", ""},
+    {SEUL(TexteLaisse), Genre::Texte, "", {0, 0, 0, 0}, "laissée", ""},
+    {SEUL(TexteCommune), Genre::Texte, "", {0, 0, 0, 0}, "Erreur commune ", ""},
+    {SEUL(TexteSextant), Genre::Texte, "", {0, 0, 0, 0}, "sextant ", ""},
+    {SEUL(TexteFond), Genre::Texte, "", {0, 0, 0, 0}, "Fond ", ""},
+    {SEUL(TexteEntre), Genre::Texte, "", {0, 0, 0, 0}, "Entre les deux : ", ""},
+    {SEUL(TexteSurplus), Genre::Texte, "", {0, 0, 0, 0}, "visées de plus que d'inconnues : ", ""},
+    {SEUL(TexteHors), Genre::Texte, "", {0, 0, 0, 0}, "hors limites. Le champ prend : ", ""},
+    {SEUL(TexteSansPoint), Genre::Texte, "", {0, 0, 0, 0}, "Aucun point", ""},
+    {SEUL(TexteGarde), Genre::Texte, "", {0, 0, 0, 0}, "Point gardé", ""},
+    {SEUL(TexteGardeRefuse), Genre::Texte, "", {0, 0, 0, 0}, "Le point n'a pas pu être gardé", ""},
+    {SEUL(TexteJambe), Genre::Texte, "", {0, 0, 0, 0}, "Une branche demande une date, une heure, un cap et une vitesse", ""},
+    {SEUL(TexteAlarme), Genre::Texte, "", {0, 0, 0, 0}, " (fausse alerte : un point sur cent)", ""},
+    {SEUL(TexteVisees), Genre::Texte, "", {0, 0, 0, 0}, "visées", ""},
+};
+// clang-format on
+
+} // namespace
+
+std::span<const LigneFenetrePoint> TableFenetrePoint() { return kPoint; }
+
+void InitialiseFenetrePoint(FenetrePoint &fenetre) {
+  PourChaque(fenetre, [](const LigneFenetrePoint &ligne, Controle &c) { c = ControleNeuf(ligne, kFenetrePoint); });
+}
+
+} // namespace velmaris

@@ -1,0 +1,164 @@
+#include "shell/preparation/DessinPlan.hpp"
+
+#include "shell/complements/Formes.hpp"
+
+#include <algorithm>
+#include <cmath>
+#include <numbers>
+#include <utility>
+
+namespace velmaris {
+namespace {
+
+constexpr double kRadian = std::numbers::pi / 180;
+constexpr double kQuart = 90;
+constexpr Couleur kCercle = Rvb(150, 165, 180);
+constexpr Couleur kEncre = Rvb(25, 40, 60);
+constexpr Couleur kPale = Rvb(150, 150, 150);
+constexpr Couleur kSoleilEncre = Rvb(200, 140, 0);
+constexpr Couleur kChoisi = Rvb(200, 30, 30);
+constexpr double kMarge = 330;     ///< around the horizon, for the letters
+constexpr double kDemiTexte = 110; ///< half the height of a line of words
+constexpr double kDisque = 95;     ///< radius of the Sun's and the Moon's disks, 1/1440 inch
+constexpr double kAnneau = 150;    ///< of the ring around the chosen body
+constexpr double kBrillante = 1.5; ///< magnitude of a star of the first order
+constexpr double kToucher = 300;   ///< how near a click has to be
+
+Point Centre(const Surface &s) { return {s.largeur / 2, s.hauteur / 2}; }
+
+double Rayon(const Surface &s) { return std::max(kMarge, std::min(s.largeur, s.hauteur) / 2 - kMarge); }
+
+/// The size of a body's dot: the brighter the larger.
+int Pixels(double magnitude) { return std::clamp(static_cast<int>(std::lround(3.6 - magnitude)), 1, 5); }
+
+/// Horizon, heights, directions.
+void Fond(Surface &s, const CarteDuPlan &carte) {
+  constexpr std::array<double, 2> kHauteurs = {30, 60};
+  const Point c = Centre(s);
+  const double r = Rayon(s);
+  Rond(s, c, r, kEncre, 2);
+  for (const double hauteur : kHauteurs) {
+    Rond(s, c, r * (kQuart - hauteur) / kQuart, kCercle);
+    EcritEnCouleur(s, {c.x + 40, c.y - r * (kQuart - hauteur) / kQuart}, kCercle,
+                   std::to_string(static_cast<int>(hauteur)) + "°", {GenreTexte::Minute, 0});
+  }
+  for (int i = 0; i < 12; ++i) {
+    const double azimut = i * 30;
+    const Point dehors = PlaceSurCarte(s, 0, azimut, carte.haut);
+    const Point debut = PlaceSurCarte(s, i % 3 == 0 ? 84 : 3, azimut, carte.haut);
+    s.traces.emplace_back(Polyligne{{kCercle, 1, Style::Plein}, {debut, dehors}, GenreLigne::Libre});
+    if (i % 3 == 0) {
+      const double angle = (azimut - carte.haut) * kRadian;
+      const Point lettre{c.x + (r + 170) * std::sin(angle) - 80, c.y - (r + 170) * std::cos(angle) - kDemiTexte};
+      EcritEnCouleur(s, lettre, kEncre, carte.cardinaux.at(static_cast<std::size_t>(i / 3)), {GenreTexte::Libre, 0});
+    }
+  }
+}
+
+/// The Moon's face: her disk, what isn't lit filled by lines along its edge, which is half an ellipse.
+void DessineLune(Surface &s, Point p, const PhaseLune &lune, double azimut, double haut, Couleur couleur) {
+  constexpr int kCotes = 24;
+  Rond(s, p, kDisque, couleur, 2);
+  // The zenith is towards the middle, and the chart shows the sky as a compass does, not as it is seen: what lies to
+  // the right of the zenith's direction there lies to its left here.
+  const double axe = (azimut - haut + 180 - lune.bord) * kRadian;
+  const double k = std::cos(lune.phase * kRadian);
+  for (int pas = 1; pas <= 8; ++pas) {
+    Polyligne hachure{{couleur, 1, Style::Plein}, {}, GenreLigne::Libre};
+    for (int i = 0; i <= kCotes; ++i) {
+      const double t = -kQuart + 180.0 * i / kCotes;
+      const double u = std::sin(t * kRadian);
+      const double v = std::cos(t * kRadian) * (-1 + (1 - k) * pas / 8.0);
+      hachure.points.push_back({p.x + kDisque * (v * std::sin(axe) + u * std::cos(axe)),
+                                p.y - kDisque * (v * std::cos(axe) - u * std::sin(axe))});
+    }
+    s.traces.emplace_back(std::move(hachure));
+  }
+}
+
+void DessineAstre(Surface &s, const CielDuPlan &ciel, const CarteDuPlan &carte, std::size_t rang) {
+  const AstreDuPlan &astre = ciel.astres.at(rang);
+  const Point p = PlaceSurCarte(s, astre.apparente, astre.azimut, carte.haut);
+  const bool pale = astre.raisons.any();
+  if (astre.astre.genre == GenreAstre::Soleil) {
+    for (int i = 1; i <= 6; ++i) {
+      Rond(s, p, kDisque * i / 6, kSoleilEncre, 2);
+    }
+  } else if (astre.astre.genre == GenreAstre::Lune && ciel.lune) {
+    DessineLune(s, p, *ciel.lune, astre.azimut, carte.haut, pale ? kPale : kEncre);
+  } else {
+    Disque(s, p, Pixels(astre.magnitude), pale ? kPale : kEncre);
+  }
+  if (carte.choisi == rang) {
+    Rond(s, p, kAnneau, kChoisi, 2);
+  }
+  // The brighter keeps its name where two have no room; of those that are left out only the brightest have one.
+  const bool brillante = astre.magnitude < kBrillante;
+  const int classe = carte.choisi == rang ? 0 : pale ? 4 : brillante ? 1 : 2;
+  if (classe == 4 && !brillante) {
+    return;
+  }
+  EcritEnCouleur(s, {p.x + 90, p.y - kDemiTexte}, pale ? kPale : kEncre, carte.nom(astre.astre),
+                 {GenreTexte::Ville, classe});
+}
+
+} // namespace
+
+Point PlaceSurCarte(const Surface &surface, double hauteur, double azimut, double haut) {
+  const double r = Rayon(surface) * (kQuart - std::clamp(hauteur, 0.0, kQuart)) / kQuart;
+  const double angle = (azimut - haut) * kRadian;
+  const Point c = Centre(surface);
+  return {c.x + r * std::sin(angle), c.y - r * std::cos(angle)};
+}
+
+void DessineCarte(Surface &surface, const CielDuPlan &ciel, const CarteDuPlan &carte) {
+  Efface(surface);
+  Fond(surface, carte);
+  for (const std::size_t rang : carte.astres) {
+    DessineAstre(surface, ciel, carte, rang);
+  }
+}
+
+std::optional<std::size_t> AstreSous(const Surface &surface, const CielDuPlan &ciel, const CarteDuPlan &carte,
+                                     Point point) {
+  std::optional<std::size_t> proche;
+  double distance = kToucher;
+  for (const std::size_t rang : carte.astres) {
+    const AstreDuPlan &astre = ciel.astres.at(rang);
+    const Point p = PlaceSurCarte(surface, astre.apparente, astre.azimut, carte.haut);
+    const double ici = std::hypot(p.x - point.x, p.y - point.y);
+    if (ici < distance) {
+      proche = rang;
+      distance = ici;
+    }
+  }
+  return proche;
+}
+
+void DessineEsquisse(Surface &surface, const std::vector<DirectionEsquissee> &astres,
+                     const std::array<std::string, 4> &cardinaux) {
+  Efface(surface);
+  const Point c = Centre(surface);
+  const double r = Rayon(surface) * 0.8;
+  Rond(surface, c, r, kCercle);
+  for (std::size_t i = 0; i < cardinaux.size(); ++i) {
+    const double angle = static_cast<double>(i) * kQuart * kRadian;
+    EcritEnCouleur(surface, {c.x + (r + 330) * std::sin(angle) - 80, c.y - (r + 330) * std::cos(angle) - kDemiTexte},
+                   kEncre, cardinaux.at(i), {GenreTexte::Libre, 0});
+  }
+  for (std::size_t i = 0; i < astres.size(); ++i) {
+    const double angle = astres[i].azimut * kRadian;
+    const Point u{std::sin(angle), -std::cos(angle)};
+    const Point bout{c.x + r * u.x, c.y + r * u.y};
+    const double l = r * 0.75;
+    surface.traces.emplace_back(Polyligne{{kPale, 1, Style::Tirets}, {c, bout}, GenreLigne::Libre});
+    surface.traces.emplace_back(Polyligne{{kEncre, 2, Style::Plein},
+                                          {{c.x - u.y * l, c.y + u.x * l}, {c.x + u.y * l, c.y - u.x * l}},
+                                          GenreLigne::Droite});
+    Disque(surface, bout, 4, kEncre);
+    EcritEnCouleur(surface, {bout.x + 100, bout.y - kDemiTexte}, kEncre, std::to_string(i + 1) + " " + astres[i].nom,
+                   {GenreTexte::Ville, static_cast<int>(i)});
+  }
+}
+
+} // namespace velmaris
