@@ -4,13 +4,16 @@
 #include "foundations/Horloge.hpp"
 #include "foundations/Surface.hpp"
 
+#include <array>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
+#include <linux/capability.h>
 #include <sstream>
 #include <stdexcept>
 #include <string>
 #include <string_view>
+#include <sys/syscall.h>
 #include <unistd.h>
 #include <variant>
 #include <vector>
@@ -114,11 +117,13 @@ template <class Genre> std::vector<Genre> TracesDe(const Surface &surface) {
 inline std::vector<TexteTrace> Textes(const Surface &surface) { return TracesDe<TexteTrace>(surface); }
 inline std::vector<CercleTrace> Cercles(const Surface &surface) { return TracesDe<CercleTrace>(surface); }
 
-/// Another user than the superuser, who may read and write everything, for the life of the scope.
+/// A superuser held to the permissions of files for the life of the scope: what lets this thread read and write all that
+/// others can't is laid down, and taken up again. No other user is played: that one may have no way to the scratch
+/// folder, which a strict umask or a private temporary folder closes.
 struct UtilisateurSansDroit {
-  UtilisateurSansDroit() : reussi(::geteuid() != 0 || ::seteuid(65534) == 0) {}
+  UtilisateurSansDroit() : reussi(Lit() && Pose(avant[0].effective & ~kPassePartout)) {}
   ~UtilisateurSansDroit() {
-    if (::geteuid() != ::getuid() && ::seteuid(::getuid()) != 0) {
+    if (reussi && !Pose(avant[0].effective)) {
       std::abort();
     }
   }
@@ -126,6 +131,22 @@ struct UtilisateurSansDroit {
   UtilisateurSansDroit &operator=(const UtilisateurSansDroit &) = delete;
   UtilisateurSansDroit(UtilisateurSansDroit &&) = delete;
   UtilisateurSansDroit &operator=(UtilisateurSansDroit &&) = delete;
+
+private:
+  static constexpr unsigned kPassePartout =
+      1U << CAP_DAC_OVERRIDE | 1U << CAP_DAC_READ_SEARCH | 1U << CAP_FOWNER | 1U << CAP_CHOWN;
+
+  bool Lit() { return ::syscall(SYS_capget, &entete, avant.data()) == 0; }
+  bool Pose(unsigned effectifs) {
+    std::array<__user_cap_data_struct, 2> droits = avant;
+    droits[0].effective = effectifs;
+    return ::syscall(SYS_capset, &entete, droits.data()) == 0;
+  }
+
+  __user_cap_header_struct entete{_LINUX_CAPABILITY_VERSION_3, 0};
+  std::array<__user_cap_data_struct, 2> avant{};
+
+public:
   bool reussi;
 };
 

@@ -5,6 +5,7 @@
 PROGRAMME=$1 IMAGES=$2 LANGUE=$3
 . "$(dirname "$0")/outils.sh"
 gestionnaire
+PAGE='^(Impression|Print)'
 POINT='^(Point en chiffres|Fix in figures)$'
 DOSSIER="$XDG_DATA_HOME/velmaris"
 fenetre_point() { xdotool search --onlyvisible --name "$POINT" | head -n 1; }
@@ -40,6 +41,14 @@ attends boite_fermee "$POINT"
 xdotool windowfocus --sync "$FENETRE"
 pause 0.3
 image "point-$LANGUE-2-feuille"
+touche ctrl+p # the layer is on: it is on the page too
+attends boite_ouverte "$PAGE"
+pause 0.5
+image "point-$LANGUE-8-page"
+touche Escape
+attends boite_fermee "$PAGE"
+xdotool windowfocus --sync "$FENETRE"
+pause 0.3
 touche ctrl+n ctrl+g
 attends boite_ouverte "$POINT"
 xdotool windowfocus --sync "$(fenetre_point)"; pause 0.5

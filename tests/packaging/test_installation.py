@@ -165,7 +165,7 @@ class Programmes(unittest.TestCase):
         for langue, systeme, titre in (("", "C.UTF-8", "Commands:"), ("fr", "fr_FR.UTF-8", "Verbes:")):
             aide = lance("velmaris-calcul", "--help", langue=systeme).stdout
             verbes = re.findall(r"^  ([a-z]+) ", aide.split(titre)[1], flags=re.M)
-            self.assertEqual(len(verbes), 9)
+            self.assertEqual(len(verbes), 11)
             toutes = options(aide)
             texte = page("velmaris-calcul", langue)
             for verbe in verbes:

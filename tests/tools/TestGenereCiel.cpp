@@ -65,7 +65,7 @@ TEST(GenereCiel, TheWholeTablesMakeTheirConstants) {
   EXPECT_THAT(p.erreurs, IsEmpty());
   const std::string texte = Contenu(copie.sortie());
   EXPECT_THAT(texte, HasSubstr("kCielTerre"));
-  EXPECT_THAT(texte, HasSubstr("EtoileIcrs{44.565479, -40.304731, -44.60, 19.00, 28.00}"));
+  EXPECT_THAT(texte, HasSubstr("EtoileIcrs{44.565479, -40.304731, -44.60, 19.00, 28.00, 3.18}"));
   EXPECT_THAT(texte, HasSubstr("std::nullopt")) << "the nova";
   EXPECT_THAT(texte, HasSubstr("kTableLune{2415012.5, 8, 9179, 13, kLune}"));
 }
