@@ -29,6 +29,7 @@ bool AUneLegende(Genre genre) {
   case Genre::Curseur:
   case Genre::Image:
   case Genre::Separateur:
+  case Genre::Papier:
   case Genre::Marque:
     return false;
   default:

@@ -128,6 +128,7 @@ Boites::Boites(Bureau &bureau) : bureau_(bureau) {
   };
   bureau.ports.copieImage = [](const Surface &surface) { QGuiApplication::clipboard()->setImage(ImageDe(surface)); };
   bureau.ports.image = OctetsImage;
+  bureau.ports.pdf = OctetsPdf;
   bureau.ports.largeurTexte = [](const std::string &texte, double taille, bool gras) {
     QFont police = QApplication::font();
     police.setPointSizeF(taille);
@@ -174,6 +175,10 @@ void Boites::Ouvre(Scene &scene, QWidget &fenetre) {
     QApplication::restoreOverrideCursor();
     scene.Accorde(); // the page stands as it will be printed while the printer is chosen
     return Imprime(page, FenetreDevant(fenetre, kFenetreImpression), bureau_.dossiers.utilisateur);
+  };
+  bureau_.ports.imprimeFeuillets = [this, &fenetre](const std::vector<Feuillet> &feuillets) {
+    QApplication::restoreOverrideCursor();
+    return ImprimeFeuillets(feuillets, FenetreDevant(fenetre, {}), bureau_.dossiers.utilisateur);
   };
   bureau_.ports.ouvre = [&scene, &fenetre](const std::string &adresse, const std::function<void()> &sansProgramme) {
     OuvreLien(fenetre, adresse, [&scene, sansProgramme] { scene.Joue(sansProgramme); });
