@@ -29,7 +29,7 @@ double AuDixieme(double degres) { return Dixieme(degres * kMinutes) / kMinutes; 
 
 double DansLeTour(double degres) { return degres - kTour * std::floor(degres / kTour); }
 
-std::string Decimales(double valeur) { return (valeur < 0 ? "" : "+") + Format(valeur, "0.00000"); }
+std::string Decimales(double valeur) { return (valeur < 0 ? "" : "+") + Format(valeur, "0.000000"); }
 
 std::string MinutesSignees(double minutes) { return DixiemesSignes(Dixieme(minutes)) + "'"; }
 
@@ -166,15 +166,14 @@ SousAstre EcritAlmanach(Main &main, const ViseeTypee &visee, double dut1) {
   return {angleLocal, declinaison};
 }
 
-/// A product or a sum to five decimals, as a form holds it.
-double CinqDecimales(double valeur) { return std::round(valeur * 1e5) / 1e5; }
+/// A product or a sum to six decimals, as a form holds it.
+double SixDecimales(double valeur) { return std::round(valeur * 1e6) / 1e6; }
 
 void EcritReduction(Main &main, FicheCalcul &fiche, const ViseeTypee &visee, const SousAstre &sous) {
   const double latitude = AuDixieme(visee.station.latitude) * kRadian;
   const double declinaison = sous.declinaison * kRadian;
-  const double sinus = CinqDecimales(std::sin(latitude) * std::sin(declinaison));
-  const double cosinus =
-      CinqDecimales(std::cos(latitude) * std::cos(declinaison) * std::cos(sous.angleLocal * kRadian));
+  const double sinus = SixDecimales(std::sin(latitude) * std::sin(declinaison));
+  const double cosinus = SixDecimales(std::cos(latitude) * std::cos(declinaison) * std::cos(sous.angleLocal * kRadian));
   const double sinusHauteur = std::clamp(sinus + cosinus, -1.0, 1.0);
   fiche.calculee = AuDixieme(std::asin(sinusHauteur) / kRadian);
   main.Calcule(EtapeFiche::ProduitSinus, Decimales(sinus));
@@ -183,7 +182,7 @@ void EcritReduction(Main &main, FicheCalcul &fiche, const ViseeTypee &visee, con
   main.Calcule(EtapeFiche::Calculee, TexteAngleSigne(fiche.calculee));
   const double bas = std::cos(latitude) * std::cos(fiche.calculee * kRadian);
   const double haut = std::sin(declinaison) - std::sin(latitude) * std::sin(fiche.calculee * kRadian);
-  const double cosinusAzimut = CinqDecimales(std::fabs(bas) < 1e-9 ? 1.0 : std::clamp(haut / bas, -1.0, 1.0));
+  const double cosinusAzimut = SixDecimales(std::fabs(bas) < 1e-9 ? 1.0 : std::clamp(haut / bas, -1.0, 1.0));
   const double angle = std::round(std::acos(cosinusAzimut) / kRadian * 10) / 10;
   fiche.azimut = DansLeTour(sous.angleLocal < kDroit ? kTour - angle : angle);
   main.Calcule(EtapeFiche::CosinusAzimut, Decimales(cosinusAzimut));
