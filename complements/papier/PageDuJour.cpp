@@ -51,9 +51,9 @@ std::vector<LieuNavire> LieuxMontres(const DonneesJour &jour) {
 }
 
 /// Draws what a day brought onto its sheet.
-class Trace {
+class DessinJour {
 public:
-  Trace(Feuillet &page, const PlanVrai &plan, const CadrePage &cadre) : page_(page), plan_(plan), cadre_(cadre) {}
+  DessinJour(Feuillet &page, const PlanVrai &plan, const CadrePage &cadre) : page_(page), plan_(plan), cadre_(cadre) {}
 
   void Droite(const DroiteDuJour &droite) {
     // As far as the sheet reaches, but no farther than its curve is one of the second order.
@@ -251,13 +251,13 @@ std::vector<Feuillet> PagesDuJour(const DonneesJour &jour, FormatPapier format, 
   const PlanVrai plan = PlanDuJour(jour, cadre);
   const Point rose{cadre.oppose.x - kRayonRose - 120, cadre.coin.y + kRayonRose + 120};
   DessineCanevas(page, {plan, cadre, false, rose, kRayonRose}, mots.canevas);
-  Trace trace(page, plan, cadre);
-  trace.Route(jour.route);
+  DessinJour dessin(page, plan, cadre);
+  dessin.Route(jour.route);
   for (const DroiteDuJour &droite : jour.droites) {
-    trace.Droite(droite);
+    dessin.Droite(droite);
   }
   if (jour.point) {
-    trace.Fixe(*jour.point);
+    dessin.Fixe(*jour.point);
   }
   texte.Descend(cadre.oppose.y + 800);
   for (std::size_t i = 0; i < jour.lignes.size(); ++i) {
