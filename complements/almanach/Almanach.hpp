@@ -40,7 +40,7 @@ inline constexpr std::size_t kVenusAlmanach = 2;
 
 /// What can't be printed of a demand.
 enum class DefautAlmanach : std::uint8_t {
-  Date,     ///< a day that the calendar hasn't, or outside 1900 to 2100
+  Date,     ///< a day that the calendar hasn't, or outside 1901 to 2099
   Ordre,    ///< the end lies before the beginning
   TropLong, ///< over 400 days
   Latitude, ///< one that is none

@@ -29,7 +29,7 @@ std::string TexteDixiemes(long dixiemes, char virgule);
 /// @param dixiemes  of a minute, not negative
 std::string TexteAngle(long dixiemes, char virgule, int places = 3);
 
-/// A declination: "N 12 34.5". What rounds to 0 is north.
+/// A declination: "N 02 34.5". What rounds to 0 is north.
 /// @param dixiemes  of a minute, north positive
 std::string TexteDeclinaison(long dixiemes, char virgule);
 
