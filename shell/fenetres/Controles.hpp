@@ -26,6 +26,7 @@ enum class Genre : std::uint8_t {
   Table,      ///< a long list in columns, whose rows are read as they come into sight: `tableau`
   Onglets,    ///< tabs: the lines of `liste`, of which `rang` is in front
   Curseur,    ///< the slider
+  Jauge,      ///< a bar that tells how far a work is: `valeur` of `maximum`
   Image,      ///< a picture, pressed like a button when a click means something
   Menu,       ///< a menu that opens at the pointer, or within another one
   Entree,     ///< a command in a menu: `valeur` 1 marks it

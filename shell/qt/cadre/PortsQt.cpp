@@ -2,6 +2,7 @@
 
 #include "shell/qt/cadre/Dialogue.hpp"
 #include "shell/qt/peinture/Apparat.hpp"
+#include "shell/qt/peinture/FeuilletQt.hpp"
 #include "shell/qt/peinture/Toile.hpp"
 #include "shell/qt/systeme/Images.hpp"
 #include "shell/qt/systeme/Imprimante.hpp"

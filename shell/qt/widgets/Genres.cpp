@@ -13,6 +13,7 @@
 
 #include <QCheckBox>
 #include <QGroupBox>
+#include <QProgressBar>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QSlider>
@@ -276,6 +277,19 @@ protected:
   void PoseContenu(const Controle &c, const Controle & /*vu*/, bool /*tout*/) override { w.setValue(c.valeur); }
 };
 
+class AJauge : public De<QProgressBar> {
+public:
+  explicit AJauge(QProgressBar *jauge) : De(jauge) {}
+  Contenu Montre() const override { return {{}, w.value(), w.maximum()}; }
+  Contenu Voulu(const Controle &c) const override { return {{}, c.valeur, c.maximum}; }
+
+protected:
+  void PoseContenu(const Controle &c, const Controle & /*vu*/, bool /*tout*/) override {
+    w.setRange(0, c.maximum);
+    w.setValue(c.valeur);
+  }
+};
+
 std::unique_ptr<Adaptateur> CreeSurface(Bureau &bureau, const Controle &c, QWidget *parent) {
   return &c == &bureau.ciel.Picture1 ? std::make_unique<ASurface>(new ToileCiel(bureau.ciel, parent))
                                      : std::make_unique<ASurface>(new Toile(*SurfaceDe(bureau, c), parent));
@@ -331,6 +345,8 @@ std::unique_ptr<Adaptateur> CreeAdaptateur(Bureau &bureau, const Controle &c, QW
     return CreeOnglets(parent);
   case Genre::Curseur:
     return std::make_unique<ACurseur>(new QSlider(Qt::Horizontal, parent), c);
+  case Genre::Jauge:
+    return std::make_unique<AJauge>(new QProgressBar(parent));
   case Genre::Image:
     return CreeImage(c, parent);
   case Genre::Papier:
