@@ -16,6 +16,8 @@ ETAGES = (
     ("complements/controle",),
     ("complements/point",),
     ("complements/prevision", "complements/registre", "complements/serie", "complements/lunaire", "complements/exercice"),
+    ("complements/almanach",),
+    ("complements/papier",),
     ("shell/fenetres",),
     ("shell/fenetres/complements", "shell/fenetres/donnees"),
     ("shell/bureau/complements",),
