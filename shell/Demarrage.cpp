@@ -291,8 +291,8 @@ bool ToucheControle(Bureau &bureau, char lettre) {
 
 void Complement_Click(Bureau &bureau, int indice) {
   Donnees &d = bureau.donnees;
-  const std::array<Controle *, 7> entrees = {&d.PU_Fiche,       &d.PU_Registre, &d.PU_Point,
-                                             &d.PU_Preparation, &d.PU_Serie,    &d.PU_Exercice, &d.PU_Papier};
+  const std::array<Controle *, 7> entrees = {&d.PU_Fiche, &d.PU_Registre, &d.PU_Point, &d.PU_Preparation,
+                                             &d.PU_Serie, &d.PU_Exercice, &d.PU_Papier};
   ClicControle(bureau, *entrees.at(static_cast<std::size_t>(indice)));
 }
 

@@ -82,9 +82,9 @@ ListeControles ControlesDe(Bureau &bureau, std::string_view fenetre) {
 }
 
 std::vector<CadreFenetre *> FenetresLibres(Bureau &bureau) {
-  return {&bureau.utilisateur.cadre, &bureau.ciel.cadre,         &bureau.impression.cadre,
-          &bureau.fiche.cadre,       &bureau.registre.cadre,     &bureau.fenetrePoint.cadre,
-          &bureau.preparation.cadre, &bureau.fenetreSerie.cadre, &bureau.fenetreExercice.cadre,
+  return {&bureau.utilisateur.cadre,  &bureau.ciel.cadre,         &bureau.impression.cadre,
+          &bureau.fiche.cadre,        &bureau.registre.cadre,     &bureau.fenetrePoint.cadre,
+          &bureau.preparation.cadre,  &bureau.fenetreSerie.cadre, &bureau.fenetreExercice.cadre,
           &bureau.fenetrePapier.cadre};
 }
 

@@ -150,10 +150,11 @@ void MontreAlmanach(Bureau &bureau) {
   f.Avance.visible = p.enCalcul;
   f.Avance.maximum = kMilliemes;
   f.Avance.valeur = p.millieme->load();
-  f.Label2.legende = p.enCalcul       ? f.TexteCalcul.legende
-                     : !pages.pages || !p.almanach ? f.TexteAttend.legende
-                     : std::to_string(p.almanach->jours.size()) + f.TexteJours.legende + ", " +
-                           std::to_string(pages.pages->size()) + f.TextePages.legende;
+  f.Label2.legende = p.enCalcul ? f.TexteCalcul.legende
+                     : !pages.pages || !p.almanach
+                         ? f.TexteAttend.legende
+                         : std::to_string(p.almanach->jours.size()) + f.TexteJours.legende + ", " +
+                               std::to_string(pages.pages->size()) + f.TextePages.legende;
 }
 
 void MontrePage(Bureau &bureau) {

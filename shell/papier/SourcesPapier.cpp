@@ -44,9 +44,7 @@ std::vector<ViseeNommee> ViseesChoisies(const Bureau &bureau) {
 }
 
 /// The hour and minute of a sight, after its body.
-std::string NomEtHeure(const std::string &nom, const InstantUTC &utc) {
-  return nom + " " + TexteHeureMinute(utc);
-}
+std::string NomEtHeure(const std::string &nom, const InstantUTC &utc) { return nom + " " + TexteHeureMinute(utc); }
 
 std::string Milles(double milles) { return DixiemesSignes(std::round(milles * 10) / 10 + 0.0); }
 
@@ -110,8 +108,8 @@ void PosePoint(DonneesJour &jour, const Bureau &bureau, const SolutionPoint &sol
                               .comptee = residu.utilisee});
     }
   }
-  jour.lignes.push_back(m.TextePoint.legende + TexteDate(*p.heure) + " " + TexteHeureMinute(*p.heure) + " UTC :  " +
-                        TexteLieu(trace.lieu));
+  jour.lignes.push_back(m.TextePoint.legende + TexteDate(*p.heure) + " " + TexteHeureMinute(*p.heure) +
+                        " UTC :  " + TexteLieu(trace.lieu));
   jour.lignes.push_back(m.TexteEllipse.legende + Dixiemes(trace.ellipse.a) + " x " + Dixiemes(trace.ellipse.b) +
                         m.TexteDirection.legende + TexteDirection(trace.ellipse.direction));
 }
@@ -190,7 +188,7 @@ PagesFaites JourVoulu(const Bureau &bureau, FormatPapier format) {
   }
   const DonneesJour jour = DonneesDuJour(bureau);
   const auto datee = std::find_if(p.visees.rbegin(), p.visees.rend(), [](const auto &v) { return v.hauteur; });
-  const std::string date = p.heure && jour.point ? TexteDate(*p.heure)
+  const std::string date = p.heure && jour.point      ? TexteDate(*p.heure)
                            : datee == p.visees.rend() ? std::string()
                                                       : TexteDate(datee->hauteur->utc);
   faites.pages = PagesDuJour(jour, format, MotsDuJour(bureau, date));

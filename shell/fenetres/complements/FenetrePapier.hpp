@@ -45,11 +45,11 @@ struct FenetrePapier {
   std::array<Controle, 2> Text3; ///< middle latitude, miles from foot to head
 
   Controle Label7;
-  Controle Combo1;                ///< the paper
-  Controle Feuille;               ///< the page
-  std::array<Controle, 2> Page;   ///< the page before, the next one
-  Controle LabPage;               ///< which one it is
-  Controle LabAvis;               ///< what is to be said
+  Controle Combo1;                  ///< the paper
+  Controle Feuille;                 ///< the page
+  std::array<Controle, 2> Page;     ///< the page before, the next one
+  Controle LabPage;                 ///< which one it is
+  Controle LabAvis;                 ///< what is to be said
   std::array<Controle, 4> Command2; ///< "PDF...", "Imprimer...", "CSV...", "Fermer"
 
   /// Words that no control shows.

@@ -14,8 +14,8 @@ inline constexpr std::string_view kFenetreMotsPapier = "MotsPapier";
 
 /// The words of sights worked by hand and of plotting sheets; no control shows them.
 struct MotsPapier {
-  std::array<Controle, kEtapesFiche> MotEtape; ///< in the order of `EtapeFiche`
-  std::array<Controle, kEtapesFiche> MotRegle; ///< the same
+  std::array<Controle, kEtapesCalcul> MotEtape; ///< in the order of `EtapeFiche`
+  std::array<Controle, kEtapesCalcul> MotRegle; ///< the same
   std::array<Controle, kPartiesFiche> MotPartie;
   std::array<Controle, kColonnesJour> MotColonne;
   std::array<Controle, 6> MotMeteo;
