@@ -232,11 +232,12 @@ constexpr Abonnement kExercice[] = {
 // NOLINTNEXTLINE(cppcoreguidelines-avoid-c-arrays,modernize-avoid-c-arrays)
 constexpr Abonnement kPapier[] = {
     {"Onglets1", Evenement::Clic, papier::Onglets1_Click}, {"Text1", Evenement::Change, papier::Text1_Change},
-    {"Combo2", Evenement::Clic, papier::Text1_Change},     {"Check1", Evenement::Clic, papier::Text1_Change},
-    {"Command1", Evenement::Clic, papier::Command1_Click}, {"Option1", Evenement::Clic, papier::Champ_Change},
-    {"Check2", Evenement::Clic, papier::Champ_Change},     {"Text2", Evenement::Change, papier::Champ_Change},
-    {"Text3", Evenement::Change, papier::Champ_Change},    {"Combo1", Evenement::Clic, papier::Champ_Change},
-    {"Page", Evenement::Clic, papier::Page_Click},         {"Command2", Evenement::Clic, papier::Command2_Click},
+    {"Text1", Evenement::Valide, papier::Text1_Valide},    {"Combo2", Evenement::Clic, papier::Text1_Change},
+    {"Check1", Evenement::Clic, papier::Text1_Change},     {"Command1", Evenement::Clic, papier::Command1_Click},
+    {"Option1", Evenement::Clic, papier::Champ_Change},    {"Check2", Evenement::Clic, papier::Champ_Change},
+    {"Text2", Evenement::Change, papier::Champ_Change},    {"Text3", Evenement::Change, papier::Champ_Change},
+    {"Combo1", Evenement::Clic, papier::Champ_Change},     {"Page", Evenement::Clic, papier::Page_Click},
+    {"Command2", Evenement::Clic, papier::Command2_Click},
 };
 
 // NOLINTNEXTLINE(cppcoreguidelines-avoid-c-arrays,modernize-avoid-c-arrays)

@@ -18,7 +18,9 @@ namespace papier {
 void Onglets1_Click(Bureau &bureau, int indice);
 /// A field of the almanac was typed in: what can't be used is marked.
 void Text1_Change(Bureau &bureau, int indice);
-/// "Calculer", "Arrêter"; Return in a field of the almanac is the first.
+/// Return in a field of the almanac: "Calculer".
+void Text1_Valide(Bureau &bureau, int indice);
+/// "Calculer", "Arrêter".
 void Command1_Click(Bureau &bureau, int indice);
 /// What other pages are made of has changed: they are made at once.
 void Champ_Change(Bureau &bureau, int indice);
