@@ -329,6 +329,13 @@ void Case_Click(Bureau &bureau, int /*indice*/) {
 
 void Command1_Click(Bureau &bureau, int indice) {
   if (indice == 0) {
+    if (!bureau.point.visees.empty() && ListeFaiteMain(bureau) &&
+        !bureau.ports.boite({.texte = bureau.fenetrePoint.TexteRemplace.legende,
+                             .icone = Icone::Question,
+                             .question = true,
+                             .fenetre = kFenetrePoint})) {
+      return;
+    }
     ReprendVisees(bureau);
   } else if (indice == 1) {
     const int rang = bureau.fenetrePoint.Visees.tableau.courante;
