@@ -16,7 +16,7 @@ inline long DixiemesUnTour(double degres) {
 }
 
 /// Tenths of a unit: of a minute or of a magnitude.
-inline long Dixiemes(double minutes) { return std::lround(minutes * 10); }
+inline long ArrondiDixieme(double minutes) { return std::lround(minutes * 10); }
 
 /// Hours as minutes, 0 to 1440; the last is 24 h 00.
 inline long MinutesDe(double heures) { return std::lround(heures * 60); }
@@ -34,7 +34,7 @@ std::string TexteAngle(long dixiemes, char virgule, int places = 3);
 std::string TexteDeclinaison(long dixiemes, char virgule);
 
 /// A time of day: "07 42".
-std::string TexteHeure(long minutes);
+std::string TexteHeureMinutes(long minutes);
 
 /// An equation of time: "-03:42".
 /// @param secondes  rounded to whole ones

@@ -70,9 +70,9 @@ void HeuresCsv(std::string &csv, const JourAlmanach &jour) {
       const bool lune = i == kLuneAlmanach;
       Rangee(csv, {"heure", utc, std::string(kNoms[i]), TexteAngle(DixiemesUnTour(place.gha), '.', 1),
                    TexteDeclinaison(DixiemesDe(place.declinaison), '.'), Decimal(place.gha, kFin),
-                   Decimal(place.declinaison, kFin), TexteDixiemes(Dixiemes(lune ? heure.hpLune : astre.hp), '.'),
-                   TexteDixiemes(Dixiemes(lune ? heure.vLune : astre.v), '.'),
-                   TexteDixiemes(Dixiemes(lune ? heure.dLune : astre.d), '.')});
+                   Decimal(place.declinaison, kFin), TexteDixiemes(ArrondiDixieme(lune ? heure.hpLune : astre.hp), '.'),
+                   TexteDixiemes(ArrondiDixieme(lune ? heure.vLune : astre.v), '.'),
+                   TexteDixiemes(ArrondiDixieme(lune ? heure.dLune : astre.d), '.')});
     }
   }
 }
@@ -81,15 +81,15 @@ void JoursCsv(std::string &csv, const JourAlmanach &jour) {
   for (std::size_t i = 0; i < kErrantsAlmanach; ++i) {
     const AstreAlmanach &a = jour.astres[i];
     const bool lune = i == kLuneAlmanach;
-    Rangee(csv, {"jour", Jour(jour.date), std::string(kNoms[i]), lune ? "" : TexteDixiemes(Dixiemes(a.v), '.'),
-                 lune ? "" : TexteDixiemes(Dixiemes(a.d), '.'), TexteDixiemes(Dixiemes(a.hp), '.'),
-                 Decimal(a.demiDiametre, 2), TexteDixiemes(Dixiemes(a.magnitude), '.'), Heures(a.meridien)});
+    Rangee(csv, {"jour", Jour(jour.date), std::string(kNoms[i]), lune ? "" : TexteDixiemes(ArrondiDixieme(a.v), '.'),
+                 lune ? "" : TexteDixiemes(ArrondiDixieme(a.d), '.'), TexteDixiemes(ArrondiDixieme(a.hp), '.'),
+                 Decimal(a.demiDiametre, 2), TexteDixiemes(ArrondiDixieme(a.magnitude), '.'), Heures(a.meridien)});
   }
 }
 
 void DateCsv(std::string &csv, const JourAlmanach &jour) {
   Rangee(csv, {"date", Jour(jour.date), TexteEquation(jour.equation0), TexteEquation(jour.equation12),
-               TexteDixiemes(Dixiemes(jour.ageLune), '.'), Decimal(jour.partLune * 100, 0), Heures(jour.luneInferieur),
+               TexteDixiemes(ArrondiDixieme(jour.ageLune), '.'), Decimal(jour.partLune * 100, 0), Heures(jour.luneInferieur),
                Heures(jour.belier)});
 }
 
@@ -99,7 +99,7 @@ void PeriodesCsv(std::string &csv, const Almanach &almanach) {
   for (const PeriodeAlmanach &p : almanach.periodes) {
     for (const EtoileAlmanach &e : p.etoiles) {
       Rangee(csv, {"etoile", Jour(p.milieu), std::to_string(e.rang), std::to_string(e.numero), e.nom,
-                   TexteDixiemes(Dixiemes(e.magnitude), '.'), TexteAngle(DixiemesUnTour(e.sha), '.', 1),
+                   TexteDixiemes(ArrondiDixieme(e.magnitude), '.'), TexteAngle(DixiemesUnTour(e.sha), '.', 1),
                    TexteDeclinaison(DixiemesDe(e.declinaison), '.'), Decimal(e.sha, 6), Decimal(e.declinaison, 6)});
     }
   }

@@ -84,7 +84,7 @@ TableSimple TableDepression() {
   std::vector<double> metres = Suite(0.4, 10, 0.2);
   Ajoute(metres, Suite(10.5, 20, 0.5));
   Ajoute(metres, Suite(21, 40, 1));
-  return Simple1(std::move(metres), [](double m) { return Dixiemes(Depression(m)); });
+  return Simple1(std::move(metres), [](double m) { return ArrondiDixieme(Depression(m)); });
 }
 
 TableSimple TableDepressionPieds() {
@@ -92,7 +92,7 @@ TableSimple TableDepressionPieds() {
   std::vector<double> pieds = Suite(2, 40, 1);
   Ajoute(pieds, Suite(42, 80, 2));
   Ajoute(pieds, Suite(85, 130, 5));
-  return Simple1(std::move(pieds), [](double p) { return Dixiemes(Depression(p * kPied)); });
+  return Simple1(std::move(pieds), [](double p) { return ArrondiDixieme(Depression(p * kPied)); });
 }
 
 std::vector<double> HauteursRefraction() {
@@ -108,14 +108,14 @@ std::vector<double> HauteursRefraction() {
 }
 
 TableSimple TableRefraction() {
-  return Simple1(HauteursRefraction(), [](double h) { return Dixiemes(RefractionNormale(h)); });
+  return Simple1(HauteursRefraction(), [](double h) { return ArrondiDixieme(RefractionNormale(h)); });
 }
 
 TableDouble TableSoleil(const std::vector<long> &demiDiametres, bool superieur) {
   const std::vector<double> colonnes(demiDiametres.begin(), demiDiametres.end());
   return Double2(HauteursRefraction(), colonnes, [superieur](double h, double dixiemes) {
     const double demi = dixiemes / 10;
-    return Dixiemes(kParallaxeSoleil * std::cos(h * kRadian) - RefractionNormale(h) + (superieur ? -demi : demi));
+    return ArrondiDixieme(kParallaxeSoleil * std::cos(h * kRadian) - RefractionNormale(h) + (superieur ? -demi : demi));
   });
 }
 
@@ -130,12 +130,12 @@ TableDouble TableCorrectionAir() {
   Ajoute(hauteurs, {12, 14, 16, 18, 20, 25, 30, 35, 40, 50, 60, 90});
   constexpr double kCent = 100;
   return Double2(std::move(hauteurs), Suite(2, 24, 2),
-                 [](double h, double parts) { return Dixiemes(-RefractionNormale(h) * parts / kCent); });
+                 [](double h, double parts) { return ArrondiDixieme(-RefractionNormale(h) * parts / kCent); });
 }
 
 TableDouble TableParallaxe() {
   return Double2(Suite(0, 90, 10), Suite(1, 6, 1),
-                 [](double h, double dixiemes) { return Dixiemes(dixiemes / 10 * std::cos(h * kRadian)); });
+                 [](double h, double dixiemes) { return ArrondiDixieme(dixiemes / 10 * std::cos(h * kRadian)); });
 }
 
 TableSimple TableBordLune() {
@@ -143,12 +143,12 @@ TableSimple TableBordLune() {
   for (const double minutes : Suite(0, 5390, 10)) {
     hauteurs.push_back(minutes / kMinutes);
   }
-  return Simple1(std::move(hauteurs), [](double h) { return Dixiemes(CorrectionLune(h, kParallaxeLuneMin, 1)); });
+  return Simple1(std::move(hauteurs), [](double h) { return ArrondiDixieme(CorrectionLune(h, kParallaxeLuneMin, 1)); });
 }
 
 TableDouble TableLuneParallaxe(bool superieur) {
   return Double2(Suite(kParallaxeLuneMin, 61.6, 0.3), Suite(0, 90, 5), [superieur](double hp, double h) {
-    return Dixiemes(CorrectionLune(h, hp, superieur ? -1 : 1) - CorrectionLune(h, kParallaxeLuneMin, 1));
+    return ArrondiDixieme(CorrectionLune(h, hp, superieur ? -1 : 1) - CorrectionLune(h, kParallaxeLuneMin, 1));
   });
 }
 
@@ -157,7 +157,7 @@ TableDouble TableFormeTerre(double latitude) {
   return Double2({10, 30, 50, 70}, Suite(0, 180, 30), [phi](double hauteur, double azimut) {
     const double h = hauteur * kRadian;
     const double cote = std::sin(2 * phi) * std::cos(azimut * kRadian) * std::sin(h);
-    return Dixiemes(kParallaxeLune * kAplatissement * (cote - std::sin(phi) * std::sin(phi) * std::cos(h)));
+    return ArrondiDixieme(kParallaxeLune * kAplatissement * (cote - std::sin(phi) * std::sin(phi) * std::cos(h)));
   });
 }
 

@@ -41,7 +41,7 @@ TableDouble TablePolaireHauteur() {
     table.z.emplace_back();
     for (const double hauteur : table.y) {
       const double travers = kDistanceMoyenne * std::sin(angle * kRadian);
-      table.z.back().push_back(Dixiemes(travers * travers / 2 / kMinutesParRadian * std::tan(hauteur * kRadian)));
+      table.z.back().push_back(ArrondiDixieme(travers * travers / 2 / kMinutesParRadian * std::tan(hauteur * kRadian)));
     }
   }
   return table;
@@ -55,7 +55,7 @@ TableDouble TablePolaireAzimut(double distance) {
     table.z.emplace_back();
     for (const double latitude : table.y) {
       const double degres = distance / kMinutes * std::sin(angle * kRadian) / std::cos(latitude * kRadian);
-      table.z.back().push_back(Dixiemes(degres));
+      table.z.back().push_back(ArrondiDixieme(degres));
     }
   }
   return table;

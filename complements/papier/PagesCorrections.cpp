@@ -1,0 +1,274 @@
+#include "complements/almanach/Arrondis.hpp"
+#include "complements/almanach/TablesAlmanach.hpp"
+#include "complements/papier/PartiesAlmanach.hpp"
+
+#include <algorithm>
+#include <cmath>
+
+namespace velmaris {
+namespace {
+
+using Mot = MotAlmanach;
+
+constexpr double kNote = 7.5; ///< points
+
+/// All from the least to the greatest.
+std::vector<long> Etendue(const std::vector<long> &valeurs) {
+  const auto [bas, haut] = std::minmax_element(valeurs.begin(), valeurs.end());
+  std::vector<long> etendue;
+  for (long valeur = *bas; valeur <= *haut; ++valeur) {
+    etendue.push_back(valeur);
+  }
+  return etendue;
+}
+
+std::vector<std::string> Dixiemes(const std::vector<long> &valeurs, char virgule) {
+  std::vector<std::string> textes;
+  std::transform(valeurs.begin(), valeurs.end(), std::back_inserter(textes),
+                 [virgule](long d) { return TexteDixiemes(d, virgule); });
+  return textes;
+}
+
+std::vector<std::string> Courts(const std::vector<double> &valeurs, char virgule) {
+  std::vector<std::string> textes;
+  std::transform(valeurs.begin(), valeurs.end(), std::back_inserter(textes),
+                 [virgule](double x) { return TexteCourt(x, virgule); });
+  return textes;
+}
+
+/// Altitudes of a table, from one of them to before another.
+struct Tranche {
+  std::size_t de;
+  std::size_t a;
+};
+
+/// Corrections of Sun and stars for some altitudes.
+Feuillet PageSoleil(const CadreAlmanach &c, const Tranche &t) {
+  Feuillet page = PageTitree(c.format, c.mots[Mot::TitreCorrections]);
+  const Boite boite = BoiteDe(page);
+  const char virgule = VirguleDe(c.mots);
+  const std::vector<long> demis = DemiDiametresSoleil(c.almanach);
+  const TableSimple etoiles = TableRefraction();
+  const TableDouble inferieur = TableSoleil(demis, false);
+  const TableDouble superieur = TableSoleil(demis, true);
+  const auto colonnes = static_cast<double>(demis.size());
+  constexpr double kNom = 7;
+  constexpr double kColonne = 6.5;
+  const double interligne = std::min(boite.Hauteur() / 70, 230.0);
+  const double taille = TailleQuiTient(boite.Largeur(), kNom + 8 + 2 * (colonnes * kColonne + 4), interligne);
+  std::vector<Colonne> places = ColonnesDroites(boite.gauche, taille, {kNom, 8});
+  for (int limbe = 0; limbe < 2; ++limbe) {
+    const double gauche = places.back().x + LargeurChiffres(taille, 4);
+    const std::vector<Colonne> suite = ColonnesDroites(gauche, taille, std::vector<double>(demis.size(), kColonne));
+    page.Mot({gauche + LargeurChiffres(taille, 1.5), boite.haut + 2 * interligne},
+             c.mots[limbe == 0 ? Mot::BordInferieur : Mot::BordSuperieur], {.taille = taille, .gras = true});
+    places.insert(places.end(), suite.begin(), suite.end());
+  }
+  std::vector<std::string> tetes{c.mots[Mot::HauteurApparente], c.mots[Mot::EtoilesPlanetes]};
+  for (int limbe = 0; limbe < 2; ++limbe) {
+    const std::vector<std::string> textes = Dixiemes(demis, virgule);
+    tetes.insert(tetes.end(), textes.begin(), textes.end());
+  }
+  double y = boite.haut + 3.1 * interligne;
+  PoseRangee(page, y, places, tetes, {.taille = taille, .gras = true});
+  page.Trait({boite.gauche, y + 0.3 * interligne}, {places.back().x, y + 0.3 * interligne}, {0.25, 0.65});
+  y += 0.3 * interligne;
+  for (std::size_t i = t.de; i < t.a; ++i) {
+    y += (i > t.de && (i - t.de) % 6 == 0 ? 1.35 : 1) * interligne;
+    std::vector<std::string> textes{TexteDixiemes(-etoiles.y[i], virgule)};
+    for (const TableDouble *table : {&inferieur, &superieur}) {
+      const std::vector<std::string> autres = Dixiemes(table->z[i], virgule);
+      textes.insert(textes.end(), autres.begin(), autres.end());
+    }
+    PoseRangee(page, y, {places.front()}, {TexteDegresMinutes(etoiles.x[i])}, {.taille = taille, .gras = true});
+    PoseRangee(page, y, {places.begin() + 1, places.end()}, textes, {.taille = taille});
+  }
+  page.Mot({boite.gauche, boite.haut + 0.9 * interligne}, c.mots[Mot::NoteCorrections] + ' ' + c.mots[Mot::NoteAir],
+           {.taille = std::min(taille, kNote), .italique = true});
+  return page;
+}
+
+/// A simple table in columns side by side.
+/// @return how wide it is
+double PoseListe(Feuillet &page, double gauche, double haut, double taille, double interligne,
+                 const std::vector<std::string> &noms, const std::vector<std::string> &valeurs, const std::string &tete,
+                 const std::string &nom, std::size_t hauteur) {
+  constexpr double kLargeur = 5;
+  const std::size_t nombre = (noms.size() + hauteur - 1) / hauteur;
+  for (std::size_t k = 0; k < nombre; ++k) {
+    const double x = gauche + static_cast<double>(k) * LargeurChiffres(taille, 2 * kLargeur + 3);
+    const std::vector<Colonne> colonnes = ColonnesDroites(x, taille, {kLargeur, kLargeur});
+    double y = haut;
+    PoseRangee(page, y, colonnes, {nom, tete}, {.taille = taille, .gras = true});
+    y += 0.3 * interligne;
+    for (std::size_t i = k * hauteur; i < std::min(noms.size(), (k + 1) * hauteur); ++i) {
+      y += (i > k * hauteur && (i - k * hauteur) % 5 == 0 ? 1.35 : 1) * interligne;
+      PoseRangee(page, y, {colonnes[0]}, {noms[i]}, {.taille = taille, .gras = true});
+      PoseRangee(page, y, {colonnes[1]}, {valeurs[i]}, {.taille = taille});
+    }
+  }
+  return static_cast<double>(nombre) * LargeurChiffres(taille, 2 * kLargeur + 3);
+}
+
+Feuillet PageDepression(const CadreAlmanach &c) {
+  constexpr std::size_t kLignes = 45;
+  Feuillet page = PageTitree(c.format, c.mots[Mot::TitreDepression]);
+  const Boite boite = BoiteDe(page);
+  const char virgule = VirguleDe(c.mots);
+  const double interligne = boite.Hauteur() / 76;
+  const double taille = TailleQuiTient(boite.Largeur(), 105, interligne);
+  double y = boite.haut + 1.2 * interligne;
+  page.Mot({boite.gauche, y}, c.mots[Mot::Depression], {.taille = taille + 1, .gras = true});
+  page.Mot({boite.gauche + LargeurChiffres(taille, 16), y}, c.mots[Mot::NoteDepression],
+           {.taille = taille, .italique = true});
+  y += 1.5 * interligne;
+  const TableSimple metres = TableDepression();
+  const TableSimple pieds = TableDepressionPieds();
+  const double large = PoseListe(page, boite.gauche, y, taille, interligne, Courts(metres.x, virgule),
+                                 Dixiemes(metres.y, virgule), "'", c.mots[Mot::Metres], kLignes);
+  const double suite = boite.gauche + large + LargeurChiffres(taille, 3);
+  const double pris = PoseListe(page, suite, y, taille, interligne, Courts(pieds.x, virgule),
+                                Dixiemes(pieds.y, virgule), "'", c.mots[Mot::Pieds], kLignes);
+  const TableDouble parallaxe = TableParallaxe();
+  TableauPose tableau{c.mots[Mot::Hp], {}, {}, TextesDixiemes(parallaxe.z, virgule)};
+  for (const double hp : parallaxe.y) {
+    tableau.colonnes.push_back(TexteDixiemes(std::lround(hp), virgule));
+  }
+  for (const double h : parallaxe.x) {
+    tableau.rangees.push_back(TexteCourt(h, virgule) + "°");
+  }
+  PoseTableau(page, suite + pris + LargeurChiffres(taille, 2), y - 1.15 * interligne, taille, interligne, tableau);
+  y += 58 * interligne;
+  page.Mot({boite.gauche, y}, c.mots[Mot::ParallaxePlanetes], {.taille = taille, .gras = true});
+  return page;
+}
+
+Feuillet PageAir(const CadreAlmanach &c) {
+  Feuillet page = PageTitree(c.format, c.mots[Mot::TitreCorrections]);
+  const Boite boite = BoiteDe(page);
+  const char virgule = VirguleDe(c.mots);
+  const double interligne = boite.Hauteur() / 62;
+  const double taille = TailleQuiTient(boite.Largeur(), 105, interligne);
+  const TableDouble air = TableAir();
+  TableauPose tableau{c.mots[Mot::AirPourCent], {}, {}, {}};
+  tableau.chiffres = 7;
+  tableau.colonnes = Courts(air.y, virgule);
+  tableau.rangees = Courts(air.x, virgule);
+  for (const std::vector<long> &rangee : air.z) {
+    tableau.cellules.emplace_back();
+    for (const long n : rangee) {
+      tableau.cellules.back().push_back((n > 0 ? "+" : "") + std::to_string(n));
+    }
+  }
+  const double y = PoseTableau(page, boite.gauche, boite.haut, taille, interligne, tableau);
+  const TableDouble correction = TableCorrectionAir();
+  TableauPose suite{c.mots[Mot::AirCorrection], Courts(correction.y, virgule), Courts(correction.x, virgule),
+                    TextesDixiemes(correction.z, virgule)};
+  suite.chiffres = 7;
+  for (std::string &pourCent : suite.colonnes) {
+    pourCent = "+" + pourCent;
+  }
+  PoseTableau(page, boite.gauche, y + interligne, taille, interligne, suite);
+  return page;
+}
+
+/// The Moon's first part: each column five degrees, each row ten minutes.
+double PoseLunePremiere(Feuillet &page, const CadreAlmanach &c, const Boite &boite, double taille, double interligne) {
+  constexpr std::size_t kParDegre = 6;
+  constexpr std::size_t kParColonne = 30;
+  const char virgule = VirguleDe(c.mots);
+  const TableSimple lune = TableBordLune();
+  const double pas = boite.Largeur() / 18;
+  double fin = boite.haut;
+  page.Mot({boite.gauche, boite.haut + interligne}, c.mots[Mot::LunePremiere], {.taille = taille + 0.5, .gras = true});
+  for (std::size_t i = 0; i < lune.x.size(); ++i) {
+    const std::size_t rang = i % kParColonne;
+    const double x = boite.gauche + static_cast<double>(i / kParColonne) * pas;
+    const double y =
+        boite.haut + (2.3 + static_cast<double>(rang) + 0.4 * static_cast<double>(rang / kParDegre)) * interligne;
+    const bool degre = i % kParDegre == 0;
+    const std::string nom = degre ? TexteCourt(lune.x[i], virgule) + "°" : std::to_string(i % kParDegre * 10);
+    page.Mot({x + LargeurChiffres(taille, 2.9), y}, nom, {.taille = taille, .gras = degre, .ancrage = Ancrage::Droite});
+    page.Mot({x + pas * 0.93, y}, TexteDixiemes(lune.y[i], virgule), {.taille = taille, .ancrage = Ancrage::Droite});
+    fin = std::max(fin, y);
+  }
+  return fin + 1.5 * interligne;
+}
+
+Feuillet PageLunePremiere(const CadreAlmanach &c) {
+  Feuillet page = PageTitree(c.format, c.mots[Mot::TitreLune]);
+  const Boite boite = BoiteDe(page);
+  const char virgule = VirguleDe(c.mots);
+  const double interligne = boite.Hauteur() / 66;
+  const double taille = TailleQuiTient(boite.Largeur(), 145, interligne);
+  double y = PoseLunePremiere(page, c, boite, taille, interligne);
+  page.Mot({boite.gauche, y += interligne}, c.mots[Mot::FormeTerre], {.taille = taille, .gras = true});
+  const std::vector<double> latitudes = LatitudesFormeTerre();
+  const double pas = boite.Largeur() / 3;
+  double fin = y;
+  for (std::size_t i = 0; i < latitudes.size(); ++i) {
+    const TableDouble forme = TableFormeTerre(latitudes[i]);
+    TableauPose tableau{c.mots[Mot::Latitude] + ' ' + TexteCourt(latitudes[i], virgule) + "°", Courts(forme.y, virgule),
+                        Courts(forme.x, virgule), TextesDixiemes(forme.z, virgule)};
+    const double haut = y + static_cast<double>(i / 3) * 8.5 * interligne;
+    fin = std::max(
+        fin, PoseTableau(page, boite.gauche + static_cast<double>(i % 3) * pas, haut, taille, interligne, tableau));
+  }
+  page.Mot({boite.gauche, fin + 1.2 * interligne}, c.mots[Mot::NoteLune], {.taille = taille, .italique = true});
+  return page;
+}
+
+Feuillet PageLuneSeconde(const CadreAlmanach &c) {
+  Feuillet page = PageTitree(c.format, c.mots[Mot::TitreLune]);
+  const Boite boite = BoiteDe(page);
+  const char virgule = VirguleDe(c.mots);
+  const double interligne = boite.Hauteur() / 68;
+  const double taille = TailleQuiTient(boite.Largeur(), 5.5 + 19 * 6.2, interligne);
+  double y = boite.haut;
+  for (const bool superieur : {false, true}) {
+    const TableDouble seconde = TableLuneParallaxe(superieur);
+    TableauPose tableau{c.mots[superieur ? Mot::LuneSecondeSup : Mot::LuneSeconde],
+                        {},
+                        {},
+                        TextesDixiemes(seconde.z, virgule),
+                        5.5,
+                        6.2};
+    for (const double h : seconde.y) {
+      tableau.colonnes.push_back(TexteCourt(h, virgule) + "°");
+    }
+    for (const double hp : seconde.x) {
+      tableau.rangees.push_back(TexteDixiemes(ArrondiDixieme(hp), virgule));
+    }
+    y = PoseTableau(page, boite.gauche, y, taille, interligne, tableau) + 0.5 * interligne;
+  }
+  return page;
+}
+
+} // namespace
+
+std::vector<long> DemiDiametresSoleil(const Almanach &almanach) {
+  std::vector<long> demis;
+  for (const JourAlmanach &jour : almanach.jours) {
+    demis.push_back(ArrondiDixieme(jour.astres[kSoleilAlmanach].demiDiametre));
+  }
+  return Etendue(demis);
+}
+
+std::vector<long> DistancesPolaire(const Almanach &almanach) {
+  constexpr long kPole = 54000;
+  std::vector<long> distances;
+  for (const PeriodeAlmanach &periode : almanach.periodes) {
+    distances.push_back(kPole - DixiemesDe(periode.etoiles.back().declinaison));
+  }
+  return Etendue(distances);
+}
+
+std::vector<Feuillet> PagesCorrections(const CadreAlmanach &c) {
+  constexpr std::size_t kBasses = 61; ///< altitudes up to 10 degrees
+  const std::size_t toutes = HauteursRefraction().size();
+  return {PageSoleil(c, {0, kBasses}), PageSoleil(c, {kBasses - 1, toutes}), PageDepression(c), PageAir(c)};
+}
+
+std::vector<Feuillet> PagesLune(const CadreAlmanach &c) { return {PageLunePremiere(c), PageLuneSeconde(c)}; }
+
+} // namespace velmaris
