@@ -22,7 +22,7 @@ constexpr LigneFenetrePapier kPapier[] = {
     {SEUL(Combo2), Genre::Liste, "PageAlmanach", {1560, 1620, 2640, 330}, "", "", {.par = "Label1", .parIndice = 3}},
     {RANG(Check1, 0), Genre::Case, "PageAlmanach", {0, 2130, 4200, 300}, "Pages des jours"},
     {RANG(Check1, 1), Genre::Case, "PageAlmanach", {0, 2490, 4200, 300}, "Corrections, Polaire, formules"},
-    {RANG(Check1, 2), Genre::Case, "PageAlmanach", {0, 2850, 4200, 300}, "Accroissements des minutes"},
+    {RANG(Check1, 2), Genre::Case, "PageAlmanach", {0, 2850, 4200, 300}, "Incréments des minutes"},
     {RANG(Command1, 0), Genre::Bouton, "PageAlmanach", {0, 3360, 2010, 390}, "Calculer", "Fait les pages de ces jours"},
     {RANG(Command1, 1), Genre::Bouton, "PageAlmanach", {2190, 3360, 2010, 390}, "Arrêter", "Arrête le calcul"},
     {SEUL(Avance), Genre::Jauge, "PageAlmanach", {0, 3930, 4200, 300}, "", "Avancement du calcul"},

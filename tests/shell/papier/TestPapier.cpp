@@ -173,7 +173,7 @@ TEST_F(PagesAImprimer, ThePanelsSightIsWorkedByHandFilledOrWithBlanks) {
   TapeVisee();
   Montre(OngletPapier::Fiche);
   EXPECT_EQ(p.Label3.legende, "1 visée");
-  EXPECT_THAT(MotsVus(), HasSubstr("Hauteur vraie"));
+  EXPECT_THAT(MotsVus(), HasSubstr("Hauteur observée"));
   ClicCase(bureau, p.Check2);
   Accorde();
   EXPECT_EQ(bureau.papier.onglets[1].pages->size(), 2U);
