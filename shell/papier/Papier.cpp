@@ -291,7 +291,7 @@ void Text1_Change(Bureau &bureau, int /*indice*/) {
   bureau.papier.aMontrer = true;
 }
 
-void Text1_Valide(Bureau &bureau, int /*indice*/) { Command1_Click(bureau, 0); }
+void Text1_Valide(Bureau &bureau, int /*indice*/) { papier::Command1_Click(bureau, 0); }
 
 void Command1_Click(Bureau &bureau, int indice) {
   FenetrePapier &f = bureau.fenetrePapier;
