@@ -184,6 +184,7 @@ constexpr Abonnement kPreparation[] = {
     {"Astres", Evenement::Valide, preparation::Prend_Click},
     {"Prend", Evenement::Clic, preparation::Prend_Click},
     {"Jeux", Evenement::Clic, preparation::Jeux_Click},
+    {"Mieux", Evenement::Clic, preparation::Mieux_Click},
     {"Text4", Evenement::Change, preparation::Compas_Change},
     {"Combo1", Evenement::Clic, preparation::Compas_Change},
     {"Text5", Evenement::Change, preparation::Inconnu_Change},

@@ -17,6 +17,7 @@
 #include "shell/droites/Droites.hpp"
 #include "shell/droites/MemoireDroites.hpp"
 #include "shell/droites/ModesDroite.hpp"
+#include "shell/droites/Retour.hpp"
 #include "shell/ecran/Copie.hpp"
 #include "shell/ecran/Disposition.hpp"
 #include "shell/ecran/Echelle.hpp"
@@ -24,8 +25,10 @@
 #include "shell/ecran/Rangement.hpp"
 #include "shell/ecran/Statut.hpp"
 #include "shell/point/Point.hpp"
+#include "shell/preparation/CalculPlan.hpp"
 #include "shell/registre/LectureRegistre.hpp"
 #include "shell/registre/Registre.hpp"
+#include "shell/serie/GestesSerie.hpp"
 #include "shell/visee/Journal.hpp"
 #include "shell/visee/PanneauDirect.hpp"
 #include "shell/visee/Saisie.hpp"
@@ -33,6 +36,7 @@
 #include <algorithm>
 #include <array>
 #include <chrono>
+#include <string_view>
 #include <utility>
 
 namespace velmaris {
@@ -287,6 +291,23 @@ bool ToucheControle(Bureau &bureau, char lettre) {
     ClicControle(bureau, *bouton);
   }
   return bouton != nullptr;
+}
+
+bool RevientDans(Bureau &bureau, std::string_view fenetre, bool retablit) {
+  constexpr std::array kAvecLePanneau = {kFenetreDonnees, kFenetreRegistre, kFenetrePoint, kFenetrePreparation,
+                                         kFenetreExercice};
+  if (fenetre == kFenetreSerie) {
+    (retablit ? RetablitSerie : AnnuleSerie)(bureau);
+    return true;
+  }
+  if (std::find(kAvecLePanneau.begin(), kAvecLePanneau.end(), fenetre) == kAvecLePanneau.end()) {
+    return false;
+  }
+  (retablit ? PU_Retablit_Click : PU_Annule_Click)(bureau, -1);
+  if (fenetre == kFenetrePreparation) {
+    DitPlan(bureau, bureau.etat.avis);
+  }
+  return true;
 }
 
 void Complement_Click(Bureau &bureau, int indice) {

@@ -2,6 +2,8 @@
 
 #include "shell/bureau/Bureau.hpp"
 
+#include <string_view>
+
 namespace velmaris {
 
 /// The start sequence: geometry, stored lines, settings, language, clock and fields, once the Sun's place. Opens the
@@ -52,5 +54,12 @@ void Image10_Click(Bureau &bureau, int indice);
 
 /// A complement's button in the toolbar: as its entry in the menu.
 void Complement_Click(Bureau &bureau, int indice);
+
+/// Takes the last gesture of a window back, or makes it again: the lists of readings have their own, the other windows
+/// share those of the panel.
+/// @param fenetre   its name
+/// @param retablit  makes again what was taken back
+/// @return false for a window that changes nothing of the kind
+bool RevientDans(Bureau &bureau, std::string_view fenetre, bool retablit);
 
 } // namespace velmaris

@@ -331,21 +331,30 @@ bool Fenetre::ToucheTaille(const QKeyEvent &appui) {
   return true;
 }
 
-/// Control with Z, and with the shift key: the field's own typing first, then the last gesture.
+/// Control with Z; with the shift key too, or with Y, to redo: the field's own typing first, then the last gesture of
+/// its window.
 bool Fenetre::ToucheAnnule(QObject *objet, const QKeyEvent &appui) {
   const Qt::KeyboardModifiers avec = appui.modifiers() & ~Qt::KeypadModifier;
-  const bool retablit = avec == (Qt::ControlModifier | Qt::ShiftModifier);
+  const bool retablit = (appui.key() == Qt::Key_Z && avec == (Qt::ControlModifier | Qt::ShiftModifier)) ||
+                        (appui.key() == Qt::Key_Y && avec == Qt::ControlModifier);
   const auto *widget = qobject_cast<QWidget *>(objet);
-  if (appui.key() != Qt::Key_Z || (avec != Qt::ControlModifier && !retablit) || widget->window() != this ||
+  if (!(retablit || (appui.key() == Qt::Key_Z && avec == Qt::ControlModifier)) ||
       QApplication::activeModalWidget() != nullptr) {
     return false;
   }
-  const auto *champ = qobject_cast<const QLineEdit *>(objet);
-  if (champ != nullptr && (retablit ? champ->isRedoAvailable() : champ->isUndoAvailable())) {
-    return false;
+  if (auto *champ = qobject_cast<QLineEdit *>(objet);
+      champ != nullptr && (retablit ? champ->isRedoAvailable() : champ->isUndoAvailable())) {
+    if (appui.key() == Qt::Key_Z) {
+      return false; // it does so itself
+    }
+    champ->redo();
+    return true;
   }
-  scene_.Joue([&] { (retablit ? PU_Retablit_Click : PU_Annule_Click)(bureau_, -1); });
-  return true;
+  const QWidget *fenetre = widget->window();
+  const std::string nom = fenetre == this ? std::string(kFenetreDonnees) : fenetre->objectName().toStdString();
+  bool prise = false;
+  scene_.Joue([&] { prise = RevientDans(bureau_, nom, retablit); });
+  return prise;
 }
 
 bool Fenetre::eventFilter(QObject *objet, QEvent *event) {
