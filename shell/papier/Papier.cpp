@@ -99,16 +99,15 @@ PagesFaites ViergeVoulue(Bureau &bureau) {
   constexpr double kMillesMin = 5;
   constexpr double kMillesMax = 1200;
   FenetrePapier &f = bureau.fenetrePapier;
-  std::optional<double> latitude = LitLatitudeTapee(f.Text3[0].texte);
-  if (latitude && std::fabs(*latitude) > kLatitudeVierge) {
-    latitude.reset();
-  }
-  MarqueChamp(f.Text3[0], latitude.has_value(), f.TexteHors.legende);
+  constexpr double kAucune = 90; // which no blank sheet is of
+  const double latitude = LitLatitudeTapee(f.Text3[0].texte).value_or(kAucune);
+  const bool bonne = std::fabs(latitude) <= kLatitudeVierge;
+  MarqueChamp(f.Text3[0], bonne, f.TexteHors.legende);
   const std::optional<double> milles = LitChampBorne(f.Text3[1], kMillesMin, kMillesMax, f.TexteHors.legende);
   PagesFaites faites;
-  if (latitude && milles) {
-    faites.pages.push_back(PageVierge(*latitude, *milles, FormatVoulu(f),
-                                      bureau.motsPapier.TexteVierge.legende + TexteLatitude(*latitude),
+  if (bonne && milles) {
+    faites.pages.push_back(PageVierge(latitude, *milles, FormatVoulu(f),
+                                      bureau.motsPapier.TexteVierge.legende + TexteLatitude(latitude),
                                       PiedVierge(bureau), MotsDuCanevas(bureau)));
   }
   return faites;
