@@ -160,8 +160,8 @@ void Boites::Ouvre(Scene &scene, QWidget &fenetre) {
   bureau_.ports.modale = [&scene, &fenetre](CadreFenetre &cadre) {
     const QPointer<QWidget> avant = FenetreDevant(fenetre, {}); // no menu stays open under it
     Dialogue(scene, cadre, avant).Montre();
-    if (avant != nullptr && avant->isVisible()) {
-      avant->activateWindow(); // the keyboard comes back to where it was
+    if (QWidget *reste = avant.data(); reste != nullptr && reste->isVisible()) {
+      reste->activateWindow(); // the keyboard comes back to where it was
     }
   };
   bureau_.ports.attend = [&scene] {
