@@ -125,16 +125,16 @@ bool EstDansLeCiel(const Surface &s, const ZoneTexte &zone) {
 }
 
 /// The first free place beside a point that lies inside of the horizon.
-std::optional<ZoneTexte> PlaceDuNom(const Surface &s, const PlanTextes &plan, Point p, double largeur) {
-  constexpr double kCote = 90;
-  const std::array<Point, 8> coins{{{kCote, -kDemiTexte},
-                                    {-kCote - largeur, -kDemiTexte},
-                                    {kCote, 0},
-                                    {kCote, -2 * kDemiTexte},
-                                    {-kCote - largeur, 0},
-                                    {-kCote - largeur, -2 * kDemiTexte},
-                                    {-largeur / 2, kCote},
-                                    {-largeur / 2, -kCote - 2 * kDemiTexte}}};
+/// @param cote  from the point to the name
+std::optional<ZoneTexte> PlaceDuNom(const Surface &s, const PlanTextes &plan, Point p, double cote, double largeur) {
+  const std::array<Point, 8> coins{{{cote, -kDemiTexte},
+                                    {-cote - largeur, -kDemiTexte},
+                                    {cote, 0},
+                                    {cote, -2 * kDemiTexte},
+                                    {-cote - largeur, 0},
+                                    {-cote - largeur, -2 * kDemiTexte},
+                                    {-largeur / 2, cote},
+                                    {-largeur / 2, -cote - 2 * kDemiTexte}}};
   for (const Point &coin : coins) {
     const ZoneTexte zone{p.x + coin.x, p.y + coin.y, largeur, 2 * kDemiTexte};
     if (EstDansLeCiel(s, zone) && plan.EstLibre(zone)) {
@@ -147,6 +147,7 @@ std::optional<ZoneTexte> PlaceDuNom(const Surface &s, const PlanTextes &plan, Po
 /// The names of the bodies, the first classes first, of one class the brightest.
 void EcritNoms(Surface &s, const CielDuPlan &ciel, const CarteDuPlan &carte) {
   constexpr double kParOctet = 105; ///< a guess of a letter's width
+  constexpr double kCote = 80;      ///< from a point to its name
   std::vector<std::pair<int, std::size_t>> noms;
   for (const std::size_t rang : carte.astres) {
     if (const auto classe = ClasseDuNom(carte, ciel.astres.at(rang), rang)) {
@@ -165,9 +166,10 @@ void EcritNoms(Surface &s, const CielDuPlan &ciel, const CarteDuPlan &carte) {
   for (const auto &[classe, rang] : noms) {
     const AstreDuPlan &astre = ciel.astres[rang];
     const std::string nom = carte.nom(astre.astre);
-    const double largeur = carte.largeur ? carte.largeur(nom) : kParOctet * static_cast<double>(nom.size());
+    const double largeur = carte.largeur ? carte.largeur(nom, s.police) : kParOctet * static_cast<double>(nom.size());
     const Point p = PlaceSurCarte(s, astre.apparente, astre.azimut, carte.haut);
-    if (const auto zone = PlaceDuNom(s, plan, p, largeur)) {
+    const bool disque = astre.astre.genre == GenreAstre::Soleil || astre.astre.genre == GenreAstre::Lune;
+    if (const auto zone = PlaceDuNom(s, plan, p, disque ? kDisque + kCote : kCote, largeur)) {
       plan.Prend(*zone);
       EcritEnCouleur(s, {zone->gauche, zone->haut}, astre.raisons.any() ? kPale : kEncre, nom,
                      {GenreTexte::Minute, classe});

@@ -20,8 +20,8 @@ struct CarteDuPlan {
   double haut = 0;                               ///< the direction that is up, degrees
   std::array<std::string, 4> cardinaux;          ///< letters of north, east, south and west
   std::function<std::string(const Astre &)> nom; ///< words beside a body
-  /// How wide words are in their font of 9 points, 1/1440 inch; none for a guess.
-  std::function<double(const std::string &)> largeur;
+  /// How wide words are in a font, 1/1440 inch; none for a guess.
+  std::function<double(const std::string &, const Police &)> largeur;
 };
 
 /// Where a body stands on the chart: the zenith in the middle, directions clockwise as on a compass.

@@ -49,9 +49,8 @@ CarteDuPlan CarteVoulue(const Bureau &bureau) {
   carte.choisi = RangChoisi(p);
   carte.haut = f.Check1.valeur == 1 && !jambes.empty() ? jambes.front().cap : 0;
   carte.cardinaux = Cardinaux(f);
-  carte.largeur = [&bureau](const std::string &mots) {
-    constexpr double kPoints = 9;
-    return bureau.ports.largeurTexte(mots, kPoints, false);
+  carte.largeur = [&bureau](const std::string &mots, const Police &police) {
+    return bureau.ports.largeurTexte(mots, police.taille, police.gras);
   };
   carte.nom = [&bureau](const Astre &astre) { return NomDAstre(bureau, astre); };
   return carte;

@@ -161,7 +161,7 @@ TEST_F(PlanFait, NamesOnTheChartLieInsideTheHorizonAndNoneOverAnother) {
     const auto noms = Noms(s);
     EXPECT_GT(noms.size(), 5U) << minute;
     for (std::size_t i = 0; i < noms.size(); ++i) {
-      const auto largeur = [&](const TexteTrace &t) { return bureau.ports.largeurTexte(t.texte, 9, false); };
+      const auto largeur = [&](const TexteTrace &t) { return bureau.ports.largeurTexte(t.texte, 9, t.police.gras); };
       const Point p = noms[i]->position;
       for (const double x : {p.x, p.x + largeur(*noms[i])}) {
         for (const double y : {p.y, p.y + 200}) {
@@ -173,6 +173,20 @@ TEST_F(PlanFait, NamesOnTheChartLieInsideTheHorizonAndNoneOverAnother) {
         EXPECT_FALSE(p.x < q.x + largeur(*noms[j]) && q.x < p.x + largeur(*noms[i]) && std::fabs(p.y - q.y) < 200)
             << noms[i]->texte << " " << noms[j]->texte;
       }
+    }
+  }
+}
+
+TEST_F(PlanFait, MoonAndPlanetsHaveTheirNamesLowOrNot) {
+  OuvrePlan("21/06/2026", "21:50");
+  std::string mots;
+  for (const TexteTrace *nom : Noms(pr.dessinCarte)) {
+    mots += nom->texte + "\n";
+  }
+  for (const std::size_t rang : plan.montres) {
+    const AstreDuPlan &astre = plan.vue.astres[rang];
+    if (astre.astre.genre != GenreAstre::Etoile) {
+      EXPECT_THAT(mots, HasSubstr(NomDAstre(bureau, astre.astre))) << astre.apparente;
     }
   }
 }
