@@ -19,7 +19,7 @@ constexpr Encre kFilet{0.25, 0.65};
 
 /// Where the columns of a minute stand: seconds, three increments, then v or d and its correction thrice.
 std::vector<Colonne> ColonnesMinute(double gauche, double taille) {
-  return ColonnesDroites(gauche, taille, {2.2, 6.4, 6.4, 6.4, 5.2, 3.9, 5.0, 3.9, 5.0, 3.9});
+  return ColonnesDroites(gauche, taille, {2.2, 7.1, 7.1, 7.1, 5.4, 3.8, 4.8, 3.8, 4.8, 3.8});
 }
 
 double LigneDe(int rang) { return rang + kJeu * (rang / kGroupe); }
@@ -59,7 +59,7 @@ void PoseMinute(Feuillet &page, const CadreAlmanach &c, int minute, const Boite 
 
 std::vector<Feuillet> PagesIncrements(const CadreAlmanach &c) {
   constexpr int kMinutes = 60;
-  constexpr double kChiffres = 152; ///< three minutes and what is between them
+  constexpr double kChiffres = 154; ///< three minutes and what is between them
   std::vector<Feuillet> pages;
   for (int premiere = 0; premiere < kMinutes; premiere += kParPage) {
     Feuillet page = PageTitree(c.format, c.mots[Mot::TitreIncrements],

@@ -1,0 +1,155 @@
+#include "OutilsAlmanach.hpp"
+
+#include "complements/almanach/Arrondis.hpp"
+#include "complements/almanach/JourDuCiel.hpp"
+#include "complements/ciel/VersLecture.hpp"
+#include "complements/ciel/Vue.hpp"
+#include "complements/controle/RouteActuelle.hpp"
+#include "complements/point/Sphere.hpp"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <gtest/gtest.h>
+#include <iostream>
+#include <random>
+
+/// Sights worked from the printed figures alone, against the check of the same sight by the sky of today.
+namespace velmaris::essais {
+namespace {
+
+double AuDixieme(double degres) { return std::round(degres * 600) / 600; }
+
+const Almanach &Pages() {
+  static const Almanach almanach =
+      *CalculeAlmanach({.debut = {2026, 6, 1}, .fin = {2027, 5, 31}, .latitudes = {}}, EtoilesLues());
+  return almanach;
+}
+
+/// The same sight by the sky of today.
+RouteActuelle Judge(const ViseeMain &v) {
+  ViseeTypee typee{v.astre, v.utc, {v.latitude, v.longitude, v.sextant.hauteurOeil}, v.sextant};
+  return SuitRoute(typee, 0);
+}
+
+/// Sets the reading that shows the body some miles nearer than from the estimated position.
+/// @return whether the body stands where it is shot
+bool Vise(ViseeMain &v, double milles) {
+  constexpr double kMinutes = 60;
+  const Station station{v.latitude, v.longitude, v.sextant.hauteurOeil};
+  const PlaceGeocentrique place = PlaceDe(PrepareCiel(MomentDe(v.utc)), v.astre);
+  const double hauteur = VueDe(place, station).hauteur;
+  if (hauteur < 10 || hauteur > 75) {
+    return false;
+  }
+  v.sextant.lecture = AuDixieme(LecturePour(v.sextant, place, station, hauteur + milles / kMinutes));
+  return true;
+}
+
+ViseeMain ViseeAuHasard(std::mt19937_64 &alea, GenreAstre genre) {
+  const auto entre = [&](double a, double b) { return std::uniform_real_distribution<double>(a, b)(alea); };
+  const auto entier = [&](int a, int b) { return std::uniform_int_distribution<int>(a, b)(alea); };
+  ViseeMain v;
+  v.astre.genre = genre;
+  if (genre == GenreAstre::Etoile) {
+    v.astre.rang = Pages().periodes.front().etoiles[static_cast<std::size_t>(entier(0, 56))].rang;
+  }
+  const DateCivile jour = JourPlusTard({2026, 6, 1}, entier(0, 364));
+  v.utc = {jour.annee, jour.mois, jour.jour, entier(0, 23), entier(0, 59), static_cast<double>(entier(0, 59))};
+  v.latitude = AuDixieme(entre(-66, 66));
+  v.longitude = AuDixieme(entre(-180, 180));
+  v.sextant.hauteurOeil = std::round(entre(1.5, 15) * 10) / 10;
+  v.sextant.collimation = std::round(entre(-3, 3) * 10) / 10;
+  if (genre == GenreAstre::Soleil || genre == GenreAstre::Lune) {
+    v.sextant.contact = entier(0, 1) == 0 ? Contact::Inferieur : Contact::Superieur;
+  }
+  if (entier(0, 1) == 0) {
+    v.sextant.temperature = std::round(entre(-20, 40));
+    v.sextant.pression = std::round(entre(965, 1045));
+  }
+  return v;
+}
+
+double Tour(double degres) { return std::fabs(LongitudeUnTour(degres)); }
+
+/// The worst and what 999 of 1000 stay under.
+struct Bilan {
+  double pire = 0;
+  double millieme = 0;
+};
+
+Bilan BilanDe(std::vector<double> ecarts) {
+  std::sort(ecarts.begin(), ecarts.end());
+  return {ecarts.back(), ecarts[ecarts.size() * 999 / 1000]};
+}
+
+/// Many sights of a kind.
+Bilan Beaucoup(GenreAstre genre, int nombre) {
+  std::mt19937_64 alea(2100 + static_cast<unsigned>(genre));
+  std::vector<double> ecarts;
+  double azimut = 0;
+  while (static_cast<int>(ecarts.size()) < nombre) {
+    ViseeMain v = ViseeAuHasard(alea, genre);
+    if (!Vise(v, std::uniform_real_distribution<double>(-20, 20)(alea))) {
+      continue;
+    }
+    const RouteActuelle juge = Judge(v);
+    const ResultatMain main = ReduisALaMain(Pages(), v);
+    ecarts.push_back(std::fabs(main.intercept - juge.intercept));
+    azimut = std::max(azimut, Tour(main.azimut - juge.vue.azimutCentre));
+  }
+  const Bilan bilan = BilanDe(std::move(ecarts));
+  std::cout << "  " << nombre << " sights: worst " << bilan.pire << "', 99.9 % under " << bilan.millieme
+            << "', azimuth within " << azimut << " degrees\n";
+  EXPECT_LT(azimut, 1.5); // near the meridian a sum of rounded figures tells the azimuth to a degree
+  return bilan;
+}
+
+TEST(ViseesALaMain, ManySightsOfTheSunAgreeWithTheCheck) {
+  const Bilan b = Beaucoup(GenreAstre::Soleil, 4000);
+  EXPECT_LT(b.millieme, 0.3);
+  EXPECT_LT(b.pire, 0.4);
+}
+
+TEST(ViseesALaMain, ManySightsOfTheMoonAgreeWithTheCheck) {
+  const Bilan b = Beaucoup(GenreAstre::Lune, 4000);
+  EXPECT_LT(b.millieme, 0.4);
+  EXPECT_LT(b.pire, 0.5);
+}
+
+TEST(ViseesALaMain, ManySightsOfPlanetsAgreeWithTheCheck) {
+  for (const GenreAstre genre : {GenreAstre::Venus, GenreAstre::Mars, GenreAstre::Jupiter, GenreAstre::Saturne}) {
+    const Bilan b = Beaucoup(genre, 1500);
+    EXPECT_LT(b.millieme, 0.3);
+    EXPECT_LT(b.pire, 0.4);
+  }
+}
+
+TEST(ViseesALaMain, ManySightsOfStarsAgreeWithTheCheck) {
+  const Bilan b = Beaucoup(GenreAstre::Etoile, 4000);
+  EXPECT_LT(b.millieme, 0.3);
+  EXPECT_LT(b.pire, 0.4);
+}
+
+TEST(ViseesALaMain, PolarisTellsTheLatitude) {
+  constexpr int kPolaris = 112;
+  constexpr double kMinutes = 60;
+  std::mt19937_64 alea(89);
+  std::vector<double> ecarts;
+  while (ecarts.size() < 3000) {
+    ViseeMain v = ViseeAuHasard(alea, GenreAstre::Etoile);
+    v.astre.rang = kPolaris;
+    v.latitude = AuDixieme(std::uniform_real_distribution<double>(10, 68)(alea));
+    if (Vise(v, 0)) {
+      // The reading's own rounding is taken away: the check tells how many miles it stands for.
+      const double vraie = v.latitude * kMinutes + Judge(v).intercept;
+      ecarts.push_back(std::fabs(static_cast<double>(LatitudePolaireALaMain(Pages(), v)) / 10 - vraie));
+    }
+  }
+  const Bilan b = BilanDe(std::move(ecarts));
+  std::cout << "  worst " << b.pire << "', 99.9 % under " << b.millieme << "'\n";
+  EXPECT_LT(b.pire, 0.3);
+}
+
+} // namespace
+} // namespace velmaris::essais
