@@ -122,6 +122,7 @@ enum class MotAlmanach : std::uint16_t {
   Correction,      ///< corr
   VouD,            ///< v d
   NoteIncrements,  ///< Sun and planets: 15° an hour; Aries: 15°02.46'; Moon: 14°19.0'. v and d corrections: in ...
+  NoteIncrements2, ///< v or d times the seconds from 30: from 180 on, the correction is 0.1' more after 30 s, ...
   TitreEmploi,     ///< How to work a sight with these pages
   Emploi01, ///< THE TIME. In universal time (UT: UTC with UT1 - UTC, which the foot of each page tells). Keep ...
   Emploi02, ///< the minutes and the seconds.
@@ -132,37 +133,38 @@ enum class MotAlmanach : std::uint16_t {
   Emploi07, ///< A negative v: its correction is taken off. Over 360°, take 360° off.
   Emploi08, ///< 2. DECLINATION (Dec)
   Emploi09, ///< Dec of the hour, corrected for d towards that of the next hour. A star's: as it stands.
-  Emploi10, ///< 3. LOCAL HOUR ANGLE (LHA)
-  Emploi11, ///< LHA = GHA + east longitude, or GHA - west longitude. Over 180°: t = 360° - LHA, the body stands east.
-  Emploi12, ///< Otherwise t = LHA, the body stands west.
-  Emploi13, ///< 4. COMPUTED ALTITUDE (Hc), the cosine-haversine formula
-  Emploi14, ///< Add log hav t + log cos latitude + log cos Dec. Look that sum up among the log hav;
-  Emploi15, ///< the number beside it, plus the number hav (latitude - Dec), is the number hav z. (Contrary ...
-  Emploi16, ///< Find z, the zenith distance, among the numbers: Hc = 90° - z. Between two lines take the ...
-  Emploi17, ///< A sum over 5,300,000 is worth 5 of the numbers at most: leave it out.
-  Emploi18, ///< 5. AZIMUTH (Z)
-  Emploi19, ///< p = 90° - Dec (contrary names: 90° + Dec). Number hav p less number hav (latitude - Hc); find ...
-  Emploi20, ///< take the log hav beside it, take log cos latitude and log cos Hc off: it is log hav Z, counted ...
-  Emploi21, ///< to the east or west as in 3. North latitude: east Zn = Z, west Zn = 360° - Z.
-  Emploi22, ///< South latitude: east Zn = 180° - Z, west Zn = 180° + Z.
-  Emploi23, ///< 6. OBSERVED ALTITUDE (Ho)
-  Emploi24, ///< Reading + index correction - dip = apparent altitude. With it:
-  Emploi25, ///< Sun: the column of its semidiameter of the day and of its limb; the parallax is in it.
-  Emploi26, ///< Star: its column. Planet: the same, plus its parallax where its HP isn't 0.
-  Emploi27, ///< Moon: first part, second part (HP of the hour), the Earth's shape.
-  Emploi28, ///< An air that isn't of 1010 hPa and 10 °C: the percent, then its correction.
-  Emploi29, ///< 7. INTERCEPT
-  Emploi30, ///< Ho - Hc in minutes, which are miles: towards the body if Ho is the greater, away from it otherwise.
-  Emploi31, ///< The line of position is square to the azimuth, at the end of the intercept laid off from the ...
-  Emploi32, ///< TO GO FASTER: a latitude of whole degrees, and a longitude that makes the LHA whole.
-  Emploi33, ///< HOW GOOD. Each figure is rounded to 0.1'; a whole sight is within 0.3', but for one in a thousand.
-  Emploi34, ///< RISES, SETS, TWILIGHT. Local mean time, at sea level. UT = local time + 4 minutes for each degree
-  Emploi35, ///< of west longitude (- for east). Moon: first add difference x west longitude / 360 (take off for east,
-  Emploi36, ///< by the difference of the day before). Twilight: the Sun's centre 6° (civil) or 12° (nautical) ...
-  Emploi37, ///< Rise, set: the Sun's centre 50' under the horizon; the Moon's upper limb, with 34' of ...
-  Emploi38, ///< PASSAGES. At the meridian of Greenwich, UT; elsewhere the same figure is a local mean time, nearly.
+  Emploi10, ///< v and d over 6: the note at the foot of the increments gives the last tenth.
+  Emploi11, ///< 3. LOCAL HOUR ANGLE (LHA)
+  Emploi12, ///< LHA = GHA + east longitude, or GHA - west longitude. Over 180°: t = 360° - LHA, the body stands east.
+  Emploi13, ///< Otherwise t = LHA, the body stands west.
+  Emploi14, ///< 4. COMPUTED ALTITUDE (Hc), the cosine-haversine formula
+  Emploi15, ///< Add log hav t + log cos latitude + log cos Dec. Look that sum up among the log hav;
+  Emploi16, ///< the number beside it, plus the number hav (latitude - Dec), is the number hav z. (Contrary ...
+  Emploi17, ///< Find z, the zenith distance, among the numbers: Hc = 90° - z. Between two lines take the ...
+  Emploi18, ///< A sum over 5,300,000 is worth 5 of the numbers at most: leave it out.
+  Emploi19, ///< 5. AZIMUTH (Z)
+  Emploi20, ///< p = 90° - Dec (contrary names: 90° + Dec). Number hav p less number hav (latitude - Hc); find ...
+  Emploi21, ///< take the log hav beside it, take log cos latitude and log cos Hc off: it is log hav Z, counted ...
+  Emploi22, ///< to the east or west as in 3. North latitude: east Zn = Z, west Zn = 360° - Z.
+  Emploi23, ///< South latitude: east Zn = 180° - Z, west Zn = 180° + Z.
+  Emploi24, ///< 6. OBSERVED ALTITUDE (Ho)
+  Emploi25, ///< Reading + index correction - dip = apparent altitude. With it:
+  Emploi26, ///< Sun: the column of its semidiameter of the day and of its limb; the parallax is in it.
+  Emploi27, ///< Star: its column. Planet: the same, plus its parallax where its HP isn't 0.
+  Emploi28, ///< Moon: first part, second part (HP of the hour), the Earth's shape.
+  Emploi29, ///< An air that isn't of 1010 hPa and 10 °C: the percent, then its correction.
+  Emploi30, ///< 7. INTERCEPT
+  Emploi31, ///< Ho - Hc in minutes, which are miles: towards the body if Ho is the greater, away from it otherwise.
+  Emploi32, ///< The line of position is square to the azimuth, at the end of the intercept laid off from the ...
+  Emploi33, ///< TO GO FASTER: a latitude of whole degrees, and a longitude that makes the LHA whole.
+  Emploi34, ///< HOW GOOD. Each figure is rounded to 0.1'; a whole sight is within 0.3', but for one in a thousand.
+  Emploi35, ///< RISES, SETS, TWILIGHT. Local mean time, at sea level. UT = local time + 4 minutes for each degree
+  Emploi36, ///< of west longitude (- for east). Moon: first add difference x west longitude / 360 (take off for east,
+  Emploi37, ///< by the difference of the day before). Twilight: the Sun's centre 6° (civil) or 12° (nautical) ...
+  Emploi38, ///< Rise, set: the Sun's centre 50' under the horizon; the Moon's upper limb, with 34' of ...
+  Emploi39, ///< PASSAGES. At the meridian of Greenwich, UT; elsewhere the same figure is a local mean time, nearly.
 };
-inline constexpr std::size_t kMotsAlmanach = static_cast<std::size_t>(MotAlmanach::Emploi38) + 1;
+inline constexpr std::size_t kMotsAlmanach = static_cast<std::size_t>(MotAlmanach::Emploi39) + 1;
 
 /// All words of one language.
 struct MotsAlmanach {

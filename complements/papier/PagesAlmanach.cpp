@@ -50,7 +50,7 @@ Feuillet PageEmploi(const CadreAlmanach &c) {
                              TexteDate(d.debut, c.mots) + ' ' + c.mots[Mot::Au] + ' ' + TexteDate(d.fin, c.mots));
   const Boite boite = BoiteDe(page);
   const auto premier = static_cast<std::size_t>(Mot::Emploi01);
-  const auto dernier = static_cast<std::size_t>(Mot::Emploi38);
+  const auto dernier = static_cast<std::size_t>(Mot::Emploi39);
   const double interligne = std::min(boite.Hauteur() / static_cast<double>(dernier - premier + 14), 300.0);
   const double taille = TailleQuiTient(boite.Largeur(), 98, interligne);
   double y = boite.haut + 1.5 * interligne;

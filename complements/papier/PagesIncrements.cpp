@@ -65,16 +65,17 @@ std::vector<Feuillet> PagesIncrements(const CadreAlmanach &c) {
     Feuillet page = PageTitree(c.format, c.mots[Mot::TitreIncrements],
                                std::to_string(premiere) + " - " + std::to_string(premiere + kParPage - 1) + " min");
     Boite boite = BoiteDe(page);
-    const double interligne = boite.Hauteur() / (LigneDe(kLignes) + 6);
+    const double interligne = boite.Hauteur() / (LigneDe(kLignes) + 7);
     const double taille = TailleQuiTient(boite.Largeur(), kChiffres, interligne);
-    page.Mot({boite.gauche, boite.bas - 0.2 * interligne}, c.mots[Mot::NoteIncrements],
-             {.taille = 7, .italique = true});
+    const Graphie note{.taille = 7, .italique = true};
+    page.Mot({boite.gauche, boite.bas - 1.1 * interligne}, c.mots[Mot::NoteIncrements], note);
+    page.Mot({boite.gauche, boite.bas - 0.2 * interligne}, c.mots[Mot::NoteIncrements2], note);
     const double pas = boite.Largeur() / kParPage;
     for (int k = 0; k < kParPage; ++k) {
       PoseMinute(page, c, premiere + k, boite, taille, interligne);
       if (k > 0) {
         const double x = boite.gauche - 0.02 * pas;
-        page.Trait({x, boite.haut}, {x, boite.bas - 1.4 * interligne}, kFilet);
+        page.Trait({x, boite.haut}, {x, boite.bas - 2.3 * interligne}, kFilet);
       }
       boite.gauche += pas;
     }

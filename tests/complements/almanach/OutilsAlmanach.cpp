@@ -50,6 +50,14 @@ std::size_t RangErrant(GenreAstre genre) { return static_cast<std::size_t>(genre
 
 long SigneDe(long n) { return n > 0 ? 1 : n < 0 ? -1 : 0; }
 
+/// The correction for v or d: that of the minute, with the tenth that a large one needs far from its middle.
+long CorrectionALaSeconde(const DateCivile &utc, long vd) {
+  constexpr double kDixieme = 180 * 10;
+  const double loin = static_cast<double>(vd) * (utc.seconde - 30);
+  const long dixieme = std::fabs(loin) >= kDixieme ? (loin > 0 ? 1 : -1) : 0;
+  return CorrectionVD(utc.minute, vd) + dixieme;
+}
+
 /// GHA and declination.
 struct PlaceMain {
   long gha;
@@ -85,8 +93,9 @@ PlaceMain PlaceMainDe(const Almanach &almanach, const ViseeMain &v) {
   const long d = std::labs(ArrondiDixieme(lune ? jour.heures[heure].dLune : jour.astres[rang].d));
   const TauxIncrement taux = lune ? TauxIncrement::Lune : TauxIncrement::Soleil;
   const long gha = DixiemesUnTour(place.gha) + Increment(taux, static_cast<int>(secondes)) +
-                   SigneDe(variation) * CorrectionVD(v.utc.minute, std::labs(variation));
-  const long dec = DixiemesDe(place.declinaison) + SigneDe(Tendance(jour, heure, rang)) * CorrectionVD(v.utc.minute, d);
+                   SigneDe(variation) * CorrectionALaSeconde(v.utc, std::labs(variation));
+  const long dec =
+      DixiemesDe(place.declinaison) + SigneDe(Tendance(jour, heure, rang)) * CorrectionALaSeconde(v.utc, d);
   return {gha, dec};
 }
 

@@ -72,15 +72,18 @@ ViseeMain ViseeAuHasard(std::mt19937_64 &alea, GenreAstre genre) {
 
 double Tour(double degres) { return std::fabs(LongitudeUnTour(degres)); }
 
-/// The worst and what 999 of 1000 stay under.
+/// What a lot of sights differs by, minutes of arc.
 struct Bilan {
   double pire = 0;
-  double millieme = 0;
+  double millieme = 0; ///< what 999 of 1000 stay under
+  double dehors = 0;   ///< part of them over 0.3'
 };
 
 Bilan BilanDe(std::vector<double> ecarts) {
   std::sort(ecarts.begin(), ecarts.end());
-  return {ecarts.back(), ecarts[ecarts.size() * 999 / 1000]};
+  const auto dedans = std::upper_bound(ecarts.begin(), ecarts.end(), 0.3) - ecarts.begin();
+  const auto nombre = static_cast<double>(ecarts.size());
+  return {ecarts.back(), ecarts[ecarts.size() * 999 / 1000], 1 - static_cast<double>(dedans) / nombre};
 }
 
 /// Many sights of a kind.
@@ -100,36 +103,34 @@ Bilan Beaucoup(GenreAstre genre, int nombre) {
   }
   const Bilan bilan = BilanDe(std::move(ecarts));
   std::cout << "  " << nombre << " sights: worst " << bilan.pire << "', 99.9 % under " << bilan.millieme
-            << "', azimuth within " << azimut << " degrees\n";
+            << "', over 0.3' " << bilan.dehors * 1000 << " of 1000, azimuth within " << azimut << " degrees\n";
   EXPECT_LT(azimut, 1.5); // near the meridian a sum of rounded figures tells the azimuth to a degree
   return bilan;
 }
 
-TEST(ViseesALaMain, ManySightsOfTheSunAgreeWithTheCheck) {
-  const Bilan b = Beaucoup(GenreAstre::Soleil, 4000);
-  EXPECT_LT(b.millieme, 0.3);
+/// The bodies of the sights, and how many of each.
+struct Lot {
+  const char *nom;
+  GenreAstre genre;
+  int nombre;
+};
+
+class ManySights : public ::testing::TestWithParam<Lot> {};
+
+TEST_P(ManySights, AgreeWithTheCheckWithinThreeTenthsOfAMile) {
+  const Bilan b = Beaucoup(GetParam().genre, GetParam().nombre);
+  EXPECT_LT(b.millieme, 0.33);
   EXPECT_LT(b.pire, 0.4);
+  EXPECT_LT(b.dehors, 0.0025);
 }
 
-TEST(ViseesALaMain, ManySightsOfTheMoonAgreeWithTheCheck) {
-  const Bilan b = Beaucoup(GenreAstre::Lune, 4000);
-  EXPECT_LT(b.millieme, 0.4);
-  EXPECT_LT(b.pire, 0.5);
-}
-
-TEST(ViseesALaMain, ManySightsOfPlanetsAgreeWithTheCheck) {
-  for (const GenreAstre genre : {GenreAstre::Venus, GenreAstre::Mars, GenreAstre::Jupiter, GenreAstre::Saturne}) {
-    const Bilan b = Beaucoup(genre, 1500);
-    EXPECT_LT(b.millieme, 0.3);
-    EXPECT_LT(b.pire, 0.4);
-  }
-}
-
-TEST(ViseesALaMain, ManySightsOfStarsAgreeWithTheCheck) {
-  const Bilan b = Beaucoup(GenreAstre::Etoile, 4000);
-  EXPECT_LT(b.millieme, 0.3);
-  EXPECT_LT(b.pire, 0.4);
-}
+INSTANTIATE_TEST_SUITE_P(ViseesALaMain, ManySights,
+                         ::testing::Values(Lot{"Soleil", GenreAstre::Soleil, 4000}, Lot{"Lune", GenreAstre::Lune, 4000},
+                                           Lot{"Venus", GenreAstre::Venus, 2000}, Lot{"Mars", GenreAstre::Mars, 2000},
+                                           Lot{"Jupiter", GenreAstre::Jupiter, 2000},
+                                           Lot{"Saturne", GenreAstre::Saturne, 2000},
+                                           Lot{"Etoiles", GenreAstre::Etoile, 4000}),
+                         [](const auto &lot) { return std::string(lot.param.nom); });
 
 TEST(ViseesALaMain, PolarisTellsTheLatitude) {
   constexpr int kPolaris = 112;
