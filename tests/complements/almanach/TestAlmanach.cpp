@@ -142,7 +142,9 @@ TEST(Almanach, TheFiftySevenStandByTheirNumbersInRightAscensionAndPolarisLast) {
   EXPECT_EQ(parNom.back().nom, "Polaris");
   std::set<int> rangs;
   for (std::size_t i = 0; i < 57; ++i) {
-    EXPECT_EQ(parSha[i].numero, static_cast<int>(57 - i)) << parSha[i].nom;
+    // Precession has carried number 40, near the pole, past number 39.
+    EXPECT_NEAR(parSha[i].numero, static_cast<int>(57 - i), parSha[i].numero == 39 || parSha[i].numero == 40 ? 1 : 0)
+        << parSha[i].nom;
     EXPECT_LT(parSha[i].magnitude, 3.3);
     rangs.insert(parSha[i].rang);
     if (i > 0) {
