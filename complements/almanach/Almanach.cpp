@@ -81,7 +81,7 @@ std::optional<Almanach> CalculeAlmanach(const DemandeAlmanach &demande, const Et
     const bool lieu = *defaut == DefautAlmanach::Latitude || *defaut == DefautAlmanach::TropDeLatitudes;
     throw Refus(lieu ? RaisonRefus::LieuImpossible : RaisonRefus::DateImpossible);
   }
-  Almanach almanach{demande, {}, {}, {}};
+  Almanach almanach{demande};
   const int nombre = NombreDeJours(demande);
   for (int i = 0; i < nombre; ++i) {
     if (arret.stop_requested()) {
@@ -94,7 +94,9 @@ std::optional<Almanach> CalculeAlmanach(const DemandeAlmanach &demande, const Et
       dit(static_cast<double>(i + 1) / (nombre + 1));
     }
   }
-  almanach.lendemain = LuneDuJour(etoiles, JourPlusTard(demande.debut, nombre), demande);
+  for (std::size_t i = 0; i < almanach.suivants.size(); ++i) {
+    almanach.suivants[i] = LuneDuJour(etoiles, JourPlusTard(demande.debut, nombre + static_cast<int>(i)), demande);
+  }
   for (std::size_t premier = 0; premier < almanach.jours.size(); premier += kJoursParPage) {
     if (arret.stop_requested()) {
       return std::nullopt;

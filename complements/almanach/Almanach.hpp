@@ -138,7 +138,7 @@ struct PeriodeAlmanach {
 struct Almanach {
   DemandeAlmanach demande{};
   std::vector<JourAlmanach> jours{};
-  std::vector<LuneHorizon> lendemain{}; ///< the Moon's rises and sets of the day after the last
+  std::array<std::vector<LuneHorizon>, 2> suivants{}; ///< the Moon's rises and sets of the two days after the last
   std::vector<PeriodeAlmanach> periodes{};
 };
 

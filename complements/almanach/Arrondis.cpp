@@ -31,7 +31,9 @@ std::string TexteDeclinaison(long dixiemes, char virgule) {
   return (dixiemes < 0 ? "S " : "N ") + std::string(n < 6000 ? "0" : "") + TexteAngle(n, virgule, 1);
 }
 
-std::string TexteHeureMinutes(long minutes) { return Rempli(minutes / 60, 2, '0') + ' ' + Rempli(minutes % 60, 2, '0'); }
+std::string TexteHeureMinutes(long minutes) {
+  return Rempli(minutes / 60, 2, '0') + ' ' + Rempli(minutes % 60, 2, '0');
+}
 
 std::string TexteEquation(double secondes) {
   const long s = std::lround(secondes);

@@ -89,8 +89,8 @@ void JoursCsv(std::string &csv, const JourAlmanach &jour) {
 
 void DateCsv(std::string &csv, const JourAlmanach &jour) {
   Rangee(csv, {"date", Jour(jour.date), TexteEquation(jour.equation0), TexteEquation(jour.equation12),
-               TexteDixiemes(ArrondiDixieme(jour.ageLune), '.'), Decimal(jour.partLune * 100, 0), Heures(jour.luneInferieur),
-               Heures(jour.belier)});
+               TexteDixiemes(ArrondiDixieme(jour.ageLune), '.'), Decimal(jour.partLune * 100, 0),
+               Heures(jour.luneInferieur), Heures(jour.belier)});
 }
 
 void PeriodesCsv(std::string &csv, const Almanach &almanach) {

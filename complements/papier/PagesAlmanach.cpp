@@ -31,9 +31,15 @@ void Ajoute(std::vector<Feuillet> &pages, std::vector<Feuillet> autres) {
   pages.insert(pages.end(), std::make_move_iterator(autres.begin()), std::make_move_iterator(autres.end()));
 }
 
-/// A line that is a heading: it begins with a figure and a point, or with two capitals.
+/// Whether a line is a step's heading: a figure and a point.
 bool EstTitre(const std::string &ligne) {
   return ligne.size() > 1 && ligne[0] >= '1' && ligne[0] <= '9' && ligne[1] == '.';
+}
+
+/// Whether a paragraph begins: with two capitals.
+bool EstDebut(const std::string &ligne) {
+  const auto capitale = [](char c) { return (c >= 'A' && c <= 'Z') || c == '\''; };
+  return ligne.size() > 1 && capitale(ligne[0]) && capitale(ligne[1]);
 }
 
 } // namespace
@@ -44,8 +50,8 @@ Feuillet PageEmploi(const CadreAlmanach &c) {
                              TexteDate(d.debut, c.mots) + ' ' + c.mots[Mot::Au] + ' ' + TexteDate(d.fin, c.mots));
   const Boite boite = BoiteDe(page);
   const auto premier = static_cast<std::size_t>(Mot::Emploi01);
-  const auto dernier = static_cast<std::size_t>(Mot::Emploi38);
-  const double interligne = std::min(boite.Hauteur() / static_cast<double>(dernier - premier + 12), 300.0);
+  const auto dernier = static_cast<std::size_t>(Mot::Emploi39);
+  const double interligne = std::min(boite.Hauteur() / static_cast<double>(dernier - premier + 14), 300.0);
   const double taille = TailleQuiTient(boite.Largeur(), 98, interligne);
   double y = boite.haut + 1.5 * interligne;
   page.Mot({boite.gauche, y}, c.mots[Mot::TitreEmploi], {.taille = taille + 2, .gras = true});
@@ -53,7 +59,7 @@ Feuillet PageEmploi(const CadreAlmanach &c) {
   for (std::size_t i = premier; i <= dernier; ++i) {
     const std::string &ligne = c.mots.textes[i];
     const bool titre = EstTitre(ligne);
-    y += (titre ? 1.5 : 1.1) * interligne;
+    y += (titre || EstDebut(ligne) ? 1.5 : 1.05) * interligne;
     page.Mot({boite.gauche, y}, ligne, {.taille = taille, .gras = titre});
   }
   return page;

@@ -42,50 +42,96 @@ struct Tranche {
   std::size_t a;
 };
 
-/// Corrections of Sun and stars for some altitudes.
-Feuillet PageSoleil(const CadreAlmanach &c, const Tranche &t) {
-  Feuillet page = PageTitree(c.format, c.mots[Mot::TitreCorrections]);
-  const Boite boite = BoiteDe(page);
+/// Corrections of Sun and stars, as all their columns share them.
+struct CorrectionsSoleil {
+  std::vector<long> demis; ///< semidiameters, tenths of a minute
+  TableSimple etoiles;
+  TableDouble inferieur;
+  TableDouble superieur;
+  double colonne = 0; ///< width of a semidiameter's column, in figures
+  double largeur = 0; ///< of all columns
+};
+
+constexpr double kNomHauteur = 6.5;
+constexpr double kColonneEtoiles = 7.5;
+constexpr double kEntreBords = 2;
+
+CorrectionsSoleil CorrectionsDe(const Almanach &almanach) {
+  constexpr double kEtroite = 5.6;
+  constexpr double kTete = 10; ///< what a limb's name needs
+  CorrectionsSoleil t;
+  t.demis = DemiDiametresSoleil(almanach);
+  t.etoiles = TableRefraction();
+  t.inferieur = TableSoleil(t.demis, false);
+  t.superieur = TableSoleil(t.demis, true);
+  const auto nombre = static_cast<double>(t.demis.size());
+  t.colonne = std::max(kEtroite, kTete / nombre);
+  t.largeur = kNomHauteur + kColonneEtoiles + 2 * (kEntreBords + nombre * t.colonne);
+  return t;
+}
+
+/// Corrections for some altitudes.
+/// @param boite  its width isn't looked at
+void PoseCorrections(Feuillet &page, const CadreAlmanach &c, const CorrectionsSoleil &t, const Tranche &tranche,
+                     const Boite &boite, double taille, double interligne) {
   const char virgule = VirguleDe(c.mots);
-  const std::vector<long> demis = DemiDiametresSoleil(c.almanach);
-  const TableSimple etoiles = TableRefraction();
-  const TableDouble inferieur = TableSoleil(demis, false);
-  const TableDouble superieur = TableSoleil(demis, true);
-  const auto colonnes = static_cast<double>(demis.size());
-  constexpr double kNom = 7;
-  constexpr double kColonne = 6.5;
-  const double interligne = std::min(boite.Hauteur() / 70, 230.0);
-  const double taille = TailleQuiTient(boite.Largeur(), kNom + 8 + 2 * (colonnes * kColonne + 4), interligne);
-  std::vector<Colonne> places = ColonnesDroites(boite.gauche, taille, {kNom, 8});
-  for (int limbe = 0; limbe < 2; ++limbe) {
-    const double gauche = places.back().x + LargeurChiffres(taille, 4);
-    const std::vector<Colonne> suite = ColonnesDroites(gauche, taille, std::vector<double>(demis.size(), kColonne));
-    page.Mot({gauche + LargeurChiffres(taille, 1.5), boite.haut + 2 * interligne},
-             c.mots[limbe == 0 ? Mot::BordInferieur : Mot::BordSuperieur], {.taille = taille, .gras = true});
-    places.insert(places.end(), suite.begin(), suite.end());
-  }
+  std::vector<Colonne> places = ColonnesDroites(boite.gauche, taille, {kNomHauteur, kColonneEtoiles});
   std::vector<std::string> tetes{c.mots[Mot::HauteurApparente], c.mots[Mot::EtoilesPlanetes]};
-  for (int limbe = 0; limbe < 2; ++limbe) {
-    const std::vector<std::string> textes = Dixiemes(demis, virgule);
-    tetes.insert(tetes.end(), textes.begin(), textes.end());
+  const std::vector<std::string> demis = Dixiemes(t.demis, virgule);
+  const double haut = boite.haut + 1.2 * interligne;
+  page.Mot({places.back().x + LargeurChiffres(taille, kEntreBords + 1), haut}, c.mots[Mot::SoleilDemiDiametre],
+           {.taille = taille, .gras = true});
+  for (const Mot bord : {Mot::BordInferieur, Mot::BordSuperieur}) {
+    const double gauche = places.back().x + LargeurChiffres(taille, kEntreBords);
+    const std::vector<Colonne> suite = ColonnesDroites(gauche, taille, std::vector<double>(demis.size(), t.colonne));
+    page.Mot({gauche + LargeurChiffres(taille, 1), haut + 1.1 * interligne}, c.mots[bord],
+             {.taille = taille, .gras = true});
+    places.insert(places.end(), suite.begin(), suite.end());
+    tetes.insert(tetes.end(), demis.begin(), demis.end());
   }
-  double y = boite.haut + 3.1 * interligne;
+  double y = haut + 2.2 * interligne;
   PoseRangee(page, y, places, tetes, {.taille = taille, .gras = true});
   page.Trait({boite.gauche, y + 0.3 * interligne}, {places.back().x, y + 0.3 * interligne}, {0.25, 0.65});
   y += 0.3 * interligne;
-  for (std::size_t i = t.de; i < t.a; ++i) {
-    y += (i > t.de && (i - t.de) % 6 == 0 ? 1.35 : 1) * interligne;
-    std::vector<std::string> textes{TexteDixiemes(-etoiles.y[i], virgule)};
-    for (const TableDouble *table : {&inferieur, &superieur}) {
+  for (std::size_t i = tranche.de; i < tranche.a; ++i) {
+    y += (i > tranche.de && (i - tranche.de) % 6 == 0 ? 1.35 : 1) * interligne;
+    std::vector<std::string> textes{TexteDixiemes(-t.etoiles.y[i], virgule)};
+    for (const TableDouble *table : {&t.inferieur, &t.superieur}) {
       const std::vector<std::string> autres = Dixiemes(table->z[i], virgule);
       textes.insert(textes.end(), autres.begin(), autres.end());
     }
-    PoseRangee(page, y, {places.front()}, {TexteDegresMinutes(etoiles.x[i])}, {.taille = taille, .gras = true});
+    PoseRangee(page, y, {places.front()}, {TexteDegresMinutes(t.etoiles.x[i])}, {.taille = taille, .gras = true});
     PoseRangee(page, y, {places.begin() + 1, places.end()}, textes, {.taille = taille});
   }
-  page.Mot({boite.gauche, boite.haut + 0.9 * interligne}, c.mots[Mot::NoteCorrections] + ' ' + c.mots[Mot::NoteAir],
-           {.taille = std::min(taille, kNote), .italique = true});
-  return page;
+}
+
+/// Low altitudes left and high ones right, on a page each where the semidiameters are many.
+std::vector<Feuillet> PagesSoleil(const CadreAlmanach &c) {
+  constexpr std::size_t kBasses = 61; ///< altitudes up to 10 degrees
+  constexpr std::size_t kEnsemble = 4;
+  const CorrectionsSoleil t = CorrectionsDe(c.almanach);
+  const std::size_t toutes = t.etoiles.x.size();
+  const bool ensemble = t.demis.size() < kEnsemble;
+  std::vector<Feuillet> pages;
+  for (const Tranche &tranche : {Tranche{0, kBasses}, Tranche{kBasses - 1, toutes}}) {
+    const bool suite = ensemble && !pages.empty();
+    if (!suite) {
+      pages.push_back(PageTitree(c.format, c.mots[Mot::TitreCorrections]));
+    }
+    Feuillet &page = pages.back();
+    Boite boite = BoiteDe(page);
+    const double interligne = boite.Hauteur() / 77;
+    const double chiffres = ensemble ? 2 * t.largeur + 8 : t.largeur;
+    const double taille = TailleQuiTient(boite.Largeur(), chiffres, interligne);
+    boite.gauche += suite ? LargeurChiffres(taille, t.largeur + 8) : 0;
+    PoseCorrections(page, c, t, tranche, boite, taille, interligne);
+    if (!suite) {
+      page.Mot({boite.gauche, boite.bas - 1.3 * interligne}, c.mots[Mot::NoteCorrections],
+               {.taille = kNote, .italique = true});
+      page.Mot({boite.gauche, boite.bas - 0.1 * interligne}, c.mots[Mot::NoteAir], {.taille = kNote, .italique = true});
+    }
+  }
+  return pages;
 }
 
 /// A simple table in columns side by side.
@@ -110,65 +156,62 @@ double PoseListe(Feuillet &page, double gauche, double haut, double taille, doub
   return static_cast<double>(nombre) * LargeurChiffres(taille, 2 * kLargeur + 3);
 }
 
-Feuillet PageDepression(const CadreAlmanach &c) {
-  constexpr std::size_t kLignes = 45;
-  Feuillet page = PageTitree(c.format, c.mots[Mot::TitreDepression]);
-  const Boite boite = BoiteDe(page);
+/// Parallax of planets and what another air changes.
+void PoseAir(Feuillet &page, const CadreAlmanach &c, double gauche, double haut, double taille, double interligne) {
+  constexpr double kColonne = 4.7;
   const char virgule = VirguleDe(c.mots);
-  const double interligne = boite.Hauteur() / 76;
-  const double taille = TailleQuiTient(boite.Largeur(), 105, interligne);
-  double y = boite.haut + 1.2 * interligne;
-  page.Mot({boite.gauche, y}, c.mots[Mot::Depression], {.taille = taille + 1, .gras = true});
-  page.Mot({boite.gauche + LargeurChiffres(taille, 16), y}, c.mots[Mot::NoteDepression],
-           {.taille = taille, .italique = true});
-  y += 1.5 * interligne;
-  const TableSimple metres = TableDepression();
-  const TableSimple pieds = TableDepressionPieds();
-  const double large = PoseListe(page, boite.gauche, y, taille, interligne, Courts(metres.x, virgule),
-                                 Dixiemes(metres.y, virgule), "'", c.mots[Mot::Metres], kLignes);
-  const double suite = boite.gauche + large + LargeurChiffres(taille, 3);
-  const double pris = PoseListe(page, suite, y, taille, interligne, Courts(pieds.x, virgule),
-                                Dixiemes(pieds.y, virgule), "'", c.mots[Mot::Pieds], kLignes);
   const TableDouble parallaxe = TableParallaxe();
-  TableauPose tableau{c.mots[Mot::Hp], {}, {}, TextesDixiemes(parallaxe.z, virgule)};
+  TableauPose tableau{c.mots[Mot::ParallaxePlanetes], {}, {}, TextesDixiemes(parallaxe.z, virgule), 5, kColonne};
   for (const double hp : parallaxe.y) {
     tableau.colonnes.push_back(TexteDixiemes(std::lround(hp), virgule));
   }
   for (const double h : parallaxe.x) {
     tableau.rangees.push_back(TexteCourt(h, virgule) + "°");
   }
-  PoseTableau(page, suite + pris + LargeurChiffres(taille, 2), y - 1.15 * interligne, taille, interligne, tableau);
-  y += 58 * interligne;
-  page.Mot({boite.gauche, y}, c.mots[Mot::ParallaxePlanetes], {.taille = taille, .gras = true});
-  return page;
-}
-
-Feuillet PageAir(const CadreAlmanach &c) {
-  Feuillet page = PageTitree(c.format, c.mots[Mot::TitreCorrections]);
-  const Boite boite = BoiteDe(page);
-  const char virgule = VirguleDe(c.mots);
-  const double interligne = boite.Hauteur() / 62;
-  const double taille = TailleQuiTient(boite.Largeur(), 105, interligne);
+  double y = PoseTableau(page, gauche, haut, taille, interligne, tableau) + interligne;
   const TableDouble air = TableAir();
-  TableauPose tableau{c.mots[Mot::AirPourCent], {}, {}, {}};
-  tableau.chiffres = 7;
-  tableau.colonnes = Courts(air.y, virgule);
-  tableau.rangees = Courts(air.x, virgule);
+  TableauPose pourCent{c.mots[Mot::AirPourCent], Courts(air.y, virgule), Courts(air.x, virgule), {}, 5, kColonne};
   for (const std::vector<long> &rangee : air.z) {
-    tableau.cellules.emplace_back();
+    pourCent.cellules.emplace_back();
     for (const long n : rangee) {
-      tableau.cellules.back().push_back((n > 0 ? "+" : "") + std::to_string(n));
+      pourCent.cellules.back().push_back((n > 0 ? "+" : "") + std::to_string(n));
     }
   }
-  const double y = PoseTableau(page, boite.gauche, boite.haut, taille, interligne, tableau);
+  y = PoseTableau(page, gauche, y, taille, interligne, pourCent) + interligne;
   const TableDouble correction = TableCorrectionAir();
-  TableauPose suite{c.mots[Mot::AirCorrection], Courts(correction.y, virgule), Courts(correction.x, virgule),
-                    TextesDixiemes(correction.z, virgule)};
-  suite.chiffres = 7;
-  for (std::string &pourCent : suite.colonnes) {
-    pourCent = "+" + pourCent;
+  TableauPose suite{c.mots[Mot::AirCorrection],
+                    Courts(correction.y, virgule),
+                    Courts(correction.x, virgule),
+                    TextesDixiemes(correction.z, virgule),
+                    5,
+                    kColonne};
+  for (std::string &nom : suite.colonnes) {
+    nom = "+" + nom;
   }
-  PoseTableau(page, boite.gauche, y + interligne, taille, interligne, suite);
+  y = PoseTableau(page, gauche, y, taille, interligne, suite);
+  page.Mot({gauche, y + 0.5 * interligne}, c.mots[Mot::NoteAirNegatif], {.taille = kNote, .italique = true});
+}
+
+Feuillet PageDepression(const CadreAlmanach &c) {
+  constexpr std::size_t kLignes = 45;
+  Feuillet page = PageTitree(c.format, c.mots[Mot::TitreDepression]);
+  const Boite boite = BoiteDe(page);
+  const char virgule = VirguleDe(c.mots);
+  const double interligne = boite.Hauteur() / 76;
+  const double taille = TailleQuiTient(boite.Largeur(), 118, interligne);
+  double y = boite.haut + interligne;
+  page.Mot({boite.gauche, y}, c.mots[Mot::Depression], {.taille = taille + 0.5, .gras = true});
+  page.Mot({boite.gauche + LargeurChiffres(taille, 12), y}, c.mots[Mot::NoteDepression],
+           {.taille = taille, .italique = true});
+  y += 1.5 * interligne;
+  const TableSimple metres = TableDepression();
+  const TableSimple pieds = TableDepressionPieds();
+  const double large = PoseListe(page, boite.gauche, y, taille, interligne, Courts(metres.x, virgule),
+                                 Dixiemes(metres.y, virgule), "'", c.mots[Mot::Metres], kLignes);
+  const double suite = boite.gauche + large;
+  const double pris = PoseListe(page, suite, y, taille, interligne, Courts(pieds.x, virgule),
+                                Dixiemes(pieds.y, virgule), "'", c.mots[Mot::Pieds], kLignes);
+  PoseAir(page, c, suite + pris + LargeurChiffres(taille, 1), boite.haut, taille, interligne);
   return page;
 }
 
@@ -189,8 +232,12 @@ double PoseLunePremiere(Feuillet &page, const CadreAlmanach &c, const Boite &boi
     const bool degre = i % kParDegre == 0;
     const std::string nom = degre ? TexteCourt(lune.x[i], virgule) + "°" : std::to_string(i % kParDegre * 10);
     page.Mot({x + LargeurChiffres(taille, 2.9), y}, nom, {.taille = taille, .gras = degre, .ancrage = Ancrage::Droite});
-    page.Mot({x + pas * 0.93, y}, TexteDixiemes(lune.y[i], virgule), {.taille = taille, .ancrage = Ancrage::Droite});
+    page.Mot({x + pas * 0.9, y}, TexteDixiemes(lune.y[i], virgule), {.taille = taille, .ancrage = Ancrage::Droite});
     fin = std::max(fin, y);
+  }
+  for (int k = 1; k < 18; ++k) {
+    const double x = boite.gauche + (k - 0.02) * pas;
+    page.Trait({x, boite.haut + 1.5 * interligne}, {x, fin + 0.3 * interligne}, {0.25, 0.65});
   }
   return fin + 1.5 * interligne;
 }
@@ -199,7 +246,7 @@ Feuillet PageLunePremiere(const CadreAlmanach &c) {
   Feuillet page = PageTitree(c.format, c.mots[Mot::TitreLune]);
   const Boite boite = BoiteDe(page);
   const char virgule = VirguleDe(c.mots);
-  const double interligne = boite.Hauteur() / 66;
+  const double interligne = boite.Hauteur() / 59;
   const double taille = TailleQuiTient(boite.Largeur(), 145, interligne);
   double y = PoseLunePremiere(page, c, boite, taille, interligne);
   page.Mot({boite.gauche, y += interligne}, c.mots[Mot::FormeTerre], {.taille = taille, .gras = true});
@@ -264,9 +311,9 @@ std::vector<long> DistancesPolaire(const Almanach &almanach) {
 }
 
 std::vector<Feuillet> PagesCorrections(const CadreAlmanach &c) {
-  constexpr std::size_t kBasses = 61; ///< altitudes up to 10 degrees
-  const std::size_t toutes = HauteursRefraction().size();
-  return {PageSoleil(c, {0, kBasses}), PageSoleil(c, {kBasses - 1, toutes}), PageDepression(c), PageAir(c)};
+  std::vector<Feuillet> pages = PagesSoleil(c);
+  pages.push_back(PageDepression(c));
+  return pages;
 }
 
 std::vector<Feuillet> PagesLune(const CadreAlmanach &c) { return {PageLunePremiere(c), PageLuneSeconde(c)}; }

@@ -19,7 +19,7 @@ constexpr Encre kFilet{0.25, 0.65};
 
 /// Where the columns of a minute stand: seconds, three increments, then v or d and its correction thrice.
 std::vector<Colonne> ColonnesMinute(double gauche, double taille) {
-  return ColonnesDroites(gauche, taille, {2.2, 6.4, 6.4, 6.4, 5.2, 3.9, 5.0, 3.9, 5.0, 3.9});
+  return ColonnesDroites(gauche, taille, {2.2, 7.1, 7.1, 7.1, 5.4, 3.8, 4.8, 3.8, 4.8, 3.8});
 }
 
 double LigneDe(int rang) { return rang + kJeu * (rang / kGroupe); }
@@ -59,22 +59,23 @@ void PoseMinute(Feuillet &page, const CadreAlmanach &c, int minute, const Boite 
 
 std::vector<Feuillet> PagesIncrements(const CadreAlmanach &c) {
   constexpr int kMinutes = 60;
-  constexpr double kChiffres = 152; ///< three minutes and what is between them
+  constexpr double kChiffres = 154; ///< three minutes and what is between them
   std::vector<Feuillet> pages;
   for (int premiere = 0; premiere < kMinutes; premiere += kParPage) {
     Feuillet page = PageTitree(c.format, c.mots[Mot::TitreIncrements],
                                std::to_string(premiere) + " - " + std::to_string(premiere + kParPage - 1) + " min");
     Boite boite = BoiteDe(page);
-    const double interligne = boite.Hauteur() / (LigneDe(kLignes) + 6);
+    const double interligne = boite.Hauteur() / (LigneDe(kLignes) + 7);
     const double taille = TailleQuiTient(boite.Largeur(), kChiffres, interligne);
-    page.Mot({boite.gauche, boite.bas - 0.2 * interligne}, c.mots[Mot::NoteIncrements],
-             {.taille = 7, .italique = true});
+    const Graphie note{.taille = 7, .italique = true};
+    page.Mot({boite.gauche, boite.bas - 1.1 * interligne}, c.mots[Mot::NoteIncrements], note);
+    page.Mot({boite.gauche, boite.bas - 0.2 * interligne}, c.mots[Mot::NoteIncrements2], note);
     const double pas = boite.Largeur() / kParPage;
     for (int k = 0; k < kParPage; ++k) {
       PoseMinute(page, c, premiere + k, boite, taille, interligne);
       if (k > 0) {
         const double x = boite.gauche - 0.02 * pas;
-        page.Trait({x, boite.haut}, {x, boite.bas - 1.4 * interligne}, kFilet);
+        page.Trait({x, boite.haut}, {x, boite.bas - 2.3 * interligne}, kFilet);
       }
       boite.gauche += pas;
     }

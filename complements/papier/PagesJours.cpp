@@ -39,7 +39,7 @@ std::string DateLongue(const CadreAlmanach &c, const DateCivile &date) {
 
 /// The date with its day of the week.
 std::string JourDit(const CadreAlmanach &c, const DateCivile &date) {
-  constexpr double kUnLundi = 2451547.5; // 3 January 2000
+  constexpr double kUnLundi = 2451546.5; // 3 January 2000
   const auto jours = static_cast<long>(std::floor(UTCDe({date.annee, date.mois, date.jour}).jour - kUnLundi));
   const auto rang = static_cast<std::size_t>((jours % 7 + 7) % 7);
   return c.mots.textes[static_cast<std::size_t>(Mot::Lundi) + rang] + ' ' + DateLongue(c, date);
@@ -238,53 +238,80 @@ double PoseCrepuscules(Feuillet &page, const CadreAlmanach &c, const PeriodeAlma
   return y + b.interligne;
 }
 
-/// How much later the next day's event is, minutes; nothing where there is none on one of the two days.
-std::string Ecart(const HeuresHorizon &jour, const HeuresHorizon &lendemain) {
+/// How much later than a day after this event the next one is, minutes; nothing where there is none within two days.
+/// @param surlendemain  of the day after the next, which counts where the next has none
+std::string Ecart(const HeuresHorizon &jour, const HeuresHorizon &lendemain, const HeuresHorizon &surlendemain) {
   constexpr long kJour = 1440;
-  if (jour.heures.empty() || lendemain.heures.empty()) {
+  if (jour.heures.empty()) {
     return "";
   }
-  const long minutes = MinutesDe(lendemain.heures.front()) - MinutesDe(jour.heures.front());
-  // Over half a day another event comes first on one of the two days: the one between is a day later or earlier.
-  const long ecart = minutes > kJour / 2 ? minutes - kJour : minutes < -kJour / 2 ? minutes + kJour : minutes;
+  long suivant = 0; // minutes from the beginning of the next day
+  if (jour.heures.size() > 1) {
+    suivant = MinutesDe(jour.heures[1]) - kJour;
+  } else if (!lendemain.heures.empty()) {
+    suivant = MinutesDe(lendemain.heures.front());
+  } else if (lendemain.absence == RaisonAbsence::AutreJour && !surlendemain.heures.empty()) {
+    suivant = MinutesDe(surlendemain.heures.front()) + kJour;
+  } else {
+    return "";
+  }
+  const long ecart = suivant - MinutesDe(jour.heures.front());
   return (ecart < 0 ? "" : "+") + std::to_string(ecart);
 }
 
-double PoseLevers(Feuillet &page, const CadreAlmanach &c, const PeriodeAlmanach &p, const Bloc &b, double y) {
-  const char virgule = VirguleDe(c.mots);
+/// The Moon's rises and sets of a day of a page, or of one of the two days after the last.
+const LuneHorizon &LuneDe(const Almanach &almanach, std::size_t jour, std::size_t latitude) {
+  const std::size_t nombre = almanach.jours.size();
+  return jour < nombre ? almanach.jours[jour].lune[latitude] : almanach.suivants[jour - nombre][latitude];
+}
+
+/// Heads of the Moon's columns: rise and set above, the days below.
+double PoseTetesLune(Feuillet &page, const CadreAlmanach &c, const PeriodeAlmanach &p, const Bloc &b,
+                     const std::vector<Colonne> &colonnes, double y) {
   const Graphie gras{.taille = b.taille, .gras = true};
   page.Mot({b.gauche, y += b.interligne}, c.mots[Mot::LeverCoucherLune], gras);
+  y += 1.2 * b.interligne;
+  const double pas = (b.droite - colonnes.front().x) / 2;
+  PoseRangee(page, y, {{colonnes.front().x + pas / 2, Ancrage::Milieu}, {b.droite - pas / 2, Ancrage::Milieu}},
+             {c.mots[Mot::Lever], c.mots[Mot::Coucher]}, gras);
+  std::vector<std::string> tetes{c.mots[Mot::Latitude]};
+  for (std::size_t i = 0; i < 6; ++i) {
+    const std::size_t j = i % 3;
+    tetes.insert(tetes.end(), {j < p.nombre ? std::to_string(c.almanach.jours[p.premier + j].date.jour) : "", ""});
+  }
+  PoseRangee(page, y += b.interligne, colonnes, tetes, gras);
+  page.Trait({b.gauche, y + 0.3 * b.interligne}, {b.droite, y + 0.3 * b.interligne}, kFilet);
+  return y + 0.3 * b.interligne;
+}
+
+double PoseLevers(Feuillet &page, const CadreAlmanach &c, const PeriodeAlmanach &p, const Bloc &b, double y) {
+  constexpr double kPetit = 0.9; ///< of the size, in which differences stand
+  const char virgule = VirguleDe(c.mots);
   std::vector<Colonne> colonnes{{b.gauche + LargeurChiffres(b.taille, 4.8)}};
   const double pas = (b.droite - colonnes.front().x) / 6;
-  std::vector<std::string> tetes;
   for (std::size_t i = 0; i < 6; ++i) {
     const double gauche = colonnes.front().x + pas * static_cast<double>(i);
-    colonnes.push_back({gauche + 0.62 * pas});
+    colonnes.push_back({gauche + 0.58 * pas});
     colonnes.push_back({gauche + pas});
-    const std::size_t j = i % 3;
-    const std::string jour = j < p.nombre ? std::to_string(c.almanach.jours[p.premier + j].date.jour) : "";
-    tetes.insert(tetes.end(), {jour.empty() ? "" : c.mots[i < 3 ? Mot::Lever : Mot::Coucher] + ' ' + jour, ""});
   }
-  y += 1.2 * b.interligne;
-  PoseRangee(page, y, {colonnes.front()}, {c.mots[Mot::Latitude]}, gras);
-  PoseRangee(page, y, {colonnes.begin() + 1, colonnes.end()}, tetes, gras);
-  page.Trait({b.gauche, y + 0.3 * b.interligne}, {b.droite, y + 0.3 * b.interligne}, kFilet);
-  y += 0.3 * b.interligne;
-  const auto lune = [&](std::size_t j, std::size_t i) -> const LuneHorizon & {
-    const std::size_t k = p.premier + j;
-    return k < c.almanach.jours.size() ? c.almanach.jours[k].lune[i] : c.almanach.lendemain[i];
-  };
+  y = PoseTetesLune(page, c, p, b, colonnes, y);
   for (std::size_t i = 0; i < c.almanach.demande.latitudes.size(); ++i) {
-    std::vector<std::string> textes(12);
-    for (std::size_t j = 0; j < p.nombre; ++j) {
-      textes[2 * j] = HeureOuSigne(c, lune(j, i).lever);
-      textes[2 * j + 1] = Ecart(lune(j, i).lever, lune(j + 1, i).lever);
-      textes[2 * j + 6] = HeureOuSigne(c, lune(j, i).coucher);
-      textes[2 * j + 7] = Ecart(lune(j, i).coucher, lune(j + 1, i).coucher);
-    }
+    std::vector<std::string> heures(colonnes.size());
+    std::vector<std::string> ecarts(colonnes.size());
+    heures[0] = TexteLatitudeAlmanach(c.almanach.demande.latitudes[i], virgule);
     y += (i > 0 && i % 5 == 0 ? 1 + kJeu : 1) * b.interligne;
-    PoseRangee(page, y, colonnes, {TexteLatitudeAlmanach(c.almanach.demande.latitudes[i], virgule)}, gras);
-    PoseRangee(page, y, {colonnes.begin() + 1, colonnes.end()}, textes, {.taille = b.taille});
+    PoseRangee(page, y, colonnes, heures, {.taille = b.taille, .gras = true});
+    heures[0].clear();
+    for (std::size_t j = 0; j < p.nombre; ++j) {
+      const std::size_t k = p.premier + j;
+      const auto lune = [&](std::size_t apres) -> const LuneHorizon & { return LuneDe(c.almanach, k + apres, i); };
+      heures[2 * j + 1] = HeureOuSigne(c, lune(0).lever);
+      ecarts[2 * j + 2] = Ecart(lune(0).lever, lune(1).lever, lune(2).lever);
+      heures[2 * j + 7] = HeureOuSigne(c, lune(0).coucher);
+      ecarts[2 * j + 8] = Ecart(lune(0).coucher, lune(1).coucher, lune(2).coucher);
+    }
+    PoseRangee(page, y, colonnes, heures, {.taille = b.taille});
+    PoseRangee(page, y, colonnes, ecarts, {.taille = kPetit * b.taille});
   }
   return y + b.interligne;
 }
@@ -295,14 +322,14 @@ double PoseJournees(Feuillet &page, const CadreAlmanach &c, const PeriodeAlmanac
   const Graphie gras{.taille = b.taille, .gras = true};
   std::vector<Colonne> colonnes;
   const double largeur = b.droite - b.gauche;
-  for (const double part : {0.05, 0.18, 0.31, 0.43, 0.56, 0.68, 0.79, 0.90, 1.0}) {
+  for (const double part : {0.05, 0.16, 0.275, 0.43, 0.54, 0.645, 0.73, 0.87, 1.0}) {
     colonnes.push_back({b.gauche + part * largeur});
   }
   PoseRangee(page, y += b.interligne,
-             {{b.gauche + 0.185 * largeur, Ancrage::Milieu},
-              {b.gauche + 0.38 * largeur, Ancrage::Milieu},
-              {b.gauche + 0.62 * largeur, Ancrage::Milieu},
-              {b.gauche + 0.9 * largeur, Ancrage::Milieu}},
+             {{b.gauche + 0.165 * largeur, Ancrage::Milieu},
+              {b.gauche + 0.385 * largeur, Ancrage::Milieu},
+              {b.gauche + 0.575 * largeur, Ancrage::Milieu},
+              {b.gauche + 0.85 * largeur, Ancrage::Milieu}},
              {c.mots[Mot::EquationTemps], c.mots[Mot::Soleil], c.mots[Mot::Lune] + ", " + c.mots[Mot::Passage],
               c.mots[Mot::Lune]},
              gras);
@@ -368,11 +395,11 @@ Feuillet PageSoleilLune(const CadreAlmanach &c, const PeriodeAlmanach &p) {
   const auto pied = [&](const JourAlmanach &jour) {
     const AstreAlmanach &soleil = jour.astres[kSoleilAlmanach];
     return std::vector<std::string>{Taux(c.mots[Mot::V], soleil.v, true, virgule),
-                                    Taux(c.mots[Mot::D], soleil.d, false, virgule),
+                                    Taux(c.mots[Mot::D], soleil.d, false, virgule), "",
                                     Taux(c.mots[Mot::DemiDiametre], soleil.demiDiametre, false, virgule)};
   };
   PoseHeures(page, r, c, p, colonnes, rangee, pied);
-  const Bloc bloc{colonnes.back().x + LargeurChiffres(r.taille, 2.5), r.boite.droite, r.taille, r.interligne};
+  const Bloc bloc{colonnes.back().x + LargeurChiffres(r.taille, 2.5), r.boite.droite, r.taille, 1.13 * r.interligne};
   PoseHorizons(page, c, p, bloc, r.boite.haut);
   return page;
 }

@@ -90,54 +90,57 @@ std::vector<std::string> Entiers(const std::vector<double> &valeurs, const std::
   return textes;
 }
 
-Feuillet PagePolairePremiere(const CadreAlmanach &c) {
+constexpr double kColonneDistance = 6;
+constexpr double kNomAngle = 5;
+
+/// The part that goes by the distance from the pole: three columns of sixty degrees.
+/// @return how wide it is
+double PosePolairePremiere(Feuillet &page, const CadreAlmanach &c, const std::vector<long> &distances,
+                           const Boite &boite, double taille, double interligne) {
   constexpr std::size_t kLignes = 61;
-  Feuillet page = PageTitree(c.format, c.mots[Mot::TitrePolaire]);
-  const Boite boite = BoiteDe(page);
   const char virgule = VirguleDe(c.mots);
-  const std::vector<long> distances = DistancesPolaire(c.almanach);
   const TableDouble table = TablePolaire(distances);
-  const double interligne = boite.Hauteur() / 73;
-  const double chiffres = 5 + 6 * static_cast<double>(distances.size());
-  const double taille = TailleQuiTient(boite.Largeur(), 3 * chiffres + 8, interligne);
-  page.Mot({boite.gauche, boite.haut + interligne}, c.mots[Mot::PolairePremiere], {.taille = taille, .gras = true});
+  const double pas = LargeurChiffres(taille, kNomAngle + kColonneDistance * static_cast<double>(distances.size()) + 3);
   for (std::size_t k = 0; k < 3; ++k) {
-    const double gauche = boite.gauche + static_cast<double>(k) * LargeurChiffres(taille, chiffres + 4);
     TableauPose tableau;
     for (const long distance : distances) {
       tableau.colonnes.push_back(TexteDixiemes(distance, virgule) + "'");
     }
-    tableau.chiffres = 6;
+    tableau.chiffresNom = kNomAngle;
+    tableau.chiffres = kColonneDistance;
     for (std::size_t i = k * (kLignes - 1); i < k * (kLignes - 1) + kLignes; ++i) {
       tableau.rangees.push_back(std::to_string(i) + "°");
       tableau.cellules.push_back(TextesDixiemes({table.z[i]}, virgule).front());
     }
-    PoseTableau(page, gauche, boite.haut + 1.2 * interligne, taille, interligne * 0.94, tableau);
+    PoseTableau(page, boite.gauche + static_cast<double>(k) * pas, boite.haut + 2.2 * interligne, taille, interligne,
+                tableau);
   }
-  return page;
+  return 3 * pas;
 }
 
-Feuillet PagePolaireSeconde(const CadreAlmanach &c) {
-  Feuillet page = PageTitree(c.format, c.mots[Mot::TitrePolaire]);
-  const Boite boite = BoiteDe(page);
-  const char virgule = VirguleDe(c.mots);
-  const std::vector<long> distances = DistancesPolaire(c.almanach);
+/// The part that goes by the altitude, the azimuth, and how both are used.
+void PosePolaireSeconde(Feuillet &page, const CadreAlmanach &c, const std::vector<long> &distances, const Boite &boite,
+                        double taille, double interligne) {
   constexpr double kDixiemes = 10;
+  const char virgule = VirguleDe(c.mots);
   const double distance = static_cast<double>(distances[distances.size() / 2]) / kDixiemes;
-  const double interligne = boite.Hauteur() / 64;
-  const double taille = TailleQuiTient(boite.Largeur(), 100, interligne);
-  double y = boite.haut;
+  double y = boite.haut + 2.2 * interligne;
   const auto pose = [&](const std::string &titre, const TableDouble &table) {
     TableauPose tableau{titre, Entiers(table.y, "°"), Entiers(table.x, "°"), TextesDixiemes(table.z, virgule)};
-    tableau.chiffres = 7;
     y = PoseTableau(page, boite.gauche, y, taille, interligne, tableau) + interligne;
   };
   pose(c.mots[Mot::PolaireSeconde], TablePolaireHauteur());
   pose(c.mots[Mot::PolaireAzimut], TablePolaireAzimut(distance));
+}
+
+void PoseNotesPolaire(Feuillet &page, const CadreAlmanach &c) {
+  constexpr double kNote = 7.5;
+  constexpr double kInterligne = 190;
+  const Boite boite = BoiteDe(page);
+  double y = boite.bas - 3.3 * kInterligne;
   for (const Mot mot : {Mot::NotePolaire1, Mot::NotePolaire2, Mot::NotePolaire3}) {
-    page.Mot({boite.gauche, y += interligne * 1.2}, c.mots[mot], {.taille = std::min(taille, 8.0), .italique = true});
+    page.Mot({boite.gauche, y += kInterligne}, c.mots[mot], {.taille = kNote, .italique = true});
   }
-  return page;
 }
 
 } // namespace
@@ -147,6 +150,27 @@ std::vector<Feuillet> PagesTriangle(const CadreAlmanach &c) {
   return {PageHaversines(c, table, 0, 90), PageHaversines(c, table, 90, 180), PageCosinus(c)};
 }
 
-std::vector<Feuillet> PagesPolaire(const CadreAlmanach &c) { return {PagePolairePremiere(c), PagePolaireSeconde(c)}; }
+std::vector<Feuillet> PagesPolaire(const CadreAlmanach &c) {
+  constexpr std::size_t kEnsemble = 3; ///< so many distances leave no room for the second part beside the first
+  const std::vector<long> distances = DistancesPolaire(c.almanach);
+  const bool ensemble = distances.size() < kEnsemble;
+  std::vector<Feuillet> pages{PageTitree(c.format, c.mots[Mot::TitrePolaire])};
+  Boite boite = BoiteDe(pages.back());
+  const double interligne = boite.Hauteur() / 82;
+  const double premiere = 3 * (kNomAngle + kColonneDistance * static_cast<double>(distances.size()) + 3);
+  const double taille = TailleQuiTient(boite.Largeur(), ensemble ? 118 : premiere, interligne);
+  pages.back().Mot({boite.gauche, boite.haut + interligne}, c.mots[Mot::PolairePremiere],
+                   {.taille = taille, .gras = true});
+  const double largeur = PosePolairePremiere(pages.back(), c, distances, boite, taille, interligne);
+  if (ensemble) {
+    boite.gauche += largeur + LargeurChiffres(taille, 3);
+  } else {
+    pages.push_back(PageTitree(c.format, c.mots[Mot::TitrePolaire]));
+  }
+  PosePolaireSeconde(pages.back(), c, distances, boite,
+                     ensemble ? taille : TailleQuiTient(boite.Largeur(), 100, interligne), interligne);
+  PoseNotesPolaire(pages.back(), c);
+  return pages;
+}
 
 } // namespace velmaris
