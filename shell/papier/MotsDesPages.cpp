@@ -25,6 +25,11 @@ DateCivile JourPresent(const Bureau &bureau) {
 
 MotsAlmanach MotsDeLAlmanach(const Bureau &bureau) { return {Legendes(bureau.termesAlmanach.MotAlmanach)}; }
 
+char VirguleDesPages(const Bureau &bureau) {
+  const std::string &virgule = MotsDeLAlmanach(bureau)[MotAlmanach::Virgule];
+  return virgule.empty() ? '.' : virgule.front();
+}
+
 MotsFiche MotsDeLaFiche(const Bureau &bureau) {
   const MotsPapier &m = bureau.motsPapier;
   return {.titre = m.TexteFiche.legende,

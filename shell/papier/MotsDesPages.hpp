@@ -18,6 +18,9 @@ MotsJour MotsDuJour(const Bureau &bureau, const std::string &date);
 MotsCanevas MotsDuCanevas(const Bureau &bureau);
 /// @}
 
+/// The sign before decimals on printed pages.
+char VirguleDesPages(const Bureau &bureau);
+
 /// The day on which pages are made, from the clock's date.
 DateCivile JourPresent(const Bureau &bureau);
 

@@ -136,6 +136,9 @@ void RefaitPages(Bureau &bureau) {
   default:
     return;
   }
+  for (Feuillet &page : faites.pages) {
+    PoseVirgule(page, VirguleDesPages(bureau));
+  }
   PagesOuvertes &vues = PagesVues(bureau);
   vues.rang = std::min(vues.rang, faites.pages.empty() ? 0 : faites.pages.size() - 1);
   vues.pages = std::make_shared<const Feuillets>(std::move(faites.pages));

@@ -234,7 +234,7 @@ TEST_F(PagesAImprimer, ABlankSheetTakesLatitudesUnderEightyFour) {
   SaisitTexte(bureau, p.Text3[0], "47 10 S");
   SaisitTexte(bureau, p.Text3[1], "120");
   Accorde();
-  EXPECT_THAT(MotsVus(), HasSubstr("47° 10.0' S"));
+  EXPECT_THAT(MotsVus(), HasSubstr("47° 10,0' S"));
   SaisitTexte(bureau, p.Text3[0], "85 N");
   Accorde();
   EXPECT_THAT(p.LabAvis.legende, HasSubstr("84 au plus"));
