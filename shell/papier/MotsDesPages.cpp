@@ -26,7 +26,8 @@ DateCivile JourPresent(const Bureau &bureau) {
 MotsAlmanach MotsDeLAlmanach(const Bureau &bureau) { return {Legendes(bureau.termesAlmanach.MotAlmanach)}; }
 
 char VirguleDesPages(const Bureau &bureau) {
-  const std::string &virgule = MotsDeLAlmanach(bureau)[MotAlmanach::Virgule];
+  const std::string &virgule =
+      bureau.termesAlmanach.MotAlmanach.at(static_cast<std::size_t>(MotAlmanach::Virgule)).legende;
   return virgule.empty() ? '.' : virgule.front();
 }
 
