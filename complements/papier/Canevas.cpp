@@ -205,9 +205,9 @@ private:
 
   void Note() {
     const double cosinus = std::cos(c_.plan.milieu.latitude * kRadian);
-    page_.Mot({c_.cadre.oppose.x, c_.cadre.oppose.y + 560},
+    page_.Mot({c_.cadre.coin.x, c_.cadre.oppose.y + 860},
               mots_.plane + TexteLatitude(c_.plan.milieu.latitude) + mots_.minute + Format(cosinus, "0.000") + " M",
-              {.taille = kChiffres, .ancrage = Ancrage::Droite});
+              {.taille = kChiffres});
   }
 
   static constexpr int kChiffresMax = 90 * 60 + 1; ///< minutes of a latitude

@@ -259,7 +259,7 @@ std::vector<Feuillet> PagesDuJour(const DonneesJour &jour, FormatPapier format, 
   if (jour.point) {
     dessin.Fixe(*jour.point);
   }
-  texte.Descend(cadre.oppose.y + 800);
+  texte.Descend(cadre.oppose.y + 1000);
   for (std::size_t i = 0; i < jour.lignes.size(); ++i) {
     texte.Ligne(jour.lignes[i], i == 0);
   }

@@ -35,7 +35,7 @@ calcule() { xdotool getactivewindow >/dev/null; image "papier-$LANGUE-1-almanach
 couleurs_page() { convert "$IMAGES/papier-$LANGUE-1-almanach.png" -crop 40%x60%+50%+20% -unique-colors txt:- | wc -l; }
 attends calcule
 # Past order, boxes, "Calculer" (its "Arrêter" is greyed), paper and page: the next page, then "PDF...", "CSV...".
-tabule 9; touche space; pause 0.3
+tabule 8; touche space; pause 0.3
 image "papier-$LANGUE-2-almanach"
 tabule 1; ecrit "$HOME/almanach.pdf"
 pdftotext -layout "$HOME/almanach.pdf" "$TRAVAIL/almanach.txt"

@@ -59,7 +59,7 @@ protected:
     Joue([this] { ClicControle(bureau, d.PU_Papier); });
     papier = fenetre->findChild<QDialog *>("Papier");
     ASSERT_NE(papier, nullptr);
-    feuille = papier->findChild<qt::Papier *>();
+    feuille = papier->findChild<qt::Papier *>("Feuille");
     ASSERT_NE(feuille, nullptr);
   }
   void Vers(OngletPapier onglet) {

@@ -10,7 +10,7 @@ using Fenetre = FenetrePapier;
 // clang-format off
 // NOLINTNEXTLINE(cppcoreguidelines-avoid-c-arrays,modernize-avoid-c-arrays)
 constexpr LigneFenetrePapier kPapier[] = {
-    {SEUL(Onglets1), Genre::Onglets, "", {180, 105, 13000, 390}},
+    {SEUL(Onglets1), Genre::Onglets, "", {180, 105, 13000, 390}, "", "Ce que les pages sont"},
     {SEUL(PageAlmanach), Genre::Groupe, "", {180, 690, 4200, 6300}},
     {RANG(Label1, 0), Genre::Etiquette, "PageAlmanach", {0, 60, 1500, 255}, "Du"},
     {RANG(Text1, 0), Genre::Champ, "PageAlmanach", {1560, 0, 1680, 330}, "", "Jour, mois et année", {.par = "Label1", .parIndice = 0}},

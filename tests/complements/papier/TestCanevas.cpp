@@ -125,7 +125,7 @@ TEST(PageDuJour, ALineStandsItsMilesFromTheFixAcrossItsAzimuth) {
   bool vue = false;
   for (const ElementFeuillet &e : page.elements) {
     const auto *trait = std::get_if<TraitFeuillet>(&e);
-    if (trait == nullptr || trait->points.size() < 10 || trait->encre.largeur != 0.9) {
+    if (trait == nullptr || trait->ferme || trait->encre.largeur != 0.9) {
       continue;
     }
     const Point a = trait->points.front();

@@ -148,7 +148,7 @@ TEST_F(PagesAImprimer, TheAlmanacGoesIntoAPdfAndARowsFile) {
   ClicControle(bureau, p.Command2[0]);
   EXPECT_EQ(LitFichier(dossier.chemin() / "a.pdf"), "%PDF " + std::to_string(pages));
   EXPECT_THAT(p.LabAvis.legende, HasSubstr("Écrit : "));
-  Jouera([this] { Donne((dossier.chemin() / "a").string()); });
+  Jouera([this] { Donne((dossier.chemin() / "a.csv").string()); });
   ClicControle(bureau, p.Command2[2]);
   EXPECT_THAT(LitFichier(dossier.chemin() / "a.csv"), HasSubstr("2026-01-01"));
 }
