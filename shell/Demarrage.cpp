@@ -17,6 +17,7 @@
 #include "shell/droites/Droites.hpp"
 #include "shell/droites/MemoireDroites.hpp"
 #include "shell/droites/ModesDroite.hpp"
+#include "shell/droites/Retour.hpp"
 #include "shell/ecran/Copie.hpp"
 #include "shell/ecran/Disposition.hpp"
 #include "shell/ecran/Echelle.hpp"
@@ -24,8 +25,10 @@
 #include "shell/ecran/Rangement.hpp"
 #include "shell/ecran/Statut.hpp"
 #include "shell/point/Point.hpp"
+#include "shell/preparation/CalculPlan.hpp"
 #include "shell/registre/LectureRegistre.hpp"
 #include "shell/registre/Registre.hpp"
+#include "shell/serie/GestesSerie.hpp"
 #include "shell/visee/Journal.hpp"
 #include "shell/visee/PanneauDirect.hpp"
 #include "shell/visee/Saisie.hpp"
@@ -33,6 +36,7 @@
 #include <algorithm>
 #include <array>
 #include <chrono>
+#include <string_view>
 #include <utility>
 
 namespace velmaris {
@@ -281,6 +285,7 @@ bool ToucheControle(Bureau &bureau, char lettre) {
                            : lettre == 'K' ? &d.PU_Preparation
                            : lettre == 'R' ? &d.PU_Serie
                            : lettre == 'E' ? &d.PU_Exercice
+                           : lettre == 'a' ? &d.PU_Papier
                                            : nullptr;
   if (bouton != nullptr) {
     ClicControle(bureau, *bouton);
@@ -288,10 +293,27 @@ bool ToucheControle(Bureau &bureau, char lettre) {
   return bouton != nullptr;
 }
 
+bool RevientDans(Bureau &bureau, std::string_view fenetre, bool retablit) {
+  constexpr std::array kAvecLePanneau = {kFenetreDonnees, kFenetreRegistre, kFenetrePoint, kFenetrePreparation,
+                                         kFenetreExercice};
+  if (fenetre == kFenetreSerie) {
+    (retablit ? RetablitSerie : AnnuleSerie)(bureau);
+    return true;
+  }
+  if (std::find(kAvecLePanneau.begin(), kAvecLePanneau.end(), fenetre) == kAvecLePanneau.end()) {
+    return false;
+  }
+  (retablit ? PU_Retablit_Click : PU_Annule_Click)(bureau, -1);
+  if (fenetre == kFenetrePreparation) {
+    DitPlan(bureau, bureau.etat.avis);
+  }
+  return true;
+}
+
 void Complement_Click(Bureau &bureau, int indice) {
   Donnees &d = bureau.donnees;
-  const std::array<Controle *, 6> entrees = {&d.PU_Fiche,       &d.PU_Registre, &d.PU_Point,
-                                             &d.PU_Preparation, &d.PU_Serie,    &d.PU_Exercice};
+  const std::array<Controle *, 7> entrees = {&d.PU_Fiche, &d.PU_Registre, &d.PU_Point, &d.PU_Preparation,
+                                             &d.PU_Serie, &d.PU_Exercice, &d.PU_Papier};
   ClicControle(bureau, *entrees.at(static_cast<std::size_t>(indice)));
 }
 
@@ -334,6 +356,9 @@ void Image10_Click(Bureau &bureau, int indice) {
   ChargeLangue(bureau, kFenetrePreparation);
   ChargeLangue(bureau, kFenetreSerie);
   ChargeLangue(bureau, kFenetreExercice);
+  ChargeLangue(bureau, kFenetrePapier);
+  ChargeLangue(bureau, kFenetreMotsPapier);
+  ChargeLangue(bureau, kFenetreTermes);
   PoseDomaines(bureau);
   if (bureau.fselect.chargee) {
     ChargeLangue(bureau, kFenetreFSelect);

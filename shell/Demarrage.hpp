@@ -2,6 +2,8 @@
 
 #include "shell/bureau/Bureau.hpp"
 
+#include <string_view>
+
 namespace velmaris {
 
 /// The start sequence: geometry, stored lines, settings, language, clock and fields, once the Sun's place. Opens the
@@ -25,8 +27,9 @@ inline constexpr int kToucheF1 = 112;
 bool Donnees_KeyDown(Bureau &bureau, int code);
 
 /// A letter with the control key: S saves, O opens, P shows the print page, Q leaves, each by its button;
-/// I opens the check sheet, L the log, G the fix in figures.
-/// @param lettre  a capital
+/// I opens the check sheet, L the log, G the fix in figures, K the plan, R runs of readings, E practice; with the shift
+/// key A opens the printed pages.
+/// @param lettre  a capital; a small letter with the shift key
 /// @return whether it does something here
 bool ToucheControle(Bureau &bureau, char lettre);
 
@@ -51,5 +54,12 @@ void Image10_Click(Bureau &bureau, int indice);
 
 /// A complement's button in the toolbar: as its entry in the menu.
 void Complement_Click(Bureau &bureau, int indice);
+
+/// Takes the last gesture of a window back, or makes it again: the lists of readings have their own, the other windows
+/// share those of the panel.
+/// @param fenetre   its name
+/// @param retablit  makes again what was taken back
+/// @return false for a window that changes nothing of the kind
+bool RevientDans(Bureau &bureau, std::string_view fenetre, bool retablit);
 
 } // namespace velmaris

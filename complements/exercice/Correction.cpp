@@ -6,12 +6,16 @@
 #include "foundations/TexteNombre.hpp"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 
 namespace velmaris {
 namespace {
 
 constexpr double kMinutes = 60;
+constexpr double kSeconde = 0.5;
+constexpr double kLecture = 0.06; ///< minutes: a tenth as whole seconds is the same
+constexpr double kArrondi = 0.051;
 
 ReglagesControle ReglagesDe(const Exercice &exercice) {
   ReglagesControle r;
@@ -47,13 +51,48 @@ bool EstDePosition(const Glissade &g) {
          (g.champ >= ChampGlisse::LatitudeDegres && g.champ <= ChampGlisse::LongitudeMinutes);
 }
 
-/// Single slips that would explain a line far from the truth.
-std::vector<Glissade> Glissades(const Observation &typee, const LieuNavire &vrai, const ReglagesControle &reglages) {
+/// How many of the figures that were shown a sight has otherwise.
+/// @param offerte  the offered sight; null for none, to which nothing is otherwise
+int Differences(const Exercice &exercice, const ViseeExercice *offerte, const Observation &observation,
+                const ReglagesControle &reglages) {
+  constexpr int kTout = 10;
+  if (offerte == nullptr) {
+    return 0;
+  }
+  try {
+    const ViseeTypee visee = LitVisee(observation, reglages);
+    const DateCivile &a = offerte->utc;
+    const DateCivile &b = visee.date;
+    const LectureSextant &lue = visee.lecture;
+    const std::array autres = {a.annee != b.annee,
+                               a.mois != b.mois,
+                               a.jour != b.jour,
+                               a.heure != b.heure,
+                               a.minute != b.minute,
+                               std::fabs(a.seconde - b.seconde) > kSeconde,
+                               std::fabs(lue.lecture - offerte->lecture) * kMinutes > kLecture,
+                               std::fabs(lue.collimation - exercice.collimation) > kArrondi,
+                               std::fabs(lue.hauteurOeil - exercice.hauteurOeil) > kArrondi,
+                               lue.contact != offerte->contact};
+    return static_cast<int>(std::count(autres.begin(), autres.end(), true));
+  } catch (const Refus &) {
+    return kTout;
+  }
+}
+
+/// Single slips that would explain a line far from the truth. The first is the one that leaves the most as it was
+/// shown: a year that was shown and typed alike isn't what went wrong.
+std::vector<Glissade> Glissades(const Exercice &exercice, const ViseeExercice *offerte, const Observation &typee,
+                                const LieuNavire &vrai) {
+  const ReglagesControle reglages = ReglagesDe(exercice);
   std::vector<Glissade> glissades = ChercheGlissades(AuLieuVrai(typee, vrai), reglages);
   std::erase_if(glissades, EstDePosition);
   for (Glissade &g : glissades) {
     RendPosition(typee, g.corrigee);
   }
+  std::stable_sort(glissades.begin(), glissades.end(), [&](const Glissade &a, const Glissade &b) {
+    return Differences(exercice, offerte, a.corrigee, reglages) < Differences(exercice, offerte, b.corrigee, reglages);
+  });
   return glissades;
 }
 
@@ -76,9 +115,6 @@ std::optional<std::size_t> Offerte(const Exercice &exercice, const ViseeTypee &v
 
 /// What was typed otherwise than it was shown.
 void Compare(const Exercice &exercice, const ViseeExercice &offerte, const ViseeTypee &visee, VerdictVisee &verdict) {
-  constexpr double kSeconde = 0.5;
-  constexpr double kLecture = 0.06; ///< minutes: a tenth as whole seconds is the same
-  constexpr double kArrondi = 0.051;
   const auto avise = [&](bool faux, AvisCorrection avis) {
     if (faux) {
       verdict.avis.push_back(avis);
@@ -109,7 +145,8 @@ VerdictVisee Juge(const ExerciceComplet &complet, const Observation &typee) {
     }
     if (std::fabs(verdict.ecart) > kEcarts * complet.exercice.conditions.bruit + kMille) {
       verdict.avis.push_back(AvisCorrection::Loin);
-      verdict.glissades = Glissades(typee, vrai, reglages);
+      const ViseeExercice *offerte = verdict.offerte ? &complet.exercice.visees[*verdict.offerte] : nullptr;
+      verdict.glissades = Glissades(complet.exercice, offerte, typee, vrai);
     }
   } catch (const Refus &refus) {
     verdict = {};

@@ -30,7 +30,8 @@ struct VerdictVisee {
   std::optional<std::size_t> offerte; ///< which of the offered sights it is, the nearest in time of its body
   std::optional<RaisonRefus> refus;
   double ecart = 0;                ///< miles from the true place to the line, positive towards the body
-  std::vector<Glissade> glissades; ///< single slips that would explain it, best first
+  std::vector<Glissade> glissades; ///< single slips that would explain it: first those that agree best with what was
+                                   ///< shown, of these the one that leaves least
 };
 
 /// How good the user's own fix is.

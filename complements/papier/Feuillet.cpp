@@ -43,4 +43,16 @@ Feuillet FeuilletVide(FormatPapier format, bool couche) {
   return {.largeur = taille.x, .hauteur = taille.y, .titre = {}, .elements = {}};
 }
 
+void PoseVirgule(Feuillet &feuillet, char virgule) {
+  const auto chiffre = [](char c) { return c >= '0' && c <= '9'; };
+  for (ElementFeuillet &element : feuillet.elements) {
+    if (auto *mot = std::get_if<MotFeuillet>(&element)) {
+      std::string &texte = mot->texte;
+      for (std::size_t i = 1; i + 1 < texte.size(); ++i) {
+        texte[i] = texte[i] == '.' && chiffre(texte[i - 1]) && chiffre(texte[i + 1]) ? virgule : texte[i];
+      }
+    }
+  }
+}
+
 } // namespace velmaris

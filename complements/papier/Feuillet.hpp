@@ -84,6 +84,9 @@ struct Feuillet {
 /// A page of a paper, empty.
 Feuillet FeuilletVide(FormatPapier format, bool couche = false);
 
+/// Writes decimals with another sign: a point between two figures becomes it.
+void PoseVirgule(Feuillet &feuillet, char virgule);
+
 /// What a long work asks and tells on its way: whether it is to stop, and how far it is, 0 to 1.
 struct Avancement {
   std::stop_token arret;

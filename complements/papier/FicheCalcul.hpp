@@ -55,7 +55,7 @@ enum class SourceFiche : std::uint8_t {
 };
 
 /// One step with its figure as it is written.
-struct LigneFiche {
+struct LigneCalcul {
   EtapeFiche etape = EtapeFiche::Jour;
   std::string valeur;
   SourceFiche source = SourceFiche::Calcul;
@@ -65,7 +65,7 @@ struct LigneFiche {
 /// written above it.
 struct FicheCalcul {
   std::string astre;              ///< its name
-  std::vector<LigneFiche> lignes; ///< without the steps that the sight hasn't
+  std::vector<LigneCalcul> lignes; ///< without the steps that the sight hasn't
   double observee = 0;            ///< degrees
   double calculee = 0;            ///< degrees
   double azimut = 0;              ///< degrees in [0, 360)

@@ -55,7 +55,7 @@ public:
     page_.Trait({kMarge, y_}, {page_.largeur - kMarge, y_}, {.largeur = 1});
   }
 
-  void Ligne(const LigneFiche &ligne, bool blanc, const std::string &suite) {
+  void Ligne(const LigneCalcul &ligne, bool blanc, const std::string &suite) {
     const auto rang = static_cast<std::size_t>(ligne.etape);
     if (const int partie = PartieOuverte(ligne.etape); partie >= 0) {
       y_ += kPas * 1.5;
@@ -98,7 +98,7 @@ Feuillet FaitPage(const FicheCalcul &fiche, bool blancs, const std::string &titr
                   const MotsFiche &mots) {
   Page page(format, mots);
   page.Titre(titre, fiche.astre);
-  for (const LigneFiche &ligne : fiche.lignes) {
+  for (const LigneCalcul &ligne : fiche.lignes) {
     const bool dernier = ligne.etape == EtapeFiche::Intercept;
     page.Ligne(ligne, blancs && ligne.source != SourceFiche::Visee,
                dernier ? " " + (fiche.vers ? mots.vers : mots.depuis) : std::string());

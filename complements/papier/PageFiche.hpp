@@ -9,7 +9,7 @@
 
 namespace velmaris {
 
-inline constexpr std::size_t kEtapesFiche = static_cast<std::size_t>(EtapeFiche::Intercept) + 1;
+inline constexpr std::size_t kEtapesCalcul = static_cast<std::size_t>(EtapeFiche::Intercept) + 1;
 inline constexpr std::size_t kPartiesFiche = 4; ///< the sight, the height, the almanac, the reduction
 
 /// The words of a form.
@@ -17,8 +17,8 @@ struct MotsFiche {
   std::string titre;
   std::string reponses; ///< title of the answers' page
   std::array<std::string, kPartiesFiche> parties;
-  std::array<std::string, kEtapesFiche> etapes; ///< in the order of `EtapeFiche`
-  std::array<std::string, kEtapesFiche> regles; ///< how the step is done, the same
+  std::array<std::string, kEtapesCalcul> etapes; ///< in the order of `EtapeFiche`
+  std::array<std::string, kEtapesCalcul> regles; ///< how the step is done, the same
   std::string vers;                             ///< towards the body
   std::string depuis;                           ///< away from it
   std::string controle;                         ///< before the intercept without roundings

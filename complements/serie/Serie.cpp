@@ -134,6 +134,24 @@ EpreuveMesures Eprouve(const Course &c, FicheSerie &fiche) {
   return e;
 }
 
+/// The chance of the scatter that is left once the named blunder is aside and the readings have their own slope where
+/// the sky's is wrong: what neither of these two explains.
+double ChanceDuReste(const Course &c, const FicheSerie &fiche, bool penteFausse) {
+  std::vector<std::size_t> autres = c.comptees;
+  if (fiche.improbable) {
+    std::erase(autres, *fiche.improbable);
+  }
+  const Droite d = DroiteDe(c, autres);
+  double carres = 0;
+  for (const std::size_t i : autres) {
+    const double ecart = (c.ecarts[i] - d.moyenne) / c.base.ecartType;
+    carres += ecart * ecart;
+  }
+  const double pente = d.pente / c.base.ecartType;
+  const double explique = penteFausse ? pente * pente * d.etalement : 0;
+  return ChanceKhi2(std::max(0.0, carres - explique), static_cast<int>(autres.size()) - (penteFausse ? 2 : 1));
+}
+
 /// Tells a blunder from a wrong slope: what explains more of the residuals is told, and the slope of a run with a named
 /// blunder is that of the others.
 void Juge(const Course &c, double doutePente, FicheSerie &fiche) {
@@ -160,7 +178,7 @@ void Juge(const Course &c, double doutePente, FicheSerie &fiche) {
   if (lecture) {
     fiche.avis.push_back(fiche.improbable ? AvisSerie::LectureImprobable : AvisSerie::ErreurSansNom);
   }
-  if (!fausse && !lecture && fiche.chance < kChanceDispersion) {
+  if (ChanceDuReste(c, fiche, fausse) < kChanceDispersion) {
     fiche.avis.push_back(AvisSerie::Dispersion);
   }
 }

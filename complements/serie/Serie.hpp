@@ -15,7 +15,7 @@ namespace velmaris {
 /// How many readings a run may have that count, and from how many on one of them can be marked.
 inline constexpr std::size_t kLecturesMin = 3;
 inline constexpr std::size_t kLecturesMax = 30;
-inline constexpr std::size_t kLecturesEpreuve = 5;
+inline constexpr std::size_t kLecturesEpreuve = 4;
 
 /// What is to be known of a run; the words for it belong to the windows.
 enum class AvisSerie : std::uint8_t {
@@ -27,7 +27,8 @@ enum class AvisSerie : std::uint8_t {
   PenteFausse,       ///< their slope isn't the sky's: `pistes` tell what would make it so
   LectureImprobable, ///< one reading is improbable, and which one is told
   ErreurSansNom,     ///< one is, but which one can't be told
-  Dispersion,        ///< they scatter by more than their assumed error explains: one chance in a hundred
+  Dispersion,        ///< they scatter by more than their assumed error and what is told above explain: one chance in a
+                     ///< hundred
 };
 
 /// The mean's doubt by the scatter of the readings themselves.

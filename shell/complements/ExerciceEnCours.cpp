@@ -1,7 +1,9 @@
 #include "shell/complements/ExerciceEnCours.hpp"
 
 #include "complements/exercice/ViseesTypees.hpp"
+#include "foundations/Erreur.hpp"
 #include "foundations/TexteNombre.hpp"
+#include "lines/FichierLoP.hpp"
 #include "shell/bureau/Avis.hpp"
 
 #include <algorithm>
@@ -13,6 +15,7 @@ namespace velmaris {
 namespace {
 
 constexpr std::string_view kCle = "Exercice";
+constexpr std::string_view kCleNotes = "ExerciceNotes";
 constexpr std::size_t kAnciens = 5; ///< practices before that are still known
 constexpr int kAvecFautes = 2;      ///< of body, day and reading, while a practice goes on
 constexpr int kCommeMontree = 3;    ///< the same for one that is over
@@ -54,6 +57,81 @@ void ReprendAncien(Bureau &bureau) {
   }
 }
 
+/// A field's text in one line.
+std::string EnUneLigne(std::string texte) {
+  std::replace(texte.begin(), texte.end(), '\n', ' ');
+  return texte;
+}
+
+/// What the user has made of the practice: a line of what makes it, two of his fix as typed, a line of the fix that was
+/// judged, empty before, then each sight that was reduced: its place and the size of its text, and that text.
+std::string TexteNotes(const Bureau &bureau, const DemandeExercice &demande) {
+  const ExerciceOuvert &e = bureau.exercice;
+  std::string texte = EcritDemande(demande) + "\n";
+  for (const Controle &champ : bureau.fenetreExercice.Text3) {
+    texte += EnUneLigne(champ.texte) + "\n";
+  }
+  if (e.correction) {
+    texte += e.point ? "1 " + TexteGeneral(e.point->latitude) + " " + TexteGeneral(e.point->longitude) : "0";
+  }
+  texte += "\n";
+  for (std::size_t i = 0; i < e.typees.size(); ++i) {
+    if (e.typees[i]) {
+      const std::string visee = EcritLoP(*e.typees[i]);
+      texte += std::to_string(i) + " " + std::to_string(visee.size()) + "\n" + visee;
+    }
+  }
+  return texte;
+}
+
+/// The first line of a text, which is taken off it.
+std::string_view PrendLigne(std::string_view &texte) {
+  const std::string_view ligne = texte.substr(0, texte.find('\n'));
+  texte.remove_prefix(std::min(ligne.size() + 1, texte.size()));
+  return ligne;
+}
+
+/// Reads the notes of sights; one that is none is left out, and what comes after.
+void LitViseesNotees(std::string_view texte, ExerciceOuvert &e) {
+  while (!texte.empty()) {
+    std::string_view tete = PrendLigne(texte);
+    const double rang = Prend(tete);
+    const double taille = Prend(tete);
+    if (!(rang >= 0 && rang < static_cast<double>(e.typees.size()) && taille > 0 &&
+          taille <= static_cast<double>(texte.size()))) {
+      return;
+    }
+    const std::string_view visee = texte.substr(0, static_cast<std::size_t>(taille));
+    Passe([&] {
+      TableLoP table;
+      LitLignesLoP(visee, table);
+      Observation observation;
+      AppliqueLoP(table, observation);
+      e.typees.at(static_cast<std::size_t>(rang)) = observation;
+    });
+    texte.remove_prefix(visee.size());
+  }
+}
+
+/// Puts the notes back that belong to the practice.
+void ReprendNotes(Bureau &bureau, const DemandeExercice &demande, std::string_view notes) {
+  ExerciceOuvert &e = bureau.exercice;
+  if (PrendLigne(notes) != EcritDemande(demande)) {
+    return;
+  }
+  for (Controle &champ : bureau.fenetreExercice.Text3) {
+    champ.texte = PrendLigne(notes);
+  }
+  std::string_view juge = PrendLigne(notes);
+  LitViseesNotees(notes, e);
+  if (!juge.empty()) {
+    const bool avecPoint = Prend(juge) == 1;
+    const double latitude = Prend(juge);
+    const double longitude = Prend(juge);
+    JugeExercice(bureau, avecPoint ? std::optional(LieuNavire{latitude, longitude}) : std::nullopt);
+  }
+}
+
 } // namespace
 
 std::optional<DemandeExercice> LitExerciceGarde(const Bureau &bureau) {
@@ -88,10 +166,39 @@ void CommenceExercice(Bureau &bureau, const DemandeExercice &demande) {
   e.point.reset();
   e.aMontrer = true;
   EcritReglage(bureau, kCle, EcritDemande(demande));
+  EcritReglage(bureau, kCleNotes, "");
+}
+
+bool RouvreExercice(Bureau &bureau) {
+  const std::optional<DemandeExercice> garde = LitExerciceGarde(bureau);
+  if (!garde) {
+    return false;
+  }
+  const std::string notes = LitReglage(bureau, kCleNotes);
+  CommenceExercice(bureau, *garde);
+  ReprendNotes(bureau, *garde, notes);
+  GardeNotesExercice(bureau);
+  return true;
+}
+
+void GardeNotesExercice(Bureau &bureau) {
+  const ExerciceOuvert &e = bureau.exercice;
+  if (!e.enCours) {
+    return;
+  }
+  const Exercice &exercice = e.enCours->exercice;
+  const std::string texte = TexteNotes(bureau, {exercice.graine, exercice.conditions});
+  if (texte != LitReglage(bureau, kCleNotes)) {
+    EcritReglage(bureau, kCleNotes, texte);
+  }
 }
 
 bool NoteViseeExercice(Bureau &bureau, const Observation &observation) {
   ExerciceOuvert &e = bureau.exercice;
+  if (const auto garde = e.enCours ? std::nullopt : LitExerciceGarde(bureau);
+      garde && ViseeReconnue(FaitExercice(garde->graine, garde->conditions).exercice, observation, kCommeMontree)) {
+    RouvreExercice(bureau);
+  }
   ReprendAncien(bureau);
   const auto rang = e.enCours ? ViseeReconnue(e.enCours->exercice, observation, kAvecFautes) : std::nullopt;
   const bool ancienne = std::any_of(e.anciens.begin(), e.anciens.end(), [&](const Exercice &ancien) {
@@ -103,6 +210,7 @@ bool NoteViseeExercice(Bureau &bureau, const Observation &observation) {
     if (e.correction) {
       JugeExercice(bureau, e.point);
     }
+    GardeNotesExercice(bureau);
   }
   if (rang || ancienne) {
     Avise(bureau, bureau.fenetreExercice.TexteHorsRegistre.legende);

@@ -22,8 +22,18 @@ std::optional<DemandeExercice> LitExerciceGarde(const Bureau &bureau);
 /// the log.
 void CommenceExercice(Bureau &bureau, const DemandeExercice &demande);
 
+/// Takes the practice up again that was begun last, on an earlier start: with its sights that were reduced, the user's
+/// fix in its fields, and what was judged.
+/// @return false where the store knows none
+bool RouvreExercice(Bureau &bureau);
+
+/// Keeps what the user has made of the practice in the store, where it has changed: a program that is killed loses
+/// none.
+void GardeNotesExercice(Bureau &bureau);
+
 /// Notes the sight that was reduced, where it is one of the practice's, slips and all; once the truth was asked for it
-/// is judged at once. Sights of practices before, and of an earlier start, are known where they are as they were shown.
+/// is judged at once. Sights of practices before are known where they are as they were shown; one of the last practice
+/// of an earlier start takes that up again.
 /// @return whether the sight is a practice's, and so none for the log
 bool NoteViseeExercice(Bureau &bureau, const Observation &observation);
 

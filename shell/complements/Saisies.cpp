@@ -89,6 +89,15 @@ std::optional<double> LitCote(std::string_view texte, double max, std::string_vi
   return angle && (!lettre || *angle >= 0) ? std::optional(signe * *angle) : std::nullopt;
 }
 
+/// Whether a control and all that it lies in are shown.
+bool EstMontre(const ListeControles &controles, const Controle &controle) {
+  const Controle *c = &controle;
+  while (c != nullptr && c->visible && !c->parent.empty()) {
+    c = Cherche(controles, c->parent);
+  }
+  return c == nullptr || c->visible;
+}
+
 } // namespace
 
 std::optional<InstantUTC> LitMomentTape(std::string_view date, std::string_view heure) {
@@ -144,11 +153,35 @@ std::optional<double> LitChampBorne(Controle &champ, double moindre, double plus
 }
 
 std::string PremiereFaute(const ListeControles &controles) {
-  const auto faute = std::find_if(controles.begin(), controles.end(),
-                                  [](const Controle *c) { return c->genre == Genre::Champ && !c->alerte.empty(); });
-  return faute == controles.end()  ? std::string()
-         : (*faute)->texte.empty() ? (*faute)->alerte
-                                   : (*faute)->texte + " : " + (*faute)->alerte;
+  const auto faute = std::find_if(controles.begin(), controles.end(), [&](const Controle *c) {
+    return c->genre == Genre::Champ && !c->alerte.empty() && EstMontre(controles, *c);
+  });
+  if (faute == controles.end()) {
+    return {};
+  }
+  const Controle &champ = **faute;
+  const std::string tape(SansBlancs(champ.texte));
+  const Controle *nom = tape.empty() ? Cherche(controles, champ.par, champ.parIndice) : nullptr;
+  const std::string avant = nom != nullptr ? nom->legende : tape;
+  return avant.empty() ? champ.alerte : avant + " : " + champ.alerte;
+}
+
+void OublieFautes(const ListeControles &controles) {
+  for (Controle *c : controles) {
+    if (c->genre == Genre::Champ) {
+      c->alerte.clear();
+    }
+  }
+}
+
+bool ViseFaute(const Controle *&clavier, const ListeControles &champs) {
+  const auto faute = std::find_if(champs.begin(), champs.end(), [](const Controle *c) { return !c->alerte.empty(); });
+  if (faute == champs.end()) {
+    return false;
+  }
+  (*faute)->toutSelectionne = true;
+  clavier = *faute;
+  return true;
 }
 
 } // namespace velmaris

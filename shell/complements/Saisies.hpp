@@ -36,7 +36,16 @@ void MarqueChamp(Controle &champ, bool bon, std::string_view mots);
 /// @param mots  as for MarqueChamp
 std::optional<double> LitChampBorne(Controle &champ, double moindre, double plusGrand, std::string_view mots);
 
-/// The first field of a window that can't be used, by its text and why; empty where all can.
+/// The first field on the page in front that can't be used, by its text, an empty one by its caption, and why; empty
+/// where all can.
 std::string PremiereFaute(const ListeControles &controles);
+
+/// Takes the marks off all fields of a window.
+void OublieFautes(const ListeControles &controles);
+
+/// Gives the keyboard to the first of some fields that is marked, its text selected so that typing replaces it.
+/// @param clavier  the control that is to have the keyboard; it stays where none is marked
+/// @return whether one is
+bool ViseFaute(const Controle *&clavier, const ListeControles &champs);
 
 } // namespace velmaris

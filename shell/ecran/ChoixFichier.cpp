@@ -249,6 +249,19 @@ bool Correspond(std::string_view nom, std::string_view motif) {
   return motif.find_first_not_of('*', m) == std::string_view::npos;
 }
 
+/// The typed folder can't be shown; the keyboard comes back to its name.
+void DitSansDossier(Bureau &bureau, const std::string &nom) {
+  FSelect &f = bureau.fselect;
+  if (f.ditRefus) {
+    bureau.ports.boite({.texte = f.TexteSansDossier.legende + "\n" + nom,
+                        .titre = f.cadre.titre,
+                        .icone = Icone::Attention,
+                        .fenetre = kFenetreFSelect});
+    f.FName.toutSelectionne = true;
+    bureau.focus = &f.FName;
+  }
+}
+
 } // namespace
 
 bool CorrespondMotif(std::string_view nom, std::string_view motif) {
@@ -266,7 +279,8 @@ bool CorrespondMotif(std::string_view nom, std::string_view motif) {
   }
 }
 
-fs::path ChoisitFichier(Bureau &bureau, const std::string &titre, const std::string &nom, const std::string &motif) {
+fs::path ChoisitFichier(Bureau &bureau, const std::string &titre, const std::string &nom, const std::string &motif,
+                        DitRefus refus) {
   FSelect &f = bureau.fselect;
   f.cadre.titre = titre;
   f.motif = motif;
@@ -276,6 +290,7 @@ fs::path ChoisitFichier(Bureau &bureau, const std::string &titre, const std::str
   f.OK.actif = true;
   f.File1.rang = -1;
   f.accepte = false;
+  f.ditRefus = refus == DitRefus::DansUneBoite;
   if (f.chargee) {
     EntreOuAccueil(bureau, fs::path(f.dossier));
   } else {
@@ -345,6 +360,7 @@ void OK_Click(Bureau &bureau, int /*indice*/) {
   std::string nom = f.FName.texte;
   if (nom == "~" || nom.find('/') != std::string::npos) {
     if (!SuitChemin(bureau, nom)) {
+      DitSansDossier(bureau, nom);
       return;
     }
     navigation = true;

@@ -2,16 +2,22 @@
 
 #include "shell/bureau/Bureau.hpp"
 
+#include <cstdint>
+
 namespace velmaris {
+
+/// What the dialog says when a typed folder can't be shown: nothing, it stays as it is, or a box tells.
+enum class DitRefus : std::uint8_t { Rien, DansUneBoite };
 
 /// Asks the user for a file in the program's own dialog, which opens in the last folder used, in this run or an
 /// earlier one.
 /// @param titre  of the window
 /// @param nom    that its name field holds at first
 /// @param motif  of the files that it lists
+/// @param refus  what it says of a folder that can't be shown
 /// @return the chosen file's path; empty when the user gave up
 std::filesystem::path ChoisitFichier(Bureau &bureau, const std::string &titre, const std::string &nom,
-                                     const std::string &motif);
+                                     const std::string &motif, DitRefus refus = DitRefus::Rien);
 
 /// Coming to the front: the lists show what has been written since.
 void FSelect_Activate(Bureau &bureau);
@@ -33,7 +39,7 @@ void Drive1_Click(Bureau &bureau, int indice);
 void FName_Change(Bureau &bureau, int indice);
 
 /// "Ok": enters a chosen folder, follows a typed path or pattern, or accepts the name. What can't be done leaves the
-/// dialog as it is, without a word.
+/// dialog as it is, without a word but where it was asked to tell.
 void OK_Click(Bureau &bureau, int indice);
 
 /// "Annuler": empties the name and hides the dialog.

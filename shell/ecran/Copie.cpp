@@ -100,12 +100,14 @@ std::optional<FormeImage> Forme(const std::filesystem::path &chemin) {
 
 } // namespace
 
-bool EcritImageDe(Bureau &bureau, const Surface &surface, const std::filesystem::path &chemin) {
+bool EcritImageDe(Bureau &bureau, const Surface &surface, const std::filesystem::path &chemin,
+                  std::string_view fenetre) {
   constexpr int kErreurFichier = 75;
   const Donnees &d = bureau.donnees;
   const std::optional<FormeImage> forme = Forme(chemin);
   if (!forme) {
-    bureau.ports.boite({.texte = d.TexteImageForme.legende + "\n" + chemin.string(), .icone = Icone::Attention});
+    bureau.ports.boite(
+        {.texte = d.TexteImageForme.legende + "\n" + chemin.string(), .icone = Icone::Attention, .fenetre = fenetre});
     return false;
   }
   try {
@@ -118,7 +120,8 @@ bool EcritImageDe(Bureau &bureau, const Surface &surface, const std::filesystem:
   } catch (const Erreur &erreur) {
     bureau.ports.boite(
         {.texte = MotsErreur(d, erreur.numero) + "\n\n" + d.TexteNonEcrit.legende + "\n" + chemin.string(),
-         .icone = Icone::Erreur});
+         .icone = Icone::Erreur,
+         .fenetre = fenetre});
     return false;
   }
 }

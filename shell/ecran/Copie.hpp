@@ -3,6 +3,7 @@
 #include "shell/bureau/Bureau.hpp"
 
 #include <string>
+#include <string_view>
 
 namespace velmaris {
 
@@ -34,7 +35,9 @@ void PU_Image_Click(Bureau &bureau, int indice);
 
 /// Writes the picture of a surface into a file, in the form that its name ends with: PNG, SVG or PDF. What can't be
 /// written, and a form that isn't known, is told in a box.
+/// @param fenetre  the window that the box belongs to, empty for the one that the user is in
 /// @return whether it was written
-bool EcritImageDe(Bureau &bureau, const Surface &surface, const std::filesystem::path &chemin);
+bool EcritImageDe(Bureau &bureau, const Surface &surface, const std::filesystem::path &chemin,
+                  std::string_view fenetre = {});
 
 } // namespace velmaris

@@ -119,6 +119,12 @@ void Montre(Bureau &bureau) {
   f.LabAvis.legende = MotsFaute(bureau);
 }
 
+/// Marks the fields that can't be used, and no others.
+void JugeChamps(FenetreExercice &f) {
+  LitDemandeExercice(f);
+  LitPointExercice(f);
+}
+
 /// Empties what belongs to the practice before.
 void OublieReponse(FenetreExercice &f) {
   for (Controle &champ : f.Text3) {
@@ -135,10 +141,11 @@ void OuvreExercice_Click(Bureau &bureau, int /*indice*/) {
   if (f.Text1.texte.empty()) {
     const auto garde = LitExerciceGarde(bureau);
     PoseDemande(f, garde.value_or(DemandeExercice{NiveauDe(0).graine, NiveauDe(0).conditions}));
-    if (garde) {
-      CommenceExercice(bureau, *garde);
+    if (garde && !bureau.exercice.enCours) {
+      RouvreExercice(bureau);
     }
   }
+  JugeChamps(f);
   f.cadre.visible = true;
   bureau.premierPlan = kFenetreExercice;
   bureau.focus = bureau.exercice.enCours ? &f.Visees : &f.Combo1;
@@ -151,6 +158,9 @@ void AccordeExercice(Bureau &bureau) {
   }
   ExerciceOuvert &e = bureau.exercice;
   const bool langue = std::exchange(e.langue, bureau.FichierLangue) != bureau.FichierLangue;
+  if (langue) {
+    JugeChamps(bureau.fenetreExercice);
+  }
   if (std::exchange(e.aMontrer, false) || langue) {
     Montre(bureau);
   }
@@ -211,6 +221,7 @@ void Prend_Click(Bureau &bureau, int /*indice*/) {
 
 void Point_Change(Bureau &bureau, int /*indice*/) {
   LitPointExercice(bureau.fenetreExercice);
+  GardeNotesExercice(bureau);
   bureau.exercice.aMontrer = true;
 }
 
@@ -224,7 +235,7 @@ void Corrige_Click(Bureau &bureau, int /*indice*/) {
   const auto point = LitPointExercice(f);
   if (const std::string faute = PremiereFaute({&f.Text3[0], &f.Text3[1]}); !faute.empty()) {
     Avise(bureau, faute); // a slip in the fix asks for no truth
-    bureau.focus = f.Text3[0].alerte.empty() ? &f.Text3[1] : &f.Text3[0];
+    ViseFaute(bureau.focus, {&f.Text3[0], &f.Text3[1]});
     return;
   }
   const bool connue = bureau.exercice.correction.has_value();
@@ -232,10 +243,12 @@ void Corrige_Click(Bureau &bureau, int /*indice*/) {
       bureau.ports.boite(
           {.texte = f.TexteSansPoint.legende, .question = true, .nonParDefaut = true, .fenetre = kFenetreExercice})) {
     JugeExercice(bureau, point);
+    GardeNotesExercice(bureau);
   }
 }
 
 void Ferme_Click(Bureau &bureau, int /*indice*/) {
+  OublieFautes(Liste(bureau.fenetreExercice));
   bureau.fenetreExercice.cadre.visible = false;
   bureau.premierPlan = kFenetreDonnees;
 }

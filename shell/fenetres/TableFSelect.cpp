@@ -22,6 +22,7 @@ constexpr LigneFSelect kFSelect[] = {
     {SEUL(Command1), Genre::Bouton, "", {7710, 5715, 1440, 405}, "&Supprimer", "", {.raccourci = true}},
     {SEUL(TexteVolume), Genre::Texte, "", {}, "Volume"},
     {SEUL(TexteNom), Genre::Texte, "", {}, "Un nom, un chemin, ou un motif avec * et ?"},
+    {SEUL(TexteSansDossier), Genre::Texte, "", {}, "Ce dossier n'existe pas ou ne peut pas être lu :"},
 };
 // clang-format on
 

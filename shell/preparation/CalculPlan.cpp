@@ -1,6 +1,7 @@
 #include "shell/preparation/CalculPlan.hpp"
 
 #include "complements/ciel/Refus.hpp"
+#include "shell/bureau/Avis.hpp"
 #include "shell/complements/Mots.hpp"
 #include "shell/complements/Saisies.hpp"
 #include "shell/preparation/LecturePlan.hpp"
@@ -10,6 +11,7 @@
 #include <algorithm>
 #include <cmath>
 #include <functional>
+#include <limits>
 #include <utility>
 
 namespace velmaris {
@@ -59,10 +61,27 @@ void Recoit(Bureau &bureau, const JourCalcule &jour) {
   p.journee = jour.journee;
   p.amplitudes = jour.amplitudes;
   p.refus = jour.refus;
+  p.meilleurs.clear();
   if (p.journee) {
     bureau.preparation.HScroll1.valeur = MinuteDe(p, p.demande.navire.heure);
     RegardeInstant(bureau);
+    DemandeMeilleurs(bureau);
   }
+}
+
+/// Whether two plans look for the best sets by the same figures.
+bool EstDesMemesJeux(const DemandePlan &a, const DemandePlan &b) {
+  return a.jeux.magnitudeMax == b.jeux.magnitudeMax && a.jeux.erreur == b.jeux.erreur &&
+         a.reglages.sextant.collimation == b.reglages.sextant.collimation;
+}
+
+/// The smallest trace among the best sets of a moment; infinite without one.
+double PlusPetiteTrace(const MeilleursJeux &jeux) {
+  double trace = std::numeric_limits<double>::infinity();
+  for (const std::vector<JeuAstres> &memeNombre : jeux) {
+    trace = memeNombre.empty() ? trace : std::min(trace, memeNombre.front().trace);
+  }
+  return trace;
 }
 
 /// The bodies that a bearing is taken of: the Sun, the Moon, planets and stars to the second magnitude, over the
@@ -84,14 +103,19 @@ void DemandePlanDuJour(Bureau &bureau) {
   PlanOuvert &p = bureau.plan;
   std::optional<DemandePlan> demande = LitDemandePlan(bureau);
   p.aMontrer = true;
+  p.dit.clear();
   if (!demande) {
     return;
   }
   const bool connu = (p.ciel || p.refus || p.enCalcul) && EstDuMemeJour(*demande, p.demande);
+  const bool memesJeux = EstDesMemesJeux(*demande, p.demande);
   p.demande = std::move(*demande);
   if (connu) {
     if (!p.enCalcul && p.ciel) {
       RegardeInstant(bureau);
+      if (!memesJeux) {
+        DemandeMeilleurs(bureau);
+      }
     }
     return;
   }
@@ -119,6 +143,7 @@ void RegardeInstant(Bureau &bureau) {
     return;
   }
   p.aMontrer = true;
+  p.dit.clear();
   p.instant = PlusTard(p.journee->debut, f.HScroll1.valeur * kMinute);
   p.demande.reglages.sextant.erreursArc = bureau.verification.reglages.erreursArc;
   p.vue = RegardeCiel(*p.ciel, p.demande.navire, p.instant, p.demande.reglages);
@@ -126,6 +151,59 @@ void RegardeInstant(Bureau &bureau) {
   p.montres = AstresMontres(p, f.Check2.valeur == 1);
   CalculeCompas(bureau);
   CalculeInconnu(bureau);
+}
+
+std::optional<std::vector<MeilleurMoment>> MeilleursMoments(const CielDuJour &ciel, const Journee &journee,
+                                                            const DemandePlan &demande, const std::stop_token &arret) {
+  constexpr double kPas = 1; // minutes
+  std::vector<MeilleurMoment> meilleurs;
+  for (const FenetrePrise &prise : journee.fenetres) {
+    Journee seule;
+    seule.fenetres = {prise};
+    const std::vector<InstantUTC> moments = InstantsDePrise(seule, kPas);
+    ReglagesJeux reglages = demande.jeux;
+    reglages.garde = 1;
+    const auto jeux = JeuxDesMoments(ciel, demande.navire, moments, demande.reglages, reglages, arret);
+    if (!jeux) {
+      return std::nullopt;
+    }
+    const auto mieux = std::min_element(jeux->begin(), jeux->end(), [](const JeuxDuMoment &a, const JeuxDuMoment &b) {
+      return PlusPetiteTrace(a.jeux) < PlusPetiteTrace(b.jeux);
+    });
+    if (mieux != jeux->end() && std::isfinite(PlusPetiteTrace(mieux->jeux))) {
+      meilleurs.push_back({prise.genre, mieux->utc, PlusPetiteTrace(mieux->jeux)});
+    }
+  }
+  return meilleurs;
+}
+
+void DemandeMeilleurs(Bureau &bureau) {
+  PlanOuvert &p = bureau.plan;
+  p.arretMeilleurs.request_stop();
+  p.arretMeilleurs = std::stop_source();
+  DemandePlan seule = p.demande;
+  seule.reglages.sextant.erreursArc = {}; // they belong to this thread, and the sets don't need them
+  bureau.ports.travaille([arret = p.arretMeilleurs.get_token(), ciel = p.ciel, journee = p.journee, seule,
+                          &bureau]() -> std::function<void()> {
+    std::optional<std::vector<MeilleurMoment>> meilleurs;
+    try {
+      meilleurs = MeilleursMoments(*ciel, *journee, seule, arret);
+    } catch (const Refus &) {
+      meilleurs.reset();
+    }
+    return [meilleurs, journee, arret, &bureau] {
+      if (meilleurs && !arret.stop_requested() && bureau.plan.journee == journee) {
+        bureau.plan.meilleurs = *meilleurs;
+        bureau.plan.aMontrer = true;
+      }
+    };
+  });
+}
+
+void DitPlan(Bureau &bureau, const std::string &mots) {
+  bureau.plan.dit = mots;
+  bureau.plan.aMontrer = true;
+  Avise(bureau, mots);
 }
 
 void CalculeCompas(Bureau &bureau) {

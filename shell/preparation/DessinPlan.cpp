@@ -1,11 +1,13 @@
 #include "shell/preparation/DessinPlan.hpp"
 
+#include "foundations/PlaceTextes.hpp"
 #include "shell/complements/Formes.hpp"
 
 #include <algorithm>
 #include <cmath>
 #include <numbers>
 #include <utility>
+#include <variant>
 
 namespace velmaris {
 namespace {
@@ -22,7 +24,9 @@ constexpr double kDemiTexte = 110; ///< half the height of a line of words
 constexpr double kDisque = 95;     ///< radius of the Sun's and the Moon's disks, 1/1440 inch
 constexpr double kAnneau = 150;    ///< of the ring around the chosen body
 constexpr double kBrillante = 1.5; ///< magnitude of a star of the first order
-constexpr double kToucher = 300;   ///< how near a click has to be
+constexpr double kNommee = 3.5;    ///< magnitude from which on a star has no name
+constexpr double kDemiMagnitude = 0.5;
+constexpr double kToucher = 300; ///< how near a click has to be
 
 Point Centre(const Surface &s) { return {s.largeur / 2, s.hauteur / 2}; }
 
@@ -92,14 +96,85 @@ void DessineAstre(Surface &s, const CielDuPlan &ciel, const CarteDuPlan &carte, 
   if (carte.choisi == rang) {
     Rond(s, p, kAnneau, kChoisi, 2);
   }
-  // The brighter keeps its name where two have no room; of those that are left out only the brightest have one.
-  const bool brillante = astre.magnitude < kBrillante;
-  const int classe = carte.choisi == rang ? 0 : pale ? 4 : brillante ? 1 : 2;
-  if (classe == 4 && !brillante) {
-    return;
+}
+
+/// In which order a body's name takes its place.
+/// @return nothing for one that has none
+std::optional<int> ClasseDuNom(const CarteDuPlan &carte, const AstreDuPlan &astre, std::size_t rang) {
+  constexpr int kPales = 20; ///< after all proposed ones
+  const bool pale = astre.raisons.any();
+  if (carte.choisi == rang) {
+    return 0;
   }
-  EcritEnCouleur(s, {p.x + 90, p.y - kDemiTexte}, pale ? kPale : kEncre, carte.nom(astre.astre),
-                 {GenreTexte::Ville, classe});
+  if (astre.magnitude >= (pale ? kBrillante : kNommee)) {
+    return std::nullopt;
+  }
+  const bool etoile = astre.astre.genre == GenreAstre::Etoile;
+  const int eclat =
+      etoile ? 2 + std::max(0, static_cast<int>(std::floor((astre.magnitude + 1.5) / kDemiMagnitude))) : 1;
+  return pale ? kPales + eclat : eclat;
+}
+
+/// Whether a rectangle lies inside of the horizon.
+bool EstDansLeCiel(const Surface &s, const ZoneTexte &zone) {
+  constexpr double kTrait = 30;
+  const Point c = Centre(s);
+  const double x = std::max(std::fabs(zone.gauche - c.x), std::fabs(zone.droite() - c.x));
+  const double y = std::max(std::fabs(zone.haut - c.y), std::fabs(zone.bas() - c.y));
+  return std::hypot(x, y) < Rayon(s) - kTrait;
+}
+
+/// The first free place beside a point that lies inside of the horizon.
+/// @param cote  from the point to the name
+std::optional<ZoneTexte> PlaceDuNom(const Surface &s, const PlanTextes &plan, Point p, double cote, double largeur) {
+  const std::array<Point, 8> coins{{{cote, -kDemiTexte},
+                                    {-cote - largeur, -kDemiTexte},
+                                    {cote, 0},
+                                    {cote, -2 * kDemiTexte},
+                                    {-cote - largeur, 0},
+                                    {-cote - largeur, -2 * kDemiTexte},
+                                    {-largeur / 2, cote},
+                                    {-largeur / 2, -cote - 2 * kDemiTexte}}};
+  for (const Point &coin : coins) {
+    const ZoneTexte zone{p.x + coin.x, p.y + coin.y, largeur, 2 * kDemiTexte};
+    if (EstDansLeCiel(s, zone) && plan.EstLibre(zone)) {
+      return zone;
+    }
+  }
+  return std::nullopt;
+}
+
+/// The names of the bodies, the first classes first, of one class the brightest.
+void EcritNoms(Surface &s, const CielDuPlan &ciel, const CarteDuPlan &carte) {
+  constexpr double kParOctet = 105; ///< a guess of a letter's width
+  constexpr double kCote = 80;      ///< from a point to its name
+  std::vector<std::pair<int, std::size_t>> noms;
+  for (const std::size_t rang : carte.astres) {
+    if (const auto classe = ClasseDuNom(carte, ciel.astres.at(rang), rang)) {
+      noms.emplace_back(*classe, rang);
+    }
+  }
+  std::stable_sort(noms.begin(), noms.end(), [&](const auto &a, const auto &b) {
+    return a.first != b.first ? a.first < b.first : ciel.astres[a.second].magnitude < ciel.astres[b.second].magnitude;
+  });
+  PlanTextes plan(s.largeur, s.hauteur);
+  for (const Trace &trace : s.traces) {
+    if (const auto *degres = std::get_if<TexteTrace>(&trace)) {
+      plan.Prend({degres->position.x, degres->position.y, 4 * kParOctet, 2 * kDemiTexte});
+    }
+  }
+  for (const auto &[classe, rang] : noms) {
+    const AstreDuPlan &astre = ciel.astres[rang];
+    const std::string nom = carte.nom(astre.astre);
+    const double largeur = carte.largeur ? carte.largeur(nom, s.police) : kParOctet * static_cast<double>(nom.size());
+    const Point p = PlaceSurCarte(s, astre.apparente, astre.azimut, carte.haut);
+    const bool disque = astre.astre.genre == GenreAstre::Soleil || astre.astre.genre == GenreAstre::Lune;
+    if (const auto zone = PlaceDuNom(s, plan, p, disque ? kDisque + kCote : kCote, largeur)) {
+      plan.Prend(*zone);
+      EcritEnCouleur(s, {zone->gauche, zone->haut}, astre.raisons.any() ? kPale : kEncre, nom,
+                     {GenreTexte::Minute, classe});
+    }
+  }
 }
 
 } // namespace
@@ -117,6 +192,7 @@ void DessineCarte(Surface &surface, const CielDuPlan &ciel, const CarteDuPlan &c
   for (const std::size_t rang : carte.astres) {
     DessineAstre(surface, ciel, carte, rang);
   }
+  EcritNoms(surface, ciel, carte);
 }
 
 std::optional<std::size_t> AstreSous(const Surface &surface, const CielDuPlan &ciel, const CarteDuPlan &carte,

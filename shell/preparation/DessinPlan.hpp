@@ -20,12 +20,16 @@ struct CarteDuPlan {
   double haut = 0;                               ///< the direction that is up, degrees
   std::array<std::string, 4> cardinaux;          ///< letters of north, east, south and west
   std::function<std::string(const Astre &)> nom; ///< words beside a body
+  /// How wide words are in a font, 1/1440 inch; none for a guess.
+  std::function<double(const std::string &, const Police &)> largeur;
 };
 
 /// Where a body stands on the chart: the zenith in the middle, directions clockwise as on a compass.
 Point PlaceSurCarte(const Surface &surface, double hauteur, double azimut, double haut);
 
-/// Draws the round chart anew.
+/// Draws the round chart anew. Each name stands beside its body, inside the horizon, where no other does: the chosen
+/// body's first, then those of Sun, Moon and planets, then stars by half magnitudes, the proposed before the others;
+/// stars over magnitude 3.5, and pale ones over 1.5, have none. One that finds no place is left out.
 void DessineCarte(Surface &surface, const CielDuPlan &ciel, const CarteDuPlan &carte);
 
 /// The body nearest to a point of the chart.

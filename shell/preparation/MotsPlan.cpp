@@ -73,8 +73,15 @@ std::string MotsJeu(const Bureau &bureau, const JeuAstres &jeu) {
   return mots;
 }
 
-std::string MotsRemarque(const Preparation &f, const AstreDuPlan &astre) {
+std::string MotsMeilleur(const Preparation &f, const MeilleurMoment &moment) {
+  return f.MotMieux.at(Rang(moment.prise)).legende + TexteHeureMinute(moment.utc) + " UTC";
+}
+
+std::string MotsRemarque(const Preparation &f, const CielDuPlan &vue, const AstreDuPlan &astre) {
   if (const auto raison = PremiereRaison(astre.raisons)) {
+    if (*raison == RaisonPale::PerduCrepuscule && LumiereDe(vue.hauteurSoleil) == 0) {
+      return f.TextePerduJour.legende;
+    }
     return f.MotRaison.at(Rang(*raison)).legende;
   }
   return astre.contact == Contact::Centre ? "" : f.MotBord.at(Rang(astre.contact)).legende;

@@ -30,8 +30,12 @@ std::string MotsPrises(const Preparation &f, const Journee &journee);
 /// The bodies of a set, in their order.
 std::string MotsJeu(const Bureau &bureau, const JeuAstres &jeu);
 
+/// When a time for stars has its best set: "Le mieux le soir : 21:47 UTC".
+std::string MotsMeilleur(const Preparation &f, const MeilleurMoment &moment);
+
 /// Why a body isn't proposed, and which limb is shot; empty for neither.
-std::string MotsRemarque(const Preparation &f, const AstreDuPlan &astre);
+/// @param vue  the sky that it stands in
+std::string MotsRemarque(const Preparation &f, const CielDuPlan &vue, const AstreDuPlan &astre);
 
 /// An amplitude: "E 23.4° N".
 std::string MotsAmplitude(const Preparation &f, bool lever, double amplitude);

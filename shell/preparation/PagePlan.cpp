@@ -2,10 +2,10 @@
 
 #include "foundations/Erreur.hpp"
 #include "foundations/TexteNombre.hpp"
-#include "shell/bureau/Avis.hpp"
 #include "shell/complements/Mots.hpp"
 #include "shell/ecran/ChoixFichier.hpp"
 #include "shell/ecran/Copie.hpp"
+#include "shell/preparation/CalculPlan.hpp"
 #include "shell/preparation/MotsPlan.hpp"
 
 #include <algorithm>
@@ -118,7 +118,7 @@ void EcritAstres(Surface &page, const Bureau &bureau) {
              {gauches[3], Dixiemes(a.magnitude)},
              {gauches[4], a.prereglage ? TexteAngleSigne(*a.prereglage) : ""},
              {gauches[5], DixiemesSignes(a.mouvement)},
-             {gauches[6], MotsRemarque(f, a)}});
+             {gauches[6], MotsRemarque(f, p.vue, a)}});
   }
 }
 
@@ -126,7 +126,11 @@ void EcritJeux(Surface &page, const Bureau &bureau) {
   constexpr std::size_t kParNombre = 2;
   const Preparation &f = bureau.preparation;
   Colonnes c(page, kHauteur - kMarge - 8 * kPas);
-  c.Ligne({{kMarge, f.MotOnglet[2].legende}, {9600, f.MotColonneJeux[1].legende}}, true);
+  std::string mieux;
+  for (const MeilleurMoment &moment : bureau.plan.meilleurs) {
+    mieux += MotsMeilleur(f, moment) + "    ";
+  }
+  c.Ligne({{kMarge, f.MotOnglet[2].legende}, {2100, mieux}, {9600, f.MotColonneJeux[1].legende}}, true);
   for (const auto &jeux : bureau.plan.jeux) {
     for (std::size_t i = 0; i < std::min(kParNombre, jeux.size()); ++i) {
       c.Ligne({{kMarge, MotsJeu(bureau, jeux[i])}, {9600, Format(std::sqrt(jeux[i].trace), "0.00")}});
@@ -167,17 +171,18 @@ void EmportePlan(Bureau &bureau, const CarteDuPlan &carte) {
   const DateCivile d = CivileDe(jour);
   const std::string nom =
       "plan-" + Format(d.annee, "0000") + "-" + Format(d.mois, "00") + "-" + Format(d.jour, "00") + ".pdf";
-  std::filesystem::path chemin = ChoisitFichier(bureau, f.Command2[0].legende, nom, "*.pdf;*.svg;*.png");
+  std::filesystem::path chemin =
+      ChoisitFichier(bureau, f.Command2[0].legende, nom, "*.pdf;*.svg;*.png", DitRefus::DansUneBoite);
   bureau.TitreFichier = avant;
+  bureau.premierPlan = kFenetrePreparation;
   if (chemin.empty()) {
     return;
   }
   if (!chemin.has_extension()) {
     chemin += ".pdf";
   }
-  if (EcritImageDe(bureau, PageDuPlan(bureau, carte), chemin)) {
-    Avise(bureau, f.TexteEcrit.legende + chemin.string());
-  }
+  const bool ecrit = EcritImageDe(bureau, PageDuPlan(bureau, carte), chemin, kFenetrePreparation);
+  DitPlan(bureau, (ecrit ? f.TexteEcrit : f.TexteNonEcrit).legende + chemin.string());
 }
 
 } // namespace velmaris

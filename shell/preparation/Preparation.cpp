@@ -1,7 +1,6 @@
 #include "shell/preparation/Preparation.hpp"
 
 #include "foundations/TexteNombre.hpp"
-#include "shell/bureau/Avis.hpp"
 #include "shell/bureau/Evenements.hpp"
 #include "shell/complements/Mots.hpp"
 #include "shell/complements/Saisies.hpp"
@@ -50,6 +49,9 @@ CarteDuPlan CarteVoulue(const Bureau &bureau) {
   carte.choisi = RangChoisi(p);
   carte.haut = f.Check1.valeur == 1 && !jambes.empty() ? jambes.front().cap : 0;
   carte.cardinaux = Cardinaux(f);
+  carte.largeur = [&bureau](const std::string &mots, const Police &police) {
+    return bureau.ports.largeurTexte(mots, police.taille, police.gras);
+  };
   carte.nom = [&bureau](const Astre &astre) { return NomDAstre(bureau, astre); };
   return carte;
 }
@@ -106,9 +108,15 @@ void MontreLignes(Bureau &bureau) {
   f.Label7.legende = jeu ? MotsInstant(f, p) : f.TexteSansJeu.legende;
   f.Label11.legende = p.amplitudes.amplitudes.empty() ? f.TexteSansAmplitude.legende : "";
   const bool donnee = !SansBlancs(f.Text5[0].texte).empty() || !SansBlancs(f.Text5[1].texte).empty();
-  f.Label13.legende = !donnee              ? f.TexteDonnez.legende
-                      : p.inconnus.empty() ? f.TexteSansInconnu.legende
-                                           : MotsInstant(f, p);
+  const bool refusee = !f.Text5[0].alerte.empty() || !f.Text5[1].alerte.empty();
+  f.Label13.legende = !donnee               ? f.TexteDonnez.legende
+                      : !p.inconnus.empty() ? MotsInstant(f, p)
+                      : refusee             ? PremiereFaute({&f.Text5[0], &f.Text5[1]})
+                                            : f.TexteSansInconnu.legende;
+  for (std::size_t i = 0; i < f.Mieux.size(); ++i) {
+    f.Mieux.at(i).visible = i < p.meilleurs.size();
+    f.Mieux.at(i).legende = i < p.meilleurs.size() ? MotsMeilleur(f, p.meilleurs[i]) : "";
+  }
 }
 
 void MontrePlan(Bureau &bureau) {
@@ -136,7 +144,8 @@ void Montre(Bureau &bureau) {
     f.LabAvis[0].legende =
         f.TexteSansJour.legende + bureau.fiche.MotRefus.at(static_cast<std::size_t>(*p.refus)).legende;
   } else {
-    f.LabAvis[0].legende = p.enCalcul ? f.TexteCalcul.legende : PremiereFaute(Liste(f));
+    const std::string faute = PremiereFaute(Liste(f));
+    f.LabAvis[0].legende = p.enCalcul ? f.TexteCalcul.legende : faute.empty() ? p.dit : faute;
   }
   if (p.journee && !p.enCalcul) {
     MontrePlan(bureau);
@@ -149,13 +158,13 @@ void MetAuPanneau(Bureau &bureau, std::size_t rang) {
   const AstreDuPlan &vu = bureau.plan.vue.astres.at(rang);
   const Astre astre = vu.astre;
   if (astre.genre == GenreAstre::Etoile && astre.rang > kNombreEtoiles) {
-    Avise(bureau, f.MotRaison.at(static_cast<std::size_t>(RaisonPale::LigneLoin)).legende);
+    DitPlan(bureau, f.MotRaison.at(static_cast<std::size_t>(RaisonPale::LigneLoin)).legende);
     return;
   }
   const std::string nom = NomDAstre(bureau, astre);
   RetientGeste(bureau, f.TexteGeste.legende + ", " + nom, [&] { PoseAstre(bureau, astre); });
   const std::string lecture = vu.prereglage ? "   " + TexteAngleSigne(*vu.prereglage) : "";
-  Avise(bureau, nom + lecture + "   " + TexteDirection(vu.azimut));
+  DitPlan(bureau, nom + lecture + "   " + TexteDirection(vu.azimut));
 }
 
 constexpr std::string_view kCle = "Plan";
@@ -211,6 +220,10 @@ void AccordePreparation(Bureau &bureau) {
   const bool etendue = Etend(f.dessinCarte, f.Carte);
   const bool esquisse = Etend(f.dessinEsquisse, f.Esquisse);
   const bool langue = std::exchange(bureau.plan.langue, bureau.FichierLangue) != bureau.FichierLangue;
+  if (langue) { // what was said is said anew where it still holds
+    OublieFautes(Liste(f));
+    DemandePlanDuJour(bureau);
+  }
   if (std::exchange(bureau.plan.aMontrer, false) || langue || etendue || esquisse) {
     Montre(bureau);
   }
@@ -225,7 +238,10 @@ void Command1_Click(Bureau &bureau, int indice) {
   DemandePlanDuJour(bureau);
 }
 
-void Onglets1_Click(Bureau &bureau, int /*indice*/) { bureau.plan.aMontrer = true; }
+void Onglets1_Click(Bureau &bureau, int /*indice*/) {
+  OublieFautes(Liste(bureau.preparation));
+  DemandePlanDuJour(bureau);
+}
 
 void HScroll1_Change(Bureau &bureau, int /*indice*/) {
   Preparation &f = bureau.preparation;
@@ -256,6 +272,17 @@ void Pas_Click(Bureau &bureau, int indice) {
   RegardeInstant(bureau);
 }
 
+void Mieux_Click(Bureau &bureau, int indice) {
+  const PlanOuvert &p = bureau.plan;
+  if (p.journee && static_cast<std::size_t>(indice) < p.meilleurs.size()) {
+    const double minutes = SecondesEntre(p.journee->debut, p.meilleurs[static_cast<std::size_t>(indice)].utc) / 60;
+    Controle &curseur = bureau.preparation.HScroll1;
+    curseur.valeur = std::clamp(static_cast<int>(std::lround(minutes)), curseur.minimum, curseur.maximum);
+    bureau.preparation.Jeux.tableau.courante = kSansLigne;
+    RegardeInstant(bureau);
+  }
+}
+
 void Case_Click(Bureau &bureau, int /*indice*/) { RegardeInstant(bureau); }
 
 void Carte_Presse(Bureau &bureau, int /*indice*/) {
@@ -283,7 +310,7 @@ void Prend_Click(Bureau &bureau, int /*indice*/) {
   if (const auto rang = RangChoisi(bureau.plan)) {
     MetAuPanneau(bureau, *rang);
   } else {
-    Avise(bureau, bureau.preparation.TexteSansChoix.legende);
+    DitPlan(bureau, bureau.preparation.TexteSansChoix.legende);
   }
 }
 
@@ -303,6 +330,8 @@ void Inconnu_Change(Bureau &bureau, int /*indice*/) { CalculeInconnu(bureau); }
 
 void Command2_Click(Bureau &bureau, int indice) {
   if (indice == 1) {
+    OublieFautes(Liste(bureau.preparation));
+    bureau.plan.dit.clear();
     bureau.preparation.cadre.visible = false;
     bureau.premierPlan = kFenetreDonnees;
   } else if (bureau.plan.journee) {

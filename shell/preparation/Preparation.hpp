@@ -24,6 +24,8 @@ void Onglets1_Click(Bureau &bureau, int indice);
 void HScroll1_Change(Bureau &bureau, int indice);
 /// Event before, steps of ten and of one minute, event after.
 void Pas_Click(Bureau &bureau, int indice);
+/// The moment of a time for stars that has its best set: the slider goes there.
+void Mieux_Click(Bureau &bureau, int indice);
 /// A box was ticked.
 void Case_Click(Bureau &bureau, int indice);
 /// The chart was pressed: the body there is chosen.

@@ -33,7 +33,7 @@ RangeeTexte RangeeAstre(const Bureau &bureau, const AstreDuPlan &astre) {
               Dixiemes(astre.magnitude),
               astre.prereglage ? TexteAngleSigne(*astre.prereglage) : std::string(),
               DixiemesSignes(astre.mouvement),
-              MotsRemarque(bureau.preparation, astre)};
+              MotsRemarque(bureau.preparation, bureau.plan.vue, astre)};
   r.ton = astre.raisons.none() ? TonLigne::Ordinaire : TonLigne::Faible;
   return r;
 }
@@ -100,7 +100,7 @@ void PoseInconnus(Bureau &bureau) {
     const AstreDuPlan &astre = bureau.plan.vue.astres.at(probable.rang);
     rangees.push_back({{NomDAstre(bureau, astre.astre), Format(std::round(probable.chance * kCent), "0") + " %",
                         DixiemesSignes(probable.ecartHauteur) + "°", DixiemesSignes(probable.ecartAzimut) + "°",
-                        Dixiemes(astre.magnitude), MotsRemarque(f, astre)},
+                        Dixiemes(astre.magnitude), MotsRemarque(f, bureau.plan.vue, astre)},
                        false,
                        TonLigne::Ordinaire});
   }

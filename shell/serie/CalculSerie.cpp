@@ -136,6 +136,7 @@ void RefaitSerie(Bureau &bureau) {
   FenetreSerie &f = bureau.fenetreSerie;
   SerieOuverte &p = bureau.serie;
   p.aMontrer = true;
+  p.dit.clear();
   GardeSerie(bureau);
   const std::optional<BaseLectures> base = LitBase(bureau);
   if (!base) {

@@ -1,7 +1,9 @@
 #include "foundations/TexteNombre.hpp"
-#include "shell/bureau/Avis.hpp"
+#include "shell/complements/Mots.hpp"
+#include "shell/complements/Saisies.hpp"
 #include "shell/serie/AstresListe.hpp"
 #include "shell/serie/CalculSerie.hpp"
+#include "shell/serie/GestesSerie.hpp"
 #include "shell/serie/LectureChamps.hpp"
 #include "shell/serie/PriseSerie.hpp"
 #include "shell/serie/Serie.hpp"
@@ -26,13 +28,14 @@ void AjouteTapee(Bureau &bureau, bool remplace) {
   const std::optional<DistanceListee> distance = LitDistanceTapee(bureau, base ? base->heureLieu : PresentUTC(bureau));
   p.aMontrer = true;
   if (!distance) {
+    ViseFaute(bureau.focus, {&f.Text5[0], &f.Text5[1], &f.Text5[2], &f.Text5[3]});
     return;
   }
   if (remplace && p.choisieLune < p.distances.size()) {
     p.distances.erase(p.distances.begin() + static_cast<std::ptrdiff_t>(p.choisieLune));
   }
   if (p.distances.size() >= kDistancesMax) {
-    Avise(bureau, f.MotAvisLune.at(static_cast<std::size_t>(AvisLunaire::Trop)).legende);
+    DitSerie(bureau, f.MotAvisLune.at(static_cast<std::size_t>(AvisLunaire::Trop)).legende);
     return;
   }
   p.distances.push_back(*distance);
@@ -70,8 +73,11 @@ void Distances_Click(Bureau &bureau, int /*indice*/) {
 
 void Distances_Coche(Bureau &bureau, int /*indice*/) {
   if (DistanceListee *distance = Courante(bureau)) {
-    distance->mesure.ecartee = !distance->mesure.ecartee;
-    RefaitSerie(bureau);
+    RetientGesteSerie(bureau, bureau.fenetreSerie.TexteEcartee.legende + ", " + TexteHeureUtc(distance->mesure.montre),
+                      [&] {
+                        distance->mesure.ecartee = !distance->mesure.ecartee;
+                        RefaitSerie(bureau);
+                      });
   }
 }
 
@@ -95,22 +101,29 @@ void Combo3_Click(Bureau &bureau, int /*indice*/) {
 
 void Text5_Valide(Bureau &bureau, int indice) {
   FenetreSerie &f = bureau.fenetreSerie;
-  if (indice == 0 && SansBlancs(f.Text5[1].texte).empty()) {
-    bureau.focus = &f.Text5[1];
-  } else {
-    AjouteTapee(bureau, false);
+  if (indice != 0) {
+    Command4_Click(bureau, 0);
+    return;
   }
+  MarqueChamp(f.Text5[0], LitHeureProche(f.Text5[0].texte, PresentUTC(bureau)).has_value(), f.TexteHors.legende);
+  if (!ViseFaute(bureau.focus, {&f.Text5[0]})) {
+    f.Text5[1].toutSelectionne = true;
+    bureau.focus = &f.Text5[1];
+  }
+  bureau.serie.aMontrer = true;
 }
 
 void Command4_Click(Bureau &bureau, int indice) {
-  SerieOuverte &p = bureau.serie;
-  if (indice < 2) {
-    AjouteTapee(bureau, indice == 1);
-  } else if (p.choisieLune < p.distances.size()) {
-    p.distances.erase(p.distances.begin() + static_cast<std::ptrdiff_t>(p.choisieLune));
-    p.choisieLune = p.distances.size();
-    RefaitSerie(bureau);
-  }
+  RetientGesteSerie(bureau, bureau.fenetreSerie.Command4.at(static_cast<std::size_t>(indice)).legende, [&] {
+    SerieOuverte &p = bureau.serie;
+    if (indice < 2) {
+      AjouteTapee(bureau, indice == 1);
+    } else if (p.choisieLune < p.distances.size()) {
+      p.distances.erase(p.distances.begin() + static_cast<std::ptrdiff_t>(p.choisieLune));
+      p.choisieLune = p.distances.size();
+      RefaitSerie(bureau);
+    }
+  });
 }
 
 void PrendLune_Click(Bureau &bureau, int /*indice*/) { GardeALaMontre(bureau); }

@@ -99,7 +99,8 @@ void Montre(Bureau &bureau) {
   const SerieOuverte &p = bureau.serie;
   f.cadre.titre = bureau.donnees.PU_Serie.legende;
   MontrePages(f);
-  f.LabAvis.legende = PremiereFaute(Liste(f));
+  const std::string faute = PremiereFaute(Liste(f));
+  f.LabAvis.legende = faute.empty() ? p.dit : faute;
   const double ecartType = EcartTypeDe(bureau);
   switch (static_cast<PageSerie>(f.Onglets1.rang)) {
   case PageSerie::Serie:
@@ -131,8 +132,10 @@ void AccordeSerie(Bureau &bureau) {
   const bool etendue = Etend(f.dessin, f.Dessin);
   const bool midi = Etend(f.dessinMidi, f.DessinMidi);
   const bool langue = std::exchange(bureau.serie.langue, bureau.FichierLangue) != bureau.FichierLangue;
-  if (langue) {
+  if (langue) { // what was said is said anew where it still holds
     PoseListes(bureau);
+    OublieFautes(Liste(f));
+    RefaitSerie(bureau);
   }
   if (std::exchange(bureau.serie.aMontrer, false) || langue || etendue || midi) {
     Montre(bureau);

@@ -101,6 +101,20 @@ std::vector<std::string> MotsAvisSerie(const Bureau &bureau) {
   return lignes;
 }
 
+std::string MotsDoute(const Bureau &bureau) {
+  using A = AvisSerie;
+  const SerieOuverte &p = bureau.serie;
+  const std::vector<AvisSerie> &avis = p.fiche.avis;
+  for (const A a :
+       {A::LectureImprobable, A::ErreurSansNom, A::Dispersion, A::PenteFausse, A::HauteurLoin, A::SousHorizon}) {
+    if (std::find(avis.begin(), avis.end(), a) != avis.end()) {
+      return bureau.fenetreSerie.MotAvis.at(Rang(a)).legende +
+             (a == A::LectureImprobable ? HeureDeLecture(p, p.fiche.improbable) : "");
+    }
+  }
+  return {};
+}
+
 std::vector<std::string> MotsAvisMidi(const Bureau &bureau) {
   const FenetreSerie &f = bureau.fenetreSerie;
   const SerieOuverte &p = bureau.serie;

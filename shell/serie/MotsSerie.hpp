@@ -14,6 +14,9 @@ namespace velmaris {
 /// @param p  with a run that is of its readings
 std::vector<std::string> MotsAvisSerie(const Bureau &bureau);
 
+/// Why the run's one reading isn't to be trusted as it is: the gravest of its warnings; empty for a good run.
+std::string MotsDoute(const Bureau &bureau);
+
 /// What is to be known of a noon.
 std::vector<std::string> MotsAvisMidi(const Bureau &bureau);
 

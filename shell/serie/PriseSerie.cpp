@@ -2,11 +2,12 @@
 
 #include "complements/serie/LecturesPretes.hpp"
 #include "foundations/TexteNombre.hpp"
-#include "shell/bureau/Avis.hpp"
 #include "shell/bureau/Evenements.hpp"
 #include "shell/complements/Mots.hpp"
 #include "shell/registre/LectureRegistre.hpp"
+#include "shell/serie/GestesSerie.hpp"
 #include "shell/serie/LectureChamps.hpp"
+#include "shell/serie/MotsSerie.hpp"
 #include "shell/visee/Annulation.hpp"
 #include "shell/visee/Astres.hpp"
 #include "shell/visee/Saisie.hpp"
@@ -68,6 +69,20 @@ void PoseBord(Bureau &bureau, const LectureSextant &sextant) {
   PoseOption(bureau, d.Option6.at(static_cast<std::size_t>(bord)));
 }
 
+/// The estimated position, each part of it where the panel has none.
+void PoseEstimeeVide(Bureau &bureau, const LieuNavire &lieu) {
+  const Donnees &d = bureau.donnees;
+  const auto vide = [](const Controle &degres, const Controle &minutes) {
+    return SansBlancs(degres.texte).empty() && SansBlancs(minutes.texte).empty();
+  };
+  if (vide(d.Text8, d.Text9)) {
+    PoseLatitudeEstimee(bureau, lieu.latitude);
+  }
+  if (vide(d.Text6, d.Text7)) {
+    PoseLongitudeEstimee(bureau, lieu.longitude);
+  }
+}
+
 } // namespace
 
 void MetSerieAuPanneau(Bureau &bureau) {
@@ -75,7 +90,7 @@ void MetSerieAuPanneau(Bureau &bureau) {
   const FicheSerie &fiche = bureau.serie.fiche;
   const std::optional<BaseLectures> base = LitBase(bureau);
   if (!base || !fiche.faite) {
-    Avise(bureau, f.TexteSansSerie.legende);
+    DitSerie(bureau, f.TexteSansSerie.legende);
     return;
   }
   const std::string nom = NomDAstre(bureau, base->astre);
@@ -88,17 +103,20 @@ void MetSerieAuPanneau(Bureau &bureau) {
       PoseVirgule(bureau, bureau.donnees.Text10, base->corrections.hauteurOeil);
       PoseVirgule(bureau, bureau.donnees.Text11, base->corrections.collimation);
       PoseLecture(bureau, fiche.lecture);
+      PoseEstimeeVide(bureau, LieuDeLaBase(*base, fiche.heure));
     }
   });
-  Avise(bureau, connu ? nom + "   " + TexteHeureUtc(fiche.heure) + "   " + TexteAngleSigne(fiche.lecture)
-                      : f.TexteHorsListe.legende);
+  const std::string doute = MotsDoute(bureau);
+  DitSerie(bureau, connu ? nom + "   " + TexteHeureUtc(fiche.heure) + "   " + TexteAngleSigne(fiche.lecture) +
+                               (doute.empty() ? "" : f.TexteMalgre.legende + doute)
+                         : f.TexteHorsListe.legende);
 }
 
 void MetMidiAuPanneau(Bureau &bureau) {
   const FenetreSerie &f = bureau.fenetreSerie;
   const FicheMeridienne &midi = bureau.serie.midi;
   if (!midi.latitude) {
-    Avise(bureau, f.TexteSansMidi.legende);
+    DitSerie(bureau, f.TexteSansMidi.legende);
     return;
   }
   RetientGeste(bureau, f.TexteGesteMidi.legende, [&] {
@@ -108,7 +126,7 @@ void MetMidiAuPanneau(Bureau &bureau) {
     }
   });
   const LieuNavire lieu{midi.latitude->latitude, midi.longitude ? midi.longitude->longitude : 0};
-  Avise(bureau, midi.longitude ? f.TextePrise.legende + TexteLieu(lieu) : f.TexteLatitudeSeule.legende);
+  DitSerie(bureau, midi.longitude ? f.TextePrise.legende + TexteLieu(lieu) : f.TexteLatitudeSeule.legende);
 }
 
 ReleveMontre ReleveDe(const SolutionLunaire &solution, const InstantUTC &montre,
@@ -126,7 +144,7 @@ void GardeALaMontre(Bureau &bureau) {
   const FenetreSerie &f = bureau.fenetreSerie;
   const SerieOuverte &p = bureau.serie;
   if (!p.lune.solution) {
-    Avise(bureau, f.TexteSansLune.legende);
+    DitSerie(bureau, f.TexteSansLune.legende);
     return;
   }
   std::vector<LectureSerie> heures;
@@ -137,7 +155,7 @@ void GardeALaMontre(Bureau &bureau) {
       MilieuDe(std::span<const LectureSerie>(heures), [](const LectureSerie &l) { return !l.ecartee; });
   LitRegistreAussitot(bureau);
   AjouteReleve(bureau, ReleveDe(*p.lune.solution, milieu, bureau.registreOuvert.montre));
-  Avise(bureau, f.TexteGarde.legende);
+  DitSerie(bureau, f.TexteGarde.legende);
 }
 
 } // namespace velmaris

@@ -8,12 +8,12 @@
 #include "foundations/Erreur.hpp"
 #include "foundations/Fichiers.hpp"
 #include "foundations/TexteNombre.hpp"
-#include "shell/bureau/Avis.hpp"
 #include "shell/complements/Mots.hpp"
 #include "shell/ecran/ChoixFichier.hpp"
 #include "shell/point/SourcesPoint.hpp"
 #include "shell/registre/LectureRegistre.hpp"
 #include "shell/serie/CalculSerie.hpp"
+#include "shell/serie/GestesSerie.hpp"
 
 #include <algorithm>
 #include <cmath>
@@ -65,13 +65,14 @@ std::vector<std::size_t> Cochees(const Bureau &bureau) {
 /// Asks for a file; the window's title, which the dialog makes of a sight's file, stays.
 std::filesystem::path Demande(Bureau &bureau, const Controle &titre, const std::string &nom) {
   const std::string avant = bureau.TitreFichier;
-  std::filesystem::path chemin = ChoisitFichier(bureau, titre.legende, nom, "*.txt");
+  std::filesystem::path chemin = ChoisitFichier(bureau, titre.legende, nom, "*.txt", DitRefus::DansUneBoite);
   bureau.TitreFichier = avant;
+  bureau.premierPlan = kFenetreSerie;
   return chemin;
 }
 
 void DitRefuse(Bureau &bureau, const std::string &mots, const std::filesystem::path &chemin) {
-  bureau.ports.boite({.texte = mots + "\n" + chemin.string(), .icone = Icone::Erreur});
+  bureau.ports.boite({.texte = mots + "\n" + chemin.string(), .icone = Icone::Erreur, .fenetre = kFenetreSerie});
 }
 
 } // namespace
@@ -150,7 +151,7 @@ void EcritLectures(Bureau &bureau) {
   const FenetreSerie &f = bureau.fenetreSerie;
   const std::string texte = TexteLectures(bureau.serie.lectures);
   if (texte.empty()) {
-    Avise(bureau, f.TextePeu.legende);
+    DitSerie(bureau, f.TextePeu.legende);
     return;
   }
   std::string jour = texte.substr(0, 10);
@@ -162,7 +163,7 @@ void EcritLectures(Bureau &bureau) {
   chemin += chemin.has_extension() ? "" : ".txt";
   try {
     EcritFichier(chemin, texte, bureau.dossiers.utilisateur);
-    Avise(bureau, f.TexteEcrit.legende + chemin.string());
+    DitSerie(bureau, f.TexteEcrit.legende + chemin.string());
   } catch (const Erreur &erreur) {
     DitRefuse(bureau, MotsErreur(bureau.donnees, erreur.numero) + "\n\n" + bureau.donnees.TexteNonEcrit.legende,
               chemin);

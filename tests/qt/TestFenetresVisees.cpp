@@ -1,8 +1,10 @@
 #include "OutilsFenetre.hpp"
 
 #include "shell/bureau/Evenements.hpp"
+#include "shell/qt/cadre/PortsQt.hpp"
 
 #include <QDialog>
+#include <QTimer>
 
 /// The windows of plan and runs on the screen.
 namespace velmaris::essais {
@@ -78,6 +80,71 @@ TEST_F(FenetresDesVisees, EveryWarningOfTheRunsWindowHasRoomInItsLine) {
     montre(2, f.MotAvisLune, f.LabLune[0]);
     Referme(f.cadre);
   }
+}
+
+/// A key with those that are held down.
+void ToucheAvec(QWidget &widget, int touche, Qt::KeyboardModifiers avec) {
+  QKeyEvent appui(QEvent::KeyPress, touche, avec);
+  QApplication::sendEvent(&widget, &appui);
+  QApplication::processEvents();
+}
+
+TEST_F(FenetresDesVisees, UndoAndRedoOfTheRunsWindowAreItsListsAndAFieldsTypingComesFirst) {
+  QDialog *dialogue = OuvreFenetre(false, d.PU_Serie, "Serie");
+  ASSERT_NE(dialogue, nullptr);
+  Joue([&] { ClicControle(bureau, bureau.fenetreSerie.Marque); });
+  ASSERT_EQ(bureau.serie.lectures.size(), 1U);
+  ToucheAvec(*dialogue, Qt::Key_Z, Qt::ControlModifier);
+  EXPECT_TRUE(bureau.serie.lectures.empty());
+  ToucheAvec(*dialogue, Qt::Key_Y, Qt::ControlModifier);
+  EXPECT_EQ(bureau.serie.lectures.size(), 1U);
+  ToucheAvec(*dialogue, Qt::Key_Z, Qt::ControlModifier);
+  ToucheAvec(*dialogue, Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
+  EXPECT_EQ(bureau.serie.lectures.size(), 1U);
+  auto *champ = dialogue->findChild<QLineEdit *>("Text41");
+  ASSERT_NE(champ, nullptr);
+  champ->setFocus();
+  champ->selectAll();
+  champ->insert("7");
+  QApplication::processEvents();
+  ToucheAvec(*champ, Qt::Key_Z, Qt::ControlModifier);
+  EXPECT_NE(champ->text(), "7");
+  EXPECT_EQ(bureau.serie.lectures.size(), 1U) << "the typing was taken back, not the reading";
+}
+
+TEST_F(FenetresDesVisees, ARefusedHourKeepsTheKeyboardWithItsTextSelected) {
+  QDialog *dialogue = OuvreFenetre(false, d.PU_Serie, "Serie");
+  ASSERT_NE(dialogue, nullptr);
+  dialogue->activateWindow();
+  FenetreSerie &f = bureau.fenetreSerie;
+  Joue([&] { SaisitTexte(bureau, f.Text4[0], "9 heures"); });
+  Joue([&] { ValideControle(bureau, f.Text4[0]); });
+  const auto *champ = qobject_cast<QLineEdit *>(dialogue->focusWidget());
+  ASSERT_NE(champ, nullptr);
+  EXPECT_EQ(champ->selectedText(), "9 heures");
+}
+
+TEST_F(FenetresDesVisees, TheKeyboardComesBackToThePlanAfterTheFilesWindow) {
+  qt::Boites vraies(bureau);
+  Ouvre(kPetitEcran);
+  vraies.Ouvre(scene, *fenetre);
+  bureau.ports.travaille = [](const std::function<std::function<void()>()> &travail) { travail()(); };
+  Joue([&] { ClicControle(bureau, d.PU_Preparation); });
+  auto *plan = fenetre->findChild<QDialog *>("Preparation");
+  ASSERT_NE(plan, nullptr);
+  plan->activateWindow();
+  QApplication::processEvents();
+  bool montre = false;
+  QTimer::singleShot(0, plan, [&] {
+    QWidget *fichiers = QApplication::activeModalWidget();
+    montre = fichiers != nullptr;
+    if (montre) {
+      Touche(fichiers, Qt::Key_Escape);
+    }
+  });
+  Joue([&] { ClicControle(bureau, bureau.preparation.Command2[0]); });
+  EXPECT_TRUE(montre);
+  EXPECT_EQ(QApplication::activeWindow(), plan);
 }
 
 } // namespace

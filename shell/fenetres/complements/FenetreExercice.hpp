@@ -47,7 +47,7 @@ struct FenetreExercice {
       TexteHorsRegistre, TexteImpossible, TexteTypee, TexteNonTypee, TexteBonne, TexteGeste, TexteSansChoix,
       TexteSansExercice, TexteSansPoint, TexteVers, TexteAttendu, TexteEstime, TexteMilles, TexteArret;
 
-  CadreFenetre cadre{kFenetreExercice, "", 14400, 9000, false, 14400, 9000};
+  CadreFenetre cadre{kFenetreExercice, "", 14400, 7800, false, 14400, 7800};
 };
 
 using LigneFenetreExercice = LigneDe<FenetreExercice>;

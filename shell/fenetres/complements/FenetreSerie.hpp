@@ -78,7 +78,7 @@ struct FenetreSerie {
       TexteSansPiste, TexteNord, TexteSud, TexteInferieur, TexteVersPassage, TexteEnRoute, TexteSansSommet, TexteLent,
       TexteRetarde, TexteAvance, TexteGarde, TexteSansLune, TexteSansSerie, TexteSansMidi, TexteLatitudeSeule,
       TextePrise, TexteRien, TexteVenues, TexteLigne, TexteEcrit, TextePleine, TexteHorsListe, TextePeu,
-      TexteSansEgales, TexteSeconde;
+      TexteSansEgales, TexteSeconde, TexteMalgre;
 
   Surface dessin, dessinMidi; ///< what `Dessin` and `DessinMidi` show
 

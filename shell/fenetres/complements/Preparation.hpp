@@ -36,6 +36,7 @@ struct Preparation {
   Controle Label3, Label4;               ///< the moment; Sun, Moon
   Controle Jour, Label5;                 ///< events of the day; times for stars
   std::array<Controle, 2> Label6, Text3; ///< magnitude, assumed error
+  std::array<Controle, 2> Mieux;         ///< moments of the best sets
   Controle Jeux, Esquisse, Label7;
   std::array<Controle, 3> Label8;
   Controle Combo1;                          ///< body of the compass bearing
@@ -58,13 +59,14 @@ struct Preparation {
   std::array<Controle, 12> MotEvenement;       ///< of the day, in the order of its usual course
   std::array<Controle, 5> MotAbsence;          ///< in the order of `RaisonAbsence`
   std::array<Controle, 4> MotPrise;            ///< in the order of `GenrePrise`
+  std::array<Controle, 4> MotMieux;            ///< the same, of the best set's moment
   std::array<Controle, 3> MotBord;             ///< in the order of `Contact`
   std::array<Controle, 4> MotCardinal;
   std::array<Controle, 5> MotLumiere; ///< day, the three twilights, night
   Controle TexteHors, TexteSoleil, TexteLune, TexteCroissante, TexteDecroissante, TexteFuseau, TexteCalcul,
       TexteSansJour, TexteSansPrise, TexteLever, TexteCoucher, TexteEst, TexteOuest, TexteSansJeu, TexteMieux,
       TexteSansAmplitude, TexteSansInconnu, TexteDonnez, TexteSousHorizon, TexteSansChoix, TexteGeste, TexteEcrit,
-      TexteNonEcrit, TexteTitrePage, TexteCap, TexteNoeuds, TexteOeil, TextePied;
+      TexteNonEcrit, TexteTitrePage, TexteCap, TexteNoeuds, TexteOeil, TextePied, TextePerduJour;
 
   Surface dessinCarte, dessinEsquisse; ///< what `Carte` and `Esquisse` show
 

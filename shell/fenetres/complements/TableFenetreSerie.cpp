@@ -242,6 +242,7 @@ constexpr LigneFenetreSerie kTable[] = {
     {SEUL(TextePeu), Genre::Texte, "", {}, "Tapez des lectures : l'heure, les degrés et minutes, Entrée"},
     {SEUL(TexteSansEgales), Genre::Texte, "", {}, "Ces heures ne donnent pas de longitude"},
     {SEUL(TexteSeconde), Genre::Texte, "", {}, "ou "},
+    {SEUL(TexteMalgre), Genre::Texte, "", {}, "   pris malgré : "},
 };
 // clang-format on
 

@@ -247,10 +247,11 @@ bool Fenetre::ToucheHabitude(QWidget &widget, const QKeyEvent &appui) {
     scene_.Joue([&] { ToucheMenu(bureau_, pointe, {place.x(), place.y()}, clavier); });
     return true;
   }
-  if (avec != Qt::ControlModifier || appui.key() < Qt::Key_A || appui.key() > Qt::Key_Z) {
+  const bool majuscule = avec == (Qt::ControlModifier | Qt::ShiftModifier);
+  if ((avec != Qt::ControlModifier && !majuscule) || appui.key() < Qt::Key_A || appui.key() > Qt::Key_Z) {
     return false;
   }
-  if (appui.key() == Qt::Key_C) {
+  if (appui.key() == Qt::Key_C && !majuscule) {
     const auto *champ = qobject_cast<const QLineEdit *>(&widget);
     if (champ != nullptr && champ->hasSelectedText()) {
       return false; // a field copies what is selected in it
@@ -262,7 +263,8 @@ bool Fenetre::ToucheHabitude(QWidget &widget, const QKeyEvent &appui) {
     return false;
   }
   bool prise = false;
-  scene_.Joue([&] { prise = ToucheControle(bureau_, static_cast<char>('A' + appui.key() - Qt::Key_A)); });
+  const char premiere = majuscule ? 'a' : 'A';
+  scene_.Joue([&] { prise = ToucheControle(bureau_, static_cast<char>(premiere + appui.key() - Qt::Key_A)); });
   return prise;
 }
 
@@ -329,21 +331,30 @@ bool Fenetre::ToucheTaille(const QKeyEvent &appui) {
   return true;
 }
 
-/// Control with Z, and with the shift key: the field's own typing first, then the last gesture.
+/// Control with Z; with the shift key too, or with Y, to redo: the field's own typing first, then the last gesture of
+/// its window.
 bool Fenetre::ToucheAnnule(QObject *objet, const QKeyEvent &appui) {
   const Qt::KeyboardModifiers avec = appui.modifiers() & ~Qt::KeypadModifier;
-  const bool retablit = avec == (Qt::ControlModifier | Qt::ShiftModifier);
+  const bool retablit = (appui.key() == Qt::Key_Z && avec == (Qt::ControlModifier | Qt::ShiftModifier)) ||
+                        (appui.key() == Qt::Key_Y && avec == Qt::ControlModifier);
   const auto *widget = qobject_cast<QWidget *>(objet);
-  if (appui.key() != Qt::Key_Z || (avec != Qt::ControlModifier && !retablit) || widget->window() != this ||
+  if (!(retablit || (appui.key() == Qt::Key_Z && avec == Qt::ControlModifier)) ||
       QApplication::activeModalWidget() != nullptr) {
     return false;
   }
-  const auto *champ = qobject_cast<const QLineEdit *>(objet);
-  if (champ != nullptr && (retablit ? champ->isRedoAvailable() : champ->isUndoAvailable())) {
-    return false;
+  if (auto *champ = qobject_cast<QLineEdit *>(objet);
+      champ != nullptr && (retablit ? champ->isRedoAvailable() : champ->isUndoAvailable())) {
+    if (appui.key() == Qt::Key_Z) {
+      return false; // it does so itself
+    }
+    champ->redo();
+    return true;
   }
-  scene_.Joue([&] { (retablit ? PU_Retablit_Click : PU_Annule_Click)(bureau_, -1); });
-  return true;
+  const QWidget *fenetre = widget->window();
+  const std::string nom = fenetre == this ? std::string(kFenetreDonnees) : fenetre->objectName().toStdString();
+  bool prise = false;
+  scene_.Joue([&] { prise = RevientDans(bureau_, nom, retablit); });
+  return prise;
 }
 
 bool Fenetre::eventFilter(QObject *objet, QEvent *event) {

@@ -17,6 +17,7 @@
 #include <QFontMetricsF>
 #include <QLocale>
 #include <QMessageBox>
+#include <QPointer>
 #include <QPushButton>
 #include <QScreen>
 #include <QWidget>
@@ -159,8 +160,11 @@ bool Boites::Montre(const Boite &boite) {
 void Boites::Ouvre(Scene &scene, QWidget &fenetre) {
   fenetre_ = &fenetre;
   bureau_.ports.modale = [&scene, &fenetre](CadreFenetre &cadre) {
-    FenetreDevant(fenetre, {}); // no menu stays open under it
-    Dialogue(scene, cadre, &fenetre).Montre();
+    const QPointer<QWidget> avant = FenetreDevant(fenetre, {}); // no menu stays open under it
+    Dialogue(scene, cadre, avant).Montre();
+    if (QWidget *encore = avant.data(); encore != nullptr && encore->isVisible()) {
+      encore->activateWindow(); // the keyboard comes back to where it was
+    }
   };
   bureau_.ports.attend = [&scene] {
     scene.Accorde();

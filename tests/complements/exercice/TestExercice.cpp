@@ -5,6 +5,7 @@
 
 #include <gmock/gmock.h>
 
+#include <algorithm>
 #include <cmath>
 #include <cstdio>
 #include <string>
@@ -181,6 +182,34 @@ TEST(Practice, TheStarsThatAreOfferedHaveGoodRowsInTheTable) {
       }
     }
   }
+}
+
+/// What was shown is known: of the slips that explain a line, the one that leaves most as it was shown comes first.
+TEST(Practice, AWrongMinuteIsNamedBeforeAYearThatWasShownAsItWasTyped) {
+  int nommees = 0;
+  for (std::size_t rang = 0; rang < kNiveaux; ++rang) {
+    const NiveauExercice &niveau = NiveauDe(rang);
+    for (std::uint64_t graine = 0; graine < 12; ++graine) {
+      const ExerciceComplet complet = FaitExercice(niveau.graine + graine, niveau.conditions);
+      for (const ViseeExercice &visee : complet.exercice.visees) {
+        Observation typee = Typee(complet.exercice, visee);
+        const int minute = std::stoi(typee.minute);
+        if (minute == 59) {
+          continue;
+        }
+        typee.minute = std::to_string(minute + 1);
+        const std::vector<Glissade> g = CorrigeExercice(complet, {&typee, 1}, {}).visees.front().glissades;
+        const auto laMinute = std::find_if(g.begin(), g.end(), [](const Glissade &une) {
+          return une.genre == GenreGlissade::Minute && une.ajout == -1;
+        });
+        if (laMinute != g.end()) {
+          EXPECT_EQ(laMinute, g.begin()) << "seed " << niveau.graine + graine;
+          ++nommees;
+        }
+      }
+    }
+  }
+  EXPECT_GT(nommees, 100);
 }
 
 } // namespace

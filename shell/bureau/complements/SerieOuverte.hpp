@@ -5,7 +5,9 @@
 #include "complements/serie/Meridienne.hpp"
 #include "complements/serie/Serie.hpp"
 
+#include <array>
 #include <cstddef>
+#include <deque>
 #include <optional>
 #include <string>
 #include <vector>
@@ -32,6 +34,22 @@ struct PointMidi {
   double hauteur = 0; ///< degrees, without air
 };
 
+/// What a gesture in the window changes and undo puts back.
+struct EtatSerie {
+  std::vector<LectureListee> lectures;
+  std::vector<DistanceListee> distances;
+  std::size_t choisie = 0;
+  std::size_t choisieLune = 0;
+  std::array<std::string, 8> champs; ///< texts of a reading's fields, of a distance's, of eye and index
+};
+
+/// One gesture in the window: its name to the user, and the state before and after it.
+struct PasSerie {
+  std::string nom;
+  EtatSerie avant, apres;
+  bool auPanneau = false; ///< it changed the main window's panel, whose list of gestures has it under that name
+};
+
 /// Readings of one body and distances of the Moon, and what came out of them, as their window shows it.
 struct SerieOuverte {
   std::vector<LectureListee> lectures;   ///< by time
@@ -46,9 +64,11 @@ struct SerieOuverte {
   std::optional<LongitudeParHeures> egales;
   FicheLunaire lune;
   std::vector<CandidatLunaire> candidats;
-  bool reprise = false; ///< the fields hold what was kept, or the panel's figures
-  bool aMontrer = true; ///< something has changed that the window doesn't show yet
-  std::string langue;   ///< that the window's words are in
+  std::deque<PasSerie> faits, defaits; ///< gestures that can be undone, and redone, the latest last
+  std::string dit;                     ///< what the last gesture has to say, until the next one
+  bool reprise = false;                ///< the fields hold what was kept, or the panel's figures
+  bool aMontrer = true;                ///< something has changed that the window doesn't show yet
+  std::string langue;                  ///< that the window's words are in
 };
 
 } // namespace velmaris
