@@ -17,18 +17,22 @@
 namespace velmaris::essais {
 namespace {
 
-/// Words of the pages, from the list that both languages are told by.
+/// Words of the pages, from the language file.
 MotsAlmanach Mots(bool francais) {
   MotsAlmanach mots;
-  std::ifstream liste(VELMARIS_ESSAIS "/complements/almanach/mots.txt");
+  std::ifstream fichier(std::string(VELMARIS_DONNEES) + (francais ? "/FR.txt" : "/EN.txt"));
+  const std::string controle = "MotAlmanach\\";
   std::string ligne;
-  std::size_t rang = 0;
-  while (std::getline(liste, ligne)) {
-    const std::size_t un = ligne.find('|');
-    const std::size_t deux = ligne.find('|', un + 1);
-    mots.textes.at(rang++) = francais ? ligne.substr(un + 1, deux - un - 1) : ligne.substr(deux + 1);
+  std::size_t nombre = 0;
+  while (std::getline(fichier, ligne)) {
+    if (ligne.starts_with(controle)) {
+      const std::size_t fin = ligne.find('\\', controle.size());
+      const std::size_t rang = std::stoul(ligne.substr(ligne.rfind('\\') + 1));
+      mots.textes.at(rang) = ligne.substr(controle.size(), fin - controle.size());
+      ++nombre;
+    }
   }
-  EXPECT_EQ(rang, kMotsAlmanach);
+  EXPECT_EQ(nombre, kMotsAlmanach);
   return mots;
 }
 
