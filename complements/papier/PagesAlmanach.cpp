@@ -36,10 +36,10 @@ bool EstTitre(const std::string &ligne) {
   return ligne.size() > 1 && ligne[0] >= '1' && ligne[0] <= '9' && ligne[1] == '.';
 }
 
-/// Whether a paragraph begins: with two capitals.
+/// Whether a paragraph begins: with two capitals that are no formula.
 bool EstDebut(const std::string &ligne) {
   const auto capitale = [](char c) { return (c >= 'A' && c <= 'Z') || c == '\''; };
-  return ligne.size() > 1 && capitale(ligne[0]) && capitale(ligne[1]);
+  return ligne.size() > 1 && capitale(ligne[0]) && capitale(ligne[1]) && ligne.find('=') > 8;
 }
 
 } // namespace

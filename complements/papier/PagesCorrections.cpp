@@ -186,7 +186,7 @@ void PoseAir(Feuillet &page, const CadreAlmanach &c, double gauche, double haut,
                     5,
                     kColonne};
   for (std::string &nom : suite.colonnes) {
-    nom = "+" + nom;
+    nom.insert(0, 1, '+');
   }
   y = PoseTableau(page, gauche, y, taille, interligne, suite);
   page.Mot({gauche, y + 0.5 * interligne}, c.mots[Mot::NoteAirNegatif], {.taille = kNote, .italique = true});
@@ -226,9 +226,10 @@ double PoseLunePremiere(Feuillet &page, const CadreAlmanach &c, const Boite &boi
   page.Mot({boite.gauche, boite.haut + interligne}, c.mots[Mot::LunePremiere], {.taille = taille + 0.5, .gras = true});
   for (std::size_t i = 0; i < lune.x.size(); ++i) {
     const std::size_t rang = i % kParColonne;
-    const double x = boite.gauche + static_cast<double>(i / kParColonne) * pas;
-    const double y =
-        boite.haut + (2.3 + static_cast<double>(rang) + 0.4 * static_cast<double>(rang / kParDegre)) * interligne;
+    const std::size_t colonne = i / kParColonne;
+    const std::size_t groupe = rang / kParDegre;
+    const double x = boite.gauche + static_cast<double>(colonne) * pas;
+    const double y = boite.haut + (2.3 + static_cast<double>(rang) + 0.4 * static_cast<double>(groupe)) * interligne;
     const bool degre = i % kParDegre == 0;
     const std::string nom = degre ? TexteCourt(lune.x[i], virgule) + "°" : std::to_string(i % kParDegre * 10);
     page.Mot({x + LargeurChiffres(taille, 2.9), y}, nom, {.taille = taille, .gras = degre, .ancrage = Ancrage::Droite});
@@ -257,7 +258,8 @@ Feuillet PageLunePremiere(const CadreAlmanach &c) {
     const TableDouble forme = TableFormeTerre(latitudes[i]);
     TableauPose tableau{c.mots[Mot::Latitude] + ' ' + TexteCourt(latitudes[i], virgule) + "°", Courts(forme.y, virgule),
                         Courts(forme.x, virgule), TextesDixiemes(forme.z, virgule)};
-    const double haut = y + static_cast<double>(i / 3) * 8.5 * interligne;
+    const std::size_t etage = i / 3;
+    const double haut = y + static_cast<double>(etage) * 8.5 * interligne;
     fin = std::max(
         fin, PoseTableau(page, boite.gauche + static_cast<double>(i % 3) * pas, haut, taille, interligne, tableau));
   }

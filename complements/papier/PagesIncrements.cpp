@@ -22,7 +22,10 @@ std::vector<Colonne> ColonnesMinute(double gauche, double taille) {
   return ColonnesDroites(gauche, taille, {2.2, 7.1, 7.1, 7.1, 5.4, 3.8, 4.8, 3.8, 4.8, 3.8});
 }
 
-double LigneDe(int rang) { return rang + kJeu * (rang / kGroupe); }
+double LigneDe(int rang) {
+  const int groupe = rang / kGroupe;
+  return rang + kJeu * groupe;
+}
 
 void PoseMinute(Feuillet &page, const CadreAlmanach &c, int minute, const Boite &boite, double taille,
                 double interligne) {

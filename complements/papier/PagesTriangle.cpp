@@ -53,7 +53,8 @@ void PoseEntrees(Feuillet &page, const Entrees &e, const std::string &note) {
     const bool fin = dernier == e.a * kParDegre;
     for (int rang = premier; rang < dernier + (fin ? 1 : 0); ++rang) {
       const int ligne = rang - premier;
-      const double y = tete + (1.4 + ligne + 0.4 * (ligne / kParDegre)) * interligne;
+      const int groupe = ligne / kParDegre;
+      const double y = tete + (1.4 + ligne + 0.4 * groupe) * interligne;
       PoseRangee(page, y, {places.front()}, {NomEntree(rang)}, {.taille = taille, .gras = rang % kParDegre == 0});
       PoseRangee(page, y, {places.begin() + 1, places.end()}, e.textes(rang), {.taille = taille});
     }

@@ -11,23 +11,28 @@
 #include <array>
 #include <fstream>
 #include <gtest/gtest.h>
+#include <map>
 
 /// The almanac's pages as they are painted, and as another program reads them in the file.
 namespace velmaris::essais {
 namespace {
 
-/// Words of the pages, from the list that both languages are told by.
+/// Words of the pages, from the language file.
 MotsAlmanach Mots(bool francais) {
   MotsAlmanach mots;
-  std::ifstream liste(VELMARIS_ESSAIS "/complements/almanach/mots.txt");
+  std::ifstream fichier(std::string(VELMARIS_DONNEES) + (francais ? "/FR.txt" : "/EN.txt"));
+  const std::string controle = "MotAlmanach\\";
   std::string ligne;
-  std::size_t rang = 0;
-  while (std::getline(liste, ligne)) {
-    const std::size_t un = ligne.find('|');
-    const std::size_t deux = ligne.find('|', un + 1);
-    mots.textes.at(rang++) = francais ? ligne.substr(un + 1, deux - un - 1) : ligne.substr(deux + 1);
+  std::size_t nombre = 0;
+  while (std::getline(fichier, ligne)) {
+    if (ligne.starts_with(controle)) {
+      const std::size_t fin = ligne.find('\\', controle.size());
+      const std::size_t rang = std::stoul(ligne.substr(ligne.rfind('\\') + 1));
+      mots.textes.at(rang) = ligne.substr(controle.size(), fin - controle.size());
+      ++nombre;
+    }
   }
-  EXPECT_EQ(rang, kMotsAlmanach);
+  EXPECT_EQ(nombre, kMotsAlmanach);
   return mots;
 }
 
@@ -56,7 +61,9 @@ std::vector<std::string> Fautes(const Feuillet &page) {
   QImage support(8, 8, QImage::Format_ARGB32);
   support.setDotsPerMeterX(kPointsParMetre);
   support.setDotsPerMeterY(kPointsParMetre);
-  std::vector<std::pair<QRectF, std::string>> zones;
+  // By bands of the page, higher than any text: what overlaps a text stands in its band or in one beside it.
+  constexpr double kBande = 400;
+  std::map<int, std::vector<std::pair<QRectF, std::string>>> bandes;
   std::vector<std::string> fautes;
   for (const ElementFeuillet &element : page.elements) {
     const auto *mot = std::get_if<MotFeuillet>(&element);
@@ -69,12 +76,15 @@ std::vector<std::string> Fautes(const Feuillet &page) {
         encre.top() < kMarge) {
       fautes.push_back("leaves the page: " + mot->texte);
     }
-    for (const auto &[autre, texte] : zones) {
-      if (autre.intersects(encre)) {
-        fautes.push_back("overlaps: " + mot->texte + " / " + texte);
+    const int bande = static_cast<int>(encre.top() / kBande);
+    for (const int voisine : {bande - 1, bande, bande + 1}) {
+      for (const auto &[autre, texte] : bandes[voisine]) {
+        if (autre.intersects(encre)) {
+          fautes.push_back("overlaps: " + mot->texte + " / " + texte);
+        }
       }
     }
-    zones.emplace_back(encre, mot->texte);
+    bandes[bande].emplace_back(encre, mot->texte);
   }
   return fautes;
 }
@@ -87,10 +97,13 @@ TEST_P(PagesImprimees, NoTextOverlapsAnotherOrLeavesThePaper) {
   for (const Almanach &almanach :
        {Figures({2026, 9, 28}, {2026, 9, 30}, kLatitudesAlmanachMax), Figures({2026, 1, 1}, {2027, 2, 4}, 0)}) {
     const bool longue = almanach.jours.size() > 3;
-    const auto pages =
-        PagesAlmanach(almanach, Mots(francais), {.format = format, .jours = !longue, .fait = {2026, 5, 1}});
+    const auto pages = PagesAlmanach(almanach, Mots(francais),
+                                     {.format = format, .jours = !longue, .increments = !longue, .fait = {2026, 5, 1}});
     ASSERT_TRUE(pages);
-    for (const Feuillet &page : *pages) {
+    // The pages of increments are all alike: the last of them stands for them.
+    constexpr std::size_t kAvantIncrements = 11;
+    for (std::size_t i = 0; i < pages->size(); i += longue || i < kAvantIncrements || i + 2 >= pages->size() ? 1 : 4) {
+      const Feuillet &page = (*pages)[i];
       EXPECT_EQ(page.largeur, TailleDuPapier(format).x);
       for (const std::string &faute : Fautes(page)) {
         ADD_FAILURE() << page.titre << ": " << faute;
