@@ -101,18 +101,18 @@ void DessineAstre(Surface &s, const CielDuPlan &ciel, const CarteDuPlan &carte, 
 /// In which order a body's name takes its place.
 /// @return nothing for one that has none
 std::optional<int> ClasseDuNom(const CarteDuPlan &carte, const AstreDuPlan &astre, std::size_t rang) {
-  constexpr int kPales = 20; ///< after all proposed ones
+  constexpr int kPales = 3; ///< half magnitudes that a star left out counts as fainter
   const bool pale = astre.raisons.any();
   if (carte.choisi == rang) {
     return 0;
   }
+  if (astre.astre.genre != GenreAstre::Etoile) {
+    return 1;
+  }
   if (astre.magnitude >= (pale ? kBrillante : kNommee)) {
     return std::nullopt;
   }
-  const bool etoile = astre.astre.genre == GenreAstre::Etoile;
-  const int eclat =
-      etoile ? 2 + std::max(0, static_cast<int>(std::floor((astre.magnitude + 1.5) / kDemiMagnitude))) : 1;
-  return pale ? kPales + eclat : eclat;
+  return 2 + std::max(0, static_cast<int>(std::floor((astre.magnitude + 1.5) / kDemiMagnitude))) + (pale ? kPales : 0);
 }
 
 /// Whether a rectangle lies inside of the horizon.

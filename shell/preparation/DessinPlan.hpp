@@ -28,8 +28,9 @@ struct CarteDuPlan {
 Point PlaceSurCarte(const Surface &surface, double hauteur, double azimut, double haut);
 
 /// Draws the round chart anew. Each name stands beside its body, inside the horizon, where no other does: the chosen
-/// body's first, then those of Sun, Moon and planets, then stars by half magnitudes, the proposed before the others;
-/// stars over magnitude 3.5, and pale ones over 1.5, have none. One that finds no place is left out.
+/// body's first, then those of Sun, Moon and planets, then stars by half magnitudes, those left out as if they were
+/// three of these fainter; stars over magnitude 3.5, and those left out over 1.5, have none. One that finds no place is
+/// left out.
 void DessineCarte(Surface &surface, const CielDuPlan &ciel, const CarteDuPlan &carte);
 
 /// The body nearest to a point of the chart.
