@@ -70,7 +70,7 @@ constexpr LigneFenetrePapier kPapier[] = {
     {RANG(MotFormat, 1), Genre::Texte, "", {}, "Lettre"},
     {RANG(MotOrdre, 0), Genre::Texte, "", {}, "nom"},
     {RANG(MotOrdre, 1), Genre::Texte, "", {}, "ascension verse"},
-    {RANG(MotDefaut, 0), Genre::Texte, "", {}, "une date qui n'est pas, ou hors de 1900 à 2100"},
+    {RANG(MotDefaut, 0), Genre::Texte, "", {}, "une date qui n'est pas, ou hors de 1901 à 2099"},
     {RANG(MotDefaut, 1), Genre::Texte, "", {}, "la fin avant le début"},
     {RANG(MotDefaut, 2), Genre::Texte, "", {}, "plus de 400 jours"},
     {RANG(MotDefaut, 3), Genre::Texte, "", {}, "une latitude qui n'en est pas une"},
