@@ -163,16 +163,15 @@ void MontrePage(Bureau &bureau) {
   FenetrePapier &f = bureau.fenetrePapier;
   const PagesOuvertes &vues = PagesVues(bureau);
   const std::size_t nombre = vues.pages ? vues.pages->size() : 0;
-  const bool ecrit = bureau.papier.enEcriture;
   f.Feuille.feuillet = nombre == 0 ? nullptr : std::shared_ptr<const Feuillet>(vues.pages, &(*vues.pages)[vues.rang]);
   f.LabPage.legende = nombre == 0 ? f.TexteSansPage.legende
                                   : f.TextePage.legende + std::to_string(vues.rang + 1) + " / " +
                                         std::to_string(nombre) + "   " + (*vues.pages)[vues.rang].titre;
   f.Page[0].actif = vues.rang > 0;
   f.Page[1].actif = vues.rang + 1 < nombre;
-  f.Command2[0].actif = nombre > 0 && !ecrit;
-  f.Command2[1].actif = nombre > 0 && !ecrit;
-  f.Command2[2].actif = OngletVu(f) == OngletPapier::Almanach && bureau.papier.almanach && !ecrit;
+  f.Command2[0].actif = nombre > 0;
+  f.Command2[1].actif = nombre > 0;
+  f.Command2[2].actif = OngletVu(f) == OngletPapier::Almanach && bureau.papier.almanach;
 }
 
 void Montre(Bureau &bureau) {
@@ -224,7 +223,7 @@ void EcritPages(Bureau &bureau) {
   PapierOuvert &p = bureau.papier;
   const std::shared_ptr<const Feuillets> pages = PagesVues(bureau).pages;
   const fs::path chemin = ChoisitSortie(bureau, f.Command2[0], NomDesPages(bureau), ".pdf");
-  if (chemin.empty() || !pages) {
+  if (chemin.empty() || !pages || p.enEcriture) {
     return;
   }
   p.enEcriture = true;
