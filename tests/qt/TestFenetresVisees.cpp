@@ -125,9 +125,9 @@ TEST_F(FenetresDesVisees, ARefusedHourKeepsTheKeyboardWithItsTextSelected) {
 }
 
 TEST_F(FenetresDesVisees, TheKeyboardComesBackToThePlanAfterTheFilesWindow) {
-  qt::Boites boites(bureau);
+  qt::Boites dites(bureau);
   Ouvre(kPetitEcran);
-  boites.Ouvre(scene, *fenetre);
+  dites.Ouvre(scene, *fenetre);
   bureau.ports.travaille = [](const std::function<std::function<void()>()> &travail) { travail()(); };
   Joue([&] { ClicControle(bureau, d.PU_Preparation); });
   auto *plan = fenetre->findChild<QDialog *>("Preparation");
