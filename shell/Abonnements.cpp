@@ -28,6 +28,7 @@
 #include "shell/ecran/Presentation.hpp"
 #include "shell/ecran/Rangement.hpp"
 #include "shell/exercice/EvenementsExercice.hpp"
+#include "shell/papier/Papier.hpp"
 #include "shell/point/Point.hpp"
 #include "shell/preparation/Preparation.hpp"
 #include "shell/registre/FichiersRegistre.hpp"
@@ -230,6 +231,17 @@ constexpr Abonnement kExercice[] = {
 };
 
 // NOLINTNEXTLINE(cppcoreguidelines-avoid-c-arrays,modernize-avoid-c-arrays)
+constexpr Abonnement kPapier[] = {
+    {"Onglets1", Evenement::Clic, papier::Onglets1_Click}, {"Text1", Evenement::Change, papier::Text1_Change},
+    {"Text1", Evenement::Valide, papier::Text1_Valide},    {"Combo2", Evenement::Clic, papier::Text1_Change},
+    {"Check1", Evenement::Clic, papier::Text1_Change},     {"Command1", Evenement::Clic, papier::Command1_Click},
+    {"Option1", Evenement::Clic, papier::Champ_Change},    {"Check2", Evenement::Clic, papier::Champ_Change},
+    {"Text2", Evenement::Change, papier::Champ_Change},    {"Text3", Evenement::Change, papier::Champ_Change},
+    {"Combo1", Evenement::Clic, papier::Champ_Change},     {"Page", Evenement::Clic, papier::Page_Click},
+    {"Command2", Evenement::Clic, papier::Command2_Click},
+};
+
+// NOLINTNEXTLINE(cppcoreguidelines-avoid-c-arrays,modernize-avoid-c-arrays)
 constexpr Abonnement kDonnees[] = {
     {"TDate", Evenement::Quitte, TDate_Quitte},
     {"TDate", Evenement::Change, TDate_Change},
@@ -262,6 +274,7 @@ constexpr Abonnement kDonnees[] = {
     {"PU_Preparation", Evenement::Clic, OuvrePreparation_Click},
     {"PU_Serie", Evenement::Clic, OuvreSerie_Click},
     {"PU_Exercice", Evenement::Clic, OuvreExercice_Click},
+    {"PU_Papier", Evenement::Clic, OuvrePapier_Click},
     {"PU_PointTrace", Evenement::Clic, PU_PointTrace_Click},
     {"PU_Sillage", Evenement::Clic, PU_Sillage_Click},
     {"Command3", Evenement::Clic, Command3_Click},
@@ -387,6 +400,9 @@ std::span<const Abonnement> AbonnementsDe(std::string_view fenetre) {
   }
   if (fenetre == kFenetreExercice) {
     return kExercice;
+  }
+  if (fenetre == kFenetrePapier) {
+    return kPapier;
   }
   return fenetre == kFenetreFSelect ? std::span<const Abonnement>(kFSelect) : std::span<const Abonnement>();
 }

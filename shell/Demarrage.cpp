@@ -285,6 +285,7 @@ bool ToucheControle(Bureau &bureau, char lettre) {
                            : lettre == 'K' ? &d.PU_Preparation
                            : lettre == 'R' ? &d.PU_Serie
                            : lettre == 'E' ? &d.PU_Exercice
+                           : lettre == 'a' ? &d.PU_Papier
                                            : nullptr;
   if (bouton != nullptr) {
     ClicControle(bureau, *bouton);
@@ -311,8 +312,8 @@ bool RevientDans(Bureau &bureau, std::string_view fenetre, bool retablit) {
 
 void Complement_Click(Bureau &bureau, int indice) {
   Donnees &d = bureau.donnees;
-  const std::array<Controle *, 6> entrees = {&d.PU_Fiche,       &d.PU_Registre, &d.PU_Point,
-                                             &d.PU_Preparation, &d.PU_Serie,    &d.PU_Exercice};
+  const std::array<Controle *, 7> entrees = {&d.PU_Fiche, &d.PU_Registre, &d.PU_Point, &d.PU_Preparation,
+                                             &d.PU_Serie, &d.PU_Exercice, &d.PU_Papier};
   ClicControle(bureau, *entrees.at(static_cast<std::size_t>(indice)));
 }
 
@@ -355,6 +356,9 @@ void Image10_Click(Bureau &bureau, int indice) {
   ChargeLangue(bureau, kFenetrePreparation);
   ChargeLangue(bureau, kFenetreSerie);
   ChargeLangue(bureau, kFenetreExercice);
+  ChargeLangue(bureau, kFenetrePapier);
+  ChargeLangue(bureau, kFenetreMotsPapier);
+  ChargeLangue(bureau, kFenetreTermes);
   PoseDomaines(bureau);
   if (bureau.fselect.chargee) {
     ChargeLangue(bureau, kFenetreFSelect);

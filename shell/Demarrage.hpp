@@ -27,8 +27,9 @@ inline constexpr int kToucheF1 = 112;
 bool Donnees_KeyDown(Bureau &bureau, int code);
 
 /// A letter with the control key: S saves, O opens, P shows the print page, Q leaves, each by its button;
-/// I opens the check sheet, L the log, G the fix in figures.
-/// @param lettre  a capital
+/// I opens the check sheet, L the log, G the fix in figures, K the plan, R runs of readings, E practice; with the shift
+/// key A opens the printed pages.
+/// @param lettre  a capital; a small letter with the shift key
 /// @return whether it does something here
 bool ToucheControle(Bureau &bureau, char lettre);
 

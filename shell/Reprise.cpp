@@ -28,6 +28,7 @@ constexpr std::string_view kResultat = "resultat"; ///< body, intercept, azimuth
 constexpr std::string_view kReduite = "reduite";   ///< the sight that was reduced, as its file
 constexpr std::string_view kDite = "dite";         ///< four figures of that sight as it was told, and the sight
 constexpr std::string_view kObjets = "objets";
+constexpr std::string_view kPoint = "point"; ///< of the fix: identity, ticked, assumed error
 constexpr std::ptrdiff_t kPremierDetail = 5; ///< part of a result's line
 constexpr std::size_t kPartiesResultat = 12;
 constexpr char kSeparateur = '\t';
@@ -178,6 +179,8 @@ void LitLigne(const std::vector<std::string> &p, Session &session) {
         {LitExact<double>(p[1]), LitExact<double>(p[2]), LitExact<double>(p[3]), LitExact<double>(p[4])}};
   } else if (est(kObjets, 1)) {
     session.objets = p[1];
+  } else if (est(kPoint, 3)) {
+    session.point.push_back({p[1], p[2] == "1", p[3].empty() ? std::nullopt : std::optional(LitExact<double>(p[3]))});
   } else {
     throw Erreur(13);
   }
@@ -204,6 +207,7 @@ Session PriseSession(Bureau &bureau) {
   if (bureau.utilisateur.Modifie != 0) {
     session.objets = TexteObjets(bureau.utilisateur);
   }
+  session.point = ViseesTenues(bureau.point);
   return session;
 }
 
@@ -221,6 +225,9 @@ std::string TexteSession(const Session &session) {
   AjouteResultat(texte, session.resultat);
   if (session.objets) {
     Ajoute(texte, kObjets, {*session.objets});
+  }
+  for (const ViseeTenue &v : session.point) {
+    Ajoute(texte, kPoint, {v.identite, Booleen(v.cochee), v.ecartType ? Court(*v.ecartType) : std::string()});
   }
   return texte.append(kFin) + "\n";
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "shell/bureau/Bureau.hpp"
+#include "shell/point/SourcesPoint.hpp"
 
 #include <array>
 #include <optional>
@@ -30,6 +31,7 @@ struct Session {
   EtatFeuille feuille;
   EtatResultat resultat;
   std::optional<std::string> objets; ///< lines of the user's objects, while they differ from their file
+  std::vector<ViseeTenue> point;     ///< the sights that the fix is made of
   bool operator==(const Session &) const = default;
 };
 

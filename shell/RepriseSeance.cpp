@@ -83,6 +83,9 @@ void ReprendSession(Bureau &bureau, const Session &session) {
   if (session.objets) {
     RemetListeObjets(bureau, *session.objets);
   }
+  if (!session.point.empty()) {
+    RemetVisees(bureau, session.point);
+  }
 }
 
 void ProposeReprise(Bureau &bureau, bool sansQuestion) {

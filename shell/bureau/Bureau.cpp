@@ -25,6 +25,9 @@ Bureau::Bureau() {
   InitialisePreparation(preparation);
   InitialiseFenetreSerie(fenetreSerie);
   InitialiseFenetreExercice(fenetreExercice);
+  InitialiseFenetrePapier(fenetrePapier);
+  InitialiseMotsPapier(motsPapier);
+  InitialiseTermesAlmanach(termesAlmanach);
 }
 
 Bureau::~Bureau() = default;
@@ -66,13 +69,23 @@ ListeControles ControlesDe(Bureau &bureau, std::string_view fenetre) {
   if (fenetre == kFenetreExercice) {
     return Liste(bureau.fenetreExercice);
   }
+  if (fenetre == kFenetrePapier) {
+    return Liste(bureau.fenetrePapier);
+  }
+  if (fenetre == kFenetreMotsPapier) {
+    return Liste(bureau.motsPapier);
+  }
+  if (fenetre == kFenetreTermes) {
+    return Liste(bureau.termesAlmanach);
+  }
   return fenetre == kFenetreImpression ? Liste(bureau.impression) : ListeControles();
 }
 
 std::vector<CadreFenetre *> FenetresLibres(Bureau &bureau) {
-  return {&bureau.utilisateur.cadre, &bureau.ciel.cadre,         &bureau.impression.cadre,
-          &bureau.fiche.cadre,       &bureau.registre.cadre,     &bureau.fenetrePoint.cadre,
-          &bureau.preparation.cadre, &bureau.fenetreSerie.cadre, &bureau.fenetreExercice.cadre};
+  return {&bureau.utilisateur.cadre,  &bureau.ciel.cadre,         &bureau.impression.cadre,
+          &bureau.fiche.cadre,        &bureau.registre.cadre,     &bureau.fenetrePoint.cadre,
+          &bureau.preparation.cadre,  &bureau.fenetreSerie.cadre, &bureau.fenetreExercice.cadre,
+          &bureau.fenetrePapier.cadre};
 }
 
 Surface *SurfaceDe(Bureau &bureau, const Controle &controle) {

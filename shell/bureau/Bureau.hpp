@@ -13,13 +13,14 @@
 #include "lines/FichierLoP.hpp"
 #include "lines/Transport.hpp"
 #include "shell/bureau/EtatRevocable.hpp"
-#include "shell/bureau/ExerciceOuvert.hpp"
-#include "shell/bureau/PlanOuvert.hpp"
-#include "shell/bureau/PointOuvert.hpp"
 #include "shell/bureau/Ports.hpp"
-#include "shell/bureau/RegistreOuvert.hpp"
-#include "shell/bureau/SerieOuverte.hpp"
 #include "shell/bureau/Verification.hpp"
+#include "shell/bureau/complements/ExerciceOuvert.hpp"
+#include "shell/bureau/complements/PapierOuvert.hpp"
+#include "shell/bureau/complements/PlanOuvert.hpp"
+#include "shell/bureau/complements/PointOuvert.hpp"
+#include "shell/bureau/complements/RegistreOuvert.hpp"
+#include "shell/bureau/complements/SerieOuverte.hpp"
 #include "shell/fenetres/Apropos.hpp"
 #include "shell/fenetres/Ciel.hpp"
 #include "shell/fenetres/Donnees.hpp"
@@ -28,11 +29,14 @@
 #include "shell/fenetres/Impression.hpp"
 #include "shell/fenetres/Utilisateur.hpp"
 #include "shell/fenetres/complements/FenetreExercice.hpp"
+#include "shell/fenetres/complements/FenetrePapier.hpp"
 #include "shell/fenetres/complements/FenetrePoint.hpp"
 #include "shell/fenetres/complements/FenetreSerie.hpp"
 #include "shell/fenetres/complements/Fiche.hpp"
+#include "shell/fenetres/complements/MotsPapier.hpp"
 #include "shell/fenetres/complements/Preparation.hpp"
 #include "shell/fenetres/complements/Registre.hpp"
+#include "shell/fenetres/complements/TermesAlmanach.hpp"
 #include "sights/Affichage.hpp"
 #include "sights/Observation.hpp"
 #include "sights/PositionDirecte.hpp"
@@ -120,6 +124,9 @@ struct Bureau {
   Preparation preparation;
   FenetreSerie fenetreSerie;
   FenetreExercice fenetreExercice;
+  FenetrePapier fenetrePapier;
+  MotsPapier motsPapier;
+  TermesAlmanach termesAlmanach;
   Ecran ecran;                           ///< that it has started on
   double largeurFenetre = 0.0;           ///< of the main window, 1/1440 inch
   double hauteurFenetre = 0.0;           ///< of the main window, 1/1440 inch
@@ -171,6 +178,7 @@ struct Bureau {
   PlanOuvert plan;                         ///< the plan of a day
   SerieOuverte serie;                      ///< a run of readings, noon, the clock from the Moon
   ExerciceOuvert exercice;                 ///< the practice
+  PapierOuvert papier;                     ///< pages to be printed
   Annulations annulations;                 ///< what can be undone and redone
   RegistreOuvert registreOuvert;           ///< all sights ever reduced
 

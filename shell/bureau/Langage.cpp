@@ -27,8 +27,10 @@ bool AUneLegende(Genre genre) {
   case Genre::Table:
   case Genre::Onglets:
   case Genre::Curseur:
+  case Genre::Jauge:
   case Genre::Image:
   case Genre::Separateur:
+  case Genre::Papier:
   case Genre::Marque:
     return false;
   default:

@@ -26,7 +26,9 @@ struct Boite {
   std::string_view fenetre = {}; ///< name of the window that it belongs to; empty for the one that the user is in
 };
 
+struct Avancement;
 struct CadreFenetre;
+struct Feuillet;
 struct Impression;
 struct Surface;
 
@@ -67,6 +69,14 @@ struct Ports {
   /// The bytes of a file with the picture of a surface, by day; empty when it can't be made.
   std::function<std::string(const Surface &, FormeImage)> image = [](const Surface &, FormeImage) {
     return std::string();
+  };
+  /// The bytes of a PDF file with these pages, whose title is the first one's; empty when it can't be made, or when the
+  /// work is to stop. Any thread may ask.
+  std::function<std::string(const std::vector<Feuillet> &, const Avancement &)> pdf =
+      [](const std::vector<Feuillet> &, const Avancement &) { return std::string(); };
+  /// Prints these pages, once the user has chosen where; giving up is no failure. @return false when it failed
+  std::function<bool(const std::vector<Feuillet> &)> imprimeFeuillets = [](const std::vector<Feuillet> &) {
+    return false;
   };
   /// Opens a web or mail address, or the path of a file, by the desktop's program for it; the second argument is
   /// called when there is none, perhaps later.

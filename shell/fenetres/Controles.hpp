@@ -4,6 +4,7 @@
 #include "shell/fenetres/Tableau.hpp"
 
 #include <cstdint>
+#include <memory>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -25,10 +26,12 @@ enum class Genre : std::uint8_t {
   Table,      ///< a long list in columns, whose rows are read as they come into sight: `tableau`
   Onglets,    ///< tabs: the lines of `liste`, of which `rang` is in front
   Curseur,    ///< the slider
+  Jauge,      ///< a bar that tells how far a work is: `valeur` of `maximum`
   Image,      ///< a picture, pressed like a button when a click means something
   Menu,       ///< a menu that opens at the pointer, or within another one
   Entree,     ///< a command in a menu: `valeur` 1 marks it
   Separateur, ///< a line between two entries of a menu
+  Papier,     ///< a printed page as it will be: `feuillet`; a press shows it larger, or whole again
   Marque,     ///< a filled circle in its place: its border in `bordure`, its inside in `couleur`
   Texte       ///< words that no control shows
 };
@@ -50,6 +53,8 @@ struct Place {
   double hauteur = 0.0;
   bool operator==(const Place &) const = default;
 };
+
+struct Feuillet;
 
 /// One control, as far as it can be seen.
 struct Controle {
@@ -89,9 +94,10 @@ struct Controle {
   int petitPas = 1;          ///< of the slider
   int grandPas = 10;         ///< of the slider
   std::vector<std::string> liste;
-  int rang = -1;          ///< chosen line of a list, -1 for none
-  std::vector<bool> loin; ///< of a list of stars: the lines that bear a warning sign; empty for none
-  Tableau tableau;        ///< of a table
+  int rang = -1;                            ///< chosen line of a list, -1 for none
+  std::vector<bool> loin;                   ///< of a list of stars: the lines that bear a warning sign; empty for none
+  Tableau tableau;                          ///< of a table
+  std::shared_ptr<const Feuillet> feuillet; ///< of a printed page, null for none
   Couleur couleur = kNoir;
   Couleur bordure = kNoir; ///< of a mark
   Couleur fond = kBlanc;   ///< behind the words of an opaque caption that has a background of its own

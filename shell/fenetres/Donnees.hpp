@@ -20,13 +20,13 @@ struct Donnees {
   Controle Sortie;
   std::array<Controle, 2> Image10;
   Controle FrameComplements, LabComplements;
-  std::array<Controle, 6> Complement, LegendeComplement; ///< check, log, fix, plan, run, practice
+  std::array<Controle, 7> Complement, LegendeComplement; ///< check, log, fix, plan, run, practice, paper
 
   // The menu of the drawing surface.
   Controle PopUp, PU_Carte, PU_Centre, PU_Distance, PU_Coord, PU_Modules, PU_DM, PU_D, PU_S, PU_C, PU_E, PU_Caps;
   Controle PU_Clear, PU_Exit, PU_Apropos, PU_Nuit, PU_Crepuscule, PU_Terres, PU_Bouts, PU_Secours, PU_Quitter;
   Controle PU_Taille, PU_TaillePlus, PU_TailleMoins, PU_TailleAuto, PU_PleinEcran, PU_Annule, PU_Retablit;
-  Controle PU_Complements, PU_Fiche, PU_Registre, PU_Point, PU_Preparation, PU_Serie, PU_Exercice;
+  Controle PU_Complements, PU_Fiche, PU_Registre, PU_Point, PU_Preparation, PU_Serie, PU_Exercice, PU_Papier;
   Controle PU_PointTrace, PU_Sillage;
   Controle PU_Ranger, PU_Disposition, PU_Copier, PU_CopieImage, PU_CopiePoint, PU_Image;
   std::array<Controle, 7> PU_Trait;

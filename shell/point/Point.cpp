@@ -14,6 +14,7 @@
 #include "shell/point/MotsPoint.hpp"
 #include "shell/point/SourcesPoint.hpp"
 #include "shell/point/TableauxPoint.hpp"
+#include "shell/point/TracePoint.hpp"
 #include "shell/registre/Registre.hpp"
 #include "shell/visee/Annulation.hpp"
 #include "shell/visee/Saisie.hpp"
@@ -33,18 +34,6 @@ constexpr std::string_view kCleRoute = "PointRoute";
 constexpr double kJoursSillage = 7;
 
 std::filesystem::path FichierPoints(const Bureau &bureau) { return bureau.dossiers.utilisateur / "points.csv"; }
-
-/// The solution that is looked at: of two, the one that the user has chosen.
-const SolutionPoint *SolutionVue(const PointOuvert &point, const FichePoint &fiche) {
-  const std::optional<SolutionPoint> &vue = point.seconde && fiche.seconde ? fiche.seconde : fiche.solution;
-  return vue ? &*vue : nullptr;
-}
-
-/// The fix that counts: by the sky of today, or for want of it by the told lines.
-const SolutionPoint *SolutionRetenue(const PointOuvert &point) {
-  const SolutionPoint *actuelle = SolutionVue(point, point.actuelle);
-  return actuelle != nullptr ? actuelle : SolutionVue(point, point.dite);
-}
 
 void PoseResultats(const FenetrePoint &f, const PointOuvert &point, const FichePoint &fiche,
                    std::array<Controle, 4> &rangees) {
@@ -90,48 +79,6 @@ void Montre(Bureau &bureau) {
   }
   PoseTableauVisees(bureau);
   PoseTableauJambes(bureau);
-}
-
-/// The track of a fix: the ship's places at the sights, at the beginning of each leg between them, and at the fix.
-std::vector<LieuNavire> RouteDe(const PointOuvert &point, const SolutionPoint &solution) {
-  std::vector<std::pair<InstantUTC, LieuNavire>> lieux = {{*point.heure, solution.lieu}};
-  for (std::size_t i = 0; i < solution.residus.size(); ++i) {
-    if (solution.residus[i].utilisee && point.visees.at(i).hauteur) {
-      lieux.emplace_back(point.visees[i].hauteur->utc, solution.residus[i].lieu);
-    }
-  }
-  const auto avant = [](const auto &a, const auto &b) { return SecondesEntre(a.first, b.first) > 0; };
-  const auto [premier, dernier] = std::minmax_element(lieux.begin(), lieux.end(), avant);
-  const InstantUTC debut = premier->first;
-  const InstantUTC fin = dernier->first;
-  for (const Jambe &jambe : point.jambes) {
-    if (!solution.fond && SecondesEntre(debut, jambe.depuis) > 0 && SecondesEntre(jambe.depuis, fin) > 0) {
-      lieux.emplace_back(jambe.depuis, Deplace(point.route, solution.lieu, *point.heure, jambe.depuis).lieu);
-    }
-  }
-  std::sort(lieux.begin(), lieux.end(), avant);
-  std::vector<LieuNavire> route;
-  route.reserve(lieux.size());
-  for (const auto &[instant, lieu] : lieux) {
-    route.push_back(lieu);
-  }
-  return route;
-}
-
-PointTrace TraceDe(const PointOuvert &point, const SolutionPoint &solution) {
-  constexpr std::size_t kHeureMinute = 5;
-  PointTrace trace{.lieu = solution.lieu,
-                   .ellipse = solution.ellipse,
-                   .heure = TexteHeureUtc(*point.heure).substr(0, kHeureMinute),
-                   .droites = {},
-                   .route = RouteDe(point, solution)};
-  for (std::size_t i = 0; i < solution.residus.size(); ++i) {
-    const ResiduPoint &residu = solution.residus[i];
-    if (residu.utilisee) {
-      trace.droites.push_back({residu.azimut, residu.residu, point.visees.at(i).hauteur->apparente});
-    }
-  }
-  return trace;
 }
 
 Calque CalqueVoulu(const Bureau &bureau) {
@@ -263,7 +210,7 @@ void AccordePoint(Bureau &bureau) {
   }
 }
 
-void OuvrePoint_Click(Bureau &bureau, int /*indice*/) {
+void PreparePoint(Bureau &bureau) {
   PointOuvert &p = bureau.point;
   if (p.visees.empty() && bureau.registreOuvert.auPoint.empty()) {
     ReprendVisees(bureau);
@@ -277,6 +224,10 @@ void OuvrePoint_Click(Bureau &bureau, int /*indice*/) {
     p.jambes = JambesDEstime(bureau);
   }
   RefaitPoint(bureau);
+}
+
+void OuvrePoint_Click(Bureau &bureau, int /*indice*/) {
+  PreparePoint(bureau);
   bureau.fenetrePoint.cadre.visible = true;
   bureau.premierPlan = kFenetrePoint;
   bureau.focus = &bureau.fenetrePoint.Visees;
@@ -378,6 +329,13 @@ void Case_Click(Bureau &bureau, int /*indice*/) {
 
 void Command1_Click(Bureau &bureau, int indice) {
   if (indice == 0) {
+    if (!bureau.point.visees.empty() && ListeFaiteMain(bureau) &&
+        !bureau.ports.boite({.texte = bureau.fenetrePoint.TexteRemplace.legende,
+                             .icone = Icone::Question,
+                             .question = true,
+                             .fenetre = kFenetrePoint})) {
+      return;
+    }
     ReprendVisees(bureau);
   } else if (indice == 1) {
     const int rang = bureau.fenetrePoint.Visees.tableau.courante;

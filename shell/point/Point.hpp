@@ -6,8 +6,11 @@
 
 namespace velmaris {
 
-/// Opens the window of the fix, or brings it to the front: the menu, the toolbar and Ctrl+G. While it lists no sight it
-/// takes those of the log's last watch and the stored lines, and from "Estime" the first leg, where that is filled.
+/// Makes the fix. While no sight is listed it takes those of the log's last watch and the stored lines, and the legs that
+/// are kept, else from "Estime" the first one, where that is filled.
+void PreparePoint(Bureau &bureau);
+
+/// Opens the window of the fix, with the fix made, or brings it to the front: the menu, the toolbar and Ctrl+G.
 void OuvrePoint_Click(Bureau &bureau, int indice);
 
 /// A sight more for the fix, ticked; the one that is there already takes its place.

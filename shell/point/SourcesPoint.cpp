@@ -96,6 +96,54 @@ std::vector<std::size_t> DernierQuart(const RegistreLu &registre, const Annotati
   return rangs;
 }
 
+bool ListeFaiteMain(Bureau &bureau) {
+  const std::vector<ViseeDuPoint> &visees = bureau.point.visees;
+  const auto touchee = [](const ViseeDuPoint &v) { return !v.cochee || v.ecartType; };
+  if (std::any_of(visees.begin(), visees.end(), touchee)) {
+    return true;
+  }
+  const auto duRegistre = [](const ViseeDuPoint &v) { return !EstDroite(v.identite); };
+  LitRegistreAussitot(bureau);
+  const RegistreLu &registre = *bureau.registreOuvert.lu;
+  const std::vector<std::size_t> quart = DernierQuart(registre, *bureau.registreOuvert.annotations);
+  const auto listee = [&](std::size_t rang) {
+    const std::string identite = IdentiteDe(registre, rang);
+    return std::any_of(visees.begin(), visees.end(), [&](const auto &v) { return v.identite == identite; });
+  };
+  const auto nombre = std::count_if(visees.begin(), visees.end(), duRegistre);
+  return static_cast<std::size_t>(nombre) != quart.size() || !std::all_of(quart.begin(), quart.end(), listee);
+}
+
+std::vector<ViseeTenue> ViseesTenues(const PointOuvert &point) {
+  std::vector<ViseeTenue> tenues;
+  tenues.reserve(point.visees.size());
+  for (const ViseeDuPoint &v : point.visees) {
+    tenues.push_back({v.identite, v.cochee, v.ecartType});
+  }
+  return tenues;
+}
+
+void RemetVisees(Bureau &bureau, const std::vector<ViseeTenue> &visees) {
+  const auto trouve = [&](const std::string &identite) {
+    return std::find_if(visees.begin(), visees.end(), [&](const ViseeTenue &v) { return v.identite == identite; });
+  };
+  bureau.point.visees.clear();
+  bureau.registreOuvert.auPoint.clear();
+  for (const ViseeTenue &visee : visees) {
+    if (!EstDroite(visee.identite)) {
+      bureau.registreOuvert.auPoint.push_back(visee.identite);
+    }
+  }
+  SuitRegistre(bureau);
+  ReprendDroites(bureau, true);
+  std::erase_if(bureau.point.visees, [&](const ViseeDuPoint &v) { return trouve(v.identite) == visees.end(); });
+  for (ViseeDuPoint &visee : bureau.point.visees) {
+    visee.cochee = trouve(visee.identite)->cochee;
+    visee.ecartType = trouve(visee.identite)->ecartType;
+  }
+  ++bureau.registre.Table1.tableau.version;
+}
+
 void ReprendVisees(Bureau &bureau) {
   bureau.point.visees.clear();
   std::vector<std::string> identites;

@@ -5,6 +5,8 @@
 #include "shell/bureau/Bureau.hpp"
 
 #include <cstddef>
+#include <optional>
+#include <string>
 #include <vector>
 
 namespace velmaris {
@@ -21,6 +23,24 @@ void ReprendVisees(Bureau &bureau);
 /// Lists the stored lines that aren't listed as sights of the log.
 /// @param cochees  whether they count at once
 void ReprendDroites(Bureau &bureau, bool cochees);
+
+/// Whether the list is another than that of the log's last watch and the stored lines, all ticked: its user has worked
+/// on it.
+bool ListeFaiteMain(Bureau &bureau);
+
+/// A sight of the list as its user has left it.
+struct ViseeTenue {
+  std::string identite;
+  bool cochee = true;
+  std::optional<double> ecartType; ///< assumed error, minutes of arc, where one has been set
+  bool operator==(const ViseeTenue &) const = default;
+};
+
+/// The list as it is, and a list again as it was; a sight that log and store no longer have stays out.
+/// @{
+std::vector<ViseeTenue> ViseesTenues(const PointOuvert &point);
+void RemetVisees(Bureau &bureau, const std::vector<ViseeTenue> &visees);
+/// @}
 
 /// Brings the list in line with the rows that are ticked in the log: more of them come, others go; stored lines stay.
 /// @return whether it has changed

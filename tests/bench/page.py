@@ -42,6 +42,7 @@ ROWS = {
         "JourDuPlan": ("All bodies through a day made ready", "their places at one moment"),
         "MomentDuPlan": ("The sky of a moment from the ship, presets and motions", "its heights alone"),
         "JourneeDuPlan": ("Twilights, rises and passages of a day under way", "a hundred heights of the Sun"),
+        "MoisDAlmanach": ("An almanac of thirty days, figures and pages", "the places of its hours"),
         "NuitDuPlan": ("The best sets of a night's twilights, {}", "the skies of those minutes"),
         "Serie": ("A run of {} reduced to one", "the sky of as many moments"),
         "Meridienne": ("Noon by {}, top and tests with it", "the sky of as many moments"),

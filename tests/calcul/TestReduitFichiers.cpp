@@ -8,6 +8,7 @@ namespace velmaris {
 namespace {
 
 namespace fs = std::filesystem;
+using essais::UtilisateurSansDroit;
 using nlohmann::ordered_json;
 using testing::ElementsAre;
 using testing::HasSubstr;

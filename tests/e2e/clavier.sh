@@ -15,7 +15,7 @@ repete() { local touches=(); for _ in $(seq "$2"); do touches+=("$1"); done; tou
 DETOUR=0
 avance() { touche F3; repete Tab "$1"; }
 recule() { touche F3; repete shift+Tab $(($1 > JOUR ? $1 + DETOUR : $1)); }
-JOUR=13 DRAPEAU=22 ASTRES=25 MULTIPLES=31 ECRAN=33 IMPRIME=36 OUVRE=38 # back, past the complements
+JOUR=13 DRAPEAU=23 ASTRES=26 MULTIPLES=32 ECRAN=34 IMPRIME=37 OUVRE=39 # back, past the complements
 MODES=16                                                                       # on, with a result
 ouvre() {
   recule $OUVRE; touche space

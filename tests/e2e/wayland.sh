@@ -30,7 +30,7 @@ a_clavier() { grep -oE 'wl_keyboard@[0-9]+\.(enter|leave)\(' "$DIT" | tail -n 1 
 repete() { local touches=(); for _ in $(seq "$2"); do touches+=("$1"); done; touche "${touches[@]}"; }
 # Steps of the keyboard back from the reading, where "Top" leads it.
 recule() { touche F3; repete shift+Tab "$1"; }
-JOUR=13 ASTRES=25 IMPRIME=35 # past the complements
+JOUR=13 ASTRES=26 IMPRIME=36 # past the complements
 
 demarre_wayland() {
   WAYLAND_DEBUG=client WAYLAND_DISPLAY=$COMPOSITEUR QT_QPA_PLATFORM=wayland QT_SCALE_FACTOR=1.25 \

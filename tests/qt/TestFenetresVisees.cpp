@@ -125,9 +125,9 @@ TEST_F(FenetresDesVisees, ARefusedHourKeepsTheKeyboardWithItsTextSelected) {
 }
 
 TEST_F(FenetresDesVisees, TheKeyboardComesBackToThePlanAfterTheFilesWindow) {
-  qt::Boites dites(bureau);
+  qt::Boites vraies(bureau);
   Ouvre(kPetitEcran);
-  dites.Ouvre(scene, *fenetre);
+  vraies.Ouvre(scene, *fenetre);
   bureau.ports.travaille = [](const std::function<std::function<void()>()> &travail) { travail()(); };
   Joue([&] { ClicControle(bureau, d.PU_Preparation); });
   auto *plan = fenetre->findChild<QDialog *>("Preparation");

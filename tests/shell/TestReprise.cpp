@@ -89,6 +89,7 @@ TEST_F(Reprise, IsReadBackAsItWas) {
   session.feuille.grille = true;
   session.feuille.carte = true;
   session.feuille.estimeDite = {"N 47° 10", "W 005° 02"};
+  session.point = {{"0123456789abcdef", true, {}}, {"droite 2", false, 1.25}};
   ASSERT_TRUE(session.resultat.reduite.has_value());
   EXPECT_EQ(LitSession(TexteSession(session)), session);
 }

@@ -45,7 +45,7 @@ struct FenetrePoint {
   std::array<Controle, 3> MotColonneRoute; ///< columns of the legs
   std::array<Controle, 16> MotAvis;        ///< in the order of `AvisPoint`
   Controle TexteImprobable, TexteLaisse, TexteCommune, TexteSextant, TexteFond, TexteEntre, TexteSurplus, TexteHors,
-      TexteSansPoint, TexteGarde, TexteGardeRefuse, TexteJambe, TexteAlarme, TexteVisees;
+      TexteSansPoint, TexteGarde, TexteGardeRefuse, TexteJambe, TexteAlarme, TexteRemplace, TexteVisees;
 
   CadreFenetre cadre{kFenetrePoint, "", 12600, 9450, false, 12600, 8370};
 };

@@ -114,6 +114,7 @@ constexpr LigneFenetrePoint kPoint[] = {
     {SEUL(TexteJambe), Genre::Texte, "", {0, 0, 0, 0}, "Une branche demande une date, une heure, un cap et une vitesse", ""},
     {SEUL(TexteAlarme), Genre::Texte, "", {0, 0, 0, 0}, " (fausse alerte : un point sur cent)", ""},
     {SEUL(TexteVisees), Genre::Texte, "", {0, 0, 0, 0}, "visées", ""},
+    {SEUL(TexteRemplace), Genre::Texte, "", {0, 0, 0, 0}, "Le dernier quart remplace la liste : ses coches et ses erreurs supposées seront perdues. Continuer ?", ""},
 };
 // clang-format on
 

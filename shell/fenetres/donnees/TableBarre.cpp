@@ -58,8 +58,8 @@ constexpr LigneDonnees kBarre[] = {
     {RANG(Image10, 0), Genre::Image, "Frame3", {14385, 285, 630, 420}, "", "Français", {.image = "drapeau-fr"}},
     {RANG(Image10, 1), Genre::Image, "Frame3", {14385, 285, 630, 420}, "", "English", {.image = "drapeau-en"}},
     // The complements, where the screen has room at the toolbar's end.
-    {SEUL(FrameComplements), Genre::Cadre, "", {15920, 20, 4140, 1035}, "", "", {.visible = false}},
-    {SEUL(LabComplements), Genre::Etiquette, "FrameComplements", {60, 15, 4020, 195}, "Compléments", "", {.cote = Cote::Centre}},
+    {SEUL(FrameComplements), Genre::Cadre, "", {15920, 20, 4810, 1035}, "", "", {.visible = false}},
+    {SEUL(LabComplements), Genre::Etiquette, "FrameComplements", {60, 15, 4690, 195}, "Compléments", "", {.cote = Cote::Centre}},
     {RANG(Complement, 0), Genre::Bouton, "FrameComplements", {60, 225, 640, 525}, "", "Fiche de contrôle de la visée (Ctrl+I)", {.image = "fiche", .par = "LegendeComplement", .parIndice = 0}},
     {RANG(LegendeComplement, 0), Genre::Etiquette, "FrameComplements", {45, 765, 670, 225}, "Contrôle", "", {.taille = 8, .cote = Cote::Centre}},
     {RANG(Complement, 1), Genre::Bouton, "FrameComplements", {730, 225, 640, 525}, "", "Toutes les visées (Ctrl+L)", {.image = "registre", .par = "LegendeComplement", .parIndice = 1}},
@@ -72,6 +72,8 @@ constexpr LigneDonnees kBarre[] = {
     {RANG(LegendeComplement, 4), Genre::Etiquette, "FrameComplements", {2725, 765, 670, 225}, "Série", "", {.taille = 8, .cote = Cote::Centre}},
     {RANG(Complement, 5), Genre::Bouton, "FrameComplements", {3410, 225, 640, 525}, "", "S'exercer (Ctrl+E)", {.image = "exercice", .par = "LegendeComplement", .parIndice = 5}},
     {RANG(LegendeComplement, 5), Genre::Etiquette, "FrameComplements", {3395, 765, 670, 225}, "Exercice", "", {.taille = 8, .cote = Cote::Centre}},
+    {RANG(Complement, 6), Genre::Bouton, "FrameComplements", {4080, 225, 640, 525}, "", "Almanach, fiche de calcul, page du jour, feuille de tracé (Ctrl+Maj+A)", {.image = "almanach", .par = "LegendeComplement", .parIndice = 6}},
+    {RANG(LegendeComplement, 6), Genre::Etiquette, "FrameComplements", {4065, 765, 670, 225}, "Papier", "", {.taille = 8, .cote = Cote::Centre}},
     // Words that no control shows: boxes and tool tips.
     {SEUL(TexteAdresse), Genre::Texte, "", {0, 0, 0, 0}, "Aucun programme ne s'est ouvert pour cette adresse. La voici :"},
     {SEUL(TexteCopier), Genre::Texte, "", {0, 0, 0, 0}, "Copier"},

@@ -47,6 +47,7 @@ constexpr LigneDonnees kMenu[] = {
     {SEUL(PU_Preparation), Genre::Entree, "PU_Complements", {}, "Préparation", "Ctrl+K"},
     {SEUL(PU_Serie), Genre::Entree, "PU_Complements", {}, "Série", "Ctrl+R"},
     {SEUL(PU_Exercice), Genre::Entree, "PU_Complements", {}, "Exercice", "Ctrl+E"},
+    {SEUL(PU_Papier), Genre::Entree, "PU_Complements", {}, "Almanach et feuilles", "Ctrl+Maj+A"},
     {SEUL(PU_PointTrace), Genre::Entree, "PU_Complements", {}, "Point sur la feuille et la carte"},
     {SEUL(PU_Sillage), Genre::Entree, "PU_Complements", {}, "Points gardés de la dernière semaine"},
     {SEUL(PU_Terres), Genre::Entree, "PopUp", {}, "Terres teintées"},

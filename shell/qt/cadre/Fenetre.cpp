@@ -247,10 +247,11 @@ bool Fenetre::ToucheHabitude(QWidget &widget, const QKeyEvent &appui) {
     scene_.Joue([&] { ToucheMenu(bureau_, pointe, {place.x(), place.y()}, clavier); });
     return true;
   }
-  if (avec != Qt::ControlModifier || appui.key() < Qt::Key_A || appui.key() > Qt::Key_Z) {
+  const bool majuscule = avec == (Qt::ControlModifier | Qt::ShiftModifier);
+  if ((avec != Qt::ControlModifier && !majuscule) || appui.key() < Qt::Key_A || appui.key() > Qt::Key_Z) {
     return false;
   }
-  if (appui.key() == Qt::Key_C) {
+  if (appui.key() == Qt::Key_C && !majuscule) {
     const auto *champ = qobject_cast<const QLineEdit *>(&widget);
     if (champ != nullptr && champ->hasSelectedText()) {
       return false; // a field copies what is selected in it
@@ -262,7 +263,8 @@ bool Fenetre::ToucheHabitude(QWidget &widget, const QKeyEvent &appui) {
     return false;
   }
   bool prise = false;
-  scene_.Joue([&] { prise = ToucheControle(bureau_, static_cast<char>('A' + appui.key() - Qt::Key_A)); });
+  const char premiere = majuscule ? 'a' : 'A';
+  scene_.Joue([&] { prise = ToucheControle(bureau_, static_cast<char>(premiere + appui.key() - Qt::Key_A)); });
   return prise;
 }
 

@@ -2,6 +2,7 @@
 
 #include "shell/qt/cadre/Dialogue.hpp"
 #include "shell/qt/peinture/Apparat.hpp"
+#include "shell/qt/peinture/FeuilletQt.hpp"
 #include "shell/qt/peinture/Toile.hpp"
 #include "shell/qt/systeme/Images.hpp"
 #include "shell/qt/systeme/Imprimante.hpp"
@@ -129,6 +130,7 @@ Boites::Boites(Bureau &bureau) : bureau_(bureau) {
   };
   bureau.ports.copieImage = [](const Surface &surface) { QGuiApplication::clipboard()->setImage(ImageDe(surface)); };
   bureau.ports.image = OctetsImage;
+  bureau.ports.pdf = OctetsPdf;
   bureau.ports.largeurTexte = [](const std::string &texte, double taille, bool gras) {
     QFont police = QApplication::font();
     police.setPointSizeF(taille);
@@ -160,8 +162,8 @@ void Boites::Ouvre(Scene &scene, QWidget &fenetre) {
   bureau_.ports.modale = [&scene, &fenetre](CadreFenetre &cadre) {
     const QPointer<QWidget> avant = FenetreDevant(fenetre, {}); // no menu stays open under it
     Dialogue(scene, cadre, avant).Montre();
-    if (QWidget *reste = avant.data(); reste != nullptr && reste->isVisible()) {
-      reste->activateWindow(); // the keyboard comes back to where it was
+    if (QWidget *encore = avant.data(); encore != nullptr && encore->isVisible()) {
+      encore->activateWindow(); // the keyboard comes back to where it was
     }
   };
   bureau_.ports.attend = [&scene] {
@@ -178,6 +180,10 @@ void Boites::Ouvre(Scene &scene, QWidget &fenetre) {
     QApplication::restoreOverrideCursor();
     scene.Accorde(); // the page stands as it will be printed while the printer is chosen
     return Imprime(page, FenetreDevant(fenetre, kFenetreImpression), bureau_.dossiers.utilisateur);
+  };
+  bureau_.ports.imprimeFeuillets = [this, &fenetre](const std::vector<Feuillet> &feuillets) {
+    QApplication::restoreOverrideCursor();
+    return ImprimeFeuillets(feuillets, FenetreDevant(fenetre, {}), bureau_.dossiers.utilisateur);
   };
   bureau_.ports.ouvre = [&scene, &fenetre](const std::string &adresse, const std::function<void()> &sansProgramme) {
     OuvreLien(fenetre, adresse, [&scene, sansProgramme] { scene.Joue(sansProgramme); });

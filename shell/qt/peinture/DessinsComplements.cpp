@@ -93,4 +93,14 @@ void DessineExercice(QPainter &p) {
   Brise(p, {{17, 4}, {20, 4}, {20, 7}});
 }
 
+void DessinePapier(QPainter &p) {
+  Brise(p, {{8, 3}, {20, 3}, {20, 18}});
+  p.drawRect(QRectF(4, 6, 13, 15));
+  Encre(p, kAccent, 1.2);
+  for (const double y : {10.0, 13.0, 16.0, 19.0}) {
+    p.drawLine(QPointF(6, y), QPointF(9, y));
+    p.drawLine(QPointF(11, y), QPointF(15, y));
+  }
+}
+
 } // namespace velmaris::qt

@@ -12,6 +12,7 @@ void DessinePoint(QPainter &p);    ///< a ringed dot where lines cross
 void DessinePlan(QPainter &p);     ///< the sky over a horizon
 void DessineSerie(QPainter &p);    ///< readings along a slope
 void DessineExercice(QPainter &p); ///< a target
+void DessinePapier(QPainter &p);   ///< a page of columns under another one
 /// @}
 
 } // namespace velmaris::qt

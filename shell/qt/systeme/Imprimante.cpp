@@ -2,6 +2,7 @@
 
 #include "foundations/Erreur.hpp"
 #include "foundations/Fichiers.hpp"
+#include "shell/qt/peinture/FeuilletQt.hpp"
 #include "shell/qt/peinture/PageQt.hpp"
 #include "shell/qt/peinture/Toile.hpp"
 
@@ -32,13 +33,11 @@ QString FichierPropose() {
   return (documents.exists() ? documents : QDir::home()).filePath("Velmaris.pdf");
 }
 
-} // namespace
-
-bool Imprime(const Impression &page, QWidget *parent, const std::filesystem::path &registre) {
-  QPrinter imprimante(QPrinter::HighResolution);
+/// Lets the user choose where to print. @return false when they gave up
+bool Choisit(QPrinter &imprimante, QPageLayout::Orientation orientation, QWidget *parent) {
   imprimante.setDocName("Velmaris");
   imprimante.setCreator("Velmaris");
-  imprimante.setPageOrientation(Orientation(page));
+  imprimante.setPageOrientation(orientation);
   if (QPrinterInfo::availablePrinterNames().isEmpty()) {
     imprimante.setOutputFileName(FichierPropose());
   }
@@ -50,13 +49,37 @@ bool Imprime(const Impression &page, QWidget *parent, const std::filesystem::pat
     champ->setCompleter(nullptr);
   }
   if (choix.exec() != QDialog::Accepted) {
+    return false;
+  }
+  imprimante.setPageOrientation(orientation); // whatever else was chosen for it
+  return true;
+}
+
+} // namespace
+
+bool Imprime(const Impression &page, QWidget *parent, const std::filesystem::path &registre) {
+  QPrinter imprimante(QPrinter::HighResolution);
+  if (!Choisit(imprimante, Orientation(page), parent)) {
     return true;
   }
-  imprimante.setPageOrientation(Orientation(page)); // whatever else was chosen for it
   if (imprimante.outputFormat() == QPrinter::PdfFormat) {
     return EcritPdf(page, imprimante.outputFileName().toStdString(), imprimante.pageLayout(), registre);
   }
   return PeintFeuille(page, imprimante) && imprimante.printerState() != QPrinter::Error;
+}
+
+bool ImprimeFeuillets(const std::vector<Feuillet> &feuillets, QWidget *parent, const std::filesystem::path &registre) {
+  QPrinter imprimante(QPrinter::HighResolution);
+  const bool couche = !feuillets.empty() && feuillets.front().largeur > feuillets.front().hauteur;
+  if (!Choisit(imprimante, couche ? QPageLayout::Landscape : QPageLayout::Portrait, parent)) {
+    return true;
+  }
+  if (imprimante.outputFormat() == QPrinter::PdfFormat) {
+    const std::string octets = OctetsPdf(feuillets, {});
+    return !octets.empty() && Passe([&] { EcritFichier(imprimante.outputFileName().toStdString(), octets, registre); });
+  }
+  imprimante.setFullPage(true);
+  return PeintFeuillets(feuillets, imprimante, {}) && imprimante.printerState() != QPrinter::Error;
 }
 
 bool EcritPdf(const Impression &page, const std::filesystem::path &fichier, QPageLayout feuille,

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "complements/papier/Feuillet.hpp"
 #include "shell/fenetres/Impression.hpp"
 
 #include <QPageLayout>
@@ -23,6 +24,11 @@ bool Imprime(const Impression &page, QWidget *parent, const std::filesystem::pat
 /// @return false when it can't be written
 bool EcritPdf(const Impression &page, const std::filesystem::path &fichier, QPageLayout feuille,
               const std::filesystem::path &registre = {});
+
+/// Lets the user choose a printer or a PDF file, and prints pages there.
+/// @param parent, registre  as for `Imprime`
+/// @return false when it failed; true also when the user gave up
+bool ImprimeFeuillets(const std::vector<Feuillet> &feuillets, QWidget *parent, const std::filesystem::path &registre);
 
 /// Paints the page on the sheet of a printer, at its full size and in the middle; smaller when the sheet is too small.
 /// @return false when the printer fails

@@ -2,6 +2,7 @@
 
 #include "shell/qt/peinture/Toile.hpp"
 #include "shell/qt/widgets/Elements.hpp"
+#include "shell/qt/widgets/Papier.hpp"
 
 #include <QAbstractItemView>
 #include <QAccessible>
@@ -45,7 +46,7 @@ QAccessibleInterface *Interface(const QString & /*classe*/, QObject *objet) {
   if (dynamic_cast<Volet *>(widget) != nullptr) {
     return new QAccessibleWidget(widget, QAccessible::Grouping);
   }
-  if (dynamic_cast<Toile *>(widget) != nullptr) {
+  if (dynamic_cast<Toile *>(widget) != nullptr || dynamic_cast<Papier *>(widget) != nullptr) {
     return new QAccessibleWidget(widget, QAccessible::Canvas);
   }
   if (auto *liste = dynamic_cast<Deroulante *>(widget)) {

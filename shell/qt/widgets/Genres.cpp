@@ -1,4 +1,4 @@
-#include "shell/qt/widgets/Adaptateur.hpp"
+#include "shell/qt/widgets/GenreDe.hpp"
 
 #include "shell/bureau/Evenements.hpp"
 #include "shell/ecran/Modules.hpp"
@@ -6,17 +6,17 @@
 #include "shell/qt/peinture/Toile.hpp"
 #include "shell/qt/peinture/ToileCiel.hpp"
 #include "shell/qt/widgets/Elements.hpp"
+#include "shell/qt/widgets/GenresListes.hpp"
+#include "shell/qt/widgets/Papier.hpp"
 #include "shell/qt/widgets/Table.hpp"
 #include "shell/qt/widgets/Widgets.hpp"
 
 #include <QCheckBox>
-#include <QComboBox>
 #include <QGroupBox>
-#include <QListWidget>
+#include <QProgressBar>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QSlider>
-#include <QTabBar>
 #include <QTimer>
 
 #include <algorithm>
@@ -41,15 +41,6 @@ Qt::Alignment Alignement(Cote cote) {
     return Qt::AlignLeft | Qt::AlignVCenter;
   }
 }
-
-/// What all kinds share: a widget of a type.
-template <class W> class De : public Adaptateur {
-public:
-  explicit De(W *widget) : Adaptateur(*widget), w(*widget) {}
-
-protected:
-  W &w;
-};
 
 /// A click, as the core takes it.
 auto Clic(Bureau &bureau, Controle &c, const Joueur &joue) {
@@ -286,115 +277,16 @@ protected:
   void PoseContenu(const Controle &c, const Controle & /*vu*/, bool /*tout*/) override { w.setValue(c.valeur); }
 };
 
-/// The line of a list that a control chooses, -1 for none.
-int Ligne(const Controle &c) { return c.rang >= 0 && static_cast<std::size_t>(c.rang) < c.liste.size() ? c.rang : -1; }
-
-/// A closed list. A text that is no line of it is shown all the same.
-class AListe : public De<Deroulante> {
+class AJauge : public De<QProgressBar> {
 public:
-  using De::De;
-  void Ecoute(Bureau &bureau, Controle &c, const Joueur &joue) override {
-    QObject::connect(&w, &QComboBox::activated, &w,
-                     [&bureau, &c, joue](int rang) { joue([&] { ChoisitLigne(bureau, c, rang); }); });
-  }
-  Contenu Montre() const override {
-    return {w.currentIndex() < 0 ? w.placeholderText() : w.currentText(), w.currentIndex(), w.count()};
-  }
-  Contenu Voulu(const Controle &c) const override {
-    const int ligne = Ligne(c);
-    return {Texte(ligne < 0 ? c.texte : c.liste[static_cast<std::size_t>(ligne)]), ligne,
-            static_cast<qsizetype>(c.liste.size())};
-  }
-
-protected:
-  void PoseContenu(const Controle &c, const Controle &vu, bool tout) override {
-    if (tout || c.liste != vu.liste || w.count() != static_cast<int>(c.liste.size())) {
-      w.clear();
-      for (const std::string &ligne : c.liste) {
-        w.addItem(Texte(ligne));
-      }
-    }
-    for (int i = 0; i < w.count(); ++i) {
-      const auto rang = static_cast<std::size_t>(i);
-      w.setItemIcon(i, rang < c.loin.size() && c.loin[rang] ? Icone("attention") : QIcon());
-    }
-    w.setPlaceholderText(Texte(c.texte));
-    w.setCurrentIndex(Ligne(c));
-  }
-  void PoseAlerte(bool alerte) override { w.PoseAlerte(alerte); }
-};
-
-class AOnglets : public De<QTabBar> {
-public:
-  using De::De;
-  void Ecoute(Bureau &bureau, Controle &c, const Joueur &joue) override {
-    QObject::connect(&w, &QTabBar::currentChanged, &w,
-                     [&bureau, &c, joue](int rang) { joue([&] { ChoisitLigne(bureau, c, rang); }); });
-  }
-  Contenu Montre() const override { return {{}, w.currentIndex(), w.count()}; }
-  Contenu Voulu(const Controle &c) const override { return {{}, Ligne(c), static_cast<qsizetype>(c.liste.size())}; }
+  explicit AJauge(QProgressBar *jauge) : De(jauge) {}
+  Contenu Montre() const override { return {{}, w.value(), w.maximum()}; }
+  Contenu Voulu(const Controle &c) const override { return {{}, c.valeur, c.maximum}; }
 
 protected:
   void PoseContenu(const Controle &c, const Controle & /*vu*/, bool /*tout*/) override {
-    for (int i = 0; i < static_cast<int>(c.liste.size()); ++i) {
-      const QString mots = Texte(c.liste[static_cast<std::size_t>(i)]);
-      i < w.count() ? w.setTabText(i, mots) : static_cast<void>(w.addTab(mots));
-    }
-    w.setCurrentIndex(Ligne(c));
-  }
-};
-
-QTabBar *CreeOnglets(QWidget *parent) {
-  auto *onglets = new QTabBar(parent);
-  onglets->setDrawBase(false);
-  onglets->setExpanding(false);
-  onglets->setUsesScrollButtons(false);
-  onglets->setFocusPolicy(Qt::StrongFocus);
-  return onglets;
-}
-
-class AListeBoite : public De<QListWidget> {
-public:
-  using De::De;
-  void Ecoute(Bureau &bureau, Controle &c, const Joueur &joue) override {
-    const auto choisit = [&bureau, &c, joue](int rang) { joue([&] { ChoisitLigne(bureau, c, rang); }); };
-    QObject::connect(&w, &QListWidget::currentRowChanged, &w, choisit);
-    QObject::connect(&w, &QListWidget::itemPressed, &w,
-                     [this, choisit](QListWidgetItem *ligne) { choisit(w.row(ligne)); });
-    QObject::connect(&w, &QListWidget::itemDoubleClicked, &w,
-                     [&bureau, &c, joue] { joue([&] { DoubleClicControle(bureau, c); }); });
-  }
-  bool EstChamp() const override { return true; }
-  Contenu Montre() const override {
-    const QListWidgetItem *ligne = w.currentItem();
-    return {ligne == nullptr ? QString() : ligne->text(), w.currentRow(), w.count()};
-  }
-  Contenu Voulu(const Controle &c) const override {
-    const int ligne = Ligne(c);
-    return {ligne < 0 ? QString() : Texte(c.liste[static_cast<std::size_t>(ligne)]), ligne,
-            static_cast<qsizetype>(c.liste.size())};
-  }
-
-protected:
-  void PoseContenu(const Controle &c, const Controle &vu, bool tout) override {
-    const auto montrees = static_cast<std::size_t>(w.count());
-    const bool ajout = !tout && montrees == vu.liste.size() && c.liste.size() == vu.liste.size() + 1 &&
-                       std::equal(vu.liste.begin(), vu.liste.end(), c.liste.begin());
-    if (ajout) {
-      w.addItem(Texte(c.liste.back()));
-      w.scrollToBottom();
-    } else if (tout || c.liste != vu.liste || montrees != c.liste.size()) {
-      QStringList lignes;
-      lignes.reserve(static_cast<qsizetype>(c.liste.size()));
-      for (const std::string &ligne : c.liste) {
-        lignes << Texte(ligne);
-      }
-      w.clear();
-      w.addItems(lignes);
-    }
-    if (w.currentRow() != Ligne(c)) {
-      w.setCurrentRow(Ligne(c));
-    }
+    w.setRange(0, c.maximum);
+    w.setValue(c.valeur);
   }
 };
 
@@ -418,13 +310,6 @@ std::unique_ptr<Adaptateur> CreeEtiquette(const Controle &c, QWidget *parent) {
     return std::make_unique<ARenvoi>(new Renvoi(parent), c);
   }
   return std::make_unique<AEtiquette>(new QLabel(parent), c);
-}
-
-std::unique_ptr<Adaptateur> CreeListeBoite(QWidget *parent) {
-  auto *liste = new ListeSansChoix(parent);
-  liste->setUniformItemSizes(true);
-  liste->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
-  return std::make_unique<AListeBoite>(liste);
 }
 
 } // namespace
@@ -451,17 +336,21 @@ std::unique_ptr<Adaptateur> CreeAdaptateur(Bureau &bureau, const Controle &c, QW
   case Genre::Case:
     return std::make_unique<ACase>(new QCheckBox(parent));
   case Genre::Liste:
-    return std::make_unique<AListe>(new Deroulante(parent));
+    return CreeListe(parent);
   case Genre::ListeBoite:
     return CreeListeBoite(parent);
   case Genre::Table:
     return CreeTable(parent);
   case Genre::Onglets:
-    return std::make_unique<AOnglets>(CreeOnglets(parent));
+    return CreeOnglets(parent);
   case Genre::Curseur:
     return std::make_unique<ACurseur>(new QSlider(Qt::Horizontal, parent), c);
+  case Genre::Jauge:
+    return std::make_unique<AJauge>(new QProgressBar(parent));
   case Genre::Image:
     return CreeImage(c, parent);
+  case Genre::Papier:
+    return CreePapier(parent);
   case Genre::Marque: // the sky's chart paints its own
   case Genre::Texte:
   case Genre::Menu:

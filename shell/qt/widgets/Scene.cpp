@@ -6,6 +6,7 @@
 #include "shell/ecran/Echelle.hpp"
 #include "shell/ecran/Statut.hpp"
 #include "shell/exercice/EvenementsExercice.hpp"
+#include "shell/papier/Papier.hpp"
 #include "shell/point/Point.hpp"
 #include "shell/preparation/Preparation.hpp"
 #include "shell/qt/peinture/Apparat.hpp"
@@ -103,6 +104,7 @@ void Scene::Accorde() {
     AccordePreparation(bureau_);
     AccordeSerie(bureau_);
     AccordeExercice(bureau_);
+    AccordePapier(bureau_);
     AccordeStatut(bureau_);
     AccordeEclairage(bureau_.eclairage);
     AccordeGrandeur(EchelleFenetre(bureau_));

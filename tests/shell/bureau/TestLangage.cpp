@@ -222,7 +222,8 @@ TEST_P(FichiersLivres, EveryCaptionAndToolTipOfEveryWindowHasItsLine) {
   const std::string fichier = LitFichier(std::filesystem::path(VELMARIS_DONNEES) / GetParam());
   for (const std::string_view fenetre :
        {kFenetreDonnees, kFenetreFSelect, kFenetreUtilisateur, kFenetreCiel, kFenetreApropos, kFenetreEtat,
-        kFenetreFiche, kFenetreRegistre, kFenetrePoint, kFenetrePreparation, kFenetreSerie, kFenetreExercice}) {
+        kFenetreFiche, kFenetreRegistre, kFenetrePoint, kFenetrePreparation, kFenetreSerie, kFenetreExercice,
+        kFenetrePapier, kFenetreMotsPapier, kFenetreTermes}) {
     const ListeControles controles = ControlesDe(bureau, fenetre);
     std::for_each(controles.begin(), controles.end(), [&](Controle *c) { efface(*c); });
     AppliqueLangue(fichier, fenetre, controles, bureau.messages);

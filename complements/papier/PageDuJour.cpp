@@ -1,0 +1,271 @@
+#include "complements/papier/PageDuJour.hpp"
+
+#include <algorithm>
+#include <cmath>
+#include <numbers>
+
+namespace velmaris {
+namespace {
+
+constexpr double kRadian = std::numbers::pi / 180;
+constexpr double kMinutes = 60;
+constexpr double kMinutesRayon = kMinutes / kRadian; ///< of the sphere
+constexpr double kMarge = 720;
+constexpr double kGauche = 1400;       ///< left edge of the sheet
+constexpr double kHautFeuille = 1350;  ///< its upper edge
+constexpr double kPartFeuille = 0.535; ///< of the page's height that it takes
+constexpr double kPas = 255;           ///< from line to line
+constexpr double kMots = 8.5;          ///< points
+constexpr double kTete = 8;            ///< points
+constexpr double kPied = 7;            ///< points
+constexpr double kRayonRose = 800;
+constexpr double kDemiMilles = 1.5; ///< miles that a chart shows either way, at least
+constexpr double kMilesMax = 1200;  ///< either way, at most: a plain chart of more is none
+constexpr double kJeu = 1.25;       ///< more than the farthest place
+constexpr int kCotes = 72;          ///< of an ellipse
+constexpr int kPasDroite = 16;      ///< of half a line
+constexpr Encre kTraitDroite{.largeur = 0.9};
+constexpr Encre kTraitOte{.largeur = 0.7, .tiret = 3};
+constexpr Encre kTraitRoute{.largeur = 0.6, .tiret = 1.5};
+/// Left edge of a text's column, right edge of a figure's, from the margin.
+constexpr std::array<double, kColonnesJour> kColonnes = {0, 2350, 3600, 4800, 6000, 6750, 7850, 8950, 10050};
+
+/// Where a line passes nearest to the place that it is laid off from, and on from there.
+Point SurDroite(const PlanVrai &plan, const DroiteDuJour &droite, double loin) {
+  const double azimut = droite.azimut * kRadian;
+  const double vers = droite.vers + loin * loin * std::tan(droite.hauteur * kRadian) / (2 * kMinutesRayon);
+  return plan.Decale(plan.PointDe(droite.appui), vers * std::cos(azimut) - loin * std::sin(azimut),
+                     vers * std::sin(azimut) + loin * std::cos(azimut));
+}
+
+/// All places that a chart has to show.
+std::vector<LieuNavire> LieuxMontres(const DonneesJour &jour) {
+  std::vector<LieuNavire> lieux = jour.route;
+  if (jour.point) {
+    lieux.push_back(jour.point->lieu);
+  }
+  for (const DroiteDuJour &droite : jour.droites) {
+    lieux.push_back(droite.appui);
+  }
+  return lieux;
+}
+
+/// Draws what a day brought onto its sheet.
+class DessinJour {
+public:
+  DessinJour(Feuillet &page, const PlanVrai &plan, const CadrePage &cadre) : page_(page), plan_(plan), cadre_(cadre) {}
+
+  void Droite(const DroiteDuJour &droite) {
+    // As far as the sheet reaches, but no farther than its curve is one of the second order.
+    const double demie = std::min(std::hypot(cadre_.largeur(), cadre_.hauteur()) / plan_.mille, kMilesMax / 4);
+    std::vector<Point> points;
+    for (int i = -kPasDroite; i <= kPasDroite; ++i) {
+      points.push_back(SurDroite(plan_, droite, demie * i / kPasDroite));
+    }
+    const auto morceaux = CoupeAuCadre(points, cadre_);
+    for (const std::vector<Point> &morceau : morceaux) {
+      page_.Traits(morceau, droite.comptee ? kTraitDroite : kTraitOte);
+    }
+    if (!morceaux.empty()) {
+      Nomme(morceaux.front(), droite.nom);
+    }
+  }
+
+  void Ligne(const std::vector<Point> &points, const Encre &encre) {
+    for (const std::vector<Point> &morceau : CoupeAuCadre(points, cadre_)) {
+      page_.Traits(morceau, encre);
+    }
+  }
+
+  void Route(const std::vector<LieuNavire> &route) {
+    std::vector<Point> points;
+    for (const LieuNavire &lieu : route) {
+      points.push_back(plan_.PointDe(lieu));
+      page_.Rond(points.back(), 35, {.largeur = 0.5});
+    }
+    Ligne(points, kTraitRoute);
+  }
+
+  void Fixe(const PointDuJour &point) {
+    const Point ici = plan_.PointDe(point.lieu);
+    const double direction = point.ellipse.direction * kRadian;
+    std::vector<Point> points;
+    for (int i = 0; i <= kCotes && point.ellipse.a > 0; ++i) {
+      const double angle = 2 * std::numbers::pi * i / kCotes;
+      const double grand = point.ellipse.a * std::cos(angle);
+      const double petit = point.ellipse.b * std::sin(angle);
+      points.push_back(plan_.Decale(ici, grand * std::cos(direction) - petit * std::sin(direction),
+                                    grand * std::sin(direction) + petit * std::cos(direction)));
+    }
+    Ligne(points, {.largeur = 1.2});
+    page_.Rond(ici, 22, {}, true);
+    page_.Rond(ici, 95, {.largeur = 1});
+    page_.Mot({ici.x + 130, ici.y + 220}, point.heure, {.taille = 9, .gras = true});
+  }
+
+private:
+  /// Writes a name along the end of a line, readable from the foot of the page or from its right side.
+  void Nomme(const std::vector<Point> &morceau, const std::string &nom) {
+    constexpr double kDuBout = 150;
+    constexpr double kAuDessus = 45;
+    const Point a = morceau.front();
+    const Point b = morceau.at(1);
+    const bool endroit = a.x <= b.x;
+    const double angle = std::atan2(b.y - a.y, b.x - a.x) + (endroit ? 0 : std::numbers::pi);
+    const double sens = endroit ? 1 : -1;
+    const Point pied{a.x + sens * kDuBout * std::cos(angle) + kAuDessus * std::sin(angle),
+                     a.y + sens * kDuBout * std::sin(angle) - kAuDessus * std::cos(angle)};
+    page_.Mot(pied, nom,
+              {.taille = 7.5, .ancrage = endroit ? Ancrage::Gauche : Ancrage::Droite, .angle = angle / kRadian});
+  }
+
+  Feuillet &page_;
+  const PlanVrai &plan_;
+  const CadrePage &cadre_;
+};
+
+/// Writes what stands under the sheet, and further pages where the table is long.
+class Texte {
+public:
+  Texte(std::vector<Feuillet> &pages, FormatPapier format, const MotsJour &mots)
+      : pages_(pages), format_(format), mots_(mots) {}
+
+  void Commence(const std::string &titre) {
+    Feuillet &page = pages_.emplace_back(FeuilletVide(format_));
+    page.titre = titre;
+    page.Mot({kMarge, kMarge + 250}, titre, {.taille = 14, .gras = true});
+    const double bas = page.hauteur - kMarge;
+    page.Trait({kMarge, bas - 200}, {page.largeur - kMarge, bas - 200}, {.largeur = 0.4, .gris = 0.45});
+    page.Mot({kMarge, bas}, mots_.pied, {.taille = kPied});
+    y_ = kMarge + 650;
+  }
+
+  Feuillet &Ici() { return pages_.back(); }
+  void Descend(double y) { y_ = y; }
+
+  void Ligne(const std::string &texte, bool gras) {
+    y_ += kPas;
+    Ici().Mot({kMarge, y_}, texte, {.taille = kMots, .gras = gras});
+  }
+
+  void Meteo(const std::vector<std::string> &valeurs) {
+    constexpr std::size_t kParLigne = 2;
+    const double moitie = (Ici().largeur - 2 * kMarge) / kParLigne;
+    y_ += kPas / 2;
+    for (std::size_t i = 0; i < mots_.meteo.size(); ++i) {
+      const bool seule = i + 1 == mots_.meteo.size(); // the last takes the whole width
+      const double gauche = kMarge + (seule ? 0 : static_cast<double>(i % kParLigne) * moitie);
+      if (i % kParLigne == 0 || seule) {
+        y_ += kPas * 1.2;
+      }
+      const double droite = seule ? Ici().largeur - kMarge : gauche + moitie - 250;
+      Ici().Mot({gauche, y_}, mots_.meteo[i], {.taille = kMots, .gras = true});
+      if (i < valeurs.size() && !valeurs[i].empty()) {
+        Ici().Mot({gauche + kValeur, y_}, valeurs[i], {.taille = kMots});
+      }
+      Ici().Trait({gauche + kValeur, y_ + 45}, {droite, y_ + 45}, {.largeur = 0.4, .tiret = 1.5});
+    }
+    y_ += kPas / 2;
+  }
+
+  void Table(const std::vector<std::array<std::string, kColonnesJour>> &visees) {
+    Tete();
+    for (const auto &rangee : visees) {
+      if (y_ + kPas > Ici().hauteur - kMarge - 300) {
+        Commence(mots_.titre + mots_.suite);
+        Tete();
+      }
+      Rangee(rangee, false, kMots);
+    }
+  }
+
+private:
+  static constexpr double kValeur = 1250; ///< from a word of the weather to what is typed
+
+  void Tete() {
+    y_ += kPas / 2;
+    Rangee(mots_.colonnes, true, kTete);
+    Ici().Trait({kMarge, y_ + 60}, {Ici().largeur - kMarge, y_ + 60});
+    y_ += 60;
+  }
+
+  void Rangee(const std::array<std::string, kColonnesJour> &mots, bool gras, double taille) {
+    y_ += kPas;
+    const double part = (Ici().largeur - 2 * kMarge) / kColonnes.back();
+    for (std::size_t i = 0; i < kColonnesJour; ++i) {
+      Ici().Mot({kMarge + kColonnes.at(i) * part, y_}, mots.at(i),
+                {.taille = taille, .gras = gras, .ancrage = i == 0 ? Ancrage::Gauche : Ancrage::Droite});
+    }
+  }
+
+  std::vector<Feuillet> &pages_;
+  FormatPapier format_;
+  const MotsJour &mots_;
+  double y_ = 0;
+};
+
+} // namespace
+
+PlanVrai PlanDuJour(const DonneesJour &jour, const CadrePage &cadre) {
+  const std::vector<LieuNavire> lieux = LieuxMontres(jour);
+  PlanVrai plan;
+  plan.centre = {(cadre.coin.x + cadre.oppose.x) / 2, (cadre.coin.y + cadre.oppose.y) / 2};
+  plan.mille = 1;
+  if (lieux.empty()) {
+    plan.mille = cadre.hauteur() / (2 * kMinutes);
+    return plan;
+  }
+  // Longitudes are reckoned from the first place, so that a day on the date line is no journey round the world.
+  const LieuNavire premier = lieux.front();
+  std::array<double, 4> bords = {premier.latitude, premier.latitude, 0, 0};
+  for (const LieuNavire &lieu : lieux) {
+    const double est = std::remainder(lieu.longitude - premier.longitude, 360.0);
+    bords = {std::min(bords[0], lieu.latitude), std::max(bords[1], lieu.latitude), std::min(bords[2], est),
+             std::max(bords[3], est)};
+  }
+  plan.milieu = {(bords[0] + bords[1]) / 2, std::remainder(premier.longitude + (bords[2] + bords[3]) / 2, 360.0)};
+  double nord = kDemiMilles;
+  double est = kDemiMilles;
+  const auto montre = [&](Point p) {
+    nord = std::max(nord, std::fabs(p.y - plan.centre.y));
+    est = std::max(est, std::fabs(p.x - plan.centre.x));
+  };
+  std::for_each(lieux.begin(), lieux.end(), [&](const LieuNavire &lieu) { montre(plan.PointDe(lieu)); });
+  for (const DroiteDuJour &droite : jour.droites) {
+    montre(SurDroite(plan, droite, 0));
+  }
+  const double axe = jour.point ? jour.point->ellipse.a : 0;
+  const double demiNord = std::min(std::max(nord, axe) * kJeu, kMilesMax);
+  const double demiEst = std::min(std::max(est, axe) * kJeu, kMilesMax);
+  plan.mille = std::min(cadre.hauteur() / 2 / demiNord, cadre.largeur() / 2 / demiEst);
+  return plan;
+}
+
+std::vector<Feuillet> PagesDuJour(const DonneesJour &jour, FormatPapier format, const MotsJour &mots) {
+  std::vector<Feuillet> pages;
+  Texte texte(pages, format, mots);
+  texte.Commence(mots.titre);
+  Feuillet &page = texte.Ici();
+  const CadrePage cadre{{kGauche, kHautFeuille},
+                        {page.largeur - kMarge, kHautFeuille + kPartFeuille * TailleDuPapier(FormatPapier::Lettre).y}};
+  const PlanVrai plan = PlanDuJour(jour, cadre);
+  const Point rose{cadre.oppose.x - kRayonRose - 120, cadre.coin.y + kRayonRose + 120};
+  DessineCanevas(page, {plan, cadre, false, rose, kRayonRose}, mots.canevas);
+  DessinJour dessin(page, plan, cadre);
+  dessin.Route(jour.route);
+  for (const DroiteDuJour &droite : jour.droites) {
+    dessin.Droite(droite);
+  }
+  if (jour.point) {
+    dessin.Fixe(*jour.point);
+  }
+  texte.Descend(cadre.oppose.y + 1000);
+  for (std::size_t i = 0; i < jour.lignes.size(); ++i) {
+    texte.Ligne(jour.lignes[i], i == 0);
+  }
+  texte.Meteo(jour.meteo);
+  texte.Table(jour.visees);
+  return pages;
+}
+
+} // namespace velmaris
