@@ -274,23 +274,26 @@ bool RetourDansChamp(Bureau &bureau, Controle &champ) {
 }
 
 bool ToucheControle(Bureau &bureau, char lettre) {
-  Donnees &d = bureau.donnees;
-  Controle *const bouton = lettre == 'S'   ? &d.Command3
-                           : lettre == 'O' ? &d.Command4
-                           : lettre == 'P' ? &d.Command11
-                           : lettre == 'Q' ? &d.Sortie
-                           : lettre == 'I' ? &d.PU_Fiche
-                           : lettre == 'L' ? &d.PU_Registre
-                           : lettre == 'G' ? &d.PU_Point
-                           : lettre == 'K' ? &d.PU_Preparation
-                           : lettre == 'R' ? &d.PU_Serie
-                           : lettre == 'E' ? &d.PU_Exercice
-                           : lettre == 'a' ? &d.PU_Papier
-                                           : nullptr;
-  if (bouton != nullptr) {
-    ClicControle(bureau, *bouton);
+  constexpr std::array<std::pair<char, Controle Donnees::*>, 11> kBoutons = {{
+      {'S', &Donnees::Command3},
+      {'O', &Donnees::Command4},
+      {'P', &Donnees::Command11},
+      {'Q', &Donnees::Sortie},
+      {'I', &Donnees::PU_Fiche},
+      {'L', &Donnees::PU_Registre},
+      {'G', &Donnees::PU_Point},
+      {'K', &Donnees::PU_Preparation},
+      {'R', &Donnees::PU_Serie},
+      {'E', &Donnees::PU_Exercice},
+      {'a', &Donnees::PU_Papier},
+  }};
+  const auto *const la =
+      std::find_if(kBoutons.begin(), kBoutons.end(), [lettre](const auto &bouton) { return bouton.first == lettre; });
+  if (la == kBoutons.end()) {
+    return false;
   }
-  return bouton != nullptr;
+  ClicControle(bureau, bureau.donnees.*la->second);
+  return true;
 }
 
 bool RevientDans(Bureau &bureau, std::string_view fenetre, bool retablit) {
