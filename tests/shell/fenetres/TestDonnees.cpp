@@ -56,6 +56,8 @@ TEST_F(Programme, TheComplementsHaveTheirButtonsWhereTheScreenHasRoom) {
   EXPECT_TRUE(bureau.fenetrePoint.cadre.visible);
   ClicControle(bureau, d.Complement[4]);
   EXPECT_TRUE(bureau.fenetreSerie.cadre.visible);
+  ClicControle(bureau, d.Complement[6]);
+  EXPECT_TRUE(bureau.fenetrePapier.cadre.visible);
   Demarre({15360, 11520, 768}); // 1024 by 768
   EXPECT_FALSE(d.FrameComplements.visible);
 }
