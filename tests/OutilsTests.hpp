@@ -117,8 +117,8 @@ template <class Genre> std::vector<Genre> TracesDe(const Surface &surface) {
 inline std::vector<TexteTrace> Textes(const Surface &surface) { return TracesDe<TexteTrace>(surface); }
 inline std::vector<CercleTrace> Cercles(const Surface &surface) { return TracesDe<CercleTrace>(surface); }
 
-/// A superuser held to the permissions of files for the life of the scope: what lets this thread read and write all that
-/// others can't is laid down, and taken up again. No other user is played: that one may have no way to the scratch
+/// A superuser held to the permissions of files for the life of the scope: what lets this thread read and write all
+/// that others can't is laid down, and taken up again. No other user is played: that one may have no way to the scratch
 /// folder, which a strict umask or a private temporary folder closes.
 struct UtilisateurSansDroit {
   UtilisateurSansDroit() : reussi(Lit() && Pose(avant[0].effective & ~kPassePartout)) {}

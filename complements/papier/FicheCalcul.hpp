@@ -64,14 +64,14 @@ struct LigneCalcul {
 /// A sight worked by hand: every figure is rounded as it is written, to 0.1', and each sum is that of the figures
 /// written above it.
 struct FicheCalcul {
-  std::string astre;              ///< its name
+  std::string astre;               ///< its name
   std::vector<LigneCalcul> lignes; ///< without the steps that the sight hasn't
-  double observee = 0;            ///< degrees
-  double calculee = 0;            ///< degrees
-  double azimut = 0;              ///< degrees in [0, 360)
-  double intercept = 0;           ///< miles, towards the body
-  double controle = 0;            ///< the same without a rounding on the way
-  bool vers = true;               ///< towards the body
+  double observee = 0;             ///< degrees
+  double calculee = 0;             ///< degrees
+  double azimut = 0;               ///< degrees in [0, 360)
+  double intercept = 0;            ///< miles, towards the body
+  double controle = 0;             ///< the same without a rounding on the way
+  bool vers = true;                ///< towards the body
 };
 
 /// Works a sight by hand, with the almanac's figures of the whole hours before and after it.

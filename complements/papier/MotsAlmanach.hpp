@@ -10,120 +10,120 @@ namespace velmaris {
 /// The words of an almanac's pages. Months and days of the week stand in their order; what a row of a text runs over
 /// stands in several words, in their order too. `Virgule` is the sign before decimals. Beside each the English word.
 enum class MotAlmanach : std::uint16_t {
-  Virgule, ///< .
-  Titre, ///< Almanac
-  Au, ///< to
-  Janvier, ///< January
-  Fevrier, ///< February
-  MoisMars, ///< March
-  Avril, ///< April
-  Mai, ///< May
-  Juin, ///< June
-  Juillet, ///< July
-  Aout, ///< August
-  Septembre, ///< September
-  Octobre, ///< October
-  Novembre, ///< November
-  Decembre, ///< December
-  Lundi, ///< Monday
-  Mardi, ///< Tuesday
-  Mercredi, ///< Wednesday
-  Jeudi, ///< Thursday
-  Vendredi, ///< Friday
-  Samedi, ///< Saturday
-  Dimanche, ///< Sunday
-  Heure, ///< UT
-  Gha, ///< GHA
-  Declinaison, ///< Dec
-  Sha, ///< SHA
-  Hp, ///< HP
-  V, ///< v
-  D, ///< d
-  DemiDiametre, ///< SD
-  Magnitude, ///< Mag.
-  Passage, ///< Mer. pass.
-  Superieur, ///< upper
-  Inferieur, ///< lower
-  Jour, ///< Day
-  Belier, ///< Aries
-  Soleil, ///< Sun
-  Lune, ///< Moon
-  Venus, ///< Venus
-  Mars, ///< Mars
-  Jupiter, ///< Jupiter
-  Saturne, ///< Saturn
-  Planete, ///< Planet
-  Etoiles, ///< Stars
-  Etoile, ///< Star
-  PageGauche, ///< Aries, planets, stars
-  PageDroite, ///< Sun, Moon, twilight
-  EtoilesLe, ///< Stars, 12h on
-  Crepuscules, ///< Sun and twilight, local mean time,
-  LeverCoucherLune, ///< Moon at longitude 0; difference from the next day, minutes
-  Latitude, ///< Lat.
-  Nautique, ///< Naut.
-  Civil, ///< Civil
-  Lever, ///< Rise
-  Coucher, ///< Set
-  EquationTemps, ///< Equation of time
-  Age, ///< Age
-  Eclairee, ///< Lit
-  ToujoursDessus, ///< + +
-  ToujoursDessous, ///< - -
-  TouteLaNuit, ///< / /
-  PasCeJour, ///< . .
-  LegendeSignes1, ///< + + above the horizon all day   - - below it all day   / / twilight all night
-  LegendeSignes2, ///< . . not on that day. Equation: true less mean Sun, + when it passes before 12h.
-  LegendeSignes3, ///< d bears no sign: the next hour's declination tells whether it is added.
-  LegendeSignes4, ///< v is added to the GHA, and taken off where it bears a - sign.
-  PiedTheorie, ///< Theory: VSOP87D, ELP 2000-82B, IAU 2006. Sky of 1995 to 2030 within 0.5" (Sun, stars), 1" ...
-  PiedFait, ///< Made
-  PiedUt1, ///< UT1 - UTC:
-  Secondes, ///< s
-  Page, ///< page
-  TitreCorrections, ///< Altitude corrections: Sun, stars, planets
-  HauteurApparente, ///< Altitude
-  EtoilesPlanetes, ///< Stars
+  Virgule,            ///< .
+  Titre,              ///< Almanac
+  Au,                 ///< to
+  Janvier,            ///< January
+  Fevrier,            ///< February
+  MoisMars,           ///< March
+  Avril,              ///< April
+  Mai,                ///< May
+  Juin,               ///< June
+  Juillet,            ///< July
+  Aout,               ///< August
+  Septembre,          ///< September
+  Octobre,            ///< October
+  Novembre,           ///< November
+  Decembre,           ///< December
+  Lundi,              ///< Monday
+  Mardi,              ///< Tuesday
+  Mercredi,           ///< Wednesday
+  Jeudi,              ///< Thursday
+  Vendredi,           ///< Friday
+  Samedi,             ///< Saturday
+  Dimanche,           ///< Sunday
+  Heure,              ///< UT
+  Gha,                ///< GHA
+  Declinaison,        ///< Dec
+  Sha,                ///< SHA
+  Hp,                 ///< HP
+  V,                  ///< v
+  D,                  ///< d
+  DemiDiametre,       ///< SD
+  Magnitude,          ///< Mag.
+  Passage,            ///< Mer. pass.
+  Superieur,          ///< upper
+  Inferieur,          ///< lower
+  Jour,               ///< Day
+  Belier,             ///< Aries
+  Soleil,             ///< Sun
+  Lune,               ///< Moon
+  Venus,              ///< Venus
+  Mars,               ///< Mars
+  Jupiter,            ///< Jupiter
+  Saturne,            ///< Saturn
+  Planete,            ///< Planet
+  Etoiles,            ///< Stars
+  Etoile,             ///< Star
+  PageGauche,         ///< Aries, planets, stars
+  PageDroite,         ///< Sun, Moon, twilight
+  EtoilesLe,          ///< Stars, 12h on
+  Crepuscules,        ///< Sun and twilight, local mean time,
+  LeverCoucherLune,   ///< Moon at longitude 0; difference from the next day, minutes
+  Latitude,           ///< Lat.
+  Nautique,           ///< Naut.
+  Civil,              ///< Civil
+  Lever,              ///< Rise
+  Coucher,            ///< Set
+  EquationTemps,      ///< Equation of time
+  Age,                ///< Age
+  Eclairee,           ///< Lit
+  ToujoursDessus,     ///< + +
+  ToujoursDessous,    ///< - -
+  TouteLaNuit,        ///< / /
+  PasCeJour,          ///< . .
+  LegendeSignes1,     ///< + + above the horizon all day   - - below it all day   / / twilight all night
+  LegendeSignes2,     ///< . . not on that day. Equation: true less mean Sun, + when it passes before 12h.
+  LegendeSignes3,     ///< d bears no sign: the next hour's declination tells whether it is added.
+  LegendeSignes4,     ///< v is added to the GHA, and taken off where it bears a - sign.
+  PiedTheorie,        ///< Theory: VSOP87D, ELP 2000-82B, IAU 2006. Sky of 1995 to 2030 within 0.5" (Sun, stars), 1" ...
+  PiedFait,           ///< Made
+  PiedUt1,            ///< UT1 - UTC:
+  Secondes,           ///< s
+  Page,               ///< page
+  TitreCorrections,   ///< Altitude corrections: Sun, stars, planets
+  HauteurApparente,   ///< Altitude
+  EtoilesPlanetes,    ///< Stars
   SoleilDemiDiametre, ///< Sun, by semidiameter
-  BordInferieur, ///< lower limb
-  BordSuperieur, ///< upper limb
-  NoteCorrections, ///< Apparent altitude = reading + index correction - dip. Each correction is added with its sign.
-  NoteAir, ///< Altitudes in degrees and minutes. For 1010 hPa and 10 °C; another air has a table of its own.
-  TitreDepression, ///< Dip, parallax of planets, air
-  Depression, ///< Dip
-  Metres, ///< m
-  Pieds, ///< feet
-  NoteDepression, ///< to be taken off
+  BordInferieur,      ///< lower limb
+  BordSuperieur,      ///< upper limb
+  NoteCorrections,    ///< Apparent altitude = reading + index correction - dip. Each correction is added with its sign.
+  NoteAir,           ///< Altitudes in degrees and minutes. For 1010 hPa and 10 °C; another air has a table of its own.
+  TitreDepression,   ///< Dip, parallax of planets, air
+  Depression,        ///< Dip
+  Metres,            ///< m
+  Pieds,             ///< feet
+  NoteDepression,    ///< to be taken off
   ParallaxePlanetes, ///< Parallax of a planet by altitude and HP; to be added
-  AirPourCent, ///< Air: percent, by temperature (°C) and pressure (hPa)
-  AirCorrection, ///< Correction by apparent altitude and percent
-  NoteAirNegatif, ///< To be added with its sign; for a negative percent with the other sign.
-  TitreLune, ///< Altitude corrections: Moon
-  LunePremiere, ///< First part, by apparent altitude; to be added
-  LuneSeconde, ///< Second part, lower limb, by HP and apparent altitude; to be added
-  LuneSecondeSup, ///< Second part, upper limb; to be added with its sign
-  FormeTerre, ///< The Earth's shape, by latitude, altitude and azimuth from the elevated pole; to be added to ...
-  NoteLune, ///< Observed altitude = apparent altitude + first + second part + the Earth's shape.
-  TitrePolaire, ///< Latitude by Polaris
+  AirPourCent,       ///< Air: percent, by temperature (°C) and pressure (hPa)
+  AirCorrection,     ///< Correction by apparent altitude and percent
+  NoteAirNegatif,    ///< To be added with its sign; for a negative percent with the other sign.
+  TitreLune,         ///< Altitude corrections: Moon
+  LunePremiere,      ///< First part, by apparent altitude; to be added
+  LuneSeconde,       ///< Second part, lower limb, by HP and apparent altitude; to be added
+  LuneSecondeSup,    ///< Second part, upper limb; to be added with its sign
+  FormeTerre,      ///< The Earth's shape, by latitude, altitude and azimuth from the elevated pole; to be added to ...
+  NoteLune,        ///< Observed altitude = apparent altitude + first + second part + the Earth's shape.
+  TitrePolaire,    ///< Latitude by Polaris
   PolairePremiere, ///< First part, by local hour angle of Polaris and distance from the pole (90° - Dec); to be added
-  PolaireSeconde, ///< Second part, by LHA and altitude; to be added
-  PolaireAzimut, ///< Azimuth from north (°), by LHA and latitude
-  NotePolaire1, ///< LHA = GHA of Aries + SHA of Polaris - west longitude (or + east longitude). Over 180° take ...
-  NotePolaire2, ///< Latitude = observed altitude + first part + second part.
-  NotePolaire3, ///< Polaris stands west of north for an LHA of 0 to 180°, east of it beyond.
+  PolaireSeconde,  ///< Second part, by LHA and altitude; to be added
+  PolaireAzimut,   ///< Azimuth from north (°), by LHA and latitude
+  NotePolaire1,    ///< LHA = GHA of Aries + SHA of Polaris - west longitude (or + east longitude). Over 180° take ...
+  NotePolaire2,    ///< Latitude = observed altitude + first part + second part.
+  NotePolaire3,    ///< Polaris stands west of north for an LHA of 0 to 180°, east of it beyond.
   TitreHaversines, ///< Haversines: logarithm and number
-  TitreCosinus, ///< Logarithms of cosines
-  NoteHaversines, ///< Logarithms: -1,000,000 log; they are added. Numbers in millionths.
-  NoteCosinus, ///< The logarithm of a sine is that of the cosine of 90° less the angle.
-  Logarithme, ///< log
-  Nombre, ///< number
+  TitreCosinus,    ///< Logarithms of cosines
+  NoteHaversines,  ///< Logarithms: -1,000,000 log; they are added. Numbers in millionths.
+  NoteCosinus,     ///< The logarithm of a sine is that of the cosine of 90° less the angle.
+  Logarithme,      ///< log
+  Nombre,          ///< number
   TitreIncrements, ///< Increments and corrections
-  SoleilPlanetes, ///< Sun
-  Correction, ///< corr
-  VouD, ///< v d
-  NoteIncrements, ///< Sun and planets: 15° an hour; Aries: 15°02.46'; Moon: 14°19.0'. v and d corrections: in ...
+  SoleilPlanetes,  ///< Sun
+  Correction,      ///< corr
+  VouD,            ///< v d
+  NoteIncrements,  ///< Sun and planets: 15° an hour; Aries: 15°02.46'; Moon: 14°19.0'. v and d corrections: in ...
   NoteIncrements2, ///< v or d times the seconds from 30: from 180 on, the correction is 0.1' more after 30 s, ...
-  TitreEmploi, ///< How to work a sight with these pages
+  TitreEmploi,     ///< How to work a sight with these pages
   Emploi01, ///< THE TIME. In universal time (UT: UTC with UT1 - UTC, which the foot of each page tells). Keep ...
   Emploi02, ///< the minutes and the seconds.
   Emploi03, ///< 1. GREENWICH HOUR ANGLE (GHA)

@@ -19,10 +19,10 @@ struct MotsFiche {
   std::array<std::string, kPartiesFiche> parties;
   std::array<std::string, kEtapesCalcul> etapes; ///< in the order of `EtapeFiche`
   std::array<std::string, kEtapesCalcul> regles; ///< how the step is done, the same
-  std::string vers;                             ///< towards the body
-  std::string depuis;                           ///< away from it
-  std::string controle;                         ///< before the intercept without roundings
-  std::string pied;                             ///< of each page
+  std::string vers;                              ///< towards the body
+  std::string depuis;                            ///< away from it
+  std::string controle;                          ///< before the intercept without roundings
+  std::string pied;                              ///< of each page
 };
 
 /// The pages of a sight worked by hand: one that is filled in; or one with blanks for all that isn't the sight itself,

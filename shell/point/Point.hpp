@@ -6,8 +6,8 @@
 
 namespace velmaris {
 
-/// Makes the fix. While no sight is listed it takes those of the log's last watch and the stored lines, and the legs that
-/// are kept, else from "Estime" the first one, where that is filled.
+/// Makes the fix. While no sight is listed it takes those of the log's last watch and the stored lines, and the legs
+/// that are kept, else from "Estime" the first one, where that is filled.
 void PreparePoint(Bureau &bureau);
 
 /// Opens the window of the fix, with the fix made, or brings it to the front: the menu, the toolbar and Ctrl+G.
