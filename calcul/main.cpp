@@ -25,8 +25,10 @@
 #include <cstdio>
 #include <cstdlib>
 #include <filesystem>
+#include <functional>
 #include <iostream>
 #include <sstream>
+#include <vector>
 
 namespace {
 
@@ -345,6 +347,34 @@ void NommeAide(const CLI::App &programme, const Langue &dit) {
   formateur->label("REQUIRED", dit("(obligatoire)", "(required)"));
 }
 
+/// A verb and what does it.
+struct Verbe {
+  const CLI::App *commande;
+  std::function<int()> fait;
+};
+
+/// All verbs, declared.
+std::vector<Verbe> DeclareVerbes(CLI::App &programme, Demande &demande, const std::filesystem::path &dossier) {
+  const Langue &dit = demande.dit;
+  return {
+      {DeclareReduit(programme, dit, demande), [&] { return Reduit(demande, dossier); }},
+      {DeclareControle(programme, dit, demande), [&] { return Controle(demande); }},
+      {DeclarePoint(programme, dit, demande.point), [&] { return Point(demande); }},
+      {DeclarePrepare(programme, dit, demande.prepare), [&] { return Prepare(demande); }},
+      {DeclareSerie(programme, dit, demande.serie), [&] { return Serie(demande); }},
+      {DeclarePlanete(programme, dit, demande, "helio",
+                      dit("Lieu héliocentrique d'une planète, \"L|B|R\"", "Heliocentric place of a planet, \"L|B|R\"")),
+       [&] { return Planete(demande, EcritHelio); }},
+      {DeclarePlanete(programme, dit, demande, "place",
+                      dit("Lieu apparent d'une planète, cinq champs entre des barres",
+                          "Apparent place of a planet, five fields between bars")),
+       [&] { return Planete(demande, EcritPlace); }},
+      {DeclareEtoile(programme, dit, demande), [&] { return Etoile(demande); }},
+      {DeclareLune(programme, dit, demande), [&] { return Lune(demande, dossier); }},
+      {DeclareCiel(programme, dit, demande), [&] { return Ciel(demande); }},
+      {DeclareHorizon(programme, dit, demande), [&] { return Horizon(demande); }}};
+}
+
 int Execute(int argc, char **argv) {
   Demande demande;
   const Langue &dit = demande.dit =
@@ -357,21 +387,8 @@ int Execute(int argc, char **argv) {
   programme.set_help_flag("-h,--help", dit("Montre cette aide", "Tells this help"));
   programme.require_subcommand(1);
   NommeAide(programme, dit);
-  const CLI::App *reduit = DeclareReduit(programme, dit, demande);
-  const CLI::App *controle = DeclareControle(programme, dit, demande);
-  const CLI::App *point = DeclarePoint(programme, dit, demande.point);
-  const CLI::App *prepare = DeclarePrepare(programme, dit, demande.prepare);
-  const CLI::App *serie = DeclareSerie(programme, dit, demande.serie);
-  const CLI::App *helio =
-      DeclarePlanete(programme, dit, demande, "helio",
-                     dit("Lieu héliocentrique d'une planète, \"L|B|R\"", "Heliocentric place of a planet, \"L|B|R\""));
-  const CLI::App *place = DeclarePlanete(programme, dit, demande, "place",
-                                         dit("Lieu apparent d'une planète, cinq champs entre des barres",
-                                             "Apparent place of a planet, five fields between bars"));
-  const CLI::App *etoile = DeclareEtoile(programme, dit, demande);
-  const CLI::App *lune = DeclareLune(programme, dit, demande);
-  const CLI::App *ciel = DeclareCiel(programme, dit, demande);
-  DeclareHorizon(programme, dit, demande);
+  const std::filesystem::path dossier = DossierProgramme(argv[0]);
+  const std::vector<Verbe> verbes = DeclareVerbes(programme, demande, dossier);
   try {
     programme.parse(Arguments(argc, argv));
   } catch (const CLI::Success &demandee) {
@@ -384,34 +401,9 @@ int Execute(int argc, char **argv) {
               << dit("Usage : ", "Usage: ") << "velmaris-calcul --help\n";
     return kUsage;
   }
-  if (reduit->parsed()) {
-    return Reduit(demande, DossierProgramme(argv[0]));
-  }
-  if (controle->parsed()) {
-    return Controle(demande);
-  }
-  if (point->parsed()) {
-    return Point(demande);
-  }
-  if (prepare->parsed()) {
-    return Prepare(demande);
-  }
-  if (serie->parsed()) {
-    return Serie(demande);
-  }
-  if (helio->parsed()) {
-    return Planete(demande, EcritHelio);
-  }
-  if (place->parsed()) {
-    return Planete(demande, EcritPlace);
-  }
-  if (etoile->parsed()) {
-    return Etoile(demande);
-  }
-  if (ciel->parsed()) {
-    return Ciel(demande);
-  }
-  return lune->parsed() ? Lune(demande, DossierProgramme(argv[0])) : Horizon(demande);
+  const auto dite =
+      std::find_if(verbes.begin(), verbes.end(), [](const Verbe &verbe) { return verbe.commande->parsed(); });
+  return dite == verbes.end() ? kUsage : dite->fait(); // one is required
 }
 
 } // namespace

@@ -63,6 +63,8 @@ TableDouble TablePolaireAzimut(double distance) {
 
 TableHaversines Haversines() {
   TableHaversines table;
+  table.logarithmes.reserve(static_cast<std::size_t>(RangDe(180)) + 1);
+  table.naturels.reserve(static_cast<std::size_t>(RangDe(180)) + 1);
   for (int rang = 0; rang <= RangDe(180); ++rang) {
     const double moitie = std::sin(Degres(rang) / 2 * kRadian);
     table.logarithmes.push_back(Logarithme(moitie * moitie));
@@ -73,6 +75,7 @@ TableHaversines Haversines() {
 
 std::vector<long> LogarithmesCosinus() {
   std::vector<long> logarithmes;
+  logarithmes.reserve(static_cast<std::size_t>(RangDe(90)) + 1);
   for (int rang = 0; rang < RangDe(90); ++rang) {
     logarithmes.push_back(Logarithme(std::cos(Degres(rang) * kRadian)));
   }

@@ -107,6 +107,7 @@ struct Candidat {
 void TrieCandidats(const CadreExercice &cadre, const InstantUTC &utc, Tirage &tirage, std::vector<Candidat> &vus,
                    std::vector<Candidat> &caches) {
   std::vector<Astre> astres;
+  astres.reserve(kPlanetesVues.size() + kBrillantes.size());
   for (const GenreAstre planete : kPlanetesVues) {
     astres.push_back({planete, 0});
   }

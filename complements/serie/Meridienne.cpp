@@ -59,7 +59,7 @@ bool DitLongitude(const Midi &midi, const LieuAjuste &ajuste, const InstantUTC &
 std::optional<LieuAjuste> AjusteMidi(const Midi &midi, const PassageMeridien &passage, FicheMeridienne &fiche) {
   const auto comptees =
       std::count_if(midi.lectures.begin(), midi.lectures.end(), [](const LecturePrete &l) { return l.compte; });
-  const std::optional<LieuAjuste> tenu = AjusteLieu(midi.base, midi.lectures, passage.heure, passage.lieu, midi.tenue);
+  std::optional<LieuAjuste> tenu = AjusteLieu(midi.base, midi.lectures, passage.heure, passage.lieu, midi.tenue);
   if (comptees < 2 || !tenu) {
     if (tenu) {
       fiche.avis.push_back(AvisMeridienne::LongitudeSeule);
