@@ -30,7 +30,7 @@ using LigneMotsPapier = LigneDe<MotsPapier>;
 std::span<const LigneMotsPapier> TableMotsPapier();
 
 /// Fills the record with its words as the table has them.
-void InitialiseMotsPapier(MotsPapier &mots);
+void InitialiseMotsPapier(MotsPapier &fenetre);
 
 /// Runs over all words in the order of their table.
 template <class Fonction> void PourChaque(MotsPapier &mots, Fonction &&fonction) {

@@ -22,7 +22,7 @@ using LigneTermesAlmanach = LigneDe<TermesAlmanach>;
 std::span<const LigneTermesAlmanach> TableTermesAlmanach();
 
 /// Fills the record with its words as the table has them.
-void InitialiseTermesAlmanach(TermesAlmanach &termes);
+void InitialiseTermesAlmanach(TermesAlmanach &fenetre);
 
 /// Runs over all words in the order of their table.
 template <class Fonction> void PourChaque(TermesAlmanach &termes, Fonction &&fonction) {
