@@ -58,6 +58,18 @@ void Toile::PeintFond(double facteur) {
   PeintAires(painter, surface_, facteur, {.eclairage = eclairage_, .pixel = Trait(*this)});
 }
 
+/// The layer and the texts over the lines; where there is neither, the lines are the whole picture.
+void Toile::PeintDessus(double facteur, Maniere maniere) {
+  if (textes_.empty() && calque_.traces.empty()) {
+    image_ = lignes_;
+    return;
+  }
+  Recopie();
+  QPainter painter(&image_);
+  PeintCalque(painter, surface_, facteur, maniere);
+  PeintTextes(painter, surface_, facteur, textes_, maniere);
+}
+
 void Toile::Accorde() {
   const QSize taille = size() * devicePixelRatioF();
   // A layer drawn twice in the same place is dropped from the record; what is painted of it stays.
@@ -76,6 +88,9 @@ void Toile::Accorde() {
   if (!tracee && !retiree && !nomme && !decalque) {
     return;
   }
+  if (image_.constBits() == lignes_.constBits()) {
+    image_ = QImage(); // one picture for both, as long as nothing lay over the lines
+  }
   if (lignes_.size() != taille) {
     lignes_ = QImage(taille, QImage::Format_RGB32);
     lignes_.setDevicePixelRatio(devicePixelRatioF());
@@ -92,15 +107,12 @@ void Toile::Accorde() {
     const bool reprise = traces_ > 0 && traces_ <= surface_.traces.size() && points_ != 0;
     PeintLignes(painter, surface_, facteur, reprise ? traces_ - 1 : traces_, maniere);
   }
-  Recopie();
-  QPainter painter(&image_);
   etiquettes_ = etiquettes;
   calque_ = surface_.calque;
-  PeintCalque(painter, surface_, facteur, maniere);
   if (neuve || retiree || nomme || decalque || TexteDepuis(traces_)) {
-    textes_ = TextesPeints(painter, surface_, facteur, mesures_);
+    textes_ = TextesPeints(QPainter(&lignes_), surface_, facteur, mesures_);
   }
-  PeintTextes(painter, surface_, facteur, textes_, maniere);
+  PeintDessus(facteur, maniere);
   effacements_ = surface_.effacements;
   traces_ = surface_.traces.size();
   points_ = NombrePoints(surface_);

@@ -58,10 +58,11 @@ private:
   bool TexteDepuis(std::size_t premier) const;
   void PeintFond(double facteur);
   void Recopie();
+  void PeintDessus(double facteur, Maniere maniere);
 
   const Surface &surface_;
   QImage lignes_; ///< filled shapes, lines and circles
-  QImage image_;  ///< and the layer and the texts over them
+  QImage image_;  ///< and the layer and the texts over them; the same one where there are none
   std::uint64_t effacements_ = 0;
   std::size_t traces_ = 0;
   std::vector<TextePlace> textes_;
