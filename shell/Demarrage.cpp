@@ -346,22 +346,15 @@ void Image10_Click(Bureau &bureau, int indice) {
   const bool sansFichier = bureau.TitreFichier == bureau.messages[9];
   // The position worked out is a result, which a file's empty captions must not take away.
   const std::array<std::string, 2> estimee = {d.LabLatEst.legende, d.LabLonEst.legende};
-  ChargeLangue(bureau, kFenetreDonnees);
+  constexpr std::array<std::string_view, 11> kFenetres = {
+      kFenetreDonnees, kFenetreEtat,     kFenetreFiche,  kFenetreRegistre,   kFenetrePoint, kFenetrePreparation,
+      kFenetreSerie,   kFenetreExercice, kFenetrePapier, kFenetreMotsPapier, kFenetreTermes};
+  ChargeLangues(bureau, kFenetres);
   d.LabLatEst.legende = estimee[0];
   d.LabLonEst.legende = estimee[1];
   if (sansFichier) {
     bureau.TitreFichier = bureau.messages[9];
   }
-  ChargeLangue(bureau, kFenetreEtat);
-  ChargeLangue(bureau, kFenetreFiche);
-  ChargeLangue(bureau, kFenetreRegistre);
-  ChargeLangue(bureau, kFenetrePoint);
-  ChargeLangue(bureau, kFenetrePreparation);
-  ChargeLangue(bureau, kFenetreSerie);
-  ChargeLangue(bureau, kFenetreExercice);
-  ChargeLangue(bureau, kFenetrePapier);
-  ChargeLangue(bureau, kFenetreMotsPapier);
-  ChargeLangue(bureau, kFenetreTermes);
   PoseDomaines(bureau);
   if (bureau.fselect.chargee) {
     ChargeLangue(bureau, kFenetreFSelect);

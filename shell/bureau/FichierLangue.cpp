@@ -40,6 +40,21 @@ void PourChaqueLigneDe(std::string_view octets, std::string_view fenetre,
   }
 }
 
+Sections SectionsDe(std::string_view octets) {
+  const std::string contenu = EnUtf8(octets);
+  Sections sections;
+  std::string *section = nullptr;
+  for (const std::string_view texte : Lignes(contenu)) {
+    if (texte.starts_with(kEntete)) {
+      section = &sections[std::string(texte.substr(kEntete.size()))];
+    }
+    if (section != nullptr) {
+      section->append(texte).append("\n");
+    }
+  }
+  return sections;
+}
+
 bool LitMessage(std::span<const std::string_view> champs, TexteMsg &messages) {
   if (!champs[0].starts_with(kMotMessage)) {
     return false;

@@ -4,7 +4,9 @@
 
 #include <filesystem>
 #include <functional>
+#include <map>
 #include <span>
+#include <string>
 #include <string_view>
 
 namespace velmaris {
@@ -16,6 +18,13 @@ namespace velmaris {
 /// @param ligne    gets the fields, which live as long as the call
 void PourChaqueLigneDe(std::string_view octets, std::string_view fenetre,
                        const std::function<void(std::span<const std::string_view>)> &ligne);
+
+/// The lines of a language file by the windows that they belong to.
+using Sections = std::map<std::string, std::string, std::less<>>;
+
+/// Parts a language file into its windows' lines, each with its section line; lines under no section are left out.
+/// @param octets  as for PourChaqueLigneDe
+Sections SectionsDe(std::string_view octets);
 
 /// Takes a message line, "MSG\text\number", into the table; a number outside 0 to 100 has no effect.
 /// @return false for a line that is no message

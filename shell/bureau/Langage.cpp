@@ -53,8 +53,9 @@ bool AUneInfobulle(Genre genre) { return genre != Genre::Texte; }
 void AppliqueControle(std::span<const std::string_view> champs, const ListeControles &controles,
                       const std::function<void(Controle &, std::string)> &poseTexte) {
   const std::string_view indice = champs.size() > kIndice ? SansBlancs(champs[kIndice]) : std::string_view();
+  const double rang = Val(indice);
   for (Controle *c : controles) {
-    if (c->nom != champs[kNom] || (!indice.empty() && c->indice != Val(indice))) {
+    if (c->nom != champs[kNom] || (!indice.empty() && c->indice != rang)) {
       continue;
     }
     if (champs.size() > kLegende && AUneLegende(c->genre)) {
@@ -82,9 +83,16 @@ void AppliqueLangue(std::string_view fichier, std::string_view fenetre, const Li
   });
 }
 
-void ChargeLangue(Bureau &bureau, std::string_view fenetre) {
+namespace {
+
+/// The current language file; nothing where there is none, or it can't be read.
+std::optional<std::string> LitLangue(const Bureau &bureau) {
   std::optional<std::string> fichier;
   Passe([&] { fichier = LitFichier(TrouveFichier(bureau.dossiers, bureau.FichierLangue.substr(1))); });
+  return fichier;
+}
+
+void ChargeDe(Bureau &bureau, const std::optional<std::string> &fichier, std::string_view fenetre) {
   const bool textes = PoseLesTextes(fenetre);
   const auto pose = [&](Controle &c, std::string mots) {
     if (textes) {
@@ -107,6 +115,19 @@ void ChargeLangue(Bureau &bureau, std::string_view fenetre) {
     bureau.ports.boite({.texte = "Fichier absent.", .icone = Icone::Attention});
   }
   jour.infobulle = jour.legende;
+}
+
+} // namespace
+
+void ChargeLangue(Bureau &bureau, std::string_view fenetre) { ChargeDe(bureau, LitLangue(bureau), fenetre); }
+
+void ChargeLangues(Bureau &bureau, std::span<const std::string_view> fenetres) {
+  const std::optional<std::string> fichier = LitLangue(bureau);
+  const auto sections = fichier ? SectionsDe(*fichier) : Sections();
+  for (const std::string_view fenetre : fenetres) {
+    const auto section = sections.find(fenetre);
+    ChargeDe(bureau, !fichier ? fichier : section == sections.end() ? std::string() : section->second, fenetre);
+  }
 }
 
 std::string ModeleLangue(const ListeControles &controles) {

@@ -4,6 +4,7 @@
 #include "shell/fenetres/Controles.hpp"
 
 #include <functional>
+#include <span>
 #include <string>
 #include <string_view>
 
@@ -30,6 +31,9 @@ void AppliqueLangue(std::string_view fichier, std::string_view fenetre, const Li
 /// ("Fichier absent."), the others pass over it.
 /// @param fenetre  the window's name
 void ChargeLangue(Bureau &bureau, std::string_view fenetre);
+
+/// The same for several windows, the file read once.
+void ChargeLangues(Bureau &bureau, std::span<const std::string_view> fenetres);
 
 /// The template of a window's texts: one line a control, in the window's own order, without a section line.
 /// @return lines of name, caption, text, tool tip and index, each ended by CR LF
