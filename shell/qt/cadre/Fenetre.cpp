@@ -92,6 +92,7 @@ Fenetre::Fenetre(Scene &scene)
   const double f = PixelsParTwip(*this);
   resize(static_cast<int>(std::lround(bureau_.largeurFenetre * f)),
          static_cast<int>(std::lround(bureau_.hauteurFenetre * f)));
+  PoseEchelle(EchelleContenu(bureau_, width(), height())); // before all is laid out by it for the first time
   for (Surface *surface : {&bureau_.image1, &bureau_.picAZ, &bureau_.picHE}) {
     surface->interligne = Interligne(*surface, *this);
   }
