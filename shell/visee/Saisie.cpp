@@ -63,7 +63,8 @@ std::string PremiereMajuscule(std::string texte) {
 void PoseAngleEntier(Bureau &bureau, Controle &degres, Controle &minutes, double angle) {
   constexpr int kMinutes = 60;
   const auto entier = static_cast<int>(std::lround(std::fabs(angle) * kMinutes));
-  PoseTexte(bureau, degres, Format(entier / kMinutes, "00"));
+  const int entiers = entier / kMinutes;
+  PoseTexte(bureau, degres, Format(entiers, "00"));
   PoseTexte(bureau, minutes, Format(entier % kMinutes, "00"));
 }
 
