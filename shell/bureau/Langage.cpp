@@ -123,10 +123,9 @@ void ChargeLangue(Bureau &bureau, std::string_view fenetre) { ChargeDe(bureau, L
 
 void ChargeLangues(Bureau &bureau, std::span<const std::string_view> fenetres) {
   const std::optional<std::string> fichier = LitLangue(bureau);
-  const auto sections = fichier ? SectionsDe(*fichier) : Sections();
+  Sections sections = fichier ? SectionsDe(*fichier) : Sections();
   for (const std::string_view fenetre : fenetres) {
-    const auto section = sections.find(fenetre);
-    ChargeDe(bureau, !fichier ? fichier : section == sections.end() ? std::string() : section->second, fenetre);
+    ChargeDe(bureau, fichier ? std::optional(sections[std::string(fenetre)]) : std::nullopt, fenetre);
   }
 }
 
