@@ -262,7 +262,10 @@ std::string Ecart(const HeuresHorizon &jour, const HeuresHorizon &lendemain, con
 /// The Moon's rises and sets of a day of a page, or of one of the two days after the last.
 const LuneHorizon &LuneDe(const Almanach &almanach, std::size_t jour, std::size_t latitude) {
   const std::size_t nombre = almanach.jours.size();
-  return jour < nombre ? almanach.jours[jour].lune[latitude] : almanach.suivants[jour - nombre][latitude];
+  if (jour < nombre) {
+    return almanach.jours[jour].lune[latitude];
+  }
+  return almanach.suivants[jour - nombre][latitude];
 }
 
 /// Heads of the Moon's columns: rise and set above, the days below.
