@@ -12,7 +12,7 @@ TACHES := 2
 DUREE := 60
 # What the chart's data are made from; a build needs none of it.
 PAQUETS_CARTE := gmt gmt-gshhg-high gmt-gshhg-full libgeonames-common python3 python3-numpy
-CIBLES_FUZZ := fuzz-lop fuzz-controle fuzz-langue fuzz-nombre fuzz-polygone fuzz-lieux fuzz-objets fuzz-magasin fuzz-reprise fuzz-reglages fuzz-registre fuzz-route fuzz-points
+CIBLES_FUZZ := fuzz-lop fuzz-controle fuzz-langue fuzz-nombre fuzz-polygone fuzz-lieux fuzz-objets fuzz-magasin fuzz-reprise fuzz-reglages fuzz-registre fuzz-route fuzz-points fuzz-serie
 DOSSIERS := foundations ephemerides sights lines chart sky complements shell calcul
 TABLES_CIEL := complements/ciel/tables
 vide :=
