@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 #include <numbers>
+#include <sstream>
 
 namespace velmaris {
 namespace {
@@ -48,6 +49,30 @@ std::vector<LieuNavire> LieuxMontres(const DonneesJour &jour) {
     lieux.push_back(droite.appui);
   }
   return lieux;
+}
+
+/// Letters of a text in UTF-8.
+std::size_t Lettres(const std::string &texte) {
+  return static_cast<std::size_t>(std::count_if(
+      texte.begin(), texte.end(), [](char c) { return (static_cast<unsigned char>(c) & 0xC0U) != 0x80U; }));
+}
+
+/// A text in lines of so many letters at most, parted between words; a longer word has a line of its own. One line at
+/// least.
+std::vector<std::string> EnLignes(const std::string &texte, std::size_t lettres) {
+  std::vector<std::string> lignes(1);
+  std::istringstream mots(texte);
+  for (std::string mot; mots >> mot;) {
+    std::string &derniere = lignes.back();
+    if (derniere.empty()) {
+      derniere = mot;
+    } else if (Lettres(derniere) + 1 + Lettres(mot) <= lettres) {
+      derniere += ' ' + mot;
+    } else {
+      lignes.push_back(mot);
+    }
+  }
+  return lignes;
 }
 
 /// Draws what a day brought onto its sheet.
@@ -152,20 +177,18 @@ public:
     constexpr std::size_t kParLigne = 2;
     const double moitie = (Ici().largeur - 2 * kMarge) / kParLigne;
     y_ += kPas / 2;
+    double bas = y_; // of the line above, however many lines its longer text has
     for (std::size_t i = 0; i < mots_.meteo.size(); ++i) {
       const bool seule = i + 1 == mots_.meteo.size(); // the last takes the whole width
       const double gauche = kMarge + (seule ? 0 : static_cast<double>(i % kParLigne) * moitie);
       if (i % kParLigne == 0 || seule) {
-        y_ += kPas * 1.2;
+        y_ = bas + kPasMeteo;
       }
       const double droite = seule ? Ici().largeur - kMarge : gauche + moitie - 250;
       Ici().Mot({gauche, y_}, mots_.meteo[i], {.taille = kMots, .gras = true});
-      if (i < valeurs.size() && !valeurs[i].empty()) {
-        Ici().Mot({gauche + kValeur, y_}, valeurs[i], {.taille = kMots});
-      }
-      Ici().Trait({gauche + kValeur, y_ + 45}, {droite, y_ + 45}, {.largeur = 0.4, .tiret = 1.5});
+      bas = std::max(bas, Valeur({gauche + kValeur, y_}, droite, i < valeurs.size() ? valeurs[i] : std::string()));
     }
-    y_ += kPas / 2;
+    y_ = bas + kPas / 2;
   }
 
   void Table(const std::vector<std::array<std::string, kColonnesJour>> &visees) {
@@ -180,7 +203,19 @@ public:
   }
 
 private:
-  static constexpr double kValeur = 1250; ///< from a word of the weather to what is typed
+  static constexpr double kValeur = 1250;         ///< from a word of the weather to what is typed
+  static constexpr double kPasMeteo = kPas * 1.2; ///< from line to line of it
+
+  /// Writes what was typed on as many dotted lines as it takes. @return the base of the last one
+  double Valeur(Point pied, double droite, const std::string &texte) {
+    constexpr double kParLettre = 95; // of a wide text, 1/1440 inch
+    for (const std::string &ligne : EnLignes(texte, static_cast<std::size_t>((droite - pied.x) / kParLettre))) {
+      Ici().Mot(pied, ligne, {.taille = kMots});
+      Ici().Trait({pied.x, pied.y + 45}, {droite, pied.y + 45}, {.largeur = 0.4, .tiret = 1.5});
+      pied.y += kPasMeteo;
+    }
+    return pied.y - kPasMeteo;
+  }
 
   void Tete() {
     y_ += kPas / 2;

@@ -186,6 +186,22 @@ TEST(PageDuJour, TypedWeatherStandsAndWhatIsEmptyIsABlank) {
   EXPECT_TRUE(APourMot(page, "Mer"));
 }
 
+TEST(PageDuJour, ALongRemarkGoesOnOnFurtherLinesAndLosesNoWord) {
+  DonneesJour jour = JourDEssai();
+  std::string remarque;
+  for (int i = 0; i < 60; ++i) {
+    remarque += (i == 0 ? "" : " ") + std::string("élément") + std::to_string(i);
+  }
+  jour.meteo = {"NW 4 à 5, fraîchissant NW 6 en rafales sous les grains de la fin de l'après-midi", remarque};
+  const Feuillet page = PagesDuJour(jour, FormatPapier::A4, MotsDEssai()).front();
+  std::string ecrite;
+  for (const MotFeuillet &mot : MotsDe(page)) {
+    EXPECT_LT(mot.texte.size(), 130U) << mot.texte;
+    ecrite += mot.texte.find("élément") == std::string::npos ? "" : (ecrite.empty() ? "" : " ") + mot.texte;
+  }
+  EXPECT_EQ(ecrite, remarque);
+}
+
 TEST(PageDuJour, WithoutAnythingItIsABlankSheet) {
   EXPECT_EQ(PagesDuJour({}, FormatPapier::A4, MotsDEssai()).size(), 1U);
 }
