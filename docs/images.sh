@@ -50,7 +50,7 @@ touche Escape
 attends boite_fermee "$POINT"
 xdotool windowfocus --sync "$FENETRE"; pause 0.5
 image fenetre
-publie fenetre fenetre
+publie fenetre fenetre 1920x1056+0+0 # without the strip that the window manager leaves
 touche ctrl+k
 attends boite_ouverte "$PLAN"
 devant "$PLAN"
