@@ -245,7 +245,8 @@ std::vector<std::vector<Point>> CoupeAuCadre(const std::vector<Point> &points, c
 }
 
 int PasDuCanevas(double mille) {
-  const auto *const assez = std::find_if(kPas.begin(), kPas.end(), [&](int pas) { return pas * mille >= kEcartLignes; });
+  const auto *const assez =
+      std::find_if(kPas.begin(), kPas.end(), [&](int pas) { return pas * mille >= kEcartLignes; });
   return assez == kPas.end() ? kPas.back() : *assez;
 }
 
