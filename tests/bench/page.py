@@ -97,8 +97,10 @@ def detail(benchmark):
     if benchmark["name"].startswith("RedessineCiel"):
         return SKY[parts[0]]
     words = []
-    for name, value in (part.split(":") for part in parts):
-        if name == "grille":
+    for name, _, value in (part.partition(":") for part in parts):
+        if not value:
+            words.append(name)
+        elif name == "grille":
             words.append("with the grid" if value == "0" else "without the grid")
         else:
             words.append("the whole world" if value == "0" else f"{value} miles high")
