@@ -133,6 +133,9 @@ bool Differe(const LigneControle &ligne) {
 
 using Valeur = std::optional<double>;
 
+/// A figure that is none, of fields beyond what a number holds, isn't told.
+Valeur SiFini(Valeur valeur) { return valeur && std::isfinite(*valeur) ? valeur : std::nullopt; }
+
 double UnTour(double degres) {
   const double reste = std::fmod(degres, kTour);
   return reste < 0 ? reste + kTour : reste;
@@ -201,6 +204,8 @@ std::vector<LigneControle> LignesDuControle(const ResultatDit &dit, const Etapes
   LignesDeLaLecture(matiere, lignes);
   LignesDuResultat(matiere, lignes);
   for (LigneControle &ligne : lignes) {
+    ligne.dit = SiFini(ligne.dit);
+    ligne.actuel = SiFini(ligne.actuel);
     if (Differe(ligne)) {
       ligne.raison = Raison(matiere, ligne.etape);
     }
