@@ -2,6 +2,7 @@
 
 #include "complements/ciel/Refus.hpp"
 #include "shell/bureau/Avis.hpp"
+#include "shell/complements/CandidatsLune.hpp"
 #include "shell/complements/Mots.hpp"
 #include "shell/complements/Saisies.hpp"
 #include "shell/preparation/LecturePlan.hpp"
@@ -150,6 +151,11 @@ void RegardeInstant(Bureau &bureau) {
   p.jeux = ChoisitJeux(p.vue, p.demande.jeux);
   p.montres = AstresMontres(p, f.Check2.valeur == 1);
   CalculeCompas(bureau);
+  if (f.Onglets1.rang == static_cast<int>(PagePlan::Jeux)) {
+    const LectureSextant &air = p.demande.reglages.sextant;
+    p.lunaires = CandidatsLune(p.instant, p.vue.lieu, p.vue.hauteurOeil, {air.pression, air.temperature},
+                               bureau.verification.reglages.dut1);
+  }
   CalculeInconnu(bureau);
 }
 

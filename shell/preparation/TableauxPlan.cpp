@@ -1,6 +1,7 @@
 #include "shell/preparation/TableauxPlan.hpp"
 
 #include "foundations/TexteNombre.hpp"
+#include "shell/complements/CandidatsLune.hpp"
 #include "shell/complements/Mots.hpp"
 #include "shell/complements/RangeesTexte.hpp"
 #include "shell/preparation/MotsPlan.hpp"
@@ -12,18 +13,6 @@
 
 namespace velmaris {
 namespace {
-
-/// Columns by their captions, widths, and from which to which they hold numbers.
-template <std::size_t N>
-std::vector<Colonne> ColonnesDe(const std::array<Controle, N> &mots, const std::array<double, N> &largeurs,
-                                std::size_t premier, std::size_t dernier) {
-  std::vector<Colonne> colonnes;
-  for (std::size_t i = 0; i < N; ++i) {
-    const bool nombre = i >= premier && i <= dernier;
-    colonnes.push_back({mots.at(i).legende, largeurs.at(i), nombre ? Cote::Droite : Cote::Gauche});
-  }
-  return colonnes;
-}
 
 RangeeTexte RangeeAstre(const Bureau &bureau, const AstreDuPlan &astre) {
   RangeeTexte r;
@@ -128,6 +117,7 @@ void PoseTableauxPlan(Bureau &bureau) {
   PoseAstres(bureau);
   PoseJour(bureau);
   PoseJeux(bureau);
+  PoseCandidatsLune(bureau, bureau.plan.lunaires, bureau.preparation.Lunaires.tableau);
   PoseAmplitudes(bureau);
   PoseInconnus(bureau);
 }

@@ -1,7 +1,7 @@
 #include "shell/serie/CalculSerie.hpp"
 
-#include "complements/ciel/TablesCiel.hpp"
 #include "complements/serie/LecturesPretes.hpp"
+#include "shell/complements/CandidatsLune.hpp"
 #include "shell/complements/Saisies.hpp"
 #include "shell/serie/AstresListe.hpp"
 #include "shell/serie/GardeSerie.hpp"
@@ -65,19 +65,6 @@ void RefaitMidi(FenetreSerie &f, SerieOuverte &p, const BaseLectures &base) {
   RefaitEgales(f, p, base);
 }
 
-/// The Sun, planets, and the stars that shine enough to be brought to the Moon.
-std::vector<Astre> AstresPourLaLune() {
-  constexpr double kMagnitudeMax = 2;
-  std::vector<Astre> astres;
-  for (const Astre &astre : AstresAChoisir(false)) {
-    const std::optional<EtoileIcrs> &etoile = kEtoilesIcrs.at(static_cast<std::size_t>(std::max(1, astre.rang)) - 1);
-    if (astre.genre != GenreAstre::Etoile || (etoile && etoile->magnitude <= kMagnitudeMax)) {
-      astres.push_back(astre);
-    }
-  }
-  return astres;
-}
-
 /// Reduces distances beside the interface: ten of them take 70 ms. A result of other figures than those that the window
 /// holds by then is dropped.
 void DemandeLune(Bureau &bureau, std::vector<MesureLunaire> mesures, const ReglagesLunaire &reglages) {
@@ -99,13 +86,7 @@ void RefaitLune(Bureau &bureau, const BaseLectures &base) {
   if (!p.distances.empty()) {
     DemandeLune(bureau, MesuresDe(p.distances, base), reglages);
   }
-  p.candidats.clear();
-  try {
-    const std::vector<Astre> astres = AstresPourLaLune();
-    p.candidats = ClasseLunaires(base.heureLieu, base.lieu, reglages.hauteurOeil, astres, reglages.air, base.dut1);
-  } catch (const Refus &) {
-    p.candidats.clear();
-  }
+  p.candidats = CandidatsLune(base.heureLieu, base.lieu, reglages.hauteurOeil, reglages.air, base.dut1);
 }
 
 /// Sorts rows by time, and drops those that a later one of the same second replaces.

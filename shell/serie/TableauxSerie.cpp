@@ -1,6 +1,7 @@
 #include "shell/serie/TableauxSerie.hpp"
 
 #include "foundations/TexteNombre.hpp"
+#include "shell/complements/CandidatsLune.hpp"
 #include "shell/complements/Mots.hpp"
 #include "shell/complements/RangeesTexte.hpp"
 
@@ -12,18 +13,6 @@
 
 namespace velmaris {
 namespace {
-
-/// Columns by their captions, widths, and from which to which they hold numbers.
-template <std::size_t N>
-std::vector<Colonne> ColonnesDe(const std::array<Controle, N> &mots, const std::array<double, N> &largeurs,
-                                std::size_t premier, std::size_t dernier) {
-  std::vector<Colonne> colonnes;
-  for (std::size_t i = 0; i < N; ++i) {
-    const bool nombre = i >= premier && i <= dernier;
-    colonnes.push_back({mots.at(i).legende, largeurs.at(i), nombre ? Cote::Droite : Cote::Gauche});
-  }
-  return colonnes;
-}
 
 /// What the page in front says of a reading, by its place among those that have their angle.
 struct DitDeLecture {
@@ -108,22 +97,6 @@ RangeeTexte RangeeDeDistance(const Bureau &bureau, std::size_t rang) {
   return r;
 }
 
-void PoseCandidats(Bureau &bureau) {
-  FenetreSerie &f = bureau.fenetreSerie;
-  std::vector<RangeeTexte> rangees;
-  for (const CandidatLunaire &c : bureau.serie.candidats) {
-    RangeeTexte r;
-    r.textes = {NomDAstre(bureau, c.astre), TexteAngleSigne(c.vue.distance), DixiemesSignes(c.cadence),
-                c.raison ? f.MotRaison.at(static_cast<std::size_t>(*c.raison)).legende
-                         : f.MotBordDistance.at(static_cast<std::size_t>(c.bordLune)).legende +
-                               ", 1' : " + Format(c.secondes, "0") + " s"};
-    r.ton = c.raison ? TonLigne::Faible : TonLigne::Ordinaire;
-    rangees.push_back(std::move(r));
-  }
-  PoseRangees(f.Candidats.tableau, ColonnesDe<4>(f.MotColonneCandidat, {1500, 1080, 720, 1500}, 1, 2),
-              std::move(rangees));
-}
-
 } // namespace
 
 void PoseLectures(Bureau &bureau) {
@@ -148,7 +121,7 @@ void PoseDistances(Bureau &bureau) {
               ColonnesDe<8>(f.MotColonneDistance, {960, 1080, 1320, 1020, 960, 960, 840, 900}, 3, 6),
               std::move(rangees));
   Suit(f.Distances.tableau, bureau.serie.choisieLune);
-  PoseCandidats(bureau);
+  PoseCandidatsLune(bureau, bureau.serie.candidats, bureau.fenetreSerie.Candidats.tableau);
 }
 
 } // namespace velmaris

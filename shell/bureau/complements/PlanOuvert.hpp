@@ -1,5 +1,6 @@
 #pragma once
 
+#include "complements/lunaire/Classement.hpp"
 #include "complements/prevision/Compas.hpp"
 #include "complements/prevision/Identification.hpp"
 #include "complements/prevision/JeuxAstres.hpp"
@@ -39,6 +40,7 @@ struct PlanOuvert {
   CielDuPlan vue;                        ///< the sky then
   MeilleursJeux jeux;                    ///< then
   std::vector<MeilleurMoment> meilleurs; ///< of the day's times for stars, in the order of time
+  std::vector<CandidatLunaire> lunaires; ///< bodies for a lunar distance, then; while their page is in front
   AmplitudesDuJour amplitudes;
   std::vector<AstreProbable> inconnus; ///< what the unknown body may be
   std::vector<std::size_t> montres;    ///< bodies of the list, by their places in `vue`

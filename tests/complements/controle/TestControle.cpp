@@ -445,10 +445,10 @@ TEST(Check, EveryDifferenceOverATenthOfAMinuteHasItsReason) {
 }
 
 TEST(Controle, AFigureBeyondWhatANumberHoldsIsNotTold) {
-  for (std::string Observation::*champ : {&Observation::heure, &Observation::minute, &Observation::seconde,
-                                          &Observation::latitudeDegres, &Observation::longitudeMinutes,
-                                          &Observation::lectureDegres, &Observation::hauteurOeil,
-                                          &Observation::collimation}) {
+  for (std::string Observation::*champ :
+       {&Observation::heure, &Observation::minute, &Observation::seconde, &Observation::latitudeDegres,
+        &Observation::longitudeMinutes, &Observation::lectureDegres, &Observation::hauteurOeil,
+        &Observation::collimation}) {
     for (const char *trop : {"1E308", "-9E307", "1E4333"}) {
       for (const Corps corps : {Corps::Soleil, Corps::Lune, Corps::Planetes, Corps::Etoiles}) {
         Visee v;

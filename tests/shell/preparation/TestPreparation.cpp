@@ -6,6 +6,7 @@
 #include "shell/preparation/PagePlan.hpp"
 
 #include <cmath>
+#include <limits>
 
 /// The plan's window without a screen.
 namespace velmaris::essais {
@@ -169,6 +170,31 @@ TEST_F(PlanFait, SetsAreOfThreeFourAndFiveAndNoneHasABodyThatIsLeftOut) {
   }
   EXPECT_EQ(pr.Jeux.tableau.lignes, nombre);
   EXPECT_FALSE(pr.dessinEsquisse.traces.empty());
+}
+
+TEST_F(PlanFait, BodiesForALunarAreRankedByHowFastTheirDistanceMoves) {
+  OuvrePlan("22/06/2026", "22:00"); // the Moon is a day past her first quarter
+  EXPECT_TRUE(plan.lunaires.empty()) << "only the page that shows them asks for them";
+  pr.Onglets1.rang = static_cast<int>(PagePlan::Jeux);
+  Declenche(bureau, pr.Onglets1, Evenement::Clic);
+  AccordePreparation(bureau);
+  ASSERT_FALSE(plan.lunaires.empty());
+  EXPECT_EQ(pr.Lunaires.tableau.lignes, plan.lunaires.size());
+  double avant = std::numeric_limits<double>::infinity();
+  bool bons = true;
+  for (const CandidatLunaire &c : plan.lunaires) {
+    EXPECT_TRUE(bons || c.raison) << "those that are of no use come last";
+    bons = bons && !c.raison;
+    if (bons) {
+      EXPECT_LE(std::fabs(c.cadence), avant);
+      EXPECT_GT(c.vue.hauteurAstre, 9);
+      avant = std::fabs(c.cadence);
+    }
+  }
+  EXPECT_FALSE(plan.lunaires.front().raison);
+  const auto avant22 = plan.lunaires.front().vue.distance;
+  ClicControle(bureau, pr.Pas[4]);
+  EXPECT_NE(plan.lunaires.front().vue.distance, avant22) << "they follow the slider";
 }
 
 TEST_F(PlanFait, TheDeviationIsWhatTheVariationLeavesOfTheCompassError) {
