@@ -124,6 +124,13 @@ bool EstDansLeCiel(const Surface &s, const ZoneTexte &zone) {
   return std::hypot(x, y) < Rayon(s) - kTrait;
 }
 
+constexpr double kParOctet = 105; ///< a guess of a letter's width
+constexpr double kCote = 80;      ///< from a point to its name
+
+double LargeurDuNom(const Surface &s, const CarteDuPlan &carte, const std::string &nom) {
+  return carte.largeur ? carte.largeur(nom, s.police) : kParOctet * static_cast<double>(nom.size());
+}
+
 /// The first free place beside a point that lies inside of the horizon.
 /// @param cote  from the point to the name
 std::optional<ZoneTexte> PlaceDuNom(const Surface &s, const PlanTextes &plan, Point p, double cote, double largeur) {
@@ -146,8 +153,6 @@ std::optional<ZoneTexte> PlaceDuNom(const Surface &s, const PlanTextes &plan, Po
 
 /// The names of the bodies, the first classes first, of one class the brightest.
 void EcritNoms(Surface &s, const CielDuPlan &ciel, const CarteDuPlan &carte) {
-  constexpr double kParOctet = 105; ///< a guess of a letter's width
-  constexpr double kCote = 80;      ///< from a point to its name
   std::vector<std::pair<int, std::size_t>> noms;
   for (const std::size_t rang : carte.astres) {
     if (const auto classe = ClasseDuNom(carte, ciel.astres.at(rang), rang)) {
@@ -166,7 +171,7 @@ void EcritNoms(Surface &s, const CielDuPlan &ciel, const CarteDuPlan &carte) {
   for (const auto &[classe, rang] : noms) {
     const AstreDuPlan &astre = ciel.astres[rang];
     const std::string nom = carte.nom(astre.astre);
-    const double largeur = carte.largeur ? carte.largeur(nom, s.police) : kParOctet * static_cast<double>(nom.size());
+    const double largeur = LargeurDuNom(s, carte, nom);
     const Point p = PlaceSurCarte(s, astre.apparente, astre.azimut, carte.haut);
     const bool disque = astre.astre.genre == GenreAstre::Soleil || astre.astre.genre == GenreAstre::Lune;
     if (const auto zone = PlaceDuNom(s, plan, p, disque ? kDisque + kCote : kCote, largeur)) {
@@ -175,6 +180,14 @@ void EcritNoms(Surface &s, const CielDuPlan &ciel, const CarteDuPlan &carte) {
                      {GenreTexte::Minute, classe});
     }
   }
+}
+
+/// Whether a body's name takes the place of the letter of east or west.
+bool NomPresDe(const std::vector<DirectionEsquissee> &astres, double direction) {
+  constexpr double kPres = 15;
+  return std::any_of(astres.begin(), astres.end(), [&](const DirectionEsquissee &astre) {
+    return std::fabs(std::remainder(astre.azimut - direction, 4 * kQuart)) < kPres;
+  });
 }
 
 } // namespace
@@ -211,16 +224,19 @@ std::optional<std::size_t> AstreSous(const Surface &surface, const CielDuPlan &c
   return proche;
 }
 
-void DessineEsquisse(Surface &surface, const std::vector<DirectionEsquissee> &astres,
-                     const std::array<std::string, 4> &cardinaux) {
+void DessineEsquisse(Surface &surface, const std::vector<DirectionEsquissee> &astres, const CarteDuPlan &carte) {
   Efface(surface);
   const Point c = Centre(surface);
   const double r = Rayon(surface) * 0.8;
   Rond(surface, c, r, kCercle);
-  for (std::size_t i = 0; i < cardinaux.size(); ++i) {
-    const double angle = static_cast<double>(i) * kQuart * kRadian;
+  for (std::size_t i = 0; i < carte.cardinaux.size(); ++i) {
+    const double direction = static_cast<double>(i) * kQuart;
+    if (i % 2 == 1 && NomPresDe(astres, direction)) {
+      continue;
+    }
+    const double angle = direction * kRadian;
     EcritEnCouleur(surface, {c.x + (r + 330) * std::sin(angle) - 80, c.y - (r + 330) * std::cos(angle) - kDemiTexte},
-                   kEncre, cardinaux.at(i), {GenreTexte::Libre, 0});
+                   kEncre, carte.cardinaux.at(i), {GenreTexte::Libre, 0});
   }
   for (std::size_t i = 0; i < astres.size(); ++i) {
     const double angle = astres[i].azimut * kRadian;
@@ -232,7 +248,9 @@ void DessineEsquisse(Surface &surface, const std::vector<DirectionEsquissee> &as
                                           {{c.x - u.y * l, c.y + u.x * l}, {c.x + u.y * l, c.y - u.x * l}},
                                           GenreLigne::Droite});
     Disque(surface, bout, 4, kEncre);
-    EcritEnCouleur(surface, {bout.x + 100, bout.y - kDemiTexte}, kEncre, std::to_string(i + 1) + " " + astres[i].nom,
+    const std::string nom = std::to_string(i + 1) + " " + astres[i].nom;
+    const double cote = u.x < 0 ? -kCote - LargeurDuNom(surface, carte, nom) : kCote;
+    EcritEnCouleur(surface, {bout.x + cote, bout.y - kDemiTexte}, kEncre, nom,
                    {GenreTexte::Ville, static_cast<int>(i)});
   }
 }

@@ -45,8 +45,8 @@ struct DirectionEsquissee {
 };
 
 /// Draws the lines that a set of bodies gives around one place, north up: each across its body's direction, an arrow to
-/// the body, with its number in the order of shooting.
-void DessineEsquisse(Surface &surface, const std::vector<DirectionEsquissee> &astres,
-                     const std::array<std::string, 4> &cardinaux);
+/// the body, with its number in the order of shooting and its name, away from the lines.
+/// @param carte  gives the letters of the directions and how wide words are
+void DessineEsquisse(Surface &surface, const std::vector<DirectionEsquissee> &astres, const CarteDuPlan &carte);
 
 } // namespace velmaris

@@ -82,7 +82,7 @@ void Esquisse(Bureau &bureau) {
       directions.push_back({vu.azimut, NomDAstre(bureau, vu.astre)});
     }
   }
-  DessineEsquisse(f.dessinEsquisse, directions, Cardinaux(f));
+  DessineEsquisse(f.dessinEsquisse, directions, CarteVoulue(bureau));
 }
 
 /// The row of the chosen body is the current one.

@@ -7,6 +7,7 @@
 
 #include <cmath>
 #include <limits>
+#include <variant>
 
 /// The plan's window without a screen.
 namespace velmaris::essais {
@@ -170,6 +171,28 @@ TEST_F(PlanFait, SetsAreOfThreeFourAndFiveAndNoneHasABodyThatIsLeftOut) {
   }
   EXPECT_EQ(pr.Jeux.tableau.lignes, nombre);
   EXPECT_FALSE(pr.dessinEsquisse.traces.empty());
+}
+
+TEST_F(PlanFait, NamesOfASketchedSetStandOutsideOfItsLinesAndNoneUponALetter) {
+  Surface s;
+  s.largeur = s.hauteur = 6000;
+  CarteDuPlan carte;
+  carte.cardinaux = {"N", "E", "S", "W"};
+  carte.largeur = [](const std::string &mots, const Police &) { return 100.0 * static_cast<double>(mots.size()); };
+  DessineEsquisse(s, {{303, "Mizar"}, {93, "Vega"}}, carte);
+  std::vector<std::string> mots;
+  for (const Trace &trace : s.traces) {
+    if (const auto *texte = std::get_if<TexteTrace>(&trace)) {
+      mots.push_back(texte->texte);
+      if (texte->texte == "1 Mizar") {
+        EXPECT_LT(texte->position.x + 700, 3000 - 0.8 * 2000) << "its end lies left of the dot";
+      }
+      if (texte->texte == "2 Vega") {
+        EXPECT_GT(texte->position.x, 3000 + 0.8 * 2000);
+      }
+    }
+  }
+  EXPECT_THAT(mots, testing::UnorderedElementsAre("N", "S", "W", "1 Mizar", "2 Vega"));
 }
 
 TEST_F(PlanFait, BodiesForALunarAreRankedByHowFastTheirDistanceMoves) {
