@@ -11,10 +11,16 @@
 namespace velmaris {
 namespace {
 
-/// A text without its control characters, those of the upper half of Latin-1 included.
+/// A text without its control characters, those of the upper half of Latin-1 included, and without byte order marks: at
+/// its head one would be taken for the file's own.
 std::string SansControles(std::string_view texte) {
+  constexpr std::string_view kMarque = "\xEF\xBB\xBF";
   std::string reste;
   for (std::size_t i = 0; i < texte.size(); ++i) {
+    if (texte.substr(i).starts_with(kMarque)) {
+      i += kMarque.size() - 1;
+      continue;
+    }
     const auto octet = static_cast<unsigned char>(texte[i]);
     const auto suivant = static_cast<unsigned char>(i + 1 < texte.size() ? texte[i + 1] : 0);
     if (octet == 0xC2 && suivant >= 0x80 && suivant <= 0x9F) {

@@ -29,6 +29,7 @@
 namespace {
 
 constexpr int kMoitie = 128;         ///< of the lightest
+constexpr int kApres = 100;          ///< ms from the window to what it didn't wait for
 constexpr int kCommandeInconnue = 2; ///< status of a command line that isn't understood
 
 velmaris::Ecran EcranPrincipal() {
@@ -68,6 +69,10 @@ int Joue(const velmaris::qt::Commande &commande, bool sombre, bool &recommence) 
     if (!commande.fichier.empty() && !commande.reprend && !bureau.termine) {
       scene.Joue([&] { velmaris::OuvreVisee(bureau, commande.fichier); });
     }
+  });
+  QTimer::singleShot(kApres, &fenetre, [&] {
+    velmaris::qt::PoseIcone();
+    fenetre.Complete();
   });
   const int statut = QApplication::exec();
   recommence = bureau.recommence;

@@ -66,6 +66,7 @@ protected:
       ClicControle(bureau, d.Image10[1]);
     }
     fenetre = std::make_unique<qt::Fenetre>(scene);
+    fenetre->Complete();
     fenetre->show();
     QApplication::processEvents();
   }

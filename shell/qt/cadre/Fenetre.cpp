@@ -83,7 +83,7 @@ bool EstRetour(int touche) { return touche == Qt::Key_Return || touche == Qt::Ke
 
 Fenetre::Fenetre(Scene &scene)
     : Echelonnee(scene.bureau().ecran.echelle), scene_(scene), bureau_(scene.bureau()), vue_(this),
-      contenu_(*new QWidget), rendu_(scene, contenu_, ControlesDe(bureau_, kFenetreDonnees)),
+      contenu_(*new QWidget), rendu_(scene, contenu_, ControlesDe(bureau_, kFenetreDonnees), true),
       etat_(scene, contenu_, ControlesDe(bureau_, kFenetreEtat)), horloge_(this), libres_(scene, *this) {
   horloge_.setObjectName("Timer1");
   PrepareVue(vue_, contenu_);

@@ -22,6 +22,9 @@ public:
   /// Makes the widgets; the start sequence has run.
   explicit Fenetre(Scene &scene);
 
+  /// Lays out what the first sight of the window didn't need.
+  void Complete() { rendu_.Complete(); }
+
   const Rendu &rendu() const { return rendu_; }
 
 protected:

@@ -30,8 +30,9 @@ void PoseApparence() {
   QApplication::setApplicationName("velmaris");
   QApplication::setApplicationVersion(Texte(TexteVersion()));
   QGuiApplication::setDesktopFileName(Texte(Identifiant()));
-  QApplication::setWindowIcon(QIcon::fromTheme(Texte(Identifiant()), Icone("velmaris-jour")));
 }
+
+void PoseIcone() { QApplication::setWindowIcon(QIcon::fromTheme(Texte(Identifiant()), Icone("velmaris-jour"))); }
 
 void AccordeLangue(bool francais) {
   auto *pose = QApplication::instance()->findChild<QTranslator *>(kTraducteur);

@@ -42,6 +42,27 @@ bool Toile::TexteDepuis(std::size_t premier) const {
                      [](const Trace &trace) { return std::holds_alternative<TexteTrace>(trace); });
 }
 
+/// Whether nothing is to be seen but the ground.
+bool Toile::EstNue() const {
+  return surface_.traces.empty() && surface_.aires.empty() && surface_.etiquettes.empty() &&
+         surface_.calque == Calque();
+}
+
+/// Lets go of the images of what was there before.
+/// @param change  whether the ground looks otherwise than before
+void Toile::AccordeNue(bool change) {
+  if (std::exchange(effacements_, surface_.effacements) != surface_.effacements || !image_.isNull() || change) {
+    update();
+  }
+  image_ = lignes_ = QImage();
+  textes_.clear();
+  aires_.clear();
+  etiquettes_.clear();
+  calque_ = surface_.calque;
+  traces_ = 0;
+  points_ = 0;
+}
+
 /// The lines into the picture that gets the texts; its memory stays the same.
 void Toile::Recopie() {
   if (image_.size() != lignes_.size()) {
@@ -78,6 +99,10 @@ void Toile::Accorde() {
   const bool tourne = std::exchange(eclairage_, EclairageVu()) != EclairageVu();
   const double facteur = PixelsParTwip(*this);
   const bool change = std::exchange(facteur_, facteur) != facteur;
+  if (EstNue()) {
+    AccordeNue(tourne || change);
+    return;
+  }
   const std::vector<Aire> &aires = surface_.teintee ? surface_.aires : kSansAires;
   const bool neuve =
       tourne || change || lignes_.size() != taille || effacements_ != surface_.effacements || aires_ != aires;
@@ -121,13 +146,13 @@ void Toile::Accorde() {
 
 void Toile::paintEvent(QPaintEvent *event) {
   QPainter painter(this);
-  if (image_.isNull()) {
-    painter.fillRect(event->rect(), FondA(EclairageVu(), CouleurQt(surface_.fond)));
-    return;
-  }
-  const double ratio = devicePixelRatioF();
   const QRectF zone = event->rect();
-  painter.drawImage(zone, image_, QRectF(zone.topLeft() * ratio, zone.size() * ratio));
+  if (image_.isNull()) {
+    painter.fillRect(zone, FondA(EclairageVu(), CouleurQt(surface_.fond)));
+  } else {
+    const double ratio = devicePixelRatioF();
+    painter.drawImage(zone, image_, QRectF(zone.topLeft() * ratio, zone.size() * ratio));
+  }
   if (elastique_) {
     const double facteur = PixelsParTwip(*this);
     painter.setRenderHint(QPainter::Antialiasing);

@@ -17,7 +17,7 @@
 namespace velmaris::qt {
 
 /// Shows a recorded surface: lines are painted once into an image at the screen's resolution, then only what is
-/// appended; the texts, which give way to one another, over a copy of it.
+/// appended; the texts, which give way to one another, over a copy of it. A bare surface takes no image.
 class Toile : public QWidget {
 public:
   Toile(const Surface &surface, QWidget *parent);
@@ -57,6 +57,8 @@ private:
   void Mouvement(const QMouseEvent &event) const;
   bool TexteDepuis(std::size_t premier) const;
   void PeintFond(double facteur);
+  bool EstNue() const;
+  void AccordeNue(bool change);
   void Recopie();
   void PeintDessus(double facteur, Maniere maniere);
 

@@ -18,8 +18,8 @@
 
 namespace velmaris::qt {
 
-Rendu::Rendu(Scene &scene, QWidget &fenetre, const ListeControles &controles)
-    : scene_(scene), bureau_(scene.bureau()), fenetre_(fenetre) {
+Rendu::Rendu(Scene &scene, QWidget &fenetre, const ListeControles &controles, bool presse)
+    : scene_(scene), bureau_(scene.bureau()), fenetre_(fenetre), presse_(presse) {
   CreeWidgets(controles);
   BrancheLibelles();
   scene_.Ajoute(*this);
@@ -30,6 +30,7 @@ Rendu::~Rendu() { scene_.Retire(*this); }
 
 void Rendu::CreeWidgets(const ListeControles &controles) {
   QWidget *precedent = nullptr;
+  liens_.reserve(controles.size()); // they point to one another
   for (Controle *c : controles) {
     if (c->peint) {
       continue;
@@ -42,7 +43,7 @@ void Rendu::CreeWidgets(const ListeControles &controles) {
     std::unique_ptr<Adaptateur> adaptateur =
         CreeAdaptateur(bureau_, *c, parent == nullptr ? &fenetre_ : parent->widget);
     QWidget *widget = adaptateur == nullptr ? nullptr : &adaptateur->widget();
-    liens_.push_back({c, widget, std::move(adaptateur), {}, c});
+    liens_.push_back({c, widget, std::move(adaptateur), {}, c, parent});
     if (widget == nullptr) {
       continue;
     }
@@ -133,8 +134,20 @@ QString Rendu::NomLisible(const Lien &lien) {
   return nom;
 }
 
-void Rendu::AccordeLien(Lien &lien, bool tout) {
+/// Whether a control is to be seen: it, and all that it lies in.
+bool Rendu::EstMontre(const Lien &lien) {
+  return lien.controle->visible && (lien.dans == nullptr || EstMontre(*lien.dans));
+}
+
+void Rendu::AccordeLien(Lien &lien) const {
   Controle &c = *lien.controle;
+  if (presse_ && lien.neuf && !EstMontre(lien)) {
+    if (!c.visible) {
+      lien.widget->hide();
+    }
+    return;
+  }
+  const bool tout = std::exchange(lien.neuf, false);
   const QString nom = NomLisible(lien);
   if (!tout && c == lien.vu && lien.adaptateur->EnAccord(c, nom)) {
     return;
@@ -149,7 +162,7 @@ void Rendu::AccordeLien(Lien &lien, bool tout) {
 
 const Controle *Rendu::Ecart() const {
   const auto ecart = std::find_if(liens_.begin(), liens_.end(), [](const Lien &lien) {
-    return lien.adaptateur != nullptr && !lien.adaptateur->EnAccord(*lien.controle, NomLisible(lien));
+    return !lien.neuf && lien.adaptateur != nullptr && !lien.adaptateur->EnAccord(*lien.controle, NomLisible(lien));
   });
   return ecart == liens_.end() ? nullptr : ecart->controle;
 }
@@ -191,28 +204,37 @@ void Rendu::PasseClavier(const Lien *tenu) const {
 }
 
 void Rendu::Accorde() {
-  const bool change = std::exchange(eclairage_, EclairageVu()) != EclairageVu() || premier_;
+  const bool change = std::exchange(eclairage_, EclairageVu()) != EclairageVu();
   const Lien *tenu = LienDuClavier();
   for (Lien &lien : liens_) {
     if (lien.adaptateur == nullptr) {
       continue;
     }
-    AccordeLien(lien, premier_);
-    if (change) {
+    const bool neuf = lien.neuf;
+    AccordeLien(lien);
+    if (lien.neuf) {
+      continue;
+    }
+    if (change || neuf) {
       lien.adaptateur->AccordeTeintes(*lien.controle);
     }
     if (auto *toile = dynamic_cast<Toile *>(lien.widget)) {
       toile->Accorde();
     }
   }
-  premier_ = false;
   PasseClavier(tenu);
   AccordeGroupes();
 }
 
+void Rendu::Complete() {
+  if (std::exchange(presse_, false)) {
+    Accorde();
+  }
+}
+
 void Rendu::AccordeEchelle() {
   for (const Lien &lien : liens_) {
-    if (lien.adaptateur != nullptr) {
+    if (lien.adaptateur != nullptr && !lien.neuf) {
       lien.adaptateur->AccordeEchelle(*lien.controle);
     }
   }

@@ -21,6 +21,8 @@ struct Lien {
   std::unique_ptr<Adaptateur> adaptateur; ///< what brings the two together; null where there is no widget
   Controle vu;                            ///< the control as the widget was last brought in line with
   const Controle *nomme = nullptr;        ///< whose words name it to a screen reader
+  const Lien *dans = nullptr;             ///< what it lies in, null for the window itself
+  bool neuf = true;                       ///< the widget was never laid out
 };
 
 /// The renderer of one window: a widget for each control of its list. It turns each signal into one event function,
@@ -30,7 +32,8 @@ public:
   /// Makes the widgets.
   /// @param fenetre    the window that they lie in
   /// @param controles  its controls, in the order of the keyboard
-  Rendu(Scene &scene, QWidget &fenetre, const ListeControles &controles);
+  /// @param presse     the window is waited for: what isn't to be seen in it is laid out when it is, or by `Complete`
+  Rendu(Scene &scene, QWidget &fenetre, const ListeControles &controles, bool presse = false);
   ~Rendu() override;
   Rendu(const Rendu &) = delete;
   Rendu &operator=(const Rendu &) = delete;
@@ -39,6 +42,8 @@ public:
 
   /// Brings all widgets in line with their controls.
   void Accorde();
+  /// Lays out what wasn't to be seen so far.
+  void Complete();
   /// Brings all widgets in line with a new scale of the window.
   void AccordeEchelle();
   /// Gives the keyboard to the widget of a control.
@@ -65,7 +70,8 @@ private:
   void Branche(const Lien &lien);
   void BrancheLibelles();
   void Champ(QObject *objet, QEvent *event);
-  static void AccordeLien(Lien &lien, bool tout);
+  static bool EstMontre(const Lien &lien);
+  void AccordeLien(Lien &lien) const;
   void AccordeGroupes();
   const Lien *LienDuClavier() const;
   void PasseClavier(const Lien *tenu) const;
@@ -79,9 +85,9 @@ private:
   std::vector<Lien> liens_;
   QHash<QObject *, Controle *> champs_; ///< what takes notice of the focus
   QHash<int, QButtonGroup *> groupes_;
+  bool presse_;                    ///< what isn't to be seen isn't laid out
   QObject *champDonne_ = nullptr;  ///< what the core has given the keyboard to, until its user does something there
   QObject *champPresse_ = nullptr; ///< field that the mouse brings the focus to, until its button is up
-  bool premier_ = true;
   Eclairage eclairage_ = Eclairage::Jour; ///< whose colours the widgets show
 };
 

@@ -82,6 +82,15 @@ TEST_F(FiltreDuRegistre, LaterLinesOfTheNotesWinAndBrokenOnesCountForNothing) {
   EXPECT_EQ(lues, (Annotations{{"a", {true, "un, \"deux\""}}, {"b", {false, "=vu"}}}));
 }
 
+TEST_F(FiltreDuRegistre, ANoteIsReadBackWhereverInvisibleMarksStandInIt) {
+  const std::string marque = "\xEF\xBB\xBF";
+  const std::string utc = "2026-06-21T12:05:30Z";
+  const Annotations lues =
+      LitAnnotations(LigneAnnotation(utc, std::string(1, '\0') + marque + "a", {true, marque + "vu"}));
+  EXPECT_EQ(lues, (Annotations{{"a", {true, "vu"}}}));
+  EXPECT_TRUE(LitAnnotations(utc + ",\001" + marque + ",masquee,,.").empty()) << "a name of such marks alone is none";
+}
+
 TEST_F(FiltreDuRegistre, RowsAreFoundAgainByTheirIdentities) {
   EXPECT_THAT(RangsDe(*registre, {0, 1, 2}, {"vega", "nulle", "venus"}), ElementsAre(0U, 2U));
   EXPECT_THAT(RangsDe(*registre, {1, 2}, {"venus"}), ElementsAre());
