@@ -8,6 +8,9 @@
 #include <QSlider>
 #include <QTextDocument>
 
+#include <map>
+#include <tuple>
+
 namespace velmaris::essais {
 namespace {
 
@@ -90,6 +93,29 @@ INSTANTIATE_TEST_SUITE_P(Tailles, ToutesLesVues,
                            std::replace(nom.begin(), nom.end(), '-', '_');
                            return nom;
                          });
+
+TEST_F(FenetreOuverte, AModuleThatOpensBeforeTheRestIsLaidOutStandsAsItDoesAfter) {
+  Demarre(kPetitEcran);
+  fenetre = std::make_unique<qt::Fenetre>(scene);
+  fenetre->show();
+  QApplication::processEvents();
+  Joue([&] { d.Frame7.visible = true; });
+  EXPECT_EQ(scene.Ecart(), nullptr);
+  const auto tenues = [&] {
+    std::map<QString, std::tuple<QRect, QFont, QString>> widgets;
+    for (const auto *widget : Trouve<QWidget>("Frame7")->findChildren<QWidget *>()) {
+      if (widget->isVisible()) {
+        widgets[widget->objectName()] = {widget->geometry(), widget->font(), widget->accessibleName()};
+      }
+    }
+    return widgets;
+  };
+  const auto avant = tenues();
+  EXPECT_GT(avant.size(), 10U);
+  fenetre->Complete();
+  EXPECT_TRUE(avant == tenues());
+  EXPECT_EQ(scene.Ecart(), nullptr);
+}
 
 TEST_F(FenetreOuverte, EveryWidgetThatTakesTheFocusHasAnAccessibleName) {
   Ouvre(kPetitEcran);
