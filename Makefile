@@ -10,6 +10,8 @@ APT := $(SUDO) env DEBIAN_FRONTEND=noninteractive apt-get -o DPkg::Lock::Timeout
 TACHES := 2
 # Seconds that each fuzz target runs.
 DUREE := 60
+# Where its chance begins: 0 for another place each time.
+GRAINE := 0
 # What the chart's data are made from; a build needs none of it.
 PAQUETS_CARTE := gmt gmt-gshhg-high gmt-gshhg-full libgeonames-common python3 python3-numpy
 CIBLES_FUZZ := fuzz-lop fuzz-controle fuzz-langue fuzz-nombre fuzz-polygone fuzz-lieux fuzz-objets fuzz-magasin fuzz-reprise fuzz-reglages fuzz-registre fuzz-route fuzz-points fuzz-serie
@@ -80,7 +82,7 @@ fuzz: deps
 	cmake --build --preset fuzz --target $(CIBLES_FUZZ)
 	for cible in $(CIBLES_FUZZ); do \
 	  mkdir -p build/fuzz/corpus/$$cible && \
-	  UBSAN_OPTIONS=halt_on_error=1:print_stacktrace=1 build/fuzz/bin/$$cible -max_total_time=$(DUREE) -timeout=20 -print_final_stats=1 -artifact_prefix=build/fuzz/$$cible- \
+	  UBSAN_OPTIONS=halt_on_error=1:print_stacktrace=1 build/fuzz/bin/$$cible -max_total_time=$(DUREE) -seed=$(GRAINE) -timeout=20 -print_final_stats=1 -artifact_prefix=build/fuzz/$$cible- \
 	    build/fuzz/corpus/$$cible tests/fuzz/corpus/$$cible || exit 1; \
 	done
 
