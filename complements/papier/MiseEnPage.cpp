@@ -35,7 +35,7 @@ Feuillet PageTitree(FormatPapier format, const std::string &gauche, const std::s
   return page;
 }
 
-Boite BoiteDe(const Feuillet &page) {
+ZonePage ZoneDe(const Feuillet &page) {
   return {kMarge, kMarge + kHautTitre + kSousTitre + 60, page.largeur - kMarge, page.hauteur - kMarge - kHauteurPied};
 }
 
@@ -54,8 +54,8 @@ double TailleQuiTient(double largeur, double chiffres, double interligne) {
   return std::min(largeur / (kTwipsParPoint * kChiffre * chiffres), interligne / kTwipsParPoint * kPart);
 }
 
-void PoseRangee(Feuillet &page, double y, const std::vector<Colonne> &colonnes, const std::vector<std::string> &textes,
-                Graphie graphie) {
+void PoseRangee(Feuillet &page, double y, const std::vector<Tabulation> &colonnes,
+                const std::vector<std::string> &textes, Graphie graphie) {
   const std::size_t nombre = std::min(colonnes.size(), textes.size());
   for (std::size_t i = 0; i < nombre; ++i) {
     if (!textes[i].empty()) {
@@ -65,8 +65,8 @@ void PoseRangee(Feuillet &page, double y, const std::vector<Colonne> &colonnes, 
   }
 }
 
-std::vector<Colonne> ColonnesDroites(double gauche, double taille, const std::vector<double> &chiffres) {
-  std::vector<Colonne> colonnes;
+std::vector<Tabulation> ColonnesDroites(double gauche, double taille, const std::vector<double> &chiffres) {
+  std::vector<Tabulation> colonnes;
   double x = gauche;
   for (const double nombre : chiffres) {
     x += LargeurChiffres(taille, nombre);
@@ -80,7 +80,7 @@ double PoseTableau(Feuillet &page, double gauche, double haut, double taille, do
   constexpr double kJeu = 0.35; ///< lines between two groups of rows
   std::vector<double> chiffres(tableau.colonnes.size() + 1, tableau.chiffres);
   chiffres.front() = tableau.chiffresNom;
-  const std::vector<Colonne> colonnes = ColonnesDroites(gauche, taille, chiffres);
+  const std::vector<Tabulation> colonnes = ColonnesDroites(gauche, taille, chiffres);
   double y = haut;
   if (!tableau.titre.empty()) {
     page.Mot({gauche, y += interligne}, tableau.titre, {.taille = taille + 0.5, .gras = true});

@@ -12,7 +12,7 @@ namespace velmaris {
 inline constexpr double kTwipsParPoint = 20;
 
 /// Part of a page that figures stand in, 1/1440 inch.
-struct Boite {
+struct ZonePage {
   double gauche = 0;
   double haut = 0;
   double droite = 0;
@@ -25,7 +25,7 @@ struct Boite {
 Feuillet PageTitree(FormatPapier format, const std::string &gauche, const std::string &droite = {});
 
 /// What heading and foot leave of a page.
-Boite BoiteDe(const Feuillet &page);
+ZonePage ZoneDe(const Feuillet &page);
 
 /// Writes the foot: two lines, the page's number at the right.
 void PosePied(Feuillet &page, const std::string &ligne1, const std::string &ligne2, const std::string &numero);
@@ -40,19 +40,19 @@ double LargeurChiffres(double taille, double nombre);
 double TailleQuiTient(double largeur, double chiffres, double interligne);
 
 /// One column: at which place its texts end, begin or have their middle.
-struct Colonne {
+struct Tabulation {
   double x = 0;
   Ancrage ancrage = Ancrage::Droite;
 };
 
 /// Writes a row; empty texts leave no mark.
 /// @param y  of its base line
-void PoseRangee(Feuillet &page, double y, const std::vector<Colonne> &colonnes, const std::vector<std::string> &textes,
-                Graphie graphie);
+void PoseRangee(Feuillet &page, double y, const std::vector<Tabulation> &colonnes,
+                const std::vector<std::string> &textes, Graphie graphie);
 
 /// Columns side by side whose texts end at their right sides.
 /// @param chiffres  width of each, in figures
-std::vector<Colonne> ColonnesDroites(double gauche, double taille, const std::vector<double> &chiffres);
+std::vector<Tabulation> ColonnesDroites(double gauche, double taille, const std::vector<double> &chiffres);
 
 /// A table whose rows and columns have names, as it stands from its upper left corner.
 struct TableauPose {

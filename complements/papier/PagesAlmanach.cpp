@@ -48,7 +48,7 @@ Feuillet PageEmploi(const CadreAlmanach &c) {
   const DemandeAlmanach &d = c.almanach.demande;
   Feuillet page = PageTitree(c.format, c.mots[Mot::Titre],
                              TexteDate(d.debut, c.mots) + ' ' + c.mots[Mot::Au] + ' ' + TexteDate(d.fin, c.mots));
-  const Boite boite = BoiteDe(page);
+  const ZonePage boite = ZoneDe(page);
   const auto premier = static_cast<std::size_t>(Mot::Emploi01);
   const auto dernier = static_cast<std::size_t>(Mot::Emploi39);
   const double interligne = std::min(boite.Hauteur() / static_cast<double>(dernier - premier + 14), 300.0);

@@ -73,9 +73,9 @@ CorrectionsSoleil CorrectionsDe(const Almanach &almanach) {
 /// Corrections for some altitudes.
 /// @param boite  its width isn't looked at
 void PoseCorrections(Feuillet &page, const CadreAlmanach &c, const CorrectionsSoleil &t, const Tranche &tranche,
-                     const Boite &boite, double taille, double interligne) {
+                     const ZonePage &boite, double taille, double interligne) {
   const char virgule = VirguleDe(c.mots);
-  std::vector<Colonne> places = ColonnesDroites(boite.gauche, taille, {kNomHauteur, kColonneEtoiles});
+  std::vector<Tabulation> places = ColonnesDroites(boite.gauche, taille, {kNomHauteur, kColonneEtoiles});
   std::vector<std::string> tetes{c.mots[Mot::HauteurApparente], c.mots[Mot::EtoilesPlanetes]};
   const std::vector<std::string> demis = Dixiemes(t.demis, virgule);
   const double haut = boite.haut + 1.2 * interligne;
@@ -83,14 +83,16 @@ void PoseCorrections(Feuillet &page, const CadreAlmanach &c, const CorrectionsSo
            {.taille = taille, .gras = true});
   for (const Mot bord : {Mot::BordInferieur, Mot::BordSuperieur}) {
     const double gauche = places.back().x + LargeurChiffres(taille, kEntreBords);
-    const std::vector<Colonne> suite = ColonnesDroites(gauche, taille, std::vector<double>(demis.size(), t.colonne));
+    const std::vector<Tabulation> suite = ColonnesDroites(gauche, taille, std::vector<double>(demis.size(), t.colonne));
     page.Mot({gauche + LargeurChiffres(taille, 1), haut + 1.1 * interligne}, c.mots[bord],
              {.taille = taille, .gras = true});
     places.insert(places.end(), suite.begin(), suite.end());
     tetes.insert(tetes.end(), demis.begin(), demis.end());
   }
   double y = haut + 2.2 * interligne;
-  PoseRangee(page, y, places, tetes, {.taille = taille, .gras = true});
+  std::vector<Tabulation> sousTetes = places;
+  sousTetes.front() = {boite.gauche, Ancrage::Gauche}; // the word is wider than its figures
+  PoseRangee(page, y, sousTetes, tetes, {.taille = taille, .gras = true});
   page.Trait({boite.gauche, y + 0.3 * interligne}, {places.back().x, y + 0.3 * interligne}, {0.25, 0.65});
   y += 0.3 * interligne;
   for (std::size_t i = tranche.de; i < tranche.a; ++i) {
@@ -119,7 +121,7 @@ std::vector<Feuillet> PagesSoleil(const CadreAlmanach &c) {
       pages.push_back(PageTitree(c.format, c.mots[Mot::TitreCorrections]));
     }
     Feuillet &page = pages.back();
-    Boite boite = BoiteDe(page);
+    ZonePage boite = ZoneDe(page);
     const double interligne = boite.Hauteur() / 77;
     const double chiffres = ensemble ? 2 * t.largeur + 8 : t.largeur;
     const double taille = TailleQuiTient(boite.Largeur(), chiffres, interligne);
@@ -143,7 +145,7 @@ double PoseListe(Feuillet &page, double gauche, double haut, double taille, doub
   const std::size_t nombre = (noms.size() + hauteur - 1) / hauteur;
   for (std::size_t k = 0; k < nombre; ++k) {
     const double x = gauche + static_cast<double>(k) * LargeurChiffres(taille, 2 * kLargeur + 3);
-    const std::vector<Colonne> colonnes = ColonnesDroites(x, taille, {kLargeur, kLargeur});
+    const std::vector<Tabulation> colonnes = ColonnesDroites(x, taille, {kLargeur, kLargeur});
     double y = haut;
     PoseRangee(page, y, colonnes, {nom, tete}, {.taille = taille, .gras = true});
     y += 0.3 * interligne;
@@ -195,7 +197,7 @@ void PoseAir(Feuillet &page, const CadreAlmanach &c, double gauche, double haut,
 Feuillet PageDepression(const CadreAlmanach &c) {
   constexpr std::size_t kLignes = 45;
   Feuillet page = PageTitree(c.format, c.mots[Mot::TitreDepression]);
-  const Boite boite = BoiteDe(page);
+  const ZonePage boite = ZoneDe(page);
   const char virgule = VirguleDe(c.mots);
   const double interligne = boite.Hauteur() / 76;
   const double taille = TailleQuiTient(boite.Largeur(), 118, interligne);
@@ -216,7 +218,8 @@ Feuillet PageDepression(const CadreAlmanach &c) {
 }
 
 /// The Moon's first part: each column five degrees, each row ten minutes.
-double PoseLunePremiere(Feuillet &page, const CadreAlmanach &c, const Boite &boite, double taille, double interligne) {
+double PoseLunePremiere(Feuillet &page, const CadreAlmanach &c, const ZonePage &boite, double taille,
+                        double interligne) {
   constexpr std::size_t kParDegre = 6;
   constexpr std::size_t kParColonne = 30;
   const char virgule = VirguleDe(c.mots);
@@ -245,7 +248,7 @@ double PoseLunePremiere(Feuillet &page, const CadreAlmanach &c, const Boite &boi
 
 Feuillet PageLunePremiere(const CadreAlmanach &c) {
   Feuillet page = PageTitree(c.format, c.mots[Mot::TitreLune]);
-  const Boite boite = BoiteDe(page);
+  const ZonePage boite = ZoneDe(page);
   const char virgule = VirguleDe(c.mots);
   const double interligne = boite.Hauteur() / 59;
   const double taille = TailleQuiTient(boite.Largeur(), 145, interligne);
@@ -269,7 +272,7 @@ Feuillet PageLunePremiere(const CadreAlmanach &c) {
 
 Feuillet PageLuneSeconde(const CadreAlmanach &c) {
   Feuillet page = PageTitree(c.format, c.mots[Mot::TitreLune]);
-  const Boite boite = BoiteDe(page);
+  const ZonePage boite = ZoneDe(page);
   const char virgule = VirguleDe(c.mots);
   const double interligne = boite.Hauteur() / 68;
   const double taille = TailleQuiTient(boite.Largeur(), 5.5 + 19 * 6.2, interligne);

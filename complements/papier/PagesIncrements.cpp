@@ -18,8 +18,8 @@ constexpr int kGroupe = 5;
 constexpr Encre kFilet{0.25, 0.65};
 
 /// Where the columns of a minute stand: seconds, three increments, then v or d and its correction thrice.
-std::vector<Colonne> ColonnesMinute(double gauche, double taille) {
-  return ColonnesDroites(gauche, taille, {2.2, 7.1, 7.1, 7.1, 5.4, 3.8, 4.8, 3.8, 4.8, 3.8});
+std::vector<Tabulation> ColonnesMinute(double gauche, double taille) {
+  return ColonnesDroites(gauche, taille, {2.2, 6.9, 6.9, 6.9, 5.2, 4.2, 4.9, 4.2, 4.9, 4.6});
 }
 
 double LigneDe(int rang) {
@@ -27,10 +27,10 @@ double LigneDe(int rang) {
   return rang + kJeu * groupe;
 }
 
-void PoseMinute(Feuillet &page, const CadreAlmanach &c, int minute, const Boite &boite, double taille,
+void PoseMinute(Feuillet &page, const CadreAlmanach &c, int minute, const ZonePage &boite, double taille,
                 double interligne) {
   const char virgule = VirguleDe(c.mots);
-  const std::vector<Colonne> colonnes = ColonnesMinute(boite.gauche, taille);
+  const std::vector<Tabulation> colonnes = ColonnesMinute(boite.gauche, taille);
   const double droite = colonnes.back().x;
   page.Mot({boite.gauche, boite.haut + 1.2 * interligne}, std::to_string(minute) + " min",
            {.taille = taille + 2, .gras = true});
@@ -62,12 +62,12 @@ void PoseMinute(Feuillet &page, const CadreAlmanach &c, int minute, const Boite 
 
 std::vector<Feuillet> PagesIncrements(const CadreAlmanach &c) {
   constexpr int kMinutes = 60;
-  constexpr double kChiffres = 154; ///< three minutes and what is between them
+  constexpr double kChiffres = 157; ///< three minutes and what is between them
   std::vector<Feuillet> pages;
   for (int premiere = 0; premiere < kMinutes; premiere += kParPage) {
     Feuillet page = PageTitree(c.format, c.mots[Mot::TitreIncrements],
                                std::to_string(premiere) + " - " + std::to_string(premiere + kParPage - 1) + " min");
-    Boite boite = BoiteDe(page);
+    ZonePage boite = ZoneDe(page);
     const double interligne = boite.Hauteur() / (LigneDe(kLignes) + 7);
     const double taille = TailleQuiTient(boite.Largeur(), kChiffres, interligne);
     const Graphie note{.taille = 7, .italique = true};

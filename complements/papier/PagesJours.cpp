@@ -20,14 +20,14 @@ constexpr Encre kFilet{0.25, 0.65};
 
 /// How the hours of a page stand.
 struct Reglure {
-  Boite boite;
+  ZonePage boite;
   double interligne = 0;
   double taille = 0;
 };
 
 Reglure ReglureDe(const Feuillet &page, double chiffres) {
   constexpr int kJours = 3;
-  Reglure r{BoiteDe(page)};
+  Reglure r{ZoneDe(page)};
   r.interligne = r.boite.Hauteur() / (kLignesTitre + kJours * kLignesDuJour);
   r.taille = TailleQuiTient(r.boite.Largeur(), chiffres, r.interligne);
   return r;
@@ -61,7 +61,7 @@ std::string Deux(std::size_t n) { return (n < 10 ? "0" : "") + std::to_string(n)
 /// @param pied    texts of a day's last row
 template <class Rangee, class Pied>
 void PoseHeures(Feuillet &page, const Reglure &r, const CadreAlmanach &c, const PeriodeAlmanach &p,
-                const std::vector<Colonne> &colonnes, Rangee &&rangee, Pied &&pied) {
+                const std::vector<Tabulation> &colonnes, Rangee &&rangee, Pied &&pied) {
   double y = r.boite.haut + kLignesTitre * r.interligne;
   for (std::size_t j = p.premier; j < p.premier + p.nombre; ++j) {
     const JourAlmanach &jour = c.almanach.jours[j];
@@ -83,7 +83,7 @@ void PoseHeures(Feuillet &page, const Reglure &r, const CadreAlmanach &c, const 
 }
 
 /// Heads of the hours' columns: names above, what is told below.
-void PoseTetes(Feuillet &page, const Reglure &r, const std::vector<Colonne> &colonnes,
+void PoseTetes(Feuillet &page, const Reglure &r, const std::vector<Tabulation> &colonnes,
                const std::vector<std::string> &noms, const std::vector<std::string> &sous) {
   const double y = r.boite.haut + r.interligne;
   PoseRangee(page, y, colonnes, noms, {.taille = r.taille + 0.5, .gras = true});
@@ -105,7 +105,7 @@ void PoseEtoiles(Feuillet &page, const Reglure &r, const CadreAlmanach &c, const
   const char virgule = VirguleDe(c.mots);
   const double fin = r.boite.droite;
   const double dec = LargeurChiffres(r.taille, 9.3);
-  const std::vector<Colonne> colonnes{{gauche, Ancrage::Gauche}, {fin - dec}, {fin}};
+  const std::vector<Tabulation> colonnes{{gauche, Ancrage::Gauche}, {fin - dec}, {fin}};
   double y = r.boite.haut + r.interligne;
   page.Mot({gauche, y}, c.mots[Mot::EtoilesLe] + ' ' + std::to_string(p.milieu.jour),
            {.taille = r.taille, .gras = true});
@@ -124,7 +124,7 @@ void PoseEtoiles(Feuillet &page, const Reglure &r, const CadreAlmanach &c, const
   y += 0.6 * r.interligne;
   page.Trait({gauche, y}, {fin, y}, kFilet);
   const double pas = (fin - gauche) / 4;
-  const std::vector<Colonne> jours{{gauche, Ancrage::Gauche}, {gauche + 2.1 * pas}, {gauche + 2.9 * pas}, {fin}};
+  const std::vector<Tabulation> jours{{gauche, Ancrage::Gauche}, {gauche + 2.1 * pas}, {gauche + 2.9 * pas}, {fin}};
   PoseRangee(page, y += r.interligne, jours, {"", c.mots[Mot::Magnitude], c.mots[Mot::Hp], c.mots[Mot::Passage]},
              {.taille = r.taille, .gras = true});
   for (std::size_t j = p.premier; j < p.premier + p.nombre; ++j) {
@@ -150,7 +150,7 @@ Feuillet PagePlanetes(const CadreAlmanach &c, const PeriodeAlmanach &p) {
   Feuillet page = PageTitree(c.format, TitreJours(c, p), c.mots[Mot::PageGauche]);
   const Reglure r = ReglureDe(page, kChiffres);
   const char virgule = VirguleDe(c.mots);
-  const std::vector<Colonne> colonnes =
+  const std::vector<Tabulation> colonnes =
       ColonnesDroites(r.boite.gauche, r.taille, {2.3, 8.6, 9.2, 9.1, 9.2, 9.1, 9.2, 9.1, 9.2, 9.1});
   std::vector<std::string> noms{"", c.mots[Mot::Belier]};
   std::vector<std::string> sous{c.mots[Mot::Heure], c.mots[Mot::Gha]};
@@ -214,7 +214,7 @@ double PoseCrepuscules(Feuillet &page, const CadreAlmanach &c, const PeriodeAlma
   const char virgule = VirguleDe(c.mots);
   const Graphie gras{.taille = b.taille, .gras = true};
   page.Mot({b.gauche, y += b.interligne}, c.mots[Mot::Crepuscules] + ' ' + std::to_string(p.milieu.jour), gras);
-  std::vector<Colonne> colonnes{{b.gauche + LargeurChiffres(b.taille, 4.8)}};
+  std::vector<Tabulation> colonnes{{b.gauche + LargeurChiffres(b.taille, 4.8)}};
   const double pas = (b.droite - colonnes.front().x) / 6;
   for (int i = 1; i <= 6; ++i) {
     colonnes.push_back({colonnes.front().x + pas * i});
@@ -270,7 +270,7 @@ const LuneHorizon &LuneDe(const Almanach &almanach, std::size_t jour, std::size_
 
 /// Heads of the Moon's columns: rise and set above, the days below.
 double PoseTetesLune(Feuillet &page, const CadreAlmanach &c, const PeriodeAlmanach &p, const Bloc &b,
-                     const std::vector<Colonne> &colonnes, double y) {
+                     const std::vector<Tabulation> &colonnes, double y) {
   const Graphie gras{.taille = b.taille, .gras = true};
   page.Mot({b.gauche, y += b.interligne}, c.mots[Mot::LeverCoucherLune], gras);
   y += 1.2 * b.interligne;
@@ -290,7 +290,7 @@ double PoseTetesLune(Feuillet &page, const CadreAlmanach &c, const PeriodeAlmana
 double PoseLevers(Feuillet &page, const CadreAlmanach &c, const PeriodeAlmanach &p, const Bloc &b, double y) {
   constexpr double kPetit = 0.9; ///< of the size, in which differences stand
   const char virgule = VirguleDe(c.mots);
-  std::vector<Colonne> colonnes{{b.gauche + LargeurChiffres(b.taille, 4.8)}};
+  std::vector<Tabulation> colonnes{{b.gauche + LargeurChiffres(b.taille, 4.8)}};
   const double pas = (b.droite - colonnes.front().x) / 6;
   for (std::size_t i = 0; i < 6; ++i) {
     const double gauche = colonnes.front().x + pas * static_cast<double>(i);
@@ -323,7 +323,7 @@ double PoseLevers(Feuillet &page, const CadreAlmanach &c, const PeriodeAlmanach 
 double PoseJournees(Feuillet &page, const CadreAlmanach &c, const PeriodeAlmanach &p, const Bloc &b, double y) {
   const char virgule = VirguleDe(c.mots);
   const Graphie gras{.taille = b.taille, .gras = true};
-  std::vector<Colonne> colonnes;
+  std::vector<Tabulation> colonnes;
   const double largeur = b.droite - b.gauche;
   for (const double part : {0.05, 0.16, 0.275, 0.43, 0.54, 0.645, 0.73, 0.87, 1.0}) {
     colonnes.push_back({b.gauche + part * largeur});
@@ -375,7 +375,7 @@ Feuillet PageSoleilLune(const CadreAlmanach &c, const PeriodeAlmanach &p) {
   Feuillet page = PageTitree(c.format, TitreJours(c, p), c.mots[Mot::PageDroite]);
   const Reglure r = ReglureDe(page, kChiffres);
   const char virgule = VirguleDe(c.mots);
-  const std::vector<Colonne> colonnes =
+  const std::vector<Tabulation> colonnes =
       ColonnesDroites(r.boite.gauche, r.taille, {2.3, 8.6, 9.1, 9.4, 4.9, 9.3, 4.9, 5.2});
   std::vector<std::string> noms(colonnes.size());
   noms[1] = c.mots[Mot::Soleil];

@@ -33,7 +33,7 @@ struct Entrees {
 };
 
 void PoseEntrees(Feuillet &page, const Entrees &e, const std::string &note) {
-  const Boite boite = BoiteDe(page);
+  const ZonePage boite = ZoneDe(page);
   const int degres = (e.a - e.de + e.colonnes - 1) / e.colonnes;
   const double lignes = degres * (kParDegre + 0.4) + 4;
   const double interligne = boite.Hauteur() / lignes;
@@ -41,7 +41,7 @@ void PoseEntrees(Feuillet &page, const Entrees &e, const std::string &note) {
   const double pas = boite.Largeur() / e.colonnes;
   page.Mot({boite.gauche, boite.haut + 150}, note, {.taille = 7, .italique = true});
   for (int k = 0; k < e.colonnes; ++k) {
-    std::vector<Colonne> places;
+    std::vector<Tabulation> places;
     for (const double place : e.places) {
       places.push_back({boite.gauche + k * pas + LargeurChiffres(taille, place)});
     }
@@ -97,7 +97,7 @@ constexpr double kNomAngle = 5;
 /// The part that goes by the distance from the pole: three columns of sixty degrees.
 /// @return how wide it is
 double PosePolairePremiere(Feuillet &page, const CadreAlmanach &c, const std::vector<long> &distances,
-                           const Boite &boite, double taille, double interligne) {
+                           const ZonePage &boite, double taille, double interligne) {
   constexpr std::size_t kLignes = 61;
   const char virgule = VirguleDe(c.mots);
   const TableDouble table = TablePolaire(distances);
@@ -120,8 +120,8 @@ double PosePolairePremiere(Feuillet &page, const CadreAlmanach &c, const std::ve
 }
 
 /// The part that goes by the altitude, the azimuth, and how both are used.
-void PosePolaireSeconde(Feuillet &page, const CadreAlmanach &c, const std::vector<long> &distances, const Boite &boite,
-                        double taille, double interligne) {
+void PosePolaireSeconde(Feuillet &page, const CadreAlmanach &c, const std::vector<long> &distances,
+                        const ZonePage &boite, double taille, double interligne) {
   constexpr double kDixiemes = 10;
   const char virgule = VirguleDe(c.mots);
   const double distance = static_cast<double>(distances[distances.size() / 2]) / kDixiemes;
@@ -137,7 +137,7 @@ void PosePolaireSeconde(Feuillet &page, const CadreAlmanach &c, const std::vecto
 void PoseNotesPolaire(Feuillet &page, const CadreAlmanach &c) {
   constexpr double kNote = 7.5;
   constexpr double kInterligne = 190;
-  const Boite boite = BoiteDe(page);
+  const ZonePage boite = ZoneDe(page);
   double y = boite.bas - 3.3 * kInterligne;
   for (const Mot mot : {Mot::NotePolaire1, Mot::NotePolaire2, Mot::NotePolaire3}) {
     page.Mot({boite.gauche, y += kInterligne}, c.mots[mot], {.taille = kNote, .italique = true});
@@ -156,7 +156,7 @@ std::vector<Feuillet> PagesPolaire(const CadreAlmanach &c) {
   const std::vector<long> distances = DistancesPolaire(c.almanach);
   const bool ensemble = distances.size() < kEnsemble;
   std::vector<Feuillet> pages{PageTitree(c.format, c.mots[Mot::TitrePolaire])};
-  Boite boite = BoiteDe(pages.back());
+  ZonePage boite = ZoneDe(pages.back());
   const double interligne = boite.Hauteur() / 82;
   const double premiere = 3 * (kNomAngle + kColonneDistance * static_cast<double>(distances.size()) + 3);
   const double taille = TailleQuiTient(boite.Largeur(), ensemble ? 118 : premiere, interligne);

@@ -47,7 +47,7 @@ Axe AxeDesTemps(const Surface &s, const TraceLectures &t) {
   constexpr double kMarge = 0.04;
   constexpr double kMoindre = 1; // minutes
   Axe axe{t.course.front().x, t.course.back().x, kGauche, s.largeur - kDroite};
-  for (const PointTrace &l : t.lectures) {
+  for (const PointDuDessin &l : t.lectures) {
     axe.moins = std::min(axe.moins, l.minutes);
     axe.plus = std::max(axe.plus, l.minutes);
   }
@@ -66,7 +66,7 @@ Axe AxeDesHauteurs(const Surface &s, const TraceLectures &t) {
   for (const Point &p : t.course) {
     etend(p.y);
   }
-  for (const PointTrace &l : t.lectures) {
+  for (const PointDuDessin &l : t.lectures) {
     etend(l.hauteur);
   }
   Elargit(axe, kMarge, kMoindre);
@@ -76,7 +76,7 @@ Axe AxeDesHauteurs(const Surface &s, const TraceLectures &t) {
 Axe AxeDesResidus(const Surface &s, const TraceLectures &t) {
   constexpr double kMarge = 1.2;
   double plus = 2 * t.ecartType;
-  for (const PointTrace &l : t.lectures) {
+  for (const PointDuDessin &l : t.lectures) {
     plus = std::max(plus, std::fabs(l.residu));
   }
   return {-plus * kMarge, plus * kMarge, s.hauteur - kBas, Milieu(s) + kEntre};
@@ -107,7 +107,9 @@ void GraduesTemps(Surface &s, const TraceLectures &t, const Axe &temps) {
   }
 }
 
+/// Observed heights: the readings corrected, which is why they aren't those of the list.
 void GradueHauteurs(Surface &s, const Axe &hauteurs) {
+  EcritEnCouleur(s, {kGauche + 60, kHaut + 40}, kEncre, "Ho", {GenreTexte::Libre, 0});
   constexpr std::array<double, 10> kPas = {0.5, 1, 2, 5, 10, 20, 30, 60, 120, 300};
   const double pas = Pas((hauteurs.plus - hauteurs.moins) * kSoixante, kPas) / kSoixante;
   for (double k = std::ceil(hauteurs.moins / pas); k * pas <= hauteurs.plus; ++k) {
@@ -128,7 +130,7 @@ void GradueResidus(Surface &s, const TraceLectures &t, const Axe &residus) {
   EcritEnCouleur(s, {60, residus.place(0) - kDemiTexte}, kEncre, "0.0'", {GenreTexte::Ville, 0});
 }
 
-void PoseLecture(Surface &s, Point p, const PointTrace &lecture) {
+void PoseLecture(Surface &s, Point p, const PointDuDessin &lecture) {
   constexpr double kCreux = 55;
   constexpr double kAnneau = 130;
   constexpr int kPlein = 5;
@@ -144,11 +146,11 @@ void PoseLecture(Surface &s, Point p, const PointTrace &lecture) {
 
 } // namespace
 
-Point PlaceDeLecture(const Surface &surface, const TraceLectures &trace, const PointTrace &lecture) {
+Point PlaceDeLecture(const Surface &surface, const TraceLectures &trace, const PointDuDessin &lecture) {
   return {AxeDesTemps(surface, trace).place(lecture.minutes), AxeDesHauteurs(surface, trace).place(lecture.hauteur)};
 }
 
-Point PlaceDuResidu(const Surface &surface, const TraceLectures &trace, const PointTrace &lecture) {
+Point PlaceDuResidu(const Surface &surface, const TraceLectures &trace, const PointDuDessin &lecture) {
   return {AxeDesTemps(surface, trace).place(lecture.minutes), AxeDesResidus(surface, trace).place(lecture.residu)};
 }
 
@@ -171,7 +173,7 @@ void DessineLectures(Surface &surface, const TraceLectures &trace) {
     ligne.points.push_back({temps.place(p.x), hauteurs.place(p.y)});
   }
   surface.traces.emplace_back(std::move(ligne));
-  for (const PointTrace &lecture : trace.lectures) {
+  for (const PointDuDessin &lecture : trace.lectures) {
     PoseLecture(surface, PlaceDeLecture(surface, trace, lecture), lecture);
     PoseLecture(surface, PlaceDuResidu(surface, trace, lecture), lecture);
   }

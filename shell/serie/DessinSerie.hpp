@@ -9,7 +9,7 @@
 namespace velmaris {
 
 /// One reading of a plot.
-struct PointTrace {
+struct PointDuDessin {
   double minutes = 0;  ///< of time, from the plot's origin
   double hauteur = 0;  ///< degrees
   double residu = 0;   ///< minutes of arc
@@ -19,17 +19,17 @@ struct PointTrace {
 
 /// What a plot of readings shows.
 struct TraceLectures {
-  InstantUTC origine;               ///< the time of 0 minutes
-  std::vector<PointTrace> lectures; ///< by any order
-  std::vector<Point> course;        ///< minutes across, degrees up; by growing minutes
-  double ecartType = 0.7;           ///< assumed error of a reading, minutes: the residuals' band is twice as wide
-  std::optional<double> passage;    ///< minutes, of an upright line
+  InstantUTC origine;                  ///< the time of 0 minutes
+  std::vector<PointDuDessin> lectures; ///< by any order
+  std::vector<Point> course;           ///< minutes across, degrees up; by growing minutes
+  double ecartType = 0.7;              ///< assumed error of a reading, minutes: the residuals' band is twice as wide
+  std::optional<double> passage;       ///< minutes, of an upright line
 };
 
 /// Where a reading stands on the plot: among the heights, and among the residuals below.
 /// @{
-Point PlaceDeLecture(const Surface &surface, const TraceLectures &trace, const PointTrace &lecture);
-Point PlaceDuResidu(const Surface &surface, const TraceLectures &trace, const PointTrace &lecture);
+Point PlaceDeLecture(const Surface &surface, const TraceLectures &trace, const PointDuDessin &lecture);
+Point PlaceDuResidu(const Surface &surface, const TraceLectures &trace, const PointDuDessin &lecture);
 /// @}
 
 /// Draws a plot anew: time across; above, the heights with the sky's course as a line; below, what is left of them,

@@ -154,8 +154,15 @@ void GardeALaMontre(Bureau &bureau) {
   const InstantUTC milieu =
       MilieuDe(std::span<const LectureSerie>(heures), [](const LectureSerie &l) { return !l.ecartee; });
   LitRegistreAussitot(bureau);
-  AjouteReleve(bureau, ReleveDe(*p.lune.solution, milieu, bureau.registreOuvert.montre));
-  DitSerie(bureau, f.TexteGarde.legende);
+  const std::vector<ReleveMontre> &releves = bureau.registreOuvert.montre;
+  const ReleveMontre releve = ReleveDe(*p.lune.solution, milieu, releves);
+  const bool deja = std::any_of(releves.begin(), releves.end(), [&](const ReleveMontre &r) {
+    return r.instant == releve.instant && r.erreur == releve.erreur;
+  });
+  if (!deja) {
+    AjouteReleve(bureau, releve);
+  }
+  DitSerie(bureau, (deja ? f.TexteDejaGarde : f.TexteGarde).legende + MotsResultatLune(bureau).front());
 }
 
 } // namespace velmaris

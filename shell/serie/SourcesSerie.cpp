@@ -10,6 +10,7 @@
 #include "foundations/TexteNombre.hpp"
 #include "shell/complements/Mots.hpp"
 #include "shell/ecran/ChoixFichier.hpp"
+#include "shell/ecran/ChoixSortie.hpp"
 #include "shell/point/SourcesPoint.hpp"
 #include "shell/registre/LectureRegistre.hpp"
 #include "shell/serie/CalculSerie.hpp"
@@ -156,11 +157,11 @@ void EcritLectures(Bureau &bureau) {
   }
   std::string jour = texte.substr(0, 10);
   std::replace(jour.begin(), jour.end(), '/', '-');
-  std::filesystem::path chemin = Demande(bureau, f.Command3[6], "serie-" + jour + ".txt");
+  const std::filesystem::path chemin =
+      ChoisitSortie(bureau, f.Command3[6].legende, "serie-" + jour + ".txt", "*.txt", kFenetreSerie);
   if (chemin.empty()) {
     return;
   }
-  chemin += chemin.has_extension() ? "" : ".txt";
   try {
     EcritFichier(chemin, texte, bureau.dossiers.utilisateur);
     DitSerie(bureau, f.TexteEcrit.legende + chemin.string());

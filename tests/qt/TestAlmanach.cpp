@@ -1,5 +1,6 @@
 #include "complements/almanach/Arrondis.hpp"
 #include "complements/almanach/JourDuCiel.hpp"
+#include "complements/papier/MiseEnPage.hpp"
 #include "complements/papier/PagesAlmanach.hpp"
 #include "shell/qt/peinture/FeuilletQt.hpp"
 
@@ -54,9 +55,12 @@ Almanach Figures(const DateCivile &debut, const DateCivile &fin, std::size_t lat
   return *CalculeAlmanach(demande, EtoilesLues());
 }
 
-/// Which texts overlap another's or leave the paper's margins: what is inked of them, without the room for accents.
+/// Which texts stand on another's or too near to it, or leave the page's own margins: what is inked of them, without
+/// the room for accents.
 std::vector<std::string> Fautes(const Feuillet &page) {
-  constexpr double kMarge = 500;
+  constexpr double kEntre = 15; // between two figures of a line, 1/1440 inch
+  constexpr double kTrop = 12;  // that a letter's own side may reach beyond
+  const ZonePage boite = ZoneDe(page);
   constexpr int kPointsParMetre = 56693; // 1440 an inch
   QImage support(8, 8, QImage::Format_ARGB32);
   support.setDotsPerMeterX(kPointsParMetre);
@@ -72,14 +76,14 @@ std::vector<std::string> Fautes(const Feuillet &page) {
     }
     const QRectF zone = qt::ZoneDuMot(*mot, support, 1);
     const QRectF encre = zone.adjusted(0, 0.28 * zone.height(), 0, -0.22 * zone.height());
-    if (encre.left() < kMarge || encre.right() > page.largeur - kMarge || encre.bottom() > page.hauteur - kMarge ||
-        encre.top() < kMarge) {
+    if (encre.left() < boite.gauche - kTrop || encre.right() > boite.droite + kTrop ||
+        encre.bottom() > page.hauteur - 500 || encre.top() < 500) {
       fautes.push_back("leaves the page: " + mot->texte);
     }
     const int bande = static_cast<int>(encre.top() / kBande);
     for (const int voisine : {bande - 1, bande, bande + 1}) {
       for (const auto &[autre, texte] : bandes[voisine]) {
-        if (autre.intersects(encre)) {
+        if (autre.intersects(encre.adjusted(-kEntre, 0, kEntre, 0))) {
           fautes.push_back("overlaps: " + mot->texte + " / " + texte);
         }
       }

@@ -82,6 +82,18 @@ class Etages(unittest.TestCase):
                 with self.subTest(source=str(source.relative_to(RACINE))):
                     self.assertEqual([c for _, c in inclus if c.startswith("shell/") and not c.startswith("shell/bureau/")], [])
 
+    def test_no_two_types_of_the_program_bear_one_name(self):
+        # Within one namespace the linker would keep the functions of one of them for both.
+        definies = {}
+        for salle, source, _ in sources():
+            if source.suffix != ".hpp":
+                continue
+            texte = source.read_text()
+            espace = "qt" if "namespace velmaris::qt" in texte else ""
+            for nom in re.findall(r"^(?:struct|class|enum class) (\w+)(?: final)?(?: : [^;{]*)? \{", texte, re.M):
+                with self.subTest(source=str(source.relative_to(RACINE)), nom=nom):
+                    self.assertEqual(definies.setdefault((espace, nom), source), source)
+
 
 if __name__ == "__main__":
     unittest.main()

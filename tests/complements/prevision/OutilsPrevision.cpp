@@ -45,10 +45,10 @@ NavirePrevu Mouillage(double latitude, double longitude, int mois, int jour) {
 
 CielDuMoment CielPropre(const InstantUTC &utc) { return PrepareCiel({TTDe(utc), UT1De(utc, 0)}); }
 
-VueJugee Voit(const NavirePrevu &navire, const Astre &astre, const InstantUTC &utc) {
+VueDuBord Voit(const NavirePrevu &navire, const Astre &astre, const InstantUTC &utc) {
   const PlaceGeocentrique place = PlaceDe(CielPropre(utc), astre);
   const LieuNavire lieu = Navigue(navire.route, {}, navire.lieu, navire.heure, utc);
-  VueJugee vue;
+  VueDuBord vue;
   vue.hauteur = HauteurJugee(place, lieu, navire.hauteurOeil);
   vue.bord = vue.hauteur + VueDe(place, {lieu.latitude, lieu.longitude, navire.hauteurOeil}).demiDiametre / 60;
   vue.angleHoraire = std::remainder(place.gha + lieu.longitude, 360);

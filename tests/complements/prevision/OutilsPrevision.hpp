@@ -29,12 +29,12 @@ JourDeMer JourAuHasard(std::mt19937_64 &alea);
 NavirePrevu Mouillage(double latitude, double longitude, int mois, int jour);
 
 /// What is seen from the ship, by the sky worked out at that very moment and a track of many small steps.
-struct VueJugee {
+struct VueDuBord {
   double hauteur = 0;      ///< of the centre, without air, degrees
   double bord = 0;         ///< of the upper limb
   double angleHoraire = 0; ///< degrees in [-180, 180]
 };
-VueJugee Voit(const NavirePrevu &navire, const Astre &astre, const InstantUTC &utc);
+VueDuBord Voit(const NavirePrevu &navire, const Astre &astre, const InstantUTC &utc);
 
 /// The sky of a moment, worked out for itself.
 CielDuMoment CielPropre(const InstantUTC &utc);

@@ -23,7 +23,7 @@ using essais::JourAuHasard;
 using essais::JourDeMer;
 using essais::Mouillage;
 using essais::Voit;
-using essais::VueJugee;
+using essais::VueDuBord;
 using testing::IsEmpty;
 using testing::SizeIs;
 
@@ -63,24 +63,24 @@ std::vector<Juge> Juges(const Journee &journee, const NavirePrevu &navire) {
   };
   std::vector<Juge> juges;
   const auto ajoute = [&](const char *nom, std::vector<const Passages *> passages, const Astre &astre,
-                          const std::function<double(const VueJugee &)> &lit) {
+                          const std::function<double(const VueDuBord &)> &lit) {
     juges.push_back({nom, std::move(passages), [=](double s) { return lit(vue(astre, s)); }, {}});
   };
-  const auto bord = [=](const VueJugee &v) { return v.bord + horizon; };
-  const auto angle = [](const VueJugee &v) { return v.angleHoraire; };
+  const auto bord = [=](const VueDuBord &v) { return v.bord + horizon; };
+  const auto angle = [](const VueDuBord &v) { return v.angleHoraire; };
   ajoute("Sun", {&journee.soleil.lever, &journee.soleil.coucher}, kSoleil, bord);
   ajoute("Sun's passage", {&journee.soleil.meridien}, kSoleil, angle);
   ajoute("civil", {&journee.civil.matin, &journee.civil.soir}, kSoleil,
-         [](const VueJugee &v) { return v.hauteur + 6; });
+         [](const VueDuBord &v) { return v.hauteur + 6; });
   ajoute("nautical", {&journee.nautique.matin, &journee.nautique.soir}, kSoleil,
-         [](const VueJugee &v) { return v.hauteur + 12; });
+         [](const VueDuBord &v) { return v.hauteur + 12; });
   ajoute("astronomical", {&journee.astronomique.matin, &journee.astronomique.soir}, kSoleil,
-         [](const VueJugee &v) { return v.hauteur + 18; });
+         [](const VueDuBord &v) { return v.hauteur + 18; });
   ajoute("Moon", {&journee.lune.lever, &journee.lune.coucher}, kLune, bord);
   ajoute("Moon's passage", {&journee.lune.meridien}, kLune, angle);
   for (double s = 0; s <= 86400; s += 180) {
-    const VueJugee soleil = vue(kSoleil, s);
-    const VueJugee lune = vue(kLune, s);
+    const VueDuBord soleil = vue(kSoleil, s);
+    const VueDuBord lune = vue(kLune, s);
     const double valeurs[] = {bord(soleil),        angle(soleil), soleil.hauteur + 6, soleil.hauteur + 12,
                               soleil.hauteur + 18, bord(lune),    angle(lune)};
     for (std::size_t i = 0; i < juges.size(); ++i) {
