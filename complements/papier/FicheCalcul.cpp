@@ -58,6 +58,9 @@ void EcritVisee(Main &main, const ViseeTypee &visee) {
   if (!visee.lecture.horizonArtificiel) {
     main.Donne(EtapeFiche::Oeil, Dixiemes(visee.lecture.hauteurOeil) + " m");
   }
+  if (visee.astre.genre == GenreAstre::Soleil || visee.astre.genre == GenreAstre::Lune) {
+    main.Donne(EtapeFiche::Bord, "");
+  }
 }
 
 /// From the reading to the observed height.
@@ -136,7 +139,9 @@ double EcritGha(Main &main, const ViseeTypee &visee, const Heures &heures) {
     gha += verse;
   } else {
     const double heure = DansLeTour(heures.apres.gha - heures.avant.gha) * kMinutes;
-    const double v = Dixieme(Dixieme(heure - taux) * heures.part);
+    const double vHoraire = Dixieme(heure - taux);
+    const double v = Dixieme(vHoraire * heures.part);
+    main.Table(EtapeFiche::VHoraire, MinutesSignees(vHoraire));
     main.Table(EtapeFiche::VariationGha, MinutesSignees(v));
     gha += v / kMinutes;
   }
@@ -155,10 +160,12 @@ SousAstre EcritAlmanach(Main &main, const ViseeTypee &visee, double dut1) {
   double declinaison = AuDixieme(heures.avant.declinaison);
   if (visee.astre.genre != GenreAstre::Etoile) {
     main.Table(EtapeFiche::DeclinaisonHeure, TexteLatitude(declinaison));
-    const double heure = Dixieme((heures.apres.declinaison - heures.avant.declinaison) * kMinutes);
+    const double cote = declinaison < 0 ? -1 : 1; // the hand adds to what is written, whichever side it bears
+    const double heure = Dixieme((heures.apres.declinaison - heures.avant.declinaison) * kMinutes) * cote;
     const double d = Dixieme(heure * heures.part);
+    main.Table(EtapeFiche::DHoraire, MinutesSignees(heure));
     main.Table(EtapeFiche::VariationDeclinaison, MinutesSignees(d));
-    declinaison += d / kMinutes;
+    declinaison += cote * d / kMinutes;
     main.Calcule(EtapeFiche::Declinaison, TexteLatitude(declinaison));
   } else {
     main.Table(EtapeFiche::Declinaison, TexteLatitude(declinaison));
@@ -196,6 +203,7 @@ FicheCalcul FaitFicheCalcul(const ViseeTypee &visee, const std::string &nom, dou
   const RouteActuelle route = SuitRoute(visee, dut1);
   FicheCalcul fiche;
   fiche.astre = nom;
+  fiche.bord = visee.lecture.contact;
   fiche.controle = route.intercept;
   Main main(fiche);
   EcritVisee(main, visee);

@@ -15,6 +15,7 @@ enum class EtapeFiche : std::uint8_t {
   Latitude,
   Longitude,
   Oeil,
+  Bord, ///< of the Sun and the Moon
   Lecture,
   ErreurArc,
   Collimation,
@@ -28,13 +29,15 @@ enum class EtapeFiche : std::uint8_t {
   Observee,
   GhaHeure, ///< of the body at the whole hour, or of Aries for a star
   Increment,
-  VariationGha, ///< v
+  VHoraire,
+  VariationGha, ///< v by the part of the hour
   AscensionVerse,
   Gha,
   LongitudeCalcul,
   AngleLocal,
   DeclinaisonHeure,
-  VariationDeclinaison, ///< d
+  DHoraire,             ///< positive where the declination grows away from the equator
+  VariationDeclinaison, ///< d by the part of the hour, the same
   Declinaison,
   ProduitSinus,
   ProduitCosinus,
@@ -65,6 +68,7 @@ struct LigneCalcul {
 /// written above it.
 struct FicheCalcul {
   std::string astre;               ///< its name
+  Contact bord = Contact::Centre;  ///< that was shot; its line has a word of it
   std::vector<LigneCalcul> lignes; ///< without the steps that the sight hasn't
   double observee = 0;             ///< degrees
   double calculee = 0;             ///< degrees

@@ -22,7 +22,10 @@ DateCivile ALaSeconde(const InstantUTC &utc) {
 
 std::string Dixiemes(double valeur) { return Format(valeur, "0.0"); }
 
-std::string DixiemesSignes(double valeur) { return (valeur < 0 ? "" : "+") + Dixiemes(valeur); }
+std::string DixiemesSignes(double valeur) {
+  std::string nu = Dixiemes(std::fabs(valeur));
+  return nu == "0.0" ? nu : (valeur < 0 ? "-" : "+") + nu;
+}
 
 std::string TexteDirection(double degres) { return Format(std::fmod(std::round(degres), kTour), "000") + "°"; }
 

@@ -10,7 +10,7 @@ namespace velmaris {
 /// A number to the tenth: "0.7".
 std::string Dixiemes(double valeur);
 
-/// The same with its sign: "+0.7".
+/// The same with its sign: "+0.7"; what is rounded to 0 has none.
 std::string DixiemesSignes(double valeur);
 
 /// A direction as three digits: "045°". What is rounded up to 360 is 000.

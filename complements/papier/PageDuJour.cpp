@@ -1,16 +1,15 @@
 #include "complements/papier/PageDuJour.hpp"
 
+#include "complements/papier/DessinJour.hpp"
+
 #include <algorithm>
 #include <cmath>
-#include <numbers>
 #include <sstream>
 
 namespace velmaris {
 namespace {
 
-constexpr double kRadian = std::numbers::pi / 180;
 constexpr double kMinutes = 60;
-constexpr double kMinutesRayon = kMinutes / kRadian; ///< of the sphere
 constexpr double kMarge = 720;
 constexpr double kGauche = 1400;       ///< left edge of the sheet
 constexpr double kHautFeuille = 1350;  ///< its upper edge
@@ -23,21 +22,8 @@ constexpr double kRayonRose = 800;
 constexpr double kDemiMilles = 1.5; ///< miles that a chart shows either way, at least
 constexpr double kMilesMax = 1200;  ///< either way, at most: a plain chart of more is none
 constexpr double kJeu = 1.25;       ///< more than the farthest place
-constexpr int kCotes = 72;          ///< of an ellipse
-constexpr int kPasDroite = 16;      ///< of half a line
-constexpr Encre kTraitDroite{.largeur = 0.9};
-constexpr Encre kTraitOte{.largeur = 0.7, .tiret = 3};
-constexpr Encre kTraitRoute{.largeur = 0.6, .tiret = 1.5};
 /// Left edge of a text's column, right edge of a figure's, from the margin.
 constexpr std::array<double, kColonnesJour> kColonnes = {0, 2350, 3600, 4800, 6000, 6750, 7850, 8950, 10050};
-
-/// Where a line passes nearest to the place that it is laid off from, and on from there.
-Point SurDroite(const PlanVrai &plan, const DroiteDuJour &droite, double loin) {
-  const double azimut = droite.azimut * kRadian;
-  const double vers = droite.vers + loin * loin * std::tan(droite.hauteur * kRadian) / (2 * kMinutesRayon);
-  return plan.Decale(plan.PointDe(droite.appui), vers * std::cos(azimut) - loin * std::sin(azimut),
-                     vers * std::sin(azimut) + loin * std::cos(azimut));
-}
 
 /// All places that a chart has to show.
 std::vector<LieuNavire> LieuxMontres(const DonneesJour &jour) {
@@ -74,80 +60,6 @@ std::vector<std::string> EnLignes(const std::string &texte, std::size_t lettres)
   }
   return lignes;
 }
-
-/// Draws what a day brought onto its sheet.
-class DessinJour {
-public:
-  DessinJour(Feuillet &page, const PlanVrai &plan, const CadrePage &cadre) : page_(page), plan_(plan), cadre_(cadre) {}
-
-  void Droite(const DroiteDuJour &droite) {
-    // As far as the sheet reaches, but no farther than its curve is one of the second order.
-    const double demie = std::min(std::hypot(cadre_.largeur(), cadre_.hauteur()) / plan_.mille, kMilesMax / 4);
-    std::vector<Point> points;
-    for (int i = -kPasDroite; i <= kPasDroite; ++i) {
-      points.push_back(SurDroite(plan_, droite, demie * i / kPasDroite));
-    }
-    const auto morceaux = CoupeAuCadre(points, cadre_);
-    for (const std::vector<Point> &morceau : morceaux) {
-      page_.Traits(morceau, droite.comptee ? kTraitDroite : kTraitOte);
-    }
-    if (!morceaux.empty()) {
-      Nomme(morceaux.front(), droite.nom);
-    }
-  }
-
-  void Ligne(const std::vector<Point> &points, const Encre &encre) {
-    for (const std::vector<Point> &morceau : CoupeAuCadre(points, cadre_)) {
-      page_.Traits(morceau, encre);
-    }
-  }
-
-  void Route(const std::vector<LieuNavire> &route) {
-    std::vector<Point> points;
-    for (const LieuNavire &lieu : route) {
-      points.push_back(plan_.PointDe(lieu));
-      page_.Rond(points.back(), 35, {.largeur = 0.5});
-    }
-    Ligne(points, kTraitRoute);
-  }
-
-  void Fixe(const PointDuJour &point) {
-    const Point ici = plan_.PointDe(point.lieu);
-    const double direction = point.ellipse.direction * kRadian;
-    std::vector<Point> points;
-    for (int i = 0; i <= kCotes && point.ellipse.a > 0; ++i) {
-      const double angle = 2 * std::numbers::pi * i / kCotes;
-      const double grand = point.ellipse.a * std::cos(angle);
-      const double petit = point.ellipse.b * std::sin(angle);
-      points.push_back(plan_.Decale(ici, grand * std::cos(direction) - petit * std::sin(direction),
-                                    grand * std::sin(direction) + petit * std::cos(direction)));
-    }
-    Ligne(points, {.largeur = 1.2});
-    page_.Rond(ici, 22, {}, true);
-    page_.Rond(ici, 95, {.largeur = 1});
-    page_.Mot({ici.x + 130, ici.y + 220}, point.heure, {.taille = 9, .gras = true});
-  }
-
-private:
-  /// Writes a name along the end of a line, readable from the foot of the page or from its right side.
-  void Nomme(const std::vector<Point> &morceau, const std::string &nom) {
-    constexpr double kDuBout = 150;
-    constexpr double kAuDessus = 45;
-    const Point a = morceau.front();
-    const Point b = morceau.at(1);
-    const bool endroit = a.x <= b.x;
-    const double angle = std::atan2(b.y - a.y, b.x - a.x) + (endroit ? 0 : std::numbers::pi);
-    const double sens = endroit ? 1 : -1;
-    const Point pied{a.x + sens * kDuBout * std::cos(angle) + kAuDessus * std::sin(angle),
-                     a.y + sens * kDuBout * std::sin(angle) - kAuDessus * std::cos(angle)};
-    page_.Mot(pied, nom,
-              {.taille = 7.5, .ancrage = endroit ? Ancrage::Gauche : Ancrage::Droite, .angle = angle / kRadian});
-  }
-
-  Feuillet &page_;
-  const PlanVrai &plan_;
-  const CadrePage &cadre_;
-};
 
 /// Writes what stands under the sheet, and further pages where the table is long.
 class Texte {
@@ -276,24 +188,21 @@ PlanVrai PlanDuJour(const DonneesJour &jour, const CadrePage &cadre) {
   return plan;
 }
 
-std::vector<Feuillet> PagesDuJour(const DonneesJour &jour, FormatPapier format, const MotsJour &mots) {
+namespace {
+
+/// The pages, with a sheet of a part of its full height.
+std::vector<Feuillet> PagesAvecFeuille(const DonneesJour &jour, FormatPapier format, const MotsJour &mots,
+                                       double part) {
   std::vector<Feuillet> pages;
   Texte texte(pages, format, mots);
   texte.Commence(mots.titre);
   Feuillet &page = texte.Ici();
-  const CadrePage cadre{{kGauche, kHautFeuille},
-                        {page.largeur - kMarge, kHautFeuille + kPartFeuille * TailleDuPapier(FormatPapier::Lettre).y}};
+  const double hauteur = part * kPartFeuille * TailleDuPapier(FormatPapier::Lettre).y;
+  const CadrePage cadre{{kGauche, kHautFeuille}, {page.largeur - kMarge, kHautFeuille + hauteur}};
   const PlanVrai plan = PlanDuJour(jour, cadre);
-  const Point rose{cadre.oppose.x - kRayonRose - 120, cadre.coin.y + kRayonRose + 120};
+  const Point rose = PlaceDeLaRose(jour, plan, cadre, kRayonRose);
   DessineCanevas(page, {plan, cadre, false, rose, kRayonRose}, mots.canevas);
-  DessinJour dessin(page, plan, cadre);
-  dessin.Route(jour.route);
-  for (const DroiteDuJour &droite : jour.droites) {
-    dessin.Droite(droite);
-  }
-  if (jour.point) {
-    dessin.Fixe(*jour.point);
-  }
+  DessinJour(page, plan, cadre, rose, kRayonRose).Trace(jour);
   texte.Descend(cadre.oppose.y + 1000);
   for (std::size_t i = 0; i < jour.lignes.size(); ++i) {
     texte.Ligne(jour.lignes[i], i == 0);
@@ -301,6 +210,18 @@ std::vector<Feuillet> PagesDuJour(const DonneesJour &jour, FormatPapier format, 
   texte.Meteo(jour.meteo);
   texte.Table(jour.visees);
   return pages;
+}
+
+} // namespace
+
+std::vector<Feuillet> PagesDuJour(const DonneesJour &jour, FormatPapier format, const MotsJour &mots) {
+  for (const double part : {1.0, 0.92, 0.84, 0.76, 0.68}) {
+    std::vector<Feuillet> pages = PagesAvecFeuille(jour, format, mots, part);
+    if (pages.size() == 1) {
+      return pages;
+    }
+  }
+  return PagesAvecFeuille(jour, format, mots, 1);
 }
 
 } // namespace velmaris

@@ -35,6 +35,7 @@ struct DonneesJour {
   std::vector<DroiteDuJour> droites;
   std::optional<PointDuJour> point;
   std::vector<LieuNavire> route;   ///< the ship's track, by time
+  std::vector<std::string> heures; ///< that stand beside its places, where they have room
   std::vector<std::string> lignes; ///< what is said of the fix, one line each
   std::vector<std::array<std::string, kColonnesJour>> visees;
   std::vector<std::string> meteo; ///< typed by hand, one for each of `MotsJour::meteo`; an empty one is a blank
@@ -51,8 +52,9 @@ struct MotsJour {
 };
 
 /// The day's page: a plotting sheet in true scale with lines, track and fix, what is said of the fix, the table of
-/// sights, the weather; a long table goes on on further pages. The scale is the largest that shows the fix or the
-/// places that lines are laid off from, the track, and where the lines pass.
+/// sights, the weather. A table that would not fit makes the sheet lower, as far as two thirds of its height; a longer
+/// one goes on on further pages. The scale is the largest that shows the fix or the places that lines are laid off
+/// from, the track, and where the lines pass.
 std::vector<Feuillet> PagesDuJour(const DonneesJour &jour, FormatPapier format, const MotsJour &mots);
 
 /// The chart that shows all that a day has.

@@ -9,7 +9,7 @@ namespace velmaris {
 namespace {
 
 constexpr double kMarge = 900;
-constexpr double kPas = 315;        ///< from line to line
+constexpr double kPas = 297;        ///< from line to line
 constexpr double kColonne = 5900;   ///< right edge of the figures
 constexpr double kLigneVide = 1900; ///< length of a blank
 constexpr double kRegles = 6300;    ///< left edge of the rules
@@ -94,14 +94,24 @@ private:
   double y_ = 0;
 };
 
+/// The word that follows a step's figure, or stands for it.
+std::string Suite(const FicheCalcul &fiche, EtapeFiche etape, const MotsFiche &mots) {
+  switch (etape) {
+  case EtapeFiche::Bord:
+    return mots.bords.at(static_cast<std::size_t>(fiche.bord));
+  case EtapeFiche::Intercept:
+    return " " + (fiche.vers ? mots.vers : mots.depuis);
+  default:
+    return {};
+  }
+}
+
 Feuillet FaitPage(const FicheCalcul &fiche, bool blancs, const std::string &titre, FormatPapier format,
                   const MotsFiche &mots) {
   Page page(format, mots);
   page.Titre(titre, fiche.astre);
   for (const LigneCalcul &ligne : fiche.lignes) {
-    const bool dernier = ligne.etape == EtapeFiche::Intercept;
-    page.Ligne(ligne, blancs && ligne.source != SourceFiche::Visee,
-               dernier ? " " + (fiche.vers ? mots.vers : mots.depuis) : std::string());
+    page.Ligne(ligne, blancs && ligne.source != SourceFiche::Visee, Suite(fiche, ligne.etape, mots));
   }
   if (!blancs) {
     page.Note(mots.controle + Dixiemes(std::fabs(fiche.controle)) + " M " +

@@ -19,6 +19,7 @@ struct MotsFiche {
   std::array<std::string, kPartiesFiche> parties;
   std::array<std::string, kEtapesCalcul> etapes; ///< in the order of `EtapeFiche`
   std::array<std::string, kEtapesCalcul> regles; ///< how the step is done, the same
+  std::array<std::string, 3> bords;              ///< in the order of `Contact`
   std::string vers;                              ///< towards the body
   std::string depuis;                            ///< away from it
   std::string controle;                          ///< before the intercept without roundings

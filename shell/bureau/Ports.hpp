@@ -5,6 +5,7 @@
 #include <cstdint>
 #include <filesystem>
 #include <functional>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <system_error>
@@ -74,10 +75,10 @@ struct Ports {
   /// work is to stop. Any thread may ask.
   std::function<std::string(const std::vector<Feuillet> &, const Avancement &)> pdf =
       [](const std::vector<Feuillet> &, const Avancement &) { return std::string(); };
-  /// Prints these pages, once the user has chosen where; giving up is no failure. @return false when it failed
-  std::function<bool(const std::vector<Feuillet> &)> imprimeFeuillets = [](const std::vector<Feuillet> &) {
-    return false;
-  };
+  /// Prints these pages, or those of them that the user chooses, once it is chosen where.
+  /// @return how many were printed, 0 when the user gave up; nothing when it failed
+  std::function<std::optional<std::size_t>(const std::vector<Feuillet> &)> imprimeFeuillets =
+      [](const std::vector<Feuillet> &) { return std::optional<std::size_t>(); };
   /// Opens a web or mail address, or the path of a file, by the desktop's program for it; the second argument is
   /// called when there is none, perhaps later.
   std::function<void(const std::string &, const std::function<void()> &)> ouvre =

@@ -17,12 +17,13 @@ struct FSelect {
   Controle Label1, FName, Label2, File1, Label3, Dir1, Drive1, OK, Quitter, Command1;
   Controle TexteVolume; ///< what `Drive1` chooses
   Controle TexteNom;    ///< what `FName` takes
-  Controle TexteSansDossier;
+  Controle TexteSansDossier, TexteExiste;
 
   CadreFenetre cadre{kFenetreFSelect, "Fichier", 9300, 6300};
   bool chargee = false;                       ///< it has been loaded, with its language; it stays so for the run
   bool nomPropose = false;                    ///< it was opened with a name to save under, not with its pattern
   bool accepte = false;                       ///< a name was accepted since it was last shown
+  std::string suffixe{};                      ///< of a file that is to be written, which a typed path may lack
   bool ditRefus = false;                      ///< a folder that can't be shown is told in a box
   std::filesystem::path dossier;              ///< path of `Dir1` and `File1`
   std::string motif = "*.*";                  ///< pattern of `File1`

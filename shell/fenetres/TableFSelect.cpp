@@ -23,6 +23,7 @@ constexpr LigneFSelect kFSelect[] = {
     {SEUL(TexteVolume), Genre::Texte, "", {}, "Volume"},
     {SEUL(TexteNom), Genre::Texte, "", {}, "Un nom, un chemin, ou un motif avec * et ?"},
     {SEUL(TexteSansDossier), Genre::Texte, "", {}, "Ce dossier n'existe pas ou ne peut pas être lu :"},
+    {SEUL(TexteExiste), Genre::Texte, "", {}, "Ce fichier existe déjà. Le remplacer ?"},
 };
 // clang-format on
 

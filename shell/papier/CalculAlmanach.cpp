@@ -4,6 +4,7 @@
 #include "complements/papier/PagesAlmanach.hpp"
 #include "foundations/TexteNombre.hpp"
 #include "shell/complements/Saisies.hpp"
+#include "shell/papier/ClesPapier.hpp"
 #include "shell/papier/MotsDesPages.hpp"
 
 #include <algorithm>
@@ -18,24 +19,54 @@ namespace {
 constexpr int kMilliemes = 1000;
 constexpr double kPartChiffres = 0.8; ///< of the work that the figures are, the pages being the rest
 
-/// Latitudes parted by commas or semicolons.
-/// @return nothing where one is none
-std::optional<std::vector<double>> LitLatitudes(std::string_view texte) {
+/// Latitudes that were typed one after the other.
+struct LatitudesLues {
   std::vector<double> latitudes;
-  while (!texte.empty()) {
-    const std::size_t fin = std::min(texte.find_first_of(",;"), texte.size());
-    const std::string_view mot = SansBlancs(texte.substr(0, fin));
-    texte.remove_prefix(std::min(fin + 1, texte.size()));
-    if (mot.empty()) {
-      continue;
-    }
-    const std::optional<double> latitude = LitLatitudeTapee(mot);
-    if (!latitude) {
-      return std::nullopt;
-    }
-    latitudes.push_back(*latitude);
+  std::string fautive; ///< the first that is none, as typed
+};
+
+/// One latitude: its side is told by a letter or a sign, or it is the equator.
+void AjouteLatitude(LatitudesLues &lues, std::string_view mot) {
+  const std::string_view nu = SansBlancs(mot);
+  if (nu.empty() || !lues.fautive.empty()) {
+    return;
   }
-  return latitudes;
+  const std::optional<double> latitude = LitLatitudeTapee(nu);
+  const bool cotee = nu.find_first_of("NSns+-") != std::string_view::npos;
+  if (latitude && (cotee || *latitude == 0)) {
+    lues.latitudes.push_back(*latitude);
+  } else {
+    lues.fautive = nu;
+  }
+}
+
+/// Where a latitude ends: behind its letter, or at what parts it from the next one. A comma between two figures is a
+/// decimal one.
+std::size_t FinDeLatitude(std::string_view texte) {
+  const auto chiffre = [&](std::size_t i) { return i < texte.size() && texte[i] >= '0' && texte[i] <= '9'; };
+  for (std::size_t i = 0; i < texte.size(); ++i) {
+    const bool virgule = texte[i] == ',' && !(i > 0 && chiffre(i - 1) && chiffre(i + 1));
+    if (virgule || texte[i] == ';') {
+      return i;
+    }
+    if (std::string_view("NSns").find(texte[i]) != std::string_view::npos) {
+      return i + 1;
+    }
+  }
+  return texte.size();
+}
+
+LatitudesLues LitLatitudes(std::string_view texte) {
+  LatitudesLues lues;
+  while (!texte.empty()) {
+    const std::size_t fin = FinDeLatitude(texte);
+    AjouteLatitude(lues, texte.substr(0, fin));
+    texte.remove_prefix(fin);
+    if (texte.starts_with(',') || texte.starts_with(';')) {
+      texte.remove_prefix(1);
+    }
+  }
+  return lues;
 }
 
 /// What a work brings.
@@ -66,6 +97,17 @@ std::optional<AlmanachFait> Fait(const DemandeAlmanach &demande, const Etoiles &
                       std::make_shared<const Feuillets>(std::move(*pages))};
 }
 
+/// The days are told one by one.
+void MarqueDates(FenetrePapier &f, const DemandeAlmanach &demande) {
+  for (const bool fin : {false, true}) {
+    DemandeAlmanach seule;
+    seule.debut = seule.fin = fin ? demande.fin : demande.debut;
+    if (DefautDe(seule)) {
+      f.Text1.at(fin ? 1 : 0).alerte = f.MotDefaut.at(static_cast<std::size_t>(DefautAlmanach::Date)).legende;
+    }
+  }
+}
+
 void MarqueDefaut(FenetrePapier &f, DefautAlmanach defaut) {
   const bool latitude = defaut == DefautAlmanach::Latitude || defaut == DefautAlmanach::TropDeLatitudes;
   Controle &champ = latitude ? f.Text1[2] : f.Text1[1];
@@ -83,21 +125,25 @@ std::optional<DemandeAlmanach> LitDemandeAlmanach(Bureau &bureau) {
   FenetrePapier &f = bureau.fenetrePapier;
   const auto debut = LitMomentTape(f.Text1[0].texte, kMidi);
   const auto fin = LitMomentTape(f.Text1[1].texte, kMidi);
-  const auto latitudes = LitLatitudes(f.Text1[2].texte);
+  const LatitudesLues lues = LitLatitudes(f.Text1[2].texte);
   MarqueChamp(f.Text1[0], debut.has_value(), f.TexteHors.legende);
   MarqueChamp(f.Text1[1], fin.has_value(), f.TexteHors.legende);
-  MarqueChamp(f.Text1[2], latitudes.has_value(), f.TexteHors.legende);
-  if (!debut || !fin || !latitudes) {
+  f.Text1[2].alerte.clear();
+  if (!lues.fautive.empty()) {
+    f.Text1[2].alerte =
+        lues.fautive + " : " + f.MotDefaut.at(static_cast<std::size_t>(DefautAlmanach::Latitude)).legende;
+  }
+  if (!debut || !fin || !lues.fautive.empty()) {
     return std::nullopt;
   }
   DemandeAlmanach demande;
   demande.debut = CivileDe(*debut);
   demande.fin = CivileDe(*fin);
-  demande.latitudes = *latitudes;
+  demande.latitudes = lues.latitudes;
   demande.dut1 = bureau.verification.reglages.dut1;
   demande.ordre = f.Combo2.rang == 1 ? OrdreEtoiles::Sha : OrdreEtoiles::Nom;
   if (const auto defaut = DefautDe(demande)) {
-    MarqueDefaut(f, *defaut);
+    *defaut == DefautAlmanach::Date ? MarqueDates(f, demande) : MarqueDefaut(f, *defaut);
     return std::nullopt;
   }
   return demande;
@@ -116,12 +162,14 @@ void DemandeAlmanachPapier(Bureau &bureau) {
                                .tables = f.Check1[1].valeur == 1,
                                .increments = f.Check1[2].valeur == 1,
                                .fait = JourPresent(bureau)};
+  p.demandee = CleDesPages(bureau, OngletPapier::Almanach);
+  p.jours = CleDesChiffres(f);
   p.arret.request_stop();
   p.arret = std::stop_source();
   p.millieme = std::make_shared<std::atomic<int>>(0);
   p.enCalcul = true;
   bureau.ports.travaille([arret = p.arret.get_token(), millieme = p.millieme, demande = *demande, reglages,
-                          mots = MotsDeLAlmanach(bureau), &etoiles = bureau.etoiles,
+                          mots = MotsDeLAlmanach(bureau), pour = p.demandee, &etoiles = bureau.etoiles,
                           &bureau]() -> std::function<void()> {
     std::optional<AlmanachFait> fait;
     try {
@@ -129,7 +177,7 @@ void DemandeAlmanachPapier(Bureau &bureau) {
     } catch (const Refus &) {
       fait.reset(); // its demand has been looked at before
     }
-    return [fait = std::move(fait), arret, &bureau] {
+    return [fait = std::move(fait), arret, pour, &bureau] {
       PapierOuvert &ouvert = bureau.papier;
       if (arret.stop_requested()) {
         return; // another one has been asked for, or none
@@ -138,7 +186,7 @@ void DemandeAlmanachPapier(Bureau &bureau) {
       ouvert.aMontrer = true;
       if (fait) {
         ouvert.almanach = fait->almanach;
-        ouvert.onglets[static_cast<std::size_t>(OngletPapier::Almanach)] = {fait->pages, 0};
+        ouvert.onglets[static_cast<std::size_t>(OngletPapier::Almanach)] = {fait->pages, 0, pour};
       }
     };
   });

@@ -38,6 +38,7 @@ MotsFiche MotsDeLaFiche(const Bureau &bureau) {
           .parties = Legendes(m.MotPartie),
           .etapes = Legendes(m.MotEtape),
           .regles = Legendes(m.MotRegle),
+          .bords = Legendes(bureau.fenetreSerie.MotBord),
           .vers = m.TexteVers.legende,
           .depuis = m.TexteDepuis.legende,
           .controle = m.TexteControle.legende,

@@ -7,8 +7,10 @@
 #include "foundations/TexteNombre.hpp"
 #include "shell/complements/Mots.hpp"
 #include "shell/complements/Saisies.hpp"
-#include "shell/ecran/ChoixFichier.hpp"
+#include "shell/ecran/ChoixSortie.hpp"
 #include "shell/papier/CalculAlmanach.hpp"
+#include "shell/papier/ClesPapier.hpp"
+#include "shell/papier/MeteoPapier.hpp"
 #include "shell/papier/MotsDesPages.hpp"
 #include "shell/papier/SourcesPapier.hpp"
 #include "shell/point/Point.hpp"
@@ -42,10 +44,7 @@ template <std::size_t N> void PoseListe(Controle &liste, const std::array<Contro
 }
 
 /// The fields that are kept for the next start.
-std::array<Controle *, 9> ChampsGardes(FenetrePapier &f) {
-  return {&f.Text1[2], &f.Text2[0], &f.Text2[1], &f.Text2[2], &f.Text2[3],
-          &f.Text2[4], &f.Text2[5], &f.Text3[0], &f.Text3[1]};
-}
+std::array<Controle *, 3> ChampsGardes(FenetrePapier &f) { return {&f.Text1[2], &f.Text3[0], &f.Text3[1]}; }
 
 void GardeChamps(Bureau &bureau) {
   FenetrePapier &f = bureau.fenetrePapier;
@@ -54,6 +53,7 @@ void GardeChamps(Bureau &bureau) {
     texte += champ->texte + "\n";
   }
   EcritReglage(bureau, kCle, texte);
+  GardeMeteo(bureau);
 }
 
 std::string LigneSuivante(std::string &texte) {
@@ -98,12 +98,16 @@ void RemplitChamps(Bureau &bureau) {
 PagesFaites ViergeVoulue(Bureau &bureau) {
   constexpr double kMillesMin = 5;
   constexpr double kMillesMax = 1200;
+  constexpr double kParallele = 89; // degrees, that a sheet reaches
+  constexpr double kMinutes = 60;
   FenetrePapier &f = bureau.fenetrePapier;
   constexpr double kAucune = 90; // which no blank sheet is of
   const double latitude = LitLatitudeTapee(f.Text3[0].texte).value_or(kAucune);
   const bool bonne = std::fabs(latitude) <= kLatitudeVierge;
   MarqueChamp(f.Text3[0], bonne, f.TexteHors.legende);
-  const std::optional<double> milles = LitChampBorne(f.Text3[1], kMillesMin, kMillesMax, f.TexteHors.legende);
+  const double place = 2 * kMinutes * (kParallele - std::min(std::fabs(latitude), kLatitudeVierge));
+  const std::optional<double> milles =
+      LitChampBorne(f.Text3[1], kMillesMin, std::min(kMillesMax, place), f.TexteHors.legende);
   PagesFaites faites;
   if (bonne && milles) {
     faites.pages.push_back(PageVierge(latitude, *milles, FormatVoulu(f),
@@ -126,6 +130,7 @@ void RefaitPages(Bureau &bureau) {
     if (bureau.point.visees.empty()) {
       PreparePoint(bureau);
     }
+    SuitJourMeteo(bureau, DateDuJour(bureau));
     faites = JourVoulu(bureau, FormatVoulu(f));
     f.Label5.legende = faites.dit;
     break;
@@ -140,8 +145,25 @@ void RefaitPages(Bureau &bureau) {
     PoseVirgule(page, VirguleDesPages(bureau));
   }
   PagesOuvertes &vues = PagesVues(bureau);
+  vues.pour = CleDesPages(bureau, OngletVu(f));
   vues.rang = std::min(vues.rang, faites.pages.empty() ? 0 : faites.pages.size() - 1);
   vues.pages = std::make_shared<const Feuillets>(std::move(faites.pages));
+}
+
+/// Pages whose sight, fix, fields or language have changed are made anew; an almanac where that changes none of its
+/// days and latitudes: these wait for "Calculer".
+void SuitCeQuiChange(Bureau &bureau) {
+  PapierOuvert &p = bureau.papier;
+  const OngletPapier onglet = OngletVu(bureau.fenetrePapier);
+  const std::string cle = CleDesPages(bureau, onglet);
+  if (onglet != OngletPapier::Almanach) {
+    if (PagesVues(bureau).pour != cle) {
+      RefaitPages(bureau);
+      p.aMontrer = true;
+    }
+  } else if (p.almanach && p.demandee != cle && p.jours == CleDesChiffres(bureau.fenetrePapier)) {
+    DemandeAlmanachPapier(bureau);
+  }
 }
 
 void MontreAlmanach(Bureau &bureau) {
@@ -152,9 +174,10 @@ void MontreAlmanach(Bureau &bureau) {
   f.Avance.visible = p.enCalcul;
   f.Avance.maximum = kMilliemes;
   f.Avance.valeur = p.millieme->load();
-  f.Label2.legende = p.enCalcul ? f.TexteCalcul.legende
-                     : !pages.pages || !p.almanach
-                         ? f.TexteAttend.legende
+  f.Label2.legende = p.enCalcul                    ? f.TexteCalcul.legende
+                     : !pages.pages || !p.almanach ? f.TexteAttend.legende
+                     : !SontBonnes(bureau, OngletPapier::Almanach)
+                         ? f.TexteAutres.legende
                          : std::to_string(p.almanach->jours.size()) + f.TexteJours.legende + ", " +
                                std::to_string(pages.pages->size()) + f.TextePages.legende;
 }
@@ -162,7 +185,7 @@ void MontreAlmanach(Bureau &bureau) {
 void MontrePage(Bureau &bureau) {
   FenetrePapier &f = bureau.fenetrePapier;
   const PagesOuvertes &vues = PagesVues(bureau);
-  const std::size_t nombre = vues.pages ? vues.pages->size() : 0;
+  const std::size_t nombre = SontBonnes(bureau, OngletVu(f)) ? vues.pages->size() : 0;
   f.Feuille.feuillet = nombre == 0 ? nullptr : std::shared_ptr<const Feuillet>(vues.pages, &(*vues.pages)[vues.rang]);
   f.LabPage.legende = nombre == 0 ? f.TexteSansPage.legende
                                   : f.TextePage.legende + std::to_string(vues.rang + 1) + " / " +
@@ -171,7 +194,14 @@ void MontrePage(Bureau &bureau) {
   f.Page[1].actif = vues.rang + 1 < nombre;
   f.Command2[0].actif = nombre > 0;
   f.Command2[1].actif = nombre > 0;
-  f.Command2[2].actif = OngletVu(f) == OngletPapier::Almanach && bureau.papier.almanach;
+  f.Command2[2].actif = OngletVu(f) == OngletPapier::Almanach && nombre > 0;
+}
+
+/// The words on the first field that can't be used; of the latitudes they name the one.
+std::string FauteVue(FenetrePapier &f) {
+  const bool latitudes =
+      OngletVu(f) == OngletPapier::Almanach && f.Text1[0].alerte.empty() && f.Text1[1].alerte.empty();
+  return latitudes ? f.Text1[2].alerte : PremiereFaute(Liste(f));
 }
 
 void Montre(Bureau &bureau) {
@@ -186,26 +216,14 @@ void Montre(Bureau &bureau) {
   f.cadre.titre = f.Onglets1.texte;
   MontreAlmanach(bureau);
   MontrePage(bureau);
-  if (std::string faute = PremiereFaute(Liste(f)); !faute.empty()) {
+  if (std::string faute = FauteVue(f); !faute.empty()) {
     f.LabAvis.legende = std::move(faute);
   }
 }
 
-/// Asks for a file to write; the window's title, which the dialog makes of a sight's file, stays.
-fs::path ChoisitSortie(Bureau &bureau, const Controle &bouton, const std::string &nom, const std::string &suffixe) {
-  const std::string avant = bureau.TitreFichier;
-  fs::path chemin = ChoisitFichier(bureau, bouton.legende, nom + suffixe, "*" + suffixe);
-  bureau.TitreFichier = avant;
-  bureau.premierPlan = kFenetrePapier;
-  if (!chemin.empty() && chemin.extension() != suffixe) {
-    chemin += suffixe;
-  }
-  return chemin;
-}
-
-std::string NomDesPages(Bureau &bureau) {
-  static constexpr std::array<const char *, kOngletsPapier> kNoms = {"almanach", "fiche", "journee", "feuille"};
-  return kNoms.at(static_cast<std::size_t>(OngletVu(bureau.fenetrePapier)));
+std::string NomDesPages(const Bureau &bureau) {
+  const FenetrePapier &f = bureau.fenetrePapier;
+  return f.MotFichier.at(static_cast<std::size_t>(OngletVu(f))).legende;
 }
 
 /// Writes bytes into a file, and says in the window what became of it.
@@ -222,7 +240,8 @@ void EcritPages(Bureau &bureau) {
   FenetrePapier &f = bureau.fenetrePapier;
   PapierOuvert &p = bureau.papier;
   const std::shared_ptr<const Feuillets> pages = PagesVues(bureau).pages;
-  const fs::path chemin = ChoisitSortie(bureau, f.Command2[0], NomDesPages(bureau), ".pdf");
+  const fs::path chemin =
+      ChoisitSortie(bureau, f.Command2[0].legende, NomDesPages(bureau) + ".pdf", "*.pdf", kFenetrePapier);
   if (chemin.empty() || !pages || p.enEcriture) {
     return;
   }
@@ -239,9 +258,22 @@ void EcritPages(Bureau &bureau) {
   });
 }
 
+void ImprimePages(Bureau &bureau) {
+  FenetrePapier &f = bureau.fenetrePapier;
+  const auto pages = PagesVues(bureau).pages;
+  if (!pages) {
+    return;
+  }
+  const std::optional<std::size_t> imprimees = bureau.ports.imprimeFeuillets(*pages);
+  f.LabAvis.legende = !imprimees        ? f.TexteImpression.legende
+                      : *imprimees == 0 ? ""
+                                        : f.TexteImprimees.legende + std::to_string(*imprimees);
+}
+
 void EcritCsv(Bureau &bureau) {
   const std::shared_ptr<const Almanach> almanach = bureau.papier.almanach;
-  const fs::path chemin = ChoisitSortie(bureau, bureau.fenetrePapier.Command2[2], "almanach", ".csv");
+  const fs::path chemin = ChoisitSortie(bureau, bureau.fenetrePapier.Command2[2].legende,
+                                        bureau.fenetrePapier.MotFichier[0].legende + ".csv", "*.csv", kFenetrePapier);
   if (!chemin.empty() && almanach) {
     EcritEtDit(bureau, chemin, EcritAlmanachCsv(*almanach));
   }
@@ -270,9 +302,9 @@ void AccordePapier(Bureau &bureau) {
   }
   if (std::exchange(p.langue, bureau.FichierLangue) != bureau.FichierLangue) {
     f.LabAvis.legende.clear();
-    RefaitPages(bureau);
     p.aMontrer = true;
   }
+  SuitCeQuiChange(bureau);
   if (std::exchange(p.aMontrer, false) || p.enCalcul) {
     Montre(bureau);
   }
@@ -331,9 +363,7 @@ void Command2_Click(Bureau &bureau, int indice) {
     EcritPages(bureau);
     break;
   case 1:
-    if (const auto pages = PagesVues(bureau).pages; pages && !bureau.ports.imprimeFeuillets(*pages)) {
-      f.LabAvis.legende = f.TexteImpression.legende;
-    }
+    ImprimePages(bureau);
     break;
   case 2:
     EcritCsv(bureau);

@@ -8,6 +8,7 @@
 #include "shell/papier/MotsDesPages.hpp"
 #include "shell/point/MotsPoint.hpp"
 #include "shell/point/TracePoint.hpp"
+#include "shell/visee/ChampsJuges.hpp"
 #include "shell/visee/Saisie.hpp"
 
 #include <algorithm>
@@ -61,12 +62,17 @@ std::optional<DroiteDuJour> DroiteSeule(const ViseeDuPoint &visee, const std::st
                       .comptee = visee.cochee};
 }
 
+/// @param datee  the time bears its day: the page has sights of several
 std::array<std::string, kColonnesJour> RangeeDuJour(const Bureau &bureau, const ViseeDuPoint &visee,
-                                                    const ResiduPoint *residu) {
+                                                    const ResiduPoint *residu, bool datee) {
   std::array<std::string, kColonnesJour> mots;
   const Observation &o = visee.observation;
   mots[0] = NomDeVisee(bureau.donnees, o);
-  mots[1] = visee.hauteur ? TexteHeureUtc(visee.hauteur->utc) : "";
+  if (visee.hauteur) {
+    constexpr std::size_t kJourMois = 5;
+    const InstantUTC &utc = visee.hauteur->utc;
+    mots[1] = (datee ? TexteDate(utc).substr(0, kJourMois) + " " : "") + TexteHeureUtc(utc);
+  }
   FicheControle fiche;
   if (visee.dit) {
     fiche = ControleVisee(o, *visee.dit, bureau.etoiles, bureau.verification.reglages);
@@ -89,6 +95,27 @@ std::array<std::string, kColonnesJour> RangeeDuJour(const Bureau &bureau, const 
   return mots;
 }
 
+bool EstDePlusieursJours(const PointOuvert &p) {
+  std::string jour;
+  for (const ViseeDuPoint &visee : p.visees) {
+    const std::string ici = visee.hauteur ? TexteDate(visee.hauteur->utc) : jour;
+    if (!jour.empty() && ici != jour) {
+      return true;
+    }
+    jour = ici;
+  }
+  return false;
+}
+
+/// How many sights the page has, and how many of them count.
+std::string MotsVisees(const FenetrePapier &f, const PointOuvert &p) {
+  const auto comptees =
+      static_cast<std::size_t>(std::count_if(p.visees.begin(), p.visees.end(), [](const auto &v) { return v.cochee; }));
+  const std::string toutes =
+      std::to_string(p.visees.size()) + (p.visees.size() == 1 ? f.TexteVisee : f.TexteVisees).legende;
+  return comptees == p.visees.size() ? toutes : std::to_string(comptees) + f.TexteSur.legende + toutes;
+}
+
 /// Puts the fix that is looked at, its lines and its track into a day.
 void PosePoint(DonneesJour &jour, const Bureau &bureau, const SolutionPoint &solution) {
   const PointOuvert &p = bureau.point;
@@ -96,6 +123,7 @@ void PosePoint(DonneesJour &jour, const Bureau &bureau, const SolutionPoint &sol
   const PointTrace trace = TraceDe(p, solution);
   jour.point = PointDuJour{trace.lieu, trace.ellipse, trace.heure};
   jour.route = trace.route;
+  jour.heures = trace.heures;
   for (std::size_t i = 0; i < solution.residus.size() && i < p.visees.size(); ++i) {
     const ResiduPoint &residu = solution.residus[i];
     const ViseeDuPoint &visee = p.visees[i];
@@ -122,6 +150,8 @@ PagesFaites FichesVoulues(const Bureau &bureau, bool duRegistre, bool blancs, Fo
   std::vector<ViseeNommee> visees;
   if (duRegistre) {
     visees = ViseesChoisies(bureau);
+  } else if (const std::string defaut = DefautDuPanneau(bureau); !defaut.empty()) {
+    return {.pages = {}, .dit = f.TexteSansVisee.legende + defaut};
   } else {
     const Observation observation = LitPanneau(bureau.donnees);
     visees.push_back({observation, NomDeVisee(bureau.donnees, observation)});
@@ -162,10 +192,11 @@ DonneesJour DonneesDuJour(const Bureau &bureau) {
   } else if (!p.visees.empty()) {
     jour.lignes.push_back(bureau.motsPapier.TexteSansPoint.legende);
   }
+  const bool datee = EstDePlusieursJours(p);
   for (std::size_t i = 0; i < p.visees.size(); ++i) {
     const ViseeDuPoint &visee = p.visees[i];
     const bool mesuree = solution != nullptr && i < solution->residus.size();
-    jour.visees.push_back(RangeeDuJour(bureau, visee, mesuree ? &solution->residus[i] : nullptr));
+    jour.visees.push_back(RangeeDuJour(bureau, visee, mesuree ? &solution->residus[i] : nullptr, datee));
     if (solution == nullptr) {
       if (auto droite = DroiteSeule(visee, NomDeVisee(bureau.donnees, visee.observation))) {
         jour.droites.push_back(std::move(*droite));
@@ -178,6 +209,15 @@ DonneesJour DonneesDuJour(const Bureau &bureau) {
   return jour;
 }
 
+std::string DateDuJour(const Bureau &bureau) {
+  const PointOuvert &p = bureau.point;
+  if (p.heure && SolutionRetenue(p) != nullptr) {
+    return TexteDate(*p.heure);
+  }
+  const auto datee = std::find_if(p.visees.rbegin(), p.visees.rend(), [](const auto &v) { return v.hauteur; });
+  return datee == p.visees.rend() ? std::string() : TexteDate(datee->hauteur->utc);
+}
+
 PagesFaites JourVoulu(const Bureau &bureau, FormatPapier format) {
   const FenetrePapier &f = bureau.fenetrePapier;
   const PointOuvert &p = bureau.point;
@@ -187,13 +227,8 @@ PagesFaites JourVoulu(const Bureau &bureau, FormatPapier format) {
     return faites;
   }
   const DonneesJour jour = DonneesDuJour(bureau);
-  const auto datee = std::find_if(p.visees.rbegin(), p.visees.rend(), [](const auto &v) { return v.hauteur; });
-  const std::string date = p.heure && jour.point      ? TexteDate(*p.heure)
-                           : datee == p.visees.rend() ? std::string()
-                                                      : TexteDate(datee->hauteur->utc);
-  faites.pages = PagesDuJour(jour, format, MotsDuJour(bureau, date));
-  faites.dit = std::to_string(jour.visees.size()) + (jour.visees.size() == 1 ? f.TexteVisee : f.TexteVisees).legende +
-               (jour.point ? f.TextePoint.legende + jour.point->heure : std::string());
+  faites.pages = PagesDuJour(jour, format, MotsDuJour(bureau, DateDuJour(bureau)));
+  faites.dit = MotsVisees(f, p) + (jour.point ? f.TextePoint.legende + jour.point->heure : std::string());
   return faites;
 }
 

@@ -25,6 +25,9 @@ PagesFaites FichesVoulues(const Bureau &bureau, bool duRegistre, bool blancs, Fo
 /// What the day's page has: of the fix's window its lines, track, fix and sights; of this window the weather.
 DonneesJour DonneesDuJour(const Bureau &bureau);
 
+/// The day of the fix, else of the last sight; empty without any.
+std::string DateDuJour(const Bureau &bureau);
+
 /// The day's pages.
 PagesFaites JourVoulu(const Bureau &bureau, FormatPapier format);
 

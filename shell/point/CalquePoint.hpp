@@ -22,7 +22,8 @@ struct PointTrace {
   EllipsePoint ellipse;
   std::string heure; ///< what stands beside it
   std::vector<DroiteDuPoint> droites;
-  std::vector<LieuNavire> route; ///< the track, from the first sight to the fix or from the fix to the last sight
+  std::vector<std::string> heures; ///< of the track's places
+  std::vector<LieuNavire> route;   ///< the track, from the first sight to the fix or from the fix to the last sight
 };
 
 /// The layer of a fix, by the scales in force: advanced lines thin, the ellipse, the track, the place as a ringed dot

@@ -10,7 +10,7 @@ namespace velmaris {
 namespace {
 
 /// The track of a fix: the ship's places at the sights, at the beginning of each leg between them, and at the fix.
-std::vector<LieuNavire> RouteDe(const PointOuvert &point, const SolutionPoint &solution) {
+void PoseRoute(PointTrace &trace, const PointOuvert &point, const SolutionPoint &solution) {
   std::vector<std::pair<InstantUTC, LieuNavire>> lieux = {{*point.heure, solution.lieu}};
   for (std::size_t i = 0; i < solution.residus.size(); ++i) {
     if (solution.residus[i].utilisee && point.visees.at(i).hauteur) {
@@ -27,12 +27,10 @@ std::vector<LieuNavire> RouteDe(const PointOuvert &point, const SolutionPoint &s
     }
   }
   std::sort(lieux.begin(), lieux.end(), avant);
-  std::vector<LieuNavire> route;
-  route.reserve(lieux.size());
   for (const auto &[instant, lieu] : lieux) {
-    route.push_back(lieu);
+    trace.route.push_back(lieu);
+    trace.heures.push_back(TexteHeureMinute(instant));
   }
-  return route;
 }
 
 } // namespace
@@ -53,7 +51,9 @@ PointTrace TraceDe(const PointOuvert &point, const SolutionPoint &solution) {
                    .ellipse = solution.ellipse,
                    .heure = TexteHeureUtc(*point.heure).substr(0, kHeureMinute),
                    .droites = {},
-                   .route = RouteDe(point, solution)};
+                   .heures = {},
+                   .route = {}};
+  PoseRoute(trace, point, solution);
   for (std::size_t i = 0; i < solution.residus.size(); ++i) {
     const ResiduPoint &residu = solution.residus[i];
     if (residu.utilisee) {

@@ -44,15 +44,19 @@ std::string Mots(const Bureau &bureau, std::size_t champ, Verdict verdict) {
   return nom + " " + d.TexteDefaut.at(rang).legende;
 }
 
+/// The words on the list of a kind of body, of a sight of that kind which has chosen none.
+std::string MotsListe(const Bureau &bureau, const Observation &o, Corps corps) {
+  const std::size_t nom = corps == Corps::Planetes ? kNomPlanete : kNomEtoile;
+  return o.corps == corps && SansAstreChoisi(o)
+             ? bureau.donnees.Nom.at(nom).legende + " : " + bureau.etat.TexteManque.legende
+             : std::string();
+}
+
 /// The lists that a star or a planet is chosen from.
 void JugeListes(Bureau &bureau, const Observation &o) {
   Donnees &d = bureau.donnees;
-  const auto mots = [&](Corps corps, std::size_t nom) {
-    return o.corps == corps && SansAstreChoisi(o) ? d.Nom.at(nom).legende + " : " + bureau.etat.TexteManque.legende
-                                                  : std::string();
-  };
-  d.Combo7.alerte = mots(Corps::Planetes, kNomPlanete);
-  d.Combo6.alerte = mots(Corps::Etoiles, kNomEtoile);
+  d.Combo7.alerte = MotsListe(bureau, o, Corps::Planetes);
+  d.Combo6.alerte = MotsListe(bureau, o, Corps::Etoiles);
   d.Combo8.alerte = d.Combo6.alerte;
 }
 
@@ -76,6 +80,18 @@ void JugeChamps(Bureau &bureau) {
   }
   JugeListes(bureau, o);
   JugeResultats(bureau, o);
+}
+
+std::string DefautDuPanneau(const Bureau &bureau) {
+  const Observation o = LitPanneau(bureau.donnees);
+  constexpr std::size_t kLecture = 10;
+  std::string mots = EstCommencee(o) ? MotsListe(bureau, o, Corps::Planetes) + MotsListe(bureau, o, Corps::Etoiles)
+                                     : Mots(bureau, kLecture, Verdict::Vide);
+  const std::array<Verdict, kChampsVisee> verdicts = JugeVisee(o);
+  for (std::size_t i = 0; i < verdicts.size() && mots.empty(); ++i) {
+    mots = Mots(bureau, i, verdicts.at(i));
+  }
+  return mots;
 }
 
 std::string MotsAlerte(const Bureau &bureau) {

@@ -10,6 +10,10 @@ namespace velmaris {
 /// those of the fields. It changes no text and no value.
 void JugeChamps(Bureau &bureau);
 
+/// The words on the first field or list of the panel that is to be mended, by what it holds now.
+/// @return empty for a whole sight
+std::string DefautDuPanneau(const Bureau &bureau);
+
 /// The words on the field that the user is in, or else on the first one that is to be mended.
 /// @return empty when none is, or the sight's module doesn't show
 std::string MotsAlerte(const Bureau &bureau);

@@ -3,11 +3,14 @@
 #include "shell/papier/Papier.hpp"
 #include "shell/papier/SourcesPapier.hpp"
 #include "shell/qt/peinture/FeuilletQt.hpp"
+#include "shell/qt/systeme/Imprimante.hpp"
 #include "shell/qt/widgets/Papier.hpp"
 
 #include <QDialog>
 #include <QImage>
+#include <QPageRanges>
 #include <QPdfWriter>
+#include <QPrinter>
 #include <QProcess>
 #include <QTemporaryDir>
 
@@ -81,6 +84,54 @@ TEST_F(FenetreDesPages, ItHasRoomForItsWordsInBothLanguages) {
     fenetre.reset();
     bureau.fenetrePapier.cadre.visible = false;
   }
+}
+
+TEST_F(FenetreDesPages, EveryWarningHasRoomInItsLine) {
+  FenetrePapier &f = bureau.fenetrePapier;
+  for (const bool anglais : {false, true}) {
+    OuvrePages(kPetitEcran, anglais);
+    const auto tape = [&](Controle &champ, const char *texte) {
+      const std::string avant = champ.texte;
+      Joue([&] { SaisitTexte(bureau, champ, texte); });
+      EXPECT_FALSE(f.LabAvis.legende.empty()) << texte;
+      RienDeCoupe(*papier, nullptr);
+      Joue([&] { SaisitTexte(bureau, champ, avant); });
+    };
+    tape(f.Text1[0], "31/02/2026");
+    tape(f.Text1[0], "01/01/1850");
+    tape(f.Text1[1], "31/12/2099");
+    tape(f.Text1[2], "65 N, 60 N, 55 N, 50 N, 45, 40 N, 35 N, 30 N");
+    Vers(OngletPapier::Vierge);
+    tape(f.Text3[0], "84 30 N");
+    tape(f.Text3[1], "12000");
+    fenetre.reset();
+    f.cadre.visible = false;
+    f.Onglets1.rang = 0;
+  }
+}
+
+TEST(PagesAImprimer, OnlyThePagesOfTheDialogsRangeArePrinted) {
+  std::vector<Feuillet> pages(5);
+  for (std::size_t i = 0; i < pages.size(); ++i) {
+    pages[i].titre = std::to_string(i + 1);
+  }
+  const auto choisis = [&](const QPrinter &imprimante) {
+    std::string titres;
+    for (const Feuillet &page : qt::FeuilletsChoisis(pages, imprimante)) {
+      titres += page.titre;
+    }
+    return titres;
+  };
+  QPrinter toutes;
+  EXPECT_EQ(choisis(toutes), "12345");
+  QPrinter deDeuxATrois;
+  deDeuxATrois.setPrintRange(QPrinter::PageRange);
+  deDeuxATrois.setFromTo(2, 3);
+  EXPECT_EQ(choisis(deDeuxATrois), "23");
+  QPrinter plages;
+  plages.setPrintRange(QPrinter::PageRange);
+  plages.setPageRanges(QPageRanges::fromString("1,4-9"));
+  EXPECT_EQ(choisis(plages), "145");
 }
 
 TEST_F(FenetreDesPages, PagesKeepTheirWordsApartAndInside) {

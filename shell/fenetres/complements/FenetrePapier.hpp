@@ -54,12 +54,13 @@ struct FenetrePapier {
 
   /// Words that no control shows.
   std::array<Controle, kOngletsPapier> MotOnglet;
-  std::array<Controle, 2> MotFormat; ///< in the order of `FormatPapier`
-  std::array<Controle, 2> MotOrdre;  ///< in the order of `OrdreEtoiles`
-  std::array<Controle, 5> MotDefaut; ///< in the order of `DefautAlmanach`
-  Controle TexteHors, TexteAttend, TexteCalcul, TexteArrete, TexteJours, TextePages, TextePage, TexteSansVisee,
-      TexteSansChoix, TexteVisees, TexteVisee, TexteSansPoint, TextePoint, TexteSansPage, TexteEcrit, TexteRefusees,
-      TexteEcriture, TexteEchec, TexteImpression;
+  std::array<Controle, kOngletsPapier> MotFichier; ///< name of a tab's file
+  std::array<Controle, 2> MotFormat;               ///< in the order of `FormatPapier`
+  std::array<Controle, 2> MotOrdre;                ///< in the order of `OrdreEtoiles`
+  std::array<Controle, 5> MotDefaut;               ///< in the order of `DefautAlmanach`
+  Controle TexteHors, TexteAttend, TexteAutres, TexteCalcul, TexteArrete, TexteJours, TextePages, TextePage,
+      TexteSansVisee, TexteSansChoix, TexteVisees, TexteVisee, TexteSur, TexteSansPoint, TextePoint, TexteSansPage,
+      TexteEcrit, TexteRefusees, TexteEcriture, TexteEchec, TexteImpression, TexteImprimees;
 
   CadreFenetre cadre{kFenetrePapier, "", 14400, 9000, false, 14400, 9000};
 };

@@ -76,9 +76,9 @@ struct FenetreSerie {
   Controle TexteHors, TexteGeste, TexteGesteMidi, TexteImprobable, TexteEcartee, TexteAttend, TextePlusHaute,
       TexteAlarme, TexteErreur, TexteStudent, TexteLectures, TexteCiel, TexteTrouvee, TextePiste, TexteHeures,
       TexteSansPiste, TexteNord, TexteSud, TexteInferieur, TexteVersPassage, TexteEnRoute, TexteSansSommet, TexteLent,
-      TexteRetarde, TexteAvance, TexteGarde, TexteSansLune, TexteSansSerie, TexteSansMidi, TexteLatitudeSeule,
-      TextePrise, TexteRien, TexteVenues, TexteLigne, TexteEcrit, TextePleine, TexteHorsListe, TextePeu,
-      TexteSansEgales, TexteSeconde, TexteMalgre;
+      TexteRetarde, TexteAvance, TexteGarde, TexteDejaGarde, TexteSansLune, TexteSansSerie, TexteSansMidi,
+      TexteLatitudeSeule, TextePrise, TexteRien, TexteVenues, TexteLigne, TexteEcrit, TextePleine, TexteHorsListe,
+      TextePeu, TexteSansEgales, TexteSeconde, TexteMalgre;
 
   Surface dessin, dessinMidi; ///< what `Dessin` and `DessinMidi` show
 

@@ -38,7 +38,7 @@ struct Preparation {
   std::array<Controle, 2> Label6, Text3; ///< magnitude, assumed error
   std::array<Controle, 2> Mieux;         ///< moments of the best sets
   Controle Jeux, Esquisse, Label7;
-  Controle Label14, Lunaires;               ///< bodies for a lunar distance
+  Controle Label14, Lunaires; ///< bodies for a lunar distance
   std::array<Controle, 3> Label8;
   Controle Combo1;                          ///< body of the compass bearing
   std::array<Controle, 2> Text4;            ///< compass bearing, variation

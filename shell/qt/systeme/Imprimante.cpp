@@ -33,8 +33,8 @@ QString FichierPropose() {
   return (documents.exists() ? documents : QDir::home()).filePath("Velmaris.pdf");
 }
 
-/// Lets the user choose where to print. @return false when they gave up
-bool Choisit(QPrinter &imprimante, QPageLayout::Orientation orientation, QWidget *parent) {
+/// Lets the user choose where to print, and of several pages which. @return false when they gave up
+bool Choisit(QPrinter &imprimante, QPageLayout::Orientation orientation, QWidget *parent, int pages = 1) {
   imprimante.setDocName("Velmaris");
   imprimante.setCreator("Velmaris");
   imprimante.setPageOrientation(orientation);
@@ -43,6 +43,10 @@ bool Choisit(QPrinter &imprimante, QPageLayout::Orientation orientation, QWidget
   }
   QPrintDialog choix(&imprimante, parent);
   choix.setOptions(QAbstractPrintDialog::PrintToFile);
+  if (pages > 1) {
+    choix.setOption(QAbstractPrintDialog::PrintPageRange);
+    choix.setMinMax(1, pages);
+  }
   // The toolkit's list of the folder's files opens over the field when the disk has answered, and takes the Return that
   // was meant for the dialog.
   for (QLineEdit *champ : choix.findChildren<QLineEdit *>()) {
@@ -68,18 +72,41 @@ bool Imprime(const Impression &page, QWidget *parent, const std::filesystem::pat
   return PeintFeuille(page, imprimante) && imprimante.printerState() != QPrinter::Error;
 }
 
-bool ImprimeFeuillets(const std::vector<Feuillet> &feuillets, QWidget *parent, const std::filesystem::path &registre) {
+std::vector<Feuillet> FeuilletsChoisis(const std::vector<Feuillet> &feuillets, const QPrinter &imprimante) {
+  if (imprimante.printRange() != QPrinter::PageRange) {
+    return feuillets;
+  }
+  std::vector<Feuillet> choisis;
+  for (std::size_t i = 0; i < feuillets.size(); ++i) {
+    const int page = static_cast<int>(i) + 1;
+    const bool plages = !imprimante.pageRanges().isEmpty();
+    const bool bornee = page >= imprimante.fromPage() && (imprimante.toPage() == 0 || page <= imprimante.toPage());
+    if (plages ? imprimante.pageRanges().contains(page) : bornee) {
+      choisis.push_back(feuillets[i]);
+    }
+  }
+  return choisis;
+}
+
+std::optional<std::size_t> ImprimeFeuillets(const std::vector<Feuillet> &feuillets, QWidget *parent,
+                                            const std::filesystem::path &registre) {
   QPrinter imprimante(QPrinter::HighResolution);
   const bool couche = !feuillets.empty() && feuillets.front().largeur > feuillets.front().hauteur;
-  if (!Choisit(imprimante, couche ? QPageLayout::Landscape : QPageLayout::Portrait, parent)) {
-    return true;
+  if (!Choisit(imprimante, couche ? QPageLayout::Landscape : QPageLayout::Portrait, parent,
+               static_cast<int>(feuillets.size()))) {
+    return 0;
   }
+  const std::vector<Feuillet> choisis = FeuilletsChoisis(feuillets, imprimante);
+  bool faite = false;
   if (imprimante.outputFormat() == QPrinter::PdfFormat) {
-    const std::string octets = OctetsPdf(feuillets, {});
-    return !octets.empty() && Passe([&] { EcritFichier(imprimante.outputFileName().toStdString(), octets, registre); });
+    const std::string octets = choisis.empty() ? std::string() : OctetsPdf(choisis, {});
+    faite =
+        !octets.empty() && Passe([&] { EcritFichier(imprimante.outputFileName().toStdString(), octets, registre); });
+  } else {
+    imprimante.setFullPage(true);
+    faite = PeintFeuillets(choisis, imprimante, {}) && imprimante.printerState() != QPrinter::Error;
   }
-  imprimante.setFullPage(true);
-  return PeintFeuillets(feuillets, imprimante, {}) && imprimante.printerState() != QPrinter::Error;
+  return faite ? std::optional(choisis.size()) : std::nullopt;
 }
 
 bool EcritPdf(const Impression &page, const std::filesystem::path &fichier, QPageLayout feuille,

@@ -6,8 +6,10 @@
 #include <QPageLayout>
 
 #include <filesystem>
+#include <optional>
 
 class QPagedPaintDevice;
+class QPrinter;
 class QWidget;
 
 namespace velmaris::qt {
@@ -27,8 +29,12 @@ bool EcritPdf(const Impression &page, const std::filesystem::path &fichier, QPag
 
 /// Lets the user choose a printer or a PDF file, and prints pages there.
 /// @param parent, registre  as for `Imprime`
-/// @return false when it failed; true also when the user gave up
-bool ImprimeFeuillets(const std::vector<Feuillet> &feuillets, QWidget *parent, const std::filesystem::path &registre);
+/// @return how many were printed, 0 when the user gave up; nothing when it failed
+std::optional<std::size_t> ImprimeFeuillets(const std::vector<Feuillet> &feuillets, QWidget *parent,
+                                            const std::filesystem::path &registre);
+
+/// The pages that a print dialog has left of some.
+std::vector<Feuillet> FeuilletsChoisis(const std::vector<Feuillet> &feuillets, const QPrinter &imprimante);
 
 /// Paints the page on the sheet of a printer, at its full size and in the middle; smaller when the sheet is too small.
 /// @return false when the printer fails

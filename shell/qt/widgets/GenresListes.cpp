@@ -1,6 +1,7 @@
 #include "shell/qt/widgets/GenresListes.hpp"
 
 #include "shell/bureau/Evenements.hpp"
+#include "shell/qt/peinture/Grandeur.hpp"
 #include "shell/qt/peinture/Icones.hpp"
 #include "shell/qt/widgets/Elements.hpp"
 #include "shell/qt/widgets/GenreDe.hpp"
@@ -8,9 +9,12 @@
 
 #include <QComboBox>
 #include <QListWidget>
+#include <QPaintEvent>
+#include <QPainter>
 #include <QTabBar>
 
 #include <algorithm>
+#include <cmath>
 
 namespace velmaris::qt {
 namespace {
@@ -51,6 +55,25 @@ protected:
     w.setCurrentIndex(Ligne(c));
   }
   void PoseAlerte(bool alerte) override { w.PoseAlerte(alerte); }
+};
+
+/// Tabs whose current one is underlined: by its ground alone it is hardly told in a night's reds.
+class Onglets : public QTabBar {
+public:
+  using QTabBar::QTabBar;
+
+protected:
+  void paintEvent(QPaintEvent *event) override {
+    constexpr double kTrait = 2.5; // points of the screen at scale 1
+    constexpr int kRetrait = 6;
+    QTabBar::paintEvent(event);
+    if (currentIndex() >= 0) {
+      const QRect onglet = tabRect(currentIndex());
+      const int trait = static_cast<int>(std::lround(std::max(2.0, kTrait * Grandeur(*this))));
+      QPainter(this).fillRect(onglet.left() + kRetrait, onglet.bottom() - trait, onglet.width() - 2 * kRetrait, trait,
+                              palette().color(QPalette::Highlight));
+    }
+  }
 };
 
 class AOnglets : public De<QTabBar> {
@@ -130,7 +153,7 @@ std::unique_ptr<Adaptateur> CreeListeBoite(QWidget *parent) {
 }
 
 std::unique_ptr<Adaptateur> CreeOnglets(QWidget *parent) {
-  auto *onglets = new QTabBar(parent);
+  auto *onglets = new Onglets(parent);
   onglets->setDrawBase(false);
   onglets->setExpanding(false);
   onglets->setUsesScrollButtons(false);

@@ -132,8 +132,13 @@ TEST_F(Fiches, EachSumIsThatOfTheFiguresWrittenAboveIt) {
     const double local = minutes(EtapeFiche::Gha) + minutes(EtapeFiche::LongitudeCalcul);
     EXPECT_NEAR(std::remainder(minutes(EtapeFiche::AngleLocal) - local, 21600.0), 0, 1e-6);
     if (!Valeur(s.fiche, EtapeFiche::DeclinaisonHeure).empty()) {
+      // The hand adds d to the figure that stands above it, whichever side that bears.
+      const double cote = Valeur(s.fiche, EtapeFiche::DeclinaisonHeure).back() == 'S' ? -1 : 1;
       EXPECT_NEAR(minutes(EtapeFiche::Declinaison),
-                  minutes(EtapeFiche::DeclinaisonHeure) + minutes(EtapeFiche::VariationDeclinaison), 1e-6);
+                  minutes(EtapeFiche::DeclinaisonHeure) + cote * minutes(EtapeFiche::VariationDeclinaison), 1e-6);
+      const double part = (s.visee.date.minute + s.visee.date.seconde / 60) / 60;
+      EXPECT_NEAR(minutes(EtapeFiche::VariationDeclinaison), minutes(EtapeFiche::DHoraire) * part, 0.051);
+      EXPECT_NEAR(minutes(EtapeFiche::VariationGha), minutes(EtapeFiche::VHoraire) * part, 0.051);
     }
     const double produits =
         std::stod(Valeur(s.fiche, EtapeFiche::ProduitSinus)) + std::stod(Valeur(s.fiche, EtapeFiche::ProduitCosinus));

@@ -112,7 +112,8 @@ TEST_F(PagesAImprimer, WhatCantBePrintedIsMarkedAndSaid) {
        {std::array<const char *, 4>{"31/02/2026", "01/03/2026", "", "hors limites"},
         {"01/03/2026", "01/02/2026", "", "la fin avant le début"},
         {"01/01/2026", "01/04/2027", "", "plus de 400 jours"},
-        {"01/01/2026", "02/01/2026", "95 N", "hors limites"}}) {
+        {"01/01/2026", "02/01/2026", "95 N", "95 N : latitude sans N ni S"},
+        {"01/01/2026", "02/01/2026", "50 N, 45", "45 : latitude sans N ni S"}}) {
     Demande(de, a, latitudes);
     EXPECT_THAT(p.LabAvis.legende, HasSubstr(mots));
     EXPECT_EQ(p.Feuille.feuillet, nullptr);
@@ -134,9 +135,12 @@ TEST_F(PagesAImprimer, AWorkThatIsStoppedLeavesWhatThereWas) {
   ClicControle(bureau, p.Command1[1]);
   travail()();
   Accorde();
-  EXPECT_EQ(p.Feuille.feuillet, avant);
   EXPECT_FALSE(p.Avance.visible);
   EXPECT_EQ(p.LabAvis.legende, p.TexteArrete.legende);
+  EXPECT_EQ(p.Feuille.feuillet, nullptr) << "the fields ask for other days than there are";
+  SaisitTexte(bureau, p.Text1[1], "01/01/2026");
+  Accorde();
+  EXPECT_EQ(p.Feuille.feuillet, avant);
 }
 
 TEST_F(PagesAImprimer, TheAlmanacGoesIntoAPdfAndARowsFile) {
@@ -239,6 +243,155 @@ TEST_F(PagesAImprimer, ABlankSheetTakesLatitudesUnderEightyFour) {
   Accorde();
   EXPECT_THAT(p.LabAvis.legende, HasSubstr("84 au plus"));
   EXPECT_EQ(p.Feuille.feuillet, nullptr);
+}
+
+TEST_F(PagesAImprimer, ABlankSheetEndsShortOfThePole) {
+  Montre(OngletPapier::Vierge);
+  SaisitTexte(bureau, p.Text3[0], "84 N");
+  SaisitTexte(bureau, p.Text3[1], "600");
+  Accorde();
+  EXPECT_NE(p.Feuille.feuillet, nullptr);
+  SaisitTexte(bureau, p.Text3[1], "601");
+  Accorde();
+  EXPECT_EQ(p.Feuille.feuillet, nullptr) << "its upper edge would lie beyond 89 degrees";
+}
+
+TEST_F(PagesAImprimer, PagesOfOtherDaysAreNotShownAsThoseOfTheFields) {
+  PoseImprimeur();
+  Montre(OngletPapier::Almanach);
+  Demande("01/01/2026", "02/01/2026", "45 N");
+  const auto avant = p.Feuille.feuillet;
+  SaisitTexte(bureau, p.Text1[1], "03/01/2026");
+  Accorde();
+  EXPECT_EQ(p.Feuille.feuillet, nullptr);
+  EXPECT_FALSE(p.Command2[0].actif);
+  EXPECT_FALSE(p.Command2[1].actif);
+  EXPECT_FALSE(p.Command2[2].actif);
+  EXPECT_EQ(p.Label2.legende, p.TexteAutres.legende);
+  SaisitTexte(bureau, p.Text1[1], "02/01/2026");
+  Accorde();
+  EXPECT_EQ(p.Feuille.feuillet, avant);
+  EXPECT_TRUE(p.Command2[0].actif);
+}
+
+TEST_F(PagesAImprimer, AnotherPaperOrderOrLanguageMakesTheAlmanacAnewAtOnce) {
+  Montre(OngletPapier::Almanach);
+  Demande("01/01/2026", "01/01/2026", "45 N");
+  ChoisitLigne(bureau, p.Combo1, 1);
+  Accorde();
+  Accorde();
+  ASSERT_NE(p.Feuille.feuillet, nullptr);
+  EXPECT_EQ(p.Feuille.feuillet->largeur, TailleDuPapier(FormatPapier::Lettre).x);
+  const std::size_t tout = bureau.papier.onglets[0].pages->size();
+  ClicCase(bureau, p.Check1[2]);
+  Accorde();
+  Accorde();
+  EXPECT_LT(bureau.papier.onglets[0].pages->size(), tout);
+  const std::string francais = MotsVus();
+  ClicControle(bureau, d.Image10[1]);
+  Accorde();
+  Accorde();
+  EXPECT_NE(MotsVus(), francais);
+  EXPECT_EQ(p.MotFichier[0].legende, "almanac");
+}
+
+TEST_F(PagesAImprimer, ACommaBetweenFiguresIsADecimalOneInALatitude) {
+  Montre(OngletPapier::Almanach);
+  const auto latitudes = [&](const char *texte) {
+    SaisitTexte(bureau, p.Text1[2], texte);
+    const auto demande = LitDemandeAlmanach(bureau);
+    return demande ? demande->latitudes : std::vector<double>{999};
+  };
+  EXPECT_THAT(latitudes("50,5 N, 45 N"), testing::ElementsAre(50.5, 45));
+  EXPECT_THAT(latitudes("50N,45N;10 s"), testing::ElementsAre(50, 45, -10));
+  EXPECT_THAT(latitudes("10 N 0, 10 S"), testing::ElementsAre(10, 0, -10));
+  EXPECT_THAT(latitudes("-35, +20"), testing::ElementsAre(-35, 20));
+  EXPECT_THAT(latitudes("50, 45, 40"), testing::ElementsAre(999));
+  EXPECT_THAT(latitudes(""), IsEmpty());
+}
+
+TEST_F(PagesAImprimer, TheWorksheetFollowsThePanelAndOneToBeFilledInMakesNone) {
+  TapeVisee();
+  Montre(OngletPapier::Fiche);
+  const std::string avant = MotsVus();
+  Tape(d.Text13, "33");
+  Accorde();
+  EXPECT_NE(MotsVus(), avant);
+  Tape(d.Text8, "");
+  Accorde();
+  EXPECT_EQ(p.Feuille.feuillet, nullptr);
+  EXPECT_FALSE(p.Command2[0].actif);
+  EXPECT_THAT(p.Label3.legende, HasSubstr("à remplir"));
+}
+
+TEST_F(PagesAImprimer, ASightThatIsntBegunMakesNoWorksheet) {
+  Montre(OngletPapier::Fiche);
+  EXPECT_EQ(p.Feuille.feuillet, nullptr);
+  EXPECT_THAT(p.Label3.legende, HasSubstr("à remplir"));
+}
+
+TEST_F(PagesAImprimer, TheDaysPageFollowsItsSights) {
+  TapeVisee();
+  Calcule();
+  Montre(OngletPapier::Jour);
+  const auto avant = p.Feuille.feuillet;
+  bureau.point.visees[0].cochee = false;
+  Accorde();
+  EXPECT_NE(p.Feuille.feuillet, avant);
+}
+
+TEST_F(PagesAImprimer, TheWeatherBelongsToItsDay) {
+  TapeVisee();
+  Calcule();
+  Montre(OngletPapier::Jour);
+  SaisitTexte(bureau, p.Text2[0], "SW 5");
+  Accorde();
+  const std::string jour = bureau.papier.jourMeteo;
+  bureau.point.visees.front().hauteur->utc = PlusTard(bureau.point.visees.front().hauteur->utc, 86400);
+  bureau.point.visees.front().identite += "x";
+  Accorde();
+  EXPECT_EQ(p.Text2[0].texte, "") << "another day's";
+  SaisitTexte(bureau, p.Text2[0], "N 2");
+  ClicControle(bureau, p.Command2[3]);
+  bureau.papier.meteos.clear(); // as at a start
+  bureau.papier.meteoReprise = false;
+  bureau.papier.jourMeteo.clear();
+  p.Text2[0].texte.clear();
+  bureau.point.visees.front().hauteur->utc = PlusTard(bureau.point.visees.front().hauteur->utc, -86400);
+  Montre(OngletPapier::Jour);
+  EXPECT_EQ(bureau.papier.jourMeteo, jour);
+  EXPECT_EQ(p.Text2[0].texte, "SW 5");
+}
+
+TEST_F(PagesAImprimer, AFileThatIsThereIsReplacedAfterAQuestionOnly) {
+  PoseImprimeur();
+  Montre(OngletPapier::Vierge);
+  const auto chemin = dossier.chemin() / "feuille.pdf";
+  Pose(chemin, "avant");
+  reponse = false;
+  int fois = 0;
+  Jouera([&] {
+    if (fois++ == 0) {
+      Donne(chemin.string());
+    }
+  });
+  ClicControle(bureau, p.Command2[0]);
+  EXPECT_EQ(LitFichier(chemin), "avant");
+  EXPECT_EQ(ouvertures, 2) << "after a no the dialog asks again";
+  ASSERT_EQ(boites.size(), 1U);
+  EXPECT_TRUE(boites[0].question && boites[0].nonParDefaut);
+  reponse = true;
+  Jouera([&] { Donne(chemin.string()); });
+  ClicControle(bureau, p.Command2[0]);
+  EXPECT_THAT(LitFichier(chemin), HasSubstr("%PDF"));
+}
+
+TEST_F(PagesAImprimer, APathWithoutItsEndingGetsIt) {
+  PoseImprimeur();
+  Montre(OngletPapier::Vierge);
+  Jouera([&] { Donne((dossier.chemin() / "jour").string()); });
+  ClicControle(bureau, p.Command2[0]);
+  EXPECT_THAT(LitFichier(dossier.chemin() / "jour.pdf"), HasSubstr("%PDF"));
 }
 
 TEST_F(PagesAImprimer, PaperAndFieldsAreThereAtTheNextStart) {
