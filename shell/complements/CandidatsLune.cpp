@@ -29,6 +29,11 @@ std::vector<Astre> AstresPourLaLune() {
   return astres;
 }
 
+/// Near the horizon the air makes any pace of a distance, and below it there is none.
+bool DitSaCadence(const CandidatLunaire &c) {
+  return c.raison != RaisonSansLunaire::LuneBasse && c.raison != RaisonSansLunaire::AstreBas;
+}
+
 } // namespace
 
 std::vector<CandidatLunaire> CandidatsLune(const InstantUTC &utc, const LieuNavire &lieu, double hauteurOeil,
@@ -46,7 +51,8 @@ void PoseCandidatsLune(const Bureau &bureau, const std::vector<CandidatLunaire> 
   std::vector<RangeeTexte> rangees;
   for (const CandidatLunaire &c : candidats) {
     RangeeTexte r;
-    r.textes = {NomDAstre(bureau, c.astre), TexteAngleSigne(c.vue.distance), DixiemesSignes(c.cadence),
+    r.textes = {NomDAstre(bureau, c.astre), TexteAngleSigne(c.vue.distance),
+                DitSaCadence(c) ? DixiemesSignes(c.cadence) : std::string(),
                 c.raison ? f.MotRaison.at(static_cast<std::size_t>(*c.raison)).legende
                          : f.MotBordDistance.at(static_cast<std::size_t>(c.bordLune)).legende +
                                ", 1' : " + Format(c.secondes, "0") + " s"};

@@ -249,6 +249,16 @@ bool Correspond(std::string_view nom, std::string_view motif) {
   return motif.find_first_not_of('*', m) == std::string_view::npos;
 }
 
+/// Whether a typed path is that of a file to write, without its extension: no folder is there.
+bool EstFichierSansSuffixe(const Bureau &bureau, const std::string &nom) {
+  std::error_code inconnu;
+  const fs::path chemin(nom);
+  return !bureau.fselect.suffixe.empty() && nom.find_first_of("?*") == std::string::npos && chemin.has_filename() &&
+         chemin.filename() != "~" && chemin.filename() != "." && chemin.filename() != ".." && !chemin.has_extension() &&
+         !fs::is_directory(Absolu(bureau, nom), inconnu) &&
+         fs::is_directory(Absolu(bureau, nom).parent_path(), inconnu);
+}
+
 /// The typed folder can't be shown; the keyboard comes back to its name.
 void DitSansDossier(Bureau &bureau, const std::string &nom) {
   FSelect &f = bureau.fselect;
@@ -359,6 +369,9 @@ void OK_Click(Bureau &bureau, int /*indice*/) {
   bool navigation = false;
   std::string nom = f.FName.texte;
   if (nom == "~" || nom.find('/') != std::string::npos) {
+    if (EstFichierSansSuffixe(bureau, nom)) {
+      nom += f.suffixe;
+    }
     if (!SuitChemin(bureau, nom)) {
       DitSansDossier(bureau, nom);
       return;

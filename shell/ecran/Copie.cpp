@@ -6,7 +6,7 @@
 #include "foundations/TexteNombre.hpp"
 #include "lines/FichierLoP.hpp"
 #include "shell/bureau/Avis.hpp"
-#include "shell/ecran/ChoixFichier.hpp"
+#include "shell/ecran/ChoixSortie.hpp"
 #include "shell/ecran/Statut.hpp"
 #include "shell/visee/Saisie.hpp"
 
@@ -197,15 +197,10 @@ void PU_CopiePoint_Click(Bureau &bureau, int /*indice*/) {
 
 void PU_Image_Click(Bureau &bureau, int /*indice*/) {
   const Donnees &d = bureau.donnees;
-  const std::string titre = bureau.TitreFichier; // the dialog makes it the name of the file chosen: here it is no sight
   const std::string nom = SansExtension(NomProposeLoP(LitPanneau(d))) + ".png";
-  std::filesystem::path chemin = ChoisitFichier(bureau, d.TexteImage.legende, nom, kMotifImages);
-  bureau.TitreFichier = titre;
+  const std::filesystem::path chemin = ChoisitSortie(bureau, d.TexteImage.legende, nom, kMotifImages, kFenetreDonnees);
   if (chemin.empty()) {
     return;
-  }
-  if (!chemin.has_extension()) {
-    chemin += ".png";
   }
   EcritImageDe(bureau, bureau.image1, chemin);
 }

@@ -3,7 +3,7 @@
 #include "foundations/Erreur.hpp"
 #include "foundations/TexteNombre.hpp"
 #include "shell/complements/Mots.hpp"
-#include "shell/ecran/ChoixFichier.hpp"
+#include "shell/ecran/ChoixSortie.hpp"
 #include "shell/ecran/Copie.hpp"
 #include "shell/preparation/CalculPlan.hpp"
 #include "shell/preparation/MotsPlan.hpp"
@@ -166,20 +166,14 @@ Surface PageDuPlan(const Bureau &bureau, const CarteDuPlan &carte) {
 
 void EmportePlan(Bureau &bureau, const CarteDuPlan &carte) {
   const Preparation &f = bureau.preparation;
-  const std::string avant = bureau.TitreFichier; // the dialog makes it the name of the file chosen: here it is no sight
   const InstantUTC &jour = bureau.plan.demande.navire.heure;
   const DateCivile d = CivileDe(jour);
   const std::string nom =
       "plan-" + Format(d.annee, "0000") + "-" + Format(d.mois, "00") + "-" + Format(d.jour, "00") + ".pdf";
-  std::filesystem::path chemin =
-      ChoisitFichier(bureau, f.Command2[0].legende, nom, "*.pdf;*.svg;*.png", DitRefus::DansUneBoite);
-  bureau.TitreFichier = avant;
-  bureau.premierPlan = kFenetrePreparation;
+  const std::filesystem::path chemin =
+      ChoisitSortie(bureau, f.Command2[0].legende, nom, "*.pdf;*.svg;*.png", kFenetrePreparation);
   if (chemin.empty()) {
     return;
-  }
-  if (!chemin.has_extension()) {
-    chemin += ".pdf";
   }
   const bool ecrit = EcritImageDe(bureau, PageDuPlan(bureau, carte), chemin, kFenetrePreparation);
   DitPlan(bureau, (ecrit ? f.TexteEcrit : f.TexteNonEcrit).legende + chemin.string());

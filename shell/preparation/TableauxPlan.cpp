@@ -61,7 +61,10 @@ void PoseJeux(Bureau &bureau) {
   std::vector<RangeeTexte> rangees;
   for (const auto &jeux : bureau.plan.jeux) {
     for (const JeuAstres &jeu : jeux) {
-      rangees.push_back({{MotsJeu(bureau, jeu), Format(std::sqrt(jeu.trace), "0.00")}, false, TonLigne::Ordinaire});
+      rangees.push_back(
+          {{std::to_string(jeu.astres.size()) + " : " + MotsJeu(bureau, jeu), Format(std::sqrt(jeu.trace), "0.00")},
+           false,
+           TonLigne::Ordinaire});
     }
   }
   PoseRangees(f.Jeux.tableau, ColonnesDe<2>(f.MotColonneJeux, {7600, 1200}, 1, 1), std::move(rangees));

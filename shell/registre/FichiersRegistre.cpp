@@ -8,6 +8,7 @@
 #include "lines/FichierLoP.hpp"
 #include "shell/bureau/Avis.hpp"
 #include "shell/ecran/ChoixFichier.hpp"
+#include "shell/ecran/ChoixSortie.hpp"
 #include "shell/registre/LectureRegistre.hpp"
 #include "shell/registre/Registre.hpp"
 #include "shell/visee/Journal.hpp"
@@ -62,8 +63,8 @@ std::optional<Rangee> RangeeDuFichier(const Bureau &bureau, const fs::path &chem
   return r;
 }
 
-/// Asks for a file to write; the window's title, which the dialog makes of a sight's file, stays.
-fs::path ChoisitSortie(Bureau &bureau, const Controle &titre, const std::string &nom, const char *motif) {
+/// Asks for the first of some files to write; the window's title, which the dialog makes of a sight's file, stays.
+fs::path ChoisitPremiere(Bureau &bureau, const Controle &titre, const std::string &nom, const char *motif) {
   const std::string avant = bureau.TitreFichier;
   fs::path chemin = ChoisitFichier(bureau, titre.legende, nom, motif);
   bureau.TitreFichier = avant;
@@ -127,8 +128,9 @@ namespace registre {
 void Command4_Click(Bureau &bureau, int /*indice*/) {
   const std::vector<std::size_t> rangs = RangsVises(bureau);
   const std::shared_ptr<const RegistreLu> lu = bureau.registreOuvert.lu; // the log may be read again meanwhile
-  const fs::path chemin =
-      rangs.empty() ? fs::path() : ChoisitSortie(bureau, bureau.registre.TexteCsv, "registre.csv", "*.csv");
+  const fs::path chemin = rangs.empty() ? fs::path()
+                                        : ChoisitSortie(bureau, bureau.registre.TexteCsv.legende, "registre.csv",
+                                                        "*.csv", kFenetreRegistre);
   if (!chemin.empty() &&
       Ecrit(bureau, chemin, [&] { EcritFichier(chemin, EnCsv(*lu, rangs), bureau.dossiers.utilisateur); })) {
     AviseEcrites(bureau, rangs.size());
@@ -147,7 +149,10 @@ void Command5_Click(Bureau &bureau, int /*indice*/) {
     Avise(bureau, bureau.registre.TexteSansChoix.legende);
     return;
   }
-  const fs::path chemin = ChoisitSortie(bureau, bureau.registre.TexteLoP, NomProposeLoP(visees.front()), "*LoP");
+  const Controle &titre = bureau.registre.TexteLoP;
+  const std::string nom = NomProposeLoP(visees.front());
+  const fs::path chemin = visees.size() == 1 ? ChoisitSortie(bureau, titre.legende, nom, "*LoP", kFenetreRegistre)
+                                             : ChoisitPremiere(bureau, titre, nom, "*LoP");
   std::size_t ecrites = 0;
   for (const Observation &visee : chemin.empty() ? std::vector<Observation>() : visees) {
     const fs::path ici = visees.size() == 1 ? chemin : NomLibre(chemin.parent_path() / NomProposeLoP(visee));

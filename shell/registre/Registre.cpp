@@ -74,7 +74,7 @@ std::string Compte(const Bureau &bureau) {
   if (r.montrees->size() != r.lu->lignes.size()) {
     compte += f.TexteSur.legende + std::to_string(r.lu->lignes.size());
   }
-  compte += f.TexteVisees.legende;
+  compte += r.lu->lignes.size() == 1 ? bureau.fenetrePapier.TexteVisee.legende : f.TexteVisees.legende;
   return r.lu->cassees == 0 ? compte : compte + ", " + std::to_string(r.lu->cassees) + f.TexteCassees.legende;
 }
 

@@ -9,7 +9,7 @@ TAILLE=$(xdpyinfo | awk '/dimensions/ {print $2}' | cut -dx -f1)
 NOM=droites-$LANGUE-$TAILLE
 SAUVE="^(Sauvegarder le|Save the) "
 export HOME="$TRAVAIL/maison"
-mkdir "$HOME"
+mkdir -p "$HOME"
 
 
 demarre

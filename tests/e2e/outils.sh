@@ -5,6 +5,8 @@ set -euo pipefail
 # All that a journey leaves but its pictures lies here, and goes with it.
 TRAVAIL=$(mktemp -d)
 trap 'rm -rf "$TRAVAIL" || true' EXIT
+export HOME="$TRAVAIL/maison" # what a journey before has written is asked about
+mkdir -p "$HOME"
 export XDG_DATA_HOME="${XDG_DATA_HOME:-$TRAVAIL/donnees}"
 export XDG_RUNTIME_DIR="${XDG_RUNTIME_DIR:-$TRAVAIL}"
 export LC_ALL="${LC_ALL:-C.UTF-8}" TZ="${TZ:-UTC}"

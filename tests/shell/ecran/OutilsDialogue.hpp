@@ -18,10 +18,11 @@ protected:
 
   /// What the user does in the dialog the next times it is shown. Left open in the end, it is given up.
   void Jouera(std::function<void()> gestes) {
-    bureau.ports.modale = [this, gestes = std::move(gestes)](CadreFenetre &cadre) {
+    bureau.ports.modale = [this, gestes = std::move(gestes), fois = 0](CadreFenetre &cadre) mutable {
       EXPECT_EQ(&cadre, &f.cadre);
       EXPECT_TRUE(cadre.visible);
       ++ouvertures;
+      ASSERT_LT(fois++, 500) << "it is asked for again and again";
       gestes();
       restee = cadre.visible;
       if (cadre.visible) {

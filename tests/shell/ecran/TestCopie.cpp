@@ -140,10 +140,12 @@ TEST_F(Copier, AnotherSuffixIsToldAndWritesNothing) {
 TEST_F(Copier, APictureThatCantBeWrittenIsToldAndAnOldOneStaysWhole) {
   Pose(lieu / "a.png", "old");
   bureau.ports.image = [](const Surface &, FormeImage) { return std::string(); };
+  reponse = true;
   Enregistre("a.png");
-  ASSERT_EQ(boites.size(), 1U);
-  EXPECT_EQ(boites[0].icone, Icone::Erreur);
-  EXPECT_THAT(boites[0].texte, testing::HasSubstr("Le fichier n'a pas pu être écrit."));
+  ASSERT_EQ(boites.size(), 2U);
+  EXPECT_TRUE(boites[0].question) << "an old one is replaced after a yes";
+  EXPECT_EQ(boites[1].icone, Icone::Erreur);
+  EXPECT_THAT(boites[1].texte, testing::HasSubstr("Le fichier n'a pas pu être écrit."));
   EXPECT_EQ(LitFichier(lieu / "a.png"), "old");
 }
 

@@ -156,6 +156,10 @@ TEST_F(PageDeLune, TheResultIsKeptAsARowOfTheWatch) {
   const ReleveMontre &releve = bureau.registreOuvert.montre[0];
   EXPECT_NEAR(releve.erreur, 40, 2) << "ahead";
   EXPECT_EQ(releve.instant, SecondesDe(PlusTard(A("19:03:00"), p.lune.solution->retard)));
+  EXPECT_THAT(bureau.serie.dit, testing::HasSubstr("±")) << "with its doubt";
+  ClicControle(bureau, f.PrendLune);
+  EXPECT_EQ(bureau.registreOuvert.montre.size(), 1U) << "once is enough";
+  EXPECT_THAT(bureau.serie.dit, testing::HasSubstr("Déjà"));
 }
 
 TEST_F(PageDeLune, AKeptRowHasTheRateOfTheOneBeforeIt) {

@@ -1,0 +1,40 @@
+#include "shell/ecran/ChoixSortie.hpp"
+
+#include "shell/ecran/ChoixFichier.hpp"
+
+#include <system_error>
+#include <utility>
+
+namespace velmaris {
+
+namespace fs = std::filesystem;
+
+fs::path ChoisitSortie(Bureau &bureau, const std::string &titre, const std::string &nom, const std::string &motif,
+                       std::string_view fenetre) {
+  const std::string titreFichier = bureau.TitreFichier;
+  const std::string suffixe = fs::path(nom).extension().string();
+  std::string propose = nom;
+  fs::path chemin;
+  for (bool demande = true; demande;) {
+    bureau.fselect.suffixe = suffixe;
+    chemin = ChoisitFichier(bureau, titre, propose, motif, DitRefus::DansUneBoite);
+    bureau.fselect.suffixe.clear();
+    if (!chemin.empty() && !chemin.has_extension()) {
+      chemin += suffixe;
+    }
+    std::error_code inconnu;
+    demande = !chemin.empty() && fs::is_regular_file(chemin, inconnu) &&
+              !bureau.ports.boite({.texte = bureau.fselect.TexteExiste.legende + "\n" + chemin.string(),
+                                   .titre = titre,
+                                   .icone = Icone::Attention,
+                                   .question = true,
+                                   .nonParDefaut = true,
+                                   .fenetre = fenetre});
+    propose = chemin.filename().string();
+  }
+  bureau.TitreFichier = titreFichier;
+  bureau.premierPlan = fenetre;
+  return chemin;
+}
+
+} // namespace velmaris
