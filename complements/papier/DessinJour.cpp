@@ -229,6 +229,10 @@ void DessinJour::DateRoute(const DonneesJour &jour) {
   for (std::size_t i = 0; i < std::min(jour.route.size(), jour.heures.size()); ++i) {
     const Point ici = plan_.PointDe(jour.route[i]);
     const std::string &heure = jour.heures[i];
+    const bool dite = (jour.point && jour.point->heure == heure) || (i > 0 && jour.heures[i - 1] == heure);
+    if (dite) {
+      continue;
+    }
     const double largeur = LargeurDe(heure) * kTailleHeure / kTailleNom;
     for (const Point pied : {Point{ici.x + kHaut, ici.y + kBas}, Point{ici.x - kHaut - largeur, ici.y + kBas},
                              Point{ici.x + kHaut, ici.y - kHaut}, Point{ici.x - kHaut - largeur, ici.y - kHaut}}) {

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <numbers>
 #include <sstream>
 
 namespace velmaris {
@@ -25,6 +26,15 @@ constexpr double kJeu = 1.25;       ///< more than the farthest place
 /// Left edge of a text's column, right edge of a figure's, from the margin.
 constexpr std::array<double, kColonnesJour> kColonnes = {0, 2350, 3600, 4800, 6000, 6750, 7850, 8950, 10050};
 
+/// Where a line passes nearest to the place that it is laid off from, as a place.
+LieuNavire PiedDe(const DroiteDuJour &droite) {
+  constexpr double kRadian = std::numbers::pi / 180;
+  const double azimut = droite.azimut * kRadian;
+  const double departement = std::max(0.1, std::cos(droite.appui.latitude * kRadian)); // of a mile east
+  return {droite.appui.latitude + droite.vers / kMinutes * std::cos(azimut),
+          droite.appui.longitude + droite.vers / kMinutes * std::sin(azimut) / departement};
+}
+
 /// All places that a chart has to show.
 std::vector<LieuNavire> LieuxMontres(const DonneesJour &jour) {
   std::vector<LieuNavire> lieux = jour.route;
@@ -33,6 +43,9 @@ std::vector<LieuNavire> LieuxMontres(const DonneesJour &jour) {
   }
   for (const DroiteDuJour &droite : jour.droites) {
     lieux.push_back(droite.appui);
+    if (!jour.point) {
+      lieux.push_back(PiedDe(droite));
+    }
   }
   return lieux;
 }
