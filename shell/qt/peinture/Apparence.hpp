@@ -6,8 +6,8 @@ namespace velmaris::qt {
 /// The application must be there.
 void PoseApparence();
 
-/// The windows' picture: the desktop's own where its theme has one. Looking through themes takes longer than all else of
-/// the look: it is for after the first window.
+/// The windows' picture: the desktop's own where its theme has one. Looking through themes takes longer than all else
+/// of the look: it is for after the first window.
 void PoseIcone();
 
 /// Has the toolkit's own words, those of its dialogs and menus, in the program's language.

@@ -444,27 +444,5 @@ TEST(Check, EveryDifferenceOverATenthOfAMinuteHasItsReason) {
   }
 }
 
-TEST(Controle, AFigureBeyondWhatANumberHoldsIsNotTold) {
-  for (std::string Observation::*champ :
-       {&Observation::heure, &Observation::minute, &Observation::seconde, &Observation::latitudeDegres,
-        &Observation::longitudeMinutes, &Observation::lectureDegres, &Observation::hauteurOeil,
-        &Observation::collimation}) {
-    for (const char *trop : {"1E308", "-9E307", "1E4333"}) {
-      for (const Corps corps : {Corps::Soleil, Corps::Lune, Corps::Planetes, Corps::Etoiles}) {
-        Visee v;
-        v.corps = corps;
-        v.rang = 3;
-        Observation o = Champs(v, 40);
-        o.*champ = trop;
-        const FicheControle fiche = ControleVisee(o, {10, 20, 30, 40}, essais::Table(), {});
-        for (const LigneControle &ligne : fiche.lignes) {
-          EXPECT_TRUE(std::isfinite(ligne.dit.value_or(0)) && std::isfinite(ligne.actuel.value_or(0)))
-              << trop << " step " << static_cast<int>(ligne.etape) << " body " << static_cast<int>(corps);
-        }
-      }
-    }
-  }
-}
-
 } // namespace
 } // namespace velmaris
