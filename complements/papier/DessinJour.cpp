@@ -35,8 +35,9 @@ double LargeurDe(const std::string &mots) { return kParOctet * static_cast<doubl
 /// The points that a word takes.
 std::vector<Point> PointsPris(Point debut, Point sens, double largeur) {
   std::vector<Point> points;
-  for (double loin = 0; loin <= largeur; loin += kPasPris) {
-    points.push_back(Plus(debut, sens, loin));
+  const int pas = static_cast<int>(largeur / kPasPris);
+  for (int i = 0; i <= pas; ++i) {
+    points.push_back(Plus(debut, sens, i * kPasPris));
   }
   return points;
 }
@@ -181,7 +182,9 @@ std::vector<DessinJour::Nom> DessinJour::PlacesLeLong(const std::vector<Point> &
   constexpr double kAuDessus = 45;
   const double longueur = Distance(morceau.front(), morceau.back());
   std::vector<Nom> places;
-  for (double loin = kDuBout; loin + largeur < std::max(longueur, kDuBout + largeur + 1); loin += kPas) {
+  const int pas = static_cast<int>(std::max(0.0, longueur - largeur - kDuBout) / kPas);
+  for (int i = 0; i <= pas; ++i) {
+    const double loin = kDuBout + i * kPas;
     for (const bool debut : {true, false}) {
       const Point bout = debut ? morceau.front() : morceau.back();
       const Point autre = debut ? morceau.back() : morceau.front();
