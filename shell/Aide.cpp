@@ -1,6 +1,5 @@
 #include "shell/Aide.hpp"
 
-#include "shell/Demarrage.hpp"
 #include "shell/ecran/Presentation.hpp"
 
 #include <filesystem>
@@ -17,8 +16,6 @@ bool Existe(const std::filesystem::path &fichier) {
 }
 
 } // namespace
-
-void Command5_Click(Bureau &bureau, int /*indice*/) { Donnees_KeyDown(bureau, kToucheF1); }
 
 void OuvreAide(Bureau &bureau) {
   const bool anglais = bureau.FichierLangue == "\\EN.txt";

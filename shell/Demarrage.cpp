@@ -273,6 +273,8 @@ bool RetourDansChamp(Bureau &bureau, Controle &champ) {
   return false;
 }
 
+void Command5_Click(Bureau &bureau, int /*indice*/) { Donnees_KeyDown(bureau, kToucheF1); }
+
 bool ToucheControle(Bureau &bureau, char lettre) {
   constexpr std::array<std::pair<char, Controle Donnees::*>, 11> kBoutons = {{
       {'S', &Donnees::Command3},

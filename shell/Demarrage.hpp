@@ -26,6 +26,9 @@ inline constexpr int kToucheF1 = 112;
 /// @return whether the key does something here
 bool Donnees_KeyDown(Bureau &bureau, int code);
 
+/// "Aide": does what the key F1 does.
+void Command5_Click(Bureau &bureau, int indice);
+
 /// A letter with the control key: S saves, O opens, P shows the print page, Q leaves, each by its button;
 /// I opens the check sheet, L the log, G the fix in figures, K the plan, R runs of readings, E practice; with the shift
 /// key A opens the printed pages.

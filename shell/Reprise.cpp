@@ -2,8 +2,8 @@
 
 #include "foundations/Erreur.hpp"
 #include "foundations/Fichiers.hpp"
-#include "foundations/Sauvegarde.hpp"
 #include "lines/FichierLoP.hpp"
+#include "shell/bureau/Sauvegarde.hpp"
 #include "shell/carte/FichierObjets.hpp"
 #include "shell/visee/EtatPanneau.hpp"
 #include "shell/visee/ReduitVisee.hpp"

@@ -1,8 +1,8 @@
 #include "shell/RepriseSeance.hpp"
 
 #include "foundations/Erreur.hpp"
-#include "foundations/Sauvegarde.hpp"
 #include "shell/bureau/Evenements.hpp"
+#include "shell/bureau/Sauvegarde.hpp"
 #include "shell/carte/FichierObjets.hpp"
 #include "shell/carte/Objets.hpp"
 #include "shell/droites/Bouts.hpp"

@@ -1,10 +1,10 @@
 #include "shell/Sortie.hpp"
 
 #include "foundations/Erreur.hpp"
-#include "foundations/Sauvegarde.hpp"
 #include "lines/FichierLoP.hpp"
 #include "shell/Reprise.hpp"
 #include "shell/bureau/Explication.hpp"
+#include "shell/bureau/Sauvegarde.hpp"
 #include "shell/bureau/Valeurs.hpp"
 #include "shell/carte/FichierObjets.hpp"
 #include "shell/carte/Objets.hpp"

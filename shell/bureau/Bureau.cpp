@@ -1,8 +1,8 @@
 #include "shell/bureau/Bureau.hpp"
 
 #include "foundations/Erreur.hpp"
-#include "foundations/Sauvegarde.hpp"
 #include "foundations/TexteNombre.hpp"
+#include "shell/bureau/Sauvegarde.hpp"
 #include "shell/bureau/Valeurs.hpp"
 
 #include <algorithm>

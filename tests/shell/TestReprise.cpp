@@ -1,7 +1,7 @@
 #include "shell/RepriseSeance.hpp"
 
 #include "foundations/Fichiers.hpp"
-#include "foundations/Sauvegarde.hpp"
+#include "shell/bureau/Sauvegarde.hpp"
 #include "shell/carte/Objets.hpp"
 #include "tests/shell/bureau/OutilsBureau.hpp"
 

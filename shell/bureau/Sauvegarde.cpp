@@ -1,4 +1,4 @@
-#include "foundations/Sauvegarde.hpp"
+#include "shell/bureau/Sauvegarde.hpp"
 
 #include <array>
 #include <cerrno>

@@ -1,4 +1,4 @@
-#include "foundations/Sauvegarde.hpp"
+#include "shell/bureau/Sauvegarde.hpp"
 
 #include "foundations/Fichiers.hpp"
 #include "tests/OutilsTests.hpp"
