@@ -1,6 +1,9 @@
 #include "shell/papier/MeteoPapier.hpp"
 
+#include "complements/registre/TexteCsv.hpp"
+
 #include <algorithm>
+#include <string_view>
 #include <utility>
 
 namespace velmaris {
@@ -9,25 +12,19 @@ namespace {
 constexpr std::string_view kCle = "Meteo";
 constexpr std::size_t kJoursGardes = 30;
 
-std::string LigneSuivante(std::string &texte) {
-  const std::size_t fin = std::min(texte.find('\n'), texte.size());
-  std::string ligne = texte.substr(0, fin);
-  texte.erase(0, fin + 1);
-  return ligne;
-}
-
 /// The days of an earlier start, once.
 void Reprend(Bureau &bureau) {
   PapierOuvert &p = bureau.papier;
   if (std::exchange(p.meteoReprise, true)) {
     return;
   }
-  std::string texte = LitReglage(bureau, kCle);
+  const std::string garde = LitReglage(bureau, kCle);
+  std::string_view texte = garde;
   while (!texte.empty()) {
     MeteoDuJour meteo;
-    meteo.jour = LigneSuivante(texte);
+    meteo.jour = PrendLigne(texte);
     for (std::string &champ : meteo.champs) {
-      champ = LigneSuivante(texte);
+      champ = PrendLigne(texte);
     }
     p.meteos.push_back(std::move(meteo));
   }

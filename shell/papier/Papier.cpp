@@ -2,6 +2,7 @@
 
 #include "complements/almanach/CsvAlmanach.hpp"
 #include "complements/papier/Canevas.hpp"
+#include "complements/registre/TexteCsv.hpp"
 #include "foundations/Erreur.hpp"
 #include "foundations/Fichiers.hpp"
 #include "foundations/TexteNombre.hpp"
@@ -18,6 +19,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <string_view>
 #include <utility>
 
 namespace velmaris {
@@ -56,13 +58,6 @@ void GardeChamps(Bureau &bureau) {
   GardeMeteo(bureau);
 }
 
-std::string LigneSuivante(std::string &texte) {
-  const std::size_t fin = std::min(texte.find('\n'), texte.size());
-  std::string ligne = texte.substr(0, fin);
-  texte.erase(0, fin + 1);
-  return ligne;
-}
-
 /// The fields as they were used last, else what most days ask for: the month from today on, and the latitude that the
 /// panel has with two of each side of it.
 void RemplitChamps(Bureau &bureau) {
@@ -75,12 +70,13 @@ void RemplitChamps(Bureau &bureau) {
   for (Controle &coche : f.Check1) {
     coche.valeur = 1;
   }
-  std::string garde = LitReglage(bureau, kCle);
-  if (!garde.empty()) {
-    f.Combo1.rang = static_cast<int>(Val(LigneSuivante(garde)));
-    f.Combo2.rang = static_cast<int>(Val(LigneSuivante(garde)));
+  const std::string garde = LitReglage(bureau, kCle);
+  std::string_view lignes = garde;
+  if (!lignes.empty()) {
+    f.Combo1.rang = static_cast<int>(Val(PrendLigne(lignes)));
+    f.Combo2.rang = static_cast<int>(Val(PrendLigne(lignes)));
     for (Controle *champ : ChampsGardes(f)) {
-      champ->texte = LigneSuivante(garde);
+      champ->texte = PrendLigne(lignes);
     }
     return;
   }
