@@ -1,7 +1,5 @@
 #include "complements/papier/DessinJour.hpp"
 
-#include "complements/papier/Nombres.hpp"
-
 #include <algorithm>
 #include <array>
 #include <cmath>

@@ -25,7 +25,8 @@ constexpr mode_t kPourSoi = 0600;
 constexpr std::size_t kPileSecours = 65536; ///< bytes: a handler must run where the stack is full
 constexpr std::array<int, 5> kMortels = {SIGSEGV, SIGABRT, SIGBUS, SIGFPE, SIGILL};
 
-/// The one door of a signal's handler, which is given nothing but a number: the record that it finishes.
+/// The one door of a signal's handler, which is given nothing but a number: the record that it finishes. Set when a
+/// text is ready, empty again once the record goes or the handler has taken it.
 std::atomic<Sauvegarde *> gardee = nullptr;
 
 /// Replaces a file by calls that a signal's handler may make.

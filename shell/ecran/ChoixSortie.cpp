@@ -9,15 +9,23 @@ namespace velmaris {
 
 namespace fs = std::filesystem;
 
+fs::path ChoisitSansTitre(Bureau &bureau, const std::string &titre, const std::string &nom, const std::string &motif,
+                          std::string_view fenetre) {
+  const std::string titreFichier = bureau.TitreFichier;
+  fs::path chemin = ChoisitFichier(bureau, titre, nom, motif, DitRefus::DansUneBoite);
+  bureau.TitreFichier = titreFichier;
+  bureau.premierPlan = fenetre;
+  return chemin;
+}
+
 fs::path ChoisitSortie(Bureau &bureau, const std::string &titre, const std::string &nom, const std::string &motif,
                        std::string_view fenetre) {
-  const std::string titreFichier = bureau.TitreFichier;
   const std::string suffixe = fs::path(nom).extension().string();
   std::string propose = nom;
   fs::path chemin;
   for (bool demande = true; demande;) {
     bureau.fselect.suffixe = suffixe;
-    chemin = ChoisitFichier(bureau, titre, propose, motif, DitRefus::DansUneBoite);
+    chemin = ChoisitSansTitre(bureau, titre, propose, motif, fenetre);
     bureau.fselect.suffixe.clear();
     if (!chemin.empty() && !chemin.has_extension()) {
       chemin += suffixe;
@@ -32,8 +40,6 @@ fs::path ChoisitSortie(Bureau &bureau, const std::string &titre, const std::stri
                                    .fenetre = fenetre});
     propose = chemin.filename().string();
   }
-  bureau.TitreFichier = titreFichier;
-  bureau.premierPlan = fenetre;
   return chemin;
 }
 

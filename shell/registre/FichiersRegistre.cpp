@@ -7,7 +7,6 @@
 #include "foundations/TexteNombre.hpp"
 #include "lines/FichierLoP.hpp"
 #include "shell/bureau/Avis.hpp"
-#include "shell/ecran/ChoixFichier.hpp"
 #include "shell/ecran/ChoixSortie.hpp"
 #include "shell/registre/LectureRegistre.hpp"
 #include "shell/registre/Registre.hpp"
@@ -61,14 +60,6 @@ std::optional<Rangee> RangeeDuFichier(const Bureau &bureau, const fs::path &chem
     r.ecart = controle.ecart;
   }
   return r;
-}
-
-/// Asks for the first of some files to write; the window's title, which the dialog makes of a sight's file, stays.
-fs::path ChoisitPremiere(Bureau &bureau, const Controle &titre, const std::string &nom, const char *motif) {
-  const std::string avant = bureau.TitreFichier;
-  fs::path chemin = ChoisitFichier(bureau, titre.legende, nom, motif);
-  bureau.TitreFichier = avant;
-  return chemin;
 }
 
 /// Writes, and tells what can't be written.
@@ -152,7 +143,7 @@ void Command5_Click(Bureau &bureau, int /*indice*/) {
   const Controle &titre = bureau.registre.TexteLoP;
   const std::string nom = NomProposeLoP(visees.front());
   const fs::path chemin = visees.size() == 1 ? ChoisitSortie(bureau, titre.legende, nom, "*LoP", kFenetreRegistre)
-                                             : ChoisitPremiere(bureau, titre, nom, "*LoP");
+                                             : ChoisitSansTitre(bureau, titre.legende, nom, "*LoP", kFenetreRegistre);
   std::size_t ecrites = 0;
   for (const Observation &visee : chemin.empty() ? std::vector<Observation>() : visees) {
     const fs::path ici = visees.size() == 1 ? chemin : NomLibre(chemin.parent_path() / NomProposeLoP(visee));

@@ -9,7 +9,6 @@
 #include "foundations/Fichiers.hpp"
 #include "foundations/TexteNombre.hpp"
 #include "shell/complements/Mots.hpp"
-#include "shell/ecran/ChoixFichier.hpp"
 #include "shell/ecran/ChoixSortie.hpp"
 #include "shell/point/SourcesPoint.hpp"
 #include "shell/registre/LectureRegistre.hpp"
@@ -63,15 +62,6 @@ std::vector<std::size_t> Cochees(const Bureau &bureau) {
   return RangsDe(registre, tous, bureau.registreOuvert.auPoint);
 }
 
-/// Asks for a file; the window's title, which the dialog makes of a sight's file, stays.
-std::filesystem::path Demande(Bureau &bureau, const Controle &titre, const std::string &nom) {
-  const std::string avant = bureau.TitreFichier;
-  std::filesystem::path chemin = ChoisitFichier(bureau, titre.legende, nom, "*.txt", DitRefus::DansUneBoite);
-  bureau.TitreFichier = avant;
-  bureau.premierPlan = kFenetreSerie;
-  return chemin;
-}
-
 void DitRefuse(Bureau &bureau, const std::string &mots, const std::filesystem::path &chemin) {
   bureau.ports.boite({.texte = mots + "\n" + chemin.string(), .icone = Icone::Erreur, .fenetre = kFenetreSerie});
 }
@@ -106,7 +96,7 @@ std::size_t ReprendDuRegistre(Bureau &bureau, const Astre &astre) {
 
 bool OuvreLectures(Bureau &bureau) {
   FenetreSerie &f = bureau.fenetreSerie;
-  const std::filesystem::path chemin = Demande(bureau, f.Command3[5], "*.txt");
+  const std::filesystem::path chemin = ChoisitSansTitre(bureau, f.Command3[5].legende, "*.txt", "*.txt", kFenetreSerie);
   if (chemin.empty()) {
     return false;
   }
