@@ -2,6 +2,7 @@
 #include "complements/controle/Controle.hpp"
 #include "foundations/Erreur.hpp"
 #include "lines/FichierLoP.hpp"
+#include "tests/complements/TableEtoiles.hpp"
 
 #include <cmath>
 #include <vector>
@@ -9,16 +10,6 @@
 using namespace velmaris;
 
 namespace {
-
-const Etoiles &Table() {
-  static const Etoiles etoiles = [] {
-    Etoiles table;
-    std::vector<std::string> noms;
-    ChargeEtoiles(table, noms);
-    return table;
-  }();
-  return etoiles;
-}
 
 bool EstNombre(const ResultatActuel &r) {
   return std::isfinite(r.Ho) && std::isfinite(r.Hc) && std::isfinite(r.azimut) && std::isfinite(r.intercept) &&
@@ -28,7 +19,7 @@ bool EstNombre(const ResultatActuel &r) {
 void AttendGlissades(const FicheControle &fiche, const ReglagesControle &reglages) {
   for (const Glissade &glissade : fiche.glissades) {
     Attend(std::fabs(glissade.intercept) < kResteGlissade, "a slip leaves little");
-    const FicheControle bonne = ControleVisee(glissade.corrigee, {}, Table(), reglages);
+    const FicheControle bonne = ControleVisee(glissade.corrigee, {}, essais::Table(), reglages);
     Attend(bonne.actuel && bonne.glissades.empty(), "a sight without its slip is a good one");
   }
 }
@@ -54,7 +45,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t *octets, std::size_t ta
     reglages.dut1 = -0.7;
   }
   const Observation avant = observation;
-  const FicheControle fiche = ControleVisee(observation, {10, 20, 30, 40}, Table(), reglages);
+  const FicheControle fiche = ControleVisee(observation, {10, 20, 30, 40}, essais::Table(), reglages);
   Attend(observation == avant, "a check leaves the sight alone");
   Attend(fiche.actuel.has_value() != fiche.refus.has_value(), "a figure of today or the reason why there is none");
   Attend(!fiche.actuel || EstNombre(*fiche.actuel), "today's figures are numbers");

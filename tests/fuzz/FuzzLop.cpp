@@ -5,6 +5,7 @@
 #include "sights/DroitePLA.hpp"
 #include "sights/DroiteSOL.hpp"
 #include "sights/DroiteSTAR.hpp"
+#include "tests/complements/TableEtoiles.hpp"
 
 #include <cmath>
 #include <vector>
@@ -46,15 +47,9 @@ void AttendAutresCorps(Observation observation) {
   Passe([&] { LitEstime(observation, valeurs); });
   AffichageDroite affichage;
   const TexteMsg messages;
-  static const Etoiles etoiles = [] {
-    Etoiles table;
-    std::vector<std::string> noms;
-    ChargeEtoiles(table, noms);
-    return table;
-  }();
   Lune lune;
   Calcul_DroiteLUN(observation, valeurs, lune, affichage, messages);
-  Passe([&] { Calcul_DroiteSTAR(observation, valeurs, etoiles, affichage, messages); });
+  Passe([&] { Calcul_DroiteSTAR(observation, valeurs, essais::Table(), affichage, messages); });
   Passe([&] { Calcul_DroitePLA(observation, valeurs, affichage, messages); });
   Attend(std::isfinite(valeurs.Azimut) && std::isfinite(valeurs.Intercept) && std::isfinite(valeurs.HauteurCalculee),
          "every body leaves figures");

@@ -245,16 +245,6 @@ long CorrectionALaMain(const Almanach &almanach, const ViseeMain &v, const Calcu
 
 } // namespace
 
-const Etoiles &EtoilesLues() {
-  static const Etoiles etoiles = [] {
-    Etoiles table;
-    std::vector<std::string> noms;
-    ChargeEtoiles(table, noms);
-    return table;
-  }();
-  return etoiles;
-}
-
 long Entre(const std::vector<double> &x, const std::vector<long> &y, double valeur) {
   const Lieu lieu = LieuDans(x, valeur);
   return std::lround(Melange(y[lieu.i], y[std::min(lieu.i + 1, y.size() - 1)], lieu.part));

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "../TableEtoiles.hpp"
 #include "complements/almanach/Almanach.hpp"
 #include "complements/almanach/TablesAlmanach.hpp"
 #include "complements/ciel/EtapesHauteur.hpp"
@@ -9,9 +10,6 @@
 /// A sight worked with the almanac's printed figures alone: every figure is rounded as it stands on the pages, every
 /// sum is one of rounded figures.
 namespace velmaris::essais {
-
-/// The star table, read once.
-const Etoiles &EtoilesLues();
 
 /// A sight as the navigator has it.
 struct ViseeMain {

@@ -22,7 +22,7 @@ namespace {
 constexpr double kSecondes = 86400;
 
 Almanach Pages(const DateCivile &debut, const DateCivile &fin, std::vector<double> latitudes = {}, double dut1 = 0) {
-  return *CalculeAlmanach({.debut = debut, .fin = fin, .latitudes = std::move(latitudes), .dut1 = dut1}, EtoilesLues());
+  return *CalculeAlmanach({.debut = debut, .fin = fin, .latitudes = std::move(latitudes), .dut1 = dut1}, Table());
 }
 
 CielDuMoment CielA(const DateCivile &date, double heures, double dut1 = 0) {
@@ -135,8 +135,8 @@ TEST(Almanach, StarsAreThoseOfAnOutsideLibraryAtNoonOfTheMiddleDay) {
 
 TEST(Almanach, TheFiftySevenStandByTheirNumbersInRightAscensionAndPolarisLast) {
   const CielDuMoment ciel = CielA({2026, 7, 1}, 12);
-  const std::vector<EtoileAlmanach> parSha = EtoilesDuMoment(ciel, EtoilesLues(), OrdreEtoiles::Sha);
-  const std::vector<EtoileAlmanach> parNom = EtoilesDuMoment(ciel, EtoilesLues(), OrdreEtoiles::Nom);
+  const std::vector<EtoileAlmanach> parSha = EtoilesDuMoment(ciel, Table(), OrdreEtoiles::Sha);
+  const std::vector<EtoileAlmanach> parNom = EtoilesDuMoment(ciel, Table(), OrdreEtoiles::Nom);
   ASSERT_EQ(parSha.size(), 58U);
   EXPECT_EQ(parSha.back().nom, "Polaris");
   EXPECT_EQ(parNom.back().nom, "Polaris");
@@ -288,11 +288,11 @@ TEST(Almanach, ItStopsWhenItIsAskedToAndTellsHowFarItIs) {
     }
   };
   const DemandeAlmanach demande{.debut = {2026, 1, 1}, .fin = {2026, 1, 30}, .latitudes = {}};
-  EXPECT_FALSE(CalculeAlmanach(demande, EtoilesLues(), source.get_token(), dit));
+  EXPECT_FALSE(CalculeAlmanach(demande, Table(), source.get_token(), dit));
   EXPECT_LT(dernier, 0.4);
   dernier = 0;
   const auto jusquAuBout = [&dernier](double part) { dernier = part; };
-  EXPECT_TRUE(CalculeAlmanach(demande, EtoilesLues(), {}, jusquAuBout));
+  EXPECT_TRUE(CalculeAlmanach(demande, Table(), {}, jusquAuBout));
   EXPECT_EQ(dernier, 1);
 }
 

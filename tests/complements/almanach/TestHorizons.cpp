@@ -93,7 +93,7 @@ TEST(HorizonsAlmanach, TheSunsTimesAreThoseOfTheSkyOfTheMiddleDayAtAnyLatitude) 
   for (const int mois : {3, 6, 10, 12}) {
     const DateCivile milieu{2026, mois, 21};
     const Almanach pages =
-        *CalculeAlmanach({.debut = {2026, mois, 20}, .fin = {2026, mois, 22}, .latitudes = kLatitudes}, EtoilesLues());
+        *CalculeAlmanach({.debut = {2026, mois, 20}, .fin = {2026, mois, 22}, .latitudes = kLatitudes}, Table());
     ASSERT_EQ(pages.periodes.front().milieu.jour, 21);
     for (std::size_t i = 0; i < kLatitudes.size(); ++i) {
       const SoleilHorizon &s = pages.periodes.front().soleil[i];
@@ -116,7 +116,7 @@ TEST(HorizonsAlmanach, TheSunsTimesAreThoseOfTheSkyOfTheMiddleDayAtAnyLatitude) 
 TEST(HorizonsAlmanach, TheMoonRisesAndSetsWithTheSkyAndIsMissingOnceAMonth) {
   const std::vector<double> latitudes{70, 62, 45, 0, -45};
   const Almanach pages =
-      *CalculeAlmanach({.debut = {2026, 3, 1}, .fin = {2026, 3, 30}, .latitudes = latitudes}, EtoilesLues());
+      *CalculeAlmanach({.debut = {2026, 3, 1}, .fin = {2026, 3, 30}, .latitudes = latitudes}, Table());
   Compte compte;
   std::vector<int> manques(latitudes.size());
   for (const JourAlmanach &jour : pages.jours) {

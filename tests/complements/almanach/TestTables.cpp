@@ -91,7 +91,7 @@ std::vector<std::string> Champs(const std::string &rangee) {
 
 TEST(CsvAlmanach, EveryRowHasTheColumnsThatItsKindNames) {
   const Almanach almanach =
-      *CalculeAlmanach({.debut = {2028, 2, 28}, .fin = {2028, 3, 2}, .latitudes = {75, 47.5, -33}}, EtoilesLues());
+      *CalculeAlmanach({.debut = {2028, 2, 28}, .fin = {2028, 3, 2}, .latitudes = {75, 47.5, -33}}, Table());
   std::istringstream csv(EcritAlmanachCsv(almanach));
   std::map<std::string, std::size_t> colonnes;
   std::map<std::string, int> nombre;

@@ -23,7 +23,7 @@ double AuDixieme(double degres) { return std::round(degres * 600) / 600; }
 
 const Almanach &Pages() {
   static const Almanach almanach =
-      *CalculeAlmanach({.debut = {2026, 6, 1}, .fin = {2027, 5, 31}, .latitudes = {}}, EtoilesLues());
+      *CalculeAlmanach({.debut = {2026, 6, 1}, .fin = {2027, 5, 31}, .latitudes = {}}, Table());
   return almanach;
 }
 

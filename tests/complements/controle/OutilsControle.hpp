@@ -1,5 +1,6 @@
 #pragma once
 
+#include "../TableEtoiles.hpp"
 #include "complements/controle/Controle.hpp"
 #include "foundations/TexteNombre.hpp"
 #include "sights/Affichage.hpp"
@@ -16,17 +17,6 @@
 
 /// What the tests of the check share: sights made by numbers, reduced by the told routines, and checked.
 namespace velmaris::essais {
-
-/// The star table, split once.
-inline const Etoiles &Table() {
-  static const Etoiles etoiles = [] {
-    Etoiles table;
-    std::vector<std::string> noms;
-    ChargeEtoiles(table, noms);
-    return table;
-  }();
-  return etoiles;
-}
 
 /// A sight as numbers. Longitudes are east positive, positions of whole minutes.
 struct Visee {

@@ -1,3 +1,4 @@
+#include "OutilsPapier.hpp"
 #include "complements/papier/Canevas.hpp"
 #include "complements/papier/PageDuJour.hpp"
 
@@ -12,6 +13,7 @@
 namespace velmaris {
 namespace {
 
+using essais::MotsDe;
 using testing::HasSubstr;
 
 constexpr double kRadian = std::numbers::pi / 180;
@@ -43,16 +45,6 @@ TEST(Canevas, ALineIsCutAtTheSheetsEdge) {
 }
 
 MotsCanevas Mots() { return {"milles", "plan autour de ", " ; une minute vaut "}; }
-
-std::vector<MotFeuillet> MotsDe(const Feuillet &page) {
-  std::vector<MotFeuillet> mots;
-  for (const ElementFeuillet &e : page.elements) {
-    if (const auto *mot = std::get_if<MotFeuillet>(&e)) {
-      mots.push_back(*mot);
-    }
-  }
-  return mots;
-}
 
 bool APourMot(const Feuillet &page, const std::string &texte) {
   const auto mots = MotsDe(page);

@@ -1,3 +1,4 @@
+#include "OutilsPapier.hpp"
 #include "complements/papier/DessinJour.hpp"
 
 #include <gmock/gmock.h>
@@ -10,6 +11,8 @@
 /// What the day's sheet has room for: names, times, the rose, the table.
 namespace velmaris {
 namespace {
+
+using essais::MotsDe;
 
 constexpr double kRadian = std::numbers::pi / 180;
 
@@ -36,16 +39,6 @@ DonneesJour Soiree() {
   jour.visees.resize(8);
   jour.meteo = {"SW 5, fraîchissant 6 dans les grains, puis mollissant en fin de journée, pluie", ""};
   return jour;
-}
-
-std::vector<MotFeuillet> MotsDe(const Feuillet &page) {
-  std::vector<MotFeuillet> mots;
-  for (const ElementFeuillet &e : page.elements) {
-    if (const auto *mot = std::get_if<MotFeuillet>(&e)) {
-      mots.push_back(*mot);
-    }
-  }
-  return mots;
 }
 
 /// Points along a word.

@@ -7,16 +7,6 @@
 
 namespace velmaris::essais {
 
-const Etoiles &Table() {
-  static const Etoiles table = [] {
-    Etoiles etoiles;
-    std::vector<std::string> liste;
-    ChargeEtoiles(etoiles, liste);
-    return etoiles;
-  }();
-  return table;
-}
-
 JourDeMer JourAuHasard(std::mt19937_64 &alea) {
   JourDeMer j;
   const auto entier = [&](int de, int a) { return std::uniform_int_distribution<int>(de, a)(alea); };

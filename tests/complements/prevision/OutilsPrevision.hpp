@@ -1,5 +1,6 @@
 #pragma once
 
+#include "../TableEtoiles.hpp"
 #include "../point/OutilsPoint.hpp"
 #include "complements/ciel/CielDuMoment.hpp"
 #include "complements/prevision/CielDuPlan.hpp"
@@ -11,9 +12,6 @@
 
 /// What the tests of the plan share: ships at random, and the sky on them by another road, without the day's tables.
 namespace velmaris::essais {
-
-/// The star table, read once.
-const Etoiles &Table();
 
 /// A ship and one of her days.
 struct JourDeMer {
