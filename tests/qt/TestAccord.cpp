@@ -207,6 +207,38 @@ TEST_F(Accord, RandomEventsInTheSkyLeaveNoDifference) {
   });
 }
 
+TEST_F(Accord, RandomEventsInTheWindowsOfTheComplementsLeaveNoDifference) {
+  Ouvre(kGrandEcran);
+  reponse = false;
+  Joue([this] {
+    TapeVisee();
+    Calcule();
+    Tape(d.Text3, "09");
+    Calcule();
+  });
+  struct Fenetre {
+    Controle Donnees::*entree;
+    CadreFenetre *cadre;
+  };
+  const std::array<Fenetre, 7> fenetres = {{{&Donnees::PU_Fiche, &bureau.fiche.cadre},
+                                            {&Donnees::PU_Registre, &bureau.registre.cadre},
+                                            {&Donnees::PU_Point, &bureau.fenetrePoint.cadre},
+                                            {&Donnees::PU_Preparation, &bureau.preparation.cadre},
+                                            {&Donnees::PU_Serie, &bureau.fenetreSerie.cadre},
+                                            {&Donnees::PU_Exercice, &bureau.fenetreExercice.cadre},
+                                            {&Donnees::PU_Papier, &bureau.fenetrePapier.cadre}}};
+  for (const Fenetre &ici : fenetres) {
+    SCOPED_TRACE(std::string(ici.cadre->nom));
+    AuHasardEncore([&] {
+      bureau.termine = false;
+      PoseOption(bureau, d.Option7[0]);
+      Joue([&] { ClicControle(bureau, d.*ici.entree); });
+      return Libre(*ici.cadre);
+    });
+    Joue([&] { ici.cadre->visible = false; });
+  }
+}
+
 TEST_F(Accord, RandomEventsInTheDialogsLeaveNoDifference) {
   Ouvre(kGrandEcran);
   for (const char *nom : {"a.LoP", "b.LoP", "c.txt"}) {

@@ -2,6 +2,8 @@
 
 #include "complements/registre/PointsGardes.hpp"
 #include "foundations/Fichiers.hpp"
+#include "shell/Reprise.hpp"
+#include "shell/bureau/Sauvegarde.hpp"
 #include "shell/carte/FichierObjets.hpp"
 #include "shell/carte/Objets.hpp"
 #include "shell/droites/FichierVisee.hpp"
@@ -27,7 +29,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr int kGenres = 6;
+constexpr int kGenres = 10;
 constexpr int kLigne = 1;
 
 int Coupures() {
@@ -149,6 +151,33 @@ protected:
     }
   }
 
+  /// Stores line number n, of which every text tells n.
+  static void EnregistreLigne(Bureau &programme, int n) {
+    PoseChamps(programme, Numerotee(n));
+    programme.visee.Azimut = static_cast<float>(n % 360);
+    programme.visee.Intercept = 1.5F;
+    programme.NomAstre = "astre " + std::to_string(n);
+    PoseMode(programme, ModeDroite::Enregistre);
+    Droite_Click(programme, kLigne);
+  }
+
+  /// The number of the line that is stored: the one said or the next, -1 where neither is there whole.
+  int LigneEntiere(int dit) const {
+    const Valeurs valeurs(FichierMagasin());
+    for (const int n : {dit, dit + 1}) {
+      ValeursVisee v;
+      v.Azimut = static_cast<float>(n % 360);
+      v.Intercept = 1.5F;
+      const auto attendues = ClesEnregistrees(kLigne, Numerotee(n), "astre " + std::to_string(n), v);
+      if (std::all_of(attendues.begin(), attendues.end(), [&](const CleValeur &c) {
+            return valeurs.GetSetting(kApplication, kSection, c.cle) == c.valeur;
+          })) {
+        return n;
+      }
+    }
+    return -1;
+  }
+
   /// Kills a program that stores one state after the other; each time the last one said stands, or the one under way.
   void Coupe(const Ecrit &ecrit, const Lit &lit) {
     useconds_t duree = 0;
@@ -216,32 +245,40 @@ TEST_F(MortSubite, AtTheStartAFirstOrALaterOneKeepsAllThatIsStored) {
 }
 
 TEST_F(MortSubite, InEnregistrerTheLineThatWasStoredStandsWhole) {
-  const auto cles = [](int n) {
-    ValeursVisee v;
-    v.Azimut = static_cast<float>(n % 360);
-    v.Intercept = 1.5F;
-    return ClesEnregistrees(kLigne, Numerotee(n), "astre " + std::to_string(n), v);
-  };
+  Coupe(EnregistreLigne, [&](int dit) { return LigneEntiere(dit); });
+}
+
+TEST_F(MortSubite, AStoredLineThatIsPutBackAndAgainStandsWhole) {
   Coupe(
       [](Bureau &programme, int n) {
-        PoseChamps(programme, Numerotee(n));
-        programme.visee.Azimut = static_cast<float>(n % 360);
-        programme.visee.Intercept = 1.5F;
-        programme.NomAstre = "astre " + std::to_string(n);
-        PoseMode(programme, ModeDroite::Enregistre);
-        Droite_Click(programme, kLigne);
+        EnregistreLigne(programme, n);
+        ClicControle(programme, programme.donnees.PU_Annule);
+        ClicControle(programme, programme.donnees.PU_Retablit);
       },
-      [&](int dit) {
-        const Valeurs valeurs(FichierMagasin());
-        for (const int n : {dit, dit + 1}) {
-          const auto attendues = cles(n);
-          if (std::all_of(attendues.begin(), attendues.end(), [&](const CleValeur &c) {
-                return valeurs.GetSetting(kApplication, kSection, c.cle) == c.valeur;
-              })) {
-            return n;
-          }
+      [&](int dit) { return LigneEntiere(dit); });
+}
+
+TEST_F(MortSubite, TheSessionIsAWholeOneOfTheProgramOrOfTheOneBefore) {
+  const fs::path ici = donnees_.utilisateur / kFichierReprise;
+  const fs::path avant = donnees_.utilisateur / kDerniereReprise;
+  Coupe(
+      [](Bureau &programme, int n) {
+        if (!programme.reprise) {
+          OuvreReprise(programme);
+          programme.sessionLaissee.clear(); // asked about, and not taken up
         }
-        return -1;
+        SaisitTexte(programme, programme.donnees.Text6, std::to_string(n));
+        GardeSession(programme);
+        programme.reprise->Attend();
+      },
+      [&](int /*dit*/) {
+        const std::optional<Session> session = LitSession(Contenu(fs::exists(ici) ? ici : avant));
+        if (!session) {
+          return -1;
+        }
+        const auto &champs = session->controles;
+        const auto champ = std::find_if(champs.begin(), champs.end(), [](const auto &c) { return c.nom == "Text6"; });
+        return champ == champs.end() ? -1 : std::atoi(champ->valeur.c_str());
       });
 }
 
