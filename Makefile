@@ -8,6 +8,8 @@ SHELL := /bin/bash
 SUDO := $(shell [ "$$(id -u)" = 0 ] || echo sudo)
 APT := $(SUDO) env DEBIAN_FRONTEND=noninteractive apt-get -o DPkg::Lock::Timeout=300
 TACHES := 2
+# Tests at once: most of them wait (see tests/CMakeLists.txt).
+PLACES := 6
 # Seconds that each fuzz target runs.
 DUREE := 60
 # Where its chance begins: 0 for another place each time.
@@ -42,7 +44,7 @@ run: deps
 	tools/demarre
 
 test: deps build
-	ctest --test-dir build --output-on-failure -j$(TACHES)
+	ctest --test-dir build --output-on-failure -j$(PLACES)
 
 # The form of every tracked source, then the checks of cppcheck and of .clang-tidy on the core and the programs.
 lint: deps build
@@ -55,7 +57,7 @@ lint: deps build
 test-sanitize: deps
 	cmake --preset sanitize
 	cmake --build --preset sanitize
-	UBSAN_OPTIONS=print_stacktrace=1 LSAN_OPTIONS=suppressions=$(CURDIR)/tests/lsan.supp ctest --preset sanitize -j$(TACHES)
+	UBSAN_OPTIONS=print_stacktrace=1 LSAN_OPTIONS=suppressions=$(CURDIR)/tests/lsan.supp ctest --preset sanitize -j$(PLACES)
 
 # Lines and branches that the tests of the core and of the companion run, folder by folder; fails under 95 % of lines.
 # What they don't run, file by file, is left in build/coverage/couverture.txt. gcovr puts a new file in the place of what
