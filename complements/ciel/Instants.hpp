@@ -11,6 +11,7 @@ namespace velmaris {
 struct InstantUTC {
   double jour = 0;
   double fraction = 0;
+  bool operator==(const InstantUTC &) const = default;
 };
 
 /// Universal Time: the Earth's rotation.

@@ -31,6 +31,7 @@ struct MesureLunaire {
   Contact contactLune = Contact::Inferieur; ///< which limb that height is of
   Contact contactAstre = Contact::Centre;   ///< the same of the other body
   bool ecartee = false;                     ///< left out by the user; it keeps its residual
+  bool operator==(const MesureLunaire &) const = default;
 };
 
 /// What distances are reduced by.

@@ -111,6 +111,17 @@ template <class Ligne, class Temps> void Ordonne(std::vector<Ligne> &lignes, std
   lignes = std::move(rangees);
 }
 
+void OublieResultats(SerieOuverte &p) {
+  p.rangs.clear();
+  p.fiche = FicheSerie();
+  p.course.clear();
+  p.midi = FicheMeridienne();
+  p.courbe.clear();
+  p.egales.reset();
+  p.lune = FicheLunaire();
+  p.candidats.clear();
+}
+
 } // namespace
 
 void RefaitSerie(Bureau &bureau) {
@@ -120,9 +131,14 @@ void RefaitSerie(Bureau &bureau) {
   p.dit.clear();
   GardeSerie(bureau);
   const std::optional<BaseLectures> base = LitBase(bureau);
-  if (!base) {
+  if (!base) { // what was worked out stays in sight while a field is mended, but not beside other readings than its own
+    if (p.lectures != p.lecturesReduites || p.distances != p.distancesReduites) {
+      OublieResultats(p);
+    }
     return;
   }
+  p.lecturesReduites = p.lectures;
+  p.distancesReduites = p.distances;
   switch (static_cast<PageSerie>(f.Onglets1.rang)) {
   case PageSerie::Serie:
     RefaitUneSerie(p, *base);

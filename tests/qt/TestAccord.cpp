@@ -30,11 +30,19 @@ int Evenements() {
 class Accord : public FenetreOuverte {
 protected:
   void Verifie(const std::string &apres) {
+    for (const Boite &boite : std::exchange(boites, {})) {
+      if (boite.texte.starts_with(d.TexteErreur.legende + "\n")) {
+        ADD_FAILURE() << boite.texte << " after " << apres;
+        fin = true;
+      }
+    }
     if (bureau.termine) {
       return; // a program that ends shows nothing any more
     }
     if (const Controle *ecart = scene.Ecart()) {
-      ADD_FAILURE() << ecart->fenetre << " " << ecart->nom << " " << ecart->indice << " after " << apres;
+      ADD_FAILURE() << ecart->fenetre << " " << ecart->nom << " " << ecart->indice << " after " << apres << "; rows "
+                    << ecart->tableau.lignes << ", current " << ecart->tableau.courante << ", chosen "
+                    << ::testing::PrintToString(ecart->tableau.choisies);
       scene.Accorde();
       fin = true;
     }
@@ -230,8 +238,7 @@ TEST_F(Accord, RandomEventsInTheWindowsOfTheComplementsLeaveNoDifference) {
   for (const Fenetre &ici : fenetres) {
     SCOPED_TRACE(std::string(ici.cadre->nom));
     AuHasardEncore([&] {
-      bureau.termine = false;
-      PoseOption(bureau, d.Option7[0]);
+      EXPECT_FALSE(std::exchange(bureau.termine, false));
       Joue([&] { ClicControle(bureau, d.*ici.entree); });
       return Libre(*ici.cadre);
     });

@@ -19,6 +19,7 @@ struct LectureListee {
   InstantUTC utc;
   std::optional<double> lecture; ///< degrees, as the arc shows it
   bool ecartee = false;          ///< left out by the user
+  bool operator==(const LectureListee &) const = default;
 };
 
 /// A distance as the window lists it; its heights are as read.
@@ -26,6 +27,7 @@ struct DistanceListee {
   MesureLunaire mesure;              ///< without heights and index
   std::optional<double> hauteurLune; ///< degrees, as the arc shows it
   std::optional<double> hauteurAstre;
+  bool operator==(const DistanceListee &) const = default;
 };
 
 /// A point of a body's course, for the plot of noon.
@@ -52,12 +54,14 @@ struct PasSerie {
 
 /// Readings of one body and distances of the Moon, and what came out of them, as their window shows it.
 struct SerieOuverte {
-  std::vector<LectureListee> lectures;   ///< by time
-  std::vector<DistanceListee> distances; ///< by time
-  std::size_t choisie = 0;               ///< reading that the fields are of; any number for none
-  std::size_t choisieLune = 0;           ///< distance, the same
-  std::vector<std::size_t> rangs;        ///< readings that have their angle, by their places in `lectures`
-  FicheSerie fiche;                      ///< of these
+  std::vector<LectureListee> lectures;           ///< by time
+  std::vector<DistanceListee> distances;         ///< by time
+  std::size_t choisie = 0;                       ///< reading that the fields are of; any number for none
+  std::size_t choisieLune = 0;                   ///< distance, the same
+  std::vector<LectureListee> lecturesReduites;   ///< those that the results are of
+  std::vector<DistanceListee> distancesReduites; ///< the same
+  std::vector<std::size_t> rangs;                ///< readings that have their angle, by their places in `lectures`
+  FicheSerie fiche;                              ///< of these
   std::vector<PointCourse> course;
   FicheMeridienne midi; ///< of these
   std::vector<PointMidi> courbe;

@@ -145,6 +145,29 @@ TEST_F(FenetreDeSerie, AWrongBodyIsToldByItsSlope) {
   EXPECT_THAT(Lignes(f.LabSerie), HasSubstr(f.TextePiste.legende + f.MotPiste[0].legende + "Vega"));
 }
 
+TEST_F(FenetreDeSerie, NoResultStandsBesideOtherReadingsThanItsOwnWhileAFieldCannotBeUsed) {
+  for (const PageSerie page : {PageSerie::Serie, PageSerie::Midi, PageSerie::Lune}) {
+    TapeVisee();
+    Ouvre();
+    TapeLectures(kCinq);
+    ChoisitLigne(bureau, f.Onglets1, static_cast<int>(page));
+    AccordeSerie(bureau);
+    SaisitTexte(bureau, f.Text1[2], "nulle part");
+    AccordeSerie(bureau);
+    ClicControle(bureau, f.Command3[3]); // all readings go
+    EXPECT_NO_THROW(AccordeSerie(bureau));
+    EXPECT_FALSE(p.fiche.faite);
+    EXPECT_FALSE(p.midi.passage);
+    EXPECT_TRUE(page != PageSerie::Serie || Lignes(f.Resultat).find("09:0") == std::string::npos);
+    SaisitTexte(bureau, f.Text1[2], "47 30 N");
+    AccordeSerie(bureau);
+    ChoisitLigne(bureau, f.Onglets1, static_cast<int>(PageSerie::Serie));
+    TapeLectures(kCinq);
+    EXPECT_TRUE(p.fiche.faite);
+    ClicControle(bureau, f.Command3[3]);
+  }
+}
+
 TEST_F(FenetreDeSerie, TakingPutsBodyTimeAndReadingIntoThePanelAsOneGesture) {
   TapeVisee();
   Ouvre();
