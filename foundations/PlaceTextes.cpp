@@ -177,12 +177,28 @@ bool SeCoupent(const ZoneTexte &a, const ZoneTexte &b) {
   return a.gauche < b.droite() && b.gauche < a.droite() && a.haut < b.bas() && b.haut < a.bas();
 }
 
+/// The strip that a height lies in; beyond the surface it is the nearest one.
+std::size_t PlanTextes::EtageDe(double y) const {
+  const double etage = y / std::max(hauteur_, 1.0) * kEtages;
+  return static_cast<std::size_t>(std::max(0.0, std::min(etage, kEtages - 1.0)));
+}
+
+void PlanTextes::Prend(const ZoneTexte &zone) {
+  for (std::size_t i = EtageDe(zone.haut); i <= EtageDe(zone.bas()); ++i) {
+    prises_.at(i).push_back(zone);
+  }
+}
+
 bool PlanTextes::EstLibre(ZoneTexte zone) const {
   zone.gauche -= kEcart;
   zone.largeur += 2 * kEcart;
   zone.haut -= kEntreLignes;
   zone.hauteur += 2 * kEntreLignes;
-  return std::none_of(prises_.begin(), prises_.end(), [&](const ZoneTexte &prise) { return SeCoupent(prise, zone); });
+  const auto libre = [&](const std::vector<ZoneTexte> &etage) {
+    return std::none_of(etage.begin(), etage.end(), [&](const ZoneTexte &prise) { return SeCoupent(prise, zone); });
+  };
+  const auto etages = std::span(prises_).subspan(EtageDe(zone.haut), EtageDe(zone.bas()) + 1 - EtageDe(zone.haut));
+  return std::all_of(etages.begin(), etages.end(), libre);
 }
 
 ZoneTexte PlanTextes::Rentree(ZoneTexte zone) const {

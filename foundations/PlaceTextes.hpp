@@ -2,6 +2,7 @@
 
 #include "foundations/Surface.hpp"
 
+#include <array>
 #include <cstddef>
 #include <functional>
 #include <optional>
@@ -48,7 +49,7 @@ class PlanTextes {
 public:
   PlanTextes(double largeur, double hauteur) : largeur_(largeur), hauteur_(hauteur) {}
 
-  void Prend(const ZoneTexte &zone) { prises_.push_back(zone); }
+  void Prend(const ZoneTexte &zone);
   bool EstLibre(ZoneTexte zone) const;
   /// The place moved inside of the surface's edges.
   ZoneTexte Rentree(ZoneTexte zone) const;
@@ -61,9 +62,12 @@ public:
   ZoneTexte Proche(const ZoneTexte &zone) const;
 
 private:
+  static constexpr std::size_t kEtages = 64;
+  std::size_t EtageDe(double y) const;
+
   double largeur_;
   double hauteur_;
-  std::vector<ZoneTexte> prises_;
+  std::array<std::vector<ZoneTexte>, kEtages> prises_; ///< by the strips across the surface that they touch
 };
 
 /// Which of a surface's texts are shown, and where: none overprints another. They take their places in the order of

@@ -1,6 +1,7 @@
 #include "shell/qt/peinture/Toile.hpp"
 
 #include "shell/qt/peinture/Apparat.hpp"
+#include "shell/qt/peinture/Bandes.hpp"
 #include "shell/qt/peinture/Palette.hpp"
 
 #include <QApplication>
@@ -72,11 +73,20 @@ void Toile::Recopie() {
   std::copy_n(lignes_.constBits(), lignes_.sizeInBytes(), image_.bits());
 }
 
-/// The ground, with the filled shapes on it.
-void Toile::PeintFond(double facteur) {
-  lignes_.fill(FondA(eclairage_, CouleurQt(surface_.fond)));
-  QPainter painter(&lignes_);
-  PeintAires(painter, surface_, facteur, {.eclairage = eclairage_, .pixel = Trait(*this)});
+/// The ground, the filled shapes and the lines; a chart has so many of them that the processors share them out.
+void Toile::PeintToutes(double facteur, Maniere maniere) {
+  const QColor fond = FondA(eclairage_, CouleurQt(surface_.fond));
+  const auto peint = [&](QPainter &painter) {
+    painter.fillRect(rect(), fond);
+    PeintAires(painter, surface_, facteur, maniere);
+    PeintLignes(painter, surface_, facteur, 0, maniere);
+  };
+  if (surface_.teintee && !surface_.aires.empty()) {
+    PeintEnBandes(lignes_, peint);
+  } else {
+    QPainter painter(&lignes_);
+    peint(painter);
+  }
 }
 
 /// The layer and the texts over the lines; where there is neither, the lines are the whole picture.
@@ -120,13 +130,12 @@ void Toile::Accorde() {
     lignes_ = QImage(taille, QImage::Format_RGB32);
     lignes_.setDevicePixelRatio(devicePixelRatioF());
   }
+  const Maniere maniere{.eclairage = eclairage_, .pixel = Trait(*this)};
   if (neuve) {
-    PeintFond(facteur);
+    PeintToutes(facteur, maniere);
     aires_ = aires;
     traces_ = 0;
-  }
-  const Maniere maniere{.eclairage = eclairage_, .pixel = Trait(*this)};
-  if (tracee) {
+  } else if (tracee) {
     QPainter painter(&lignes_);
     // The last polyline may have grown since it was painted: it is painted again.
     const bool reprise = traces_ > 0 && traces_ <= surface_.traces.size() && points_ != 0;

@@ -56,7 +56,7 @@ protected:
 private:
   void Mouvement(const QMouseEvent &event) const;
   bool TexteDepuis(std::size_t premier) const;
-  void PeintFond(double facteur);
+  void PeintToutes(double facteur, Maniere maniere);
   bool EstNue() const;
   void AccordeNue(bool change);
   void Recopie();

@@ -9,6 +9,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <optional>
 #include <utility>
 
 namespace velmaris::qt {
@@ -50,7 +51,7 @@ bool FautLisere(const QColor &couleur, const QColor &fond) {
   return couleur.hsvSaturationF() > 0.5F && std::abs(clarte(couleur) - clarte(fond)) < kContrasteFaible;
 }
 
-/// Paints one recorded trace.
+/// Paints recorded traces, one after the other.
 struct Peintre {
   QPainter &painter;
   double facteur = 1.0;
@@ -58,16 +59,26 @@ struct Peintre {
   Eclairage eclairage = Eclairage::Jour;
   double pixel = 1.0;
 
+  /// How lines of one pen and kind are painted: a chart has thousands of them in a row.
+  struct Trait {
+    Plume plume;
+    GenreLigne genre = GenreLigne::Libre;
+    QPen pen;
+    std::optional<QPen> lisere;
+  };
+  std::optional<Trait> trait = {};
+  QPolygonF points = {}; ///< of the line under way
+
   QPointF Place(Point p) const { return {p.x * facteur, p.y * facteur}; }
 
   /// The points of a line that can be told apart. One that never leaves its first point is only that.
-  QPolygonF Amincit(const Polyligne &ligne) const {
+  void Amincit(const Polyligne &ligne) {
     const double pas = kPasVisible * pixel / facteur;
     const double seuil = pas * pas;
     const auto distinct = [&](Point a, Point b) {
       return (a.x - b.x) * (a.x - b.x) + (a.y - b.y) * (a.y - b.y) >= seuil;
     };
-    QPolygonF points;
+    points.clear();
     points.reserve(static_cast<qsizetype>(ligne.points.size()));
     Point garde = ligne.points.front();
     points << Place(garde);
@@ -80,7 +91,6 @@ struct Peintre {
     if (points.size() > 1) {
       points.last() = Place(ligne.points.back()); // less than a step away
     }
-    return points;
   }
 
   /// The pen of a line. By night lines of position are broader, since they have no colour of their own.
@@ -94,34 +104,45 @@ struct Peintre {
     return plume;
   }
 
+  const Trait &TraitDe(const Polyligne &ligne) {
+    if (!trait || trait->plume != ligne.plume || trait->genre != ligne.genre) {
+      trait = {.plume = ligne.plume, .genre = ligne.genre, .pen = PlumeDe(ligne), .lisere = {}};
+      if (eclairage == Eclairage::Jour && FautLisere(CouleurQt(ligne.plume.couleur), fond)) {
+        trait->lisere = QPen(kLisere, trait->pen.widthF() + 2 * pixel);
+        trait->pen = QPen(trait->pen.color(), trait->pen.widthF() + pixel / 2);
+      }
+    }
+    return *trait;
+  }
+
   /// A thin line along an axis in the middle of its row of pixels, so that it is of one shade.
-  QPolygonF SurPixels(QPolygonF points) const {
+  void PoseSurPixels() {
     const double densite = painter.device()->devicePixelRatioF();
     for (QPointF &p : points) {
       p = {(std::floor(p.x() * densite) + 0.5) / densite, (std::floor(p.y() * densite) + 0.5) / densite};
     }
-    return points;
   }
 
-  void operator()(const Polyligne &ligne) const {
-    const QPolygonF points = Amincit(ligne);
+  void operator()(const Polyligne &ligne) {
+    Amincit(ligne);
     if (points.size() < 2) {
       return;
     }
-    const QPen plume = PlumeDe(ligne);
+    const Trait &ici = TraitDe(ligne);
     // A single line along an axis is sharp only without smoothing, or on a row of pixels.
     const bool droite =
         ligne.points.size() == 2 && (ligne.points[0].x == ligne.points[1].x || ligne.points[0].y == ligne.points[1].y);
     const bool fine = ligne.genre == GenreLigne::GrilleFine;
     painter.setRenderHint(QPainter::Antialiasing, !droite || fine);
-    if (eclairage == Eclairage::Jour && FautLisere(CouleurQt(ligne.plume.couleur), fond)) {
-      painter.setPen(QPen(kLisere, plume.widthF() + 2 * pixel));
+    if (ici.lisere) {
+      painter.setPen(*ici.lisere);
       painter.drawPolyline(points);
-      painter.setPen(QPen(plume.color(), plume.widthF() + pixel / 2));
-    } else {
-      painter.setPen(plume);
     }
-    painter.drawPolyline(fine ? SurPixels(points) : points);
+    if (fine) {
+      PoseSurPixels();
+    }
+    painter.setPen(ici.pen);
+    painter.drawPolyline(points);
   }
   void operator()(const CercleTrace &cercle) const {
     painter.setPen(
@@ -177,7 +198,11 @@ void PeintAires(QPainter &painter, const Surface &surface, double facteur, Manie
     return;
   }
   const Teintes &teintes = TeintesDe(maniere.eclairage);
-  const Cadrage cadrage{{-kMargeAire, -kMargeAire}, {surface.largeur + kMargeAire, surface.hauteur + kMargeAire}};
+  const QRectF vue = painter.transform().inverted().mapRect(QRectF(painter.viewport()));
+  const Cadrage cadrage{
+      {std::max(vue.left() / facteur, 0.0) - kMargeAire, std::max(vue.top() / facteur, 0.0) - kMargeAire},
+      {std::min(vue.right() / facteur, surface.largeur) + kMargeAire,
+       std::min(vue.bottom() / facteur, surface.hauteur) + kMargeAire}};
   painter.setPen(Qt::NoPen);
   // Their edges lie under their outlines; smoothing them would take ten times as long.
   painter.setRenderHint(QPainter::Antialiasing, false);
@@ -197,7 +222,7 @@ void PeintAires(QPainter &painter, const Surface &surface, double facteur, Manie
 }
 
 void PeintLignes(QPainter &painter, const Surface &surface, double facteur, std::size_t premier, Maniere maniere) {
-  const Peintre peintre{painter, facteur, CouleurQt(surface.fond), maniere.eclairage, maniere.pixel};
+  Peintre peintre{painter, facteur, CouleurQt(surface.fond), maniere.eclairage, maniere.pixel};
   for (std::size_t i = premier; i < surface.traces.size(); ++i) {
     if (std::visit(Visible{}, surface.traces[i])) {
       std::visit(peintre, surface.traces[i]);
@@ -206,7 +231,7 @@ void PeintLignes(QPainter &painter, const Surface &surface, double facteur, std:
 }
 
 void PeintCalque(QPainter &painter, const Surface &surface, double facteur, Maniere maniere) {
-  const Peintre peintre{painter, facteur, CouleurQt(surface.fond), maniere.eclairage, maniere.pixel};
+  Peintre peintre{painter, facteur, CouleurQt(surface.fond), maniere.eclairage, maniere.pixel};
   for (const Trace &trace : surface.calque.traces) {
     if (std::visit(Visible{}, trace)) {
       std::visit(peintre, trace);
