@@ -1,8 +1,8 @@
 #!/usr/bin/env python3
 """Whether two builds of the companion say the same of saved sights, to the last bit: figures and texts of the told
-reduction, as `reduit` prints them in French.
+reduction, as `reduit` prints them in French; or those of another verb.
 
-Usage: memes_bits.py PROGRAM OTHER [--visees N] [--graine S] [--lanceur COMMAND]
+Usage: memes_bits.py PROGRAM OTHER [--visees N] [--graine S] [--lanceur COMMAND] [--verbe VERB]
   PROGRAM, OTHER  two `velmaris-calcul`
   --visees        how many sights, at random; 20,000 by default
   --lanceur       what runs OTHER, as "qemu-aarch64 -L /usr/aarch64-linux-gnu"
@@ -47,8 +47,9 @@ def visee(hasard):
     return "".join(ligne + "\r\n" for ligne in lignes)
 
 
-def dit(commande, fichiers):
-    sortie = subprocess.run([*commande, "reduit", "--langue", "fr", *fichiers], stdout=subprocess.PIPE, check=False)
+def dit(commande, verbe, fichiers):
+    langue = ["--langue", "fr"] if verbe == "reduit" else []
+    sortie = subprocess.run([*commande, verbe, *langue, *fichiers], stdout=subprocess.PIPE, check=False)
     return sortie.stdout.splitlines()
 
 
@@ -59,6 +60,7 @@ def main():
     arguments.add_argument("--visees", type=int, default=20000)
     arguments.add_argument("--graine", type=int, default=1)
     arguments.add_argument("--lanceur", default="")
+    arguments.add_argument("--verbe", default="reduit")
     voulu = arguments.parse_args()
     hasard = random.Random(voulu.graine)
     memes = autres = reduites = 0
@@ -69,8 +71,8 @@ def main():
                 fichier = Path(dossier) / f"{rang}.LoP"
                 fichier.write_bytes(visee(hasard).encode("cp1252"))
                 fichiers.append(str(fichier))
-            ici = dit([voulu.programme], fichiers)
-            la = dit([*shlex.split(voulu.lanceur), voulu.autre], fichiers)
+            ici = dit([voulu.programme], voulu.verbe, fichiers)
+            la = dit([*shlex.split(voulu.lanceur), voulu.autre], voulu.verbe, fichiers)
             if len(ici) != len(fichiers) or len(la) != len(fichiers):
                 sys.exit(f"{len(fichiers)} sights, {len(ici)} and {len(la)} lines")
             for une, seconde in zip(ici, la):
