@@ -11,6 +11,7 @@
 #include "shell/qt/peinture/Apparence.hpp"
 #include "shell/qt/systeme/Commande.hpp"
 #include "shell/qt/systeme/Portail.hpp"
+#include "shell/qt/systeme/Repos.hpp"
 #include "shell/qt/systeme/Signaux.hpp"
 #include "shell/qt/widgets/Accessible.hpp"
 
@@ -59,6 +60,7 @@ int Joue(const velmaris::qt::Commande &commande, bool sombre, bool &recommence) 
   velmaris::OuvreReprise(bureau);
   velmaris::qt::Scene scene(bureau);
   const velmaris::qt::Signaux signaux(scene);
+  const velmaris::qt::Repos repos;
   velmaris::qt::Fenetre fenetre(scene);
   fenetre.show();
   std::optional<velmaris::qt::Portail> portail;

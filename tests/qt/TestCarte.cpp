@@ -1,6 +1,8 @@
 #include "OutilsFenetre.hpp"
 
+#include "shell/qt/peinture/Bandes.hpp"
 #include "shell/qt/peinture/Toile.hpp"
+#include "shell/qt/peinture/Traces.hpp"
 
 #include <QMenu>
 #include <QPainter>
@@ -61,6 +63,36 @@ TEST_F(CarteOuverte, ANameThatChangesAtALinesEndIsPaintedAnew) {
   const QImage avant = toile->grab().toImage();
   Joue([this] { bureau.image1.etiquettes[0].texte.texte = "Sun 12:05"; });
   EXPECT_NE(toile->grab().toImage(), avant);
+}
+
+TEST_F(CarteOuverte, PaintedInBandsItLooksAsPaintedAtOnce) {
+  OuvreFeuille();
+  PoseValeur(bureau, d.HScroll1, 20000);
+  Joue([this] {
+    Calcule();
+    ClicControle(bureau, d.Command17);
+  });
+  ASSERT_FALSE(bureau.image1.aires.empty());
+  const double facteur = qt::PixelsParTwip(*toile);
+  const auto peint = [&](QPainter &painter) {
+    painter.fillRect(toile->rect(), Qt::white);
+    qt::PeintAires(painter, bureau.image1, facteur, {});
+    qt::PeintLignes(painter, bureau.image1, facteur, 0, {});
+  };
+  QImage entiere(toile->size(), QImage::Format_RGB32);
+  QImage bandes(toile->size(), QImage::Format_RGB32);
+  QPainter painter(&entiere);
+  peint(painter);
+  qt::PeintEnBandes(bandes, peint, 3);
+  int autres = 0;
+  for (int y = 0; y < entiere.height(); ++y) {
+    for (int x = 0; x < entiere.width(); ++x) {
+      const QRgb a = entiere.pixel(x, y);
+      const QRgb b = bandes.pixel(x, y);
+      autres += std::abs(qRed(a) - qRed(b)) + std::abs(qGreen(a) - qGreen(b)) + std::abs(qBlue(a) - qBlue(b)) > 6;
+    }
+  }
+  EXPECT_LE(autres, entiere.width() / 50) << "pixels, along two seams";
 }
 
 TEST_F(CarteOuverte, TheLayerLiesOverTheLinesAndGoesWithoutATrace) {

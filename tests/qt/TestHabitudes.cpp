@@ -6,6 +6,7 @@
 #include "shell/qt/cadre/FenetreImpression.hpp"
 #include "shell/qt/cadre/PortsQt.hpp"
 #include "shell/qt/systeme/Images.hpp"
+#include "shell/qt/systeme/Repos.hpp"
 
 #include <QClipboard>
 #include <QContextMenuEvent>
@@ -273,6 +274,30 @@ TEST_F(Habitudes, ThePrintPageGrowsWithItsWindowAndKeepsItsSize) {
   page = Ouverte<qt::FenetreImpression>();
   ASSERT_NE(page, nullptr);
   EXPECT_EQ(page->size(), QSize(600, 400));
+}
+
+void Attends(int ms) {
+  QEventLoop boucle;
+  QTimer::singleShot(ms, &boucle, &QEventLoop::quit);
+  boucle.exec();
+}
+
+TEST_F(Habitudes, TheCursorOfAProgramThatNobodyTouchesStopsBlinkingUntilTheNextKey) {
+  const int cadence = QApplication::cursorFlashTime();
+  ASSERT_GT(cadence, 0);
+  {
+    Ouvre(kGrandEcran);
+    auto *champ = Trouve<QLineEdit>("Text6");
+    const qt::Repos repos(std::chrono::milliseconds(30));
+    EXPECT_EQ(QApplication::cursorFlashTime(), cadence);
+    Attends(120);
+    EXPECT_EQ(QApplication::cursorFlashTime(), 0);
+    Touche(champ, Qt::Key_Left);
+    EXPECT_EQ(QApplication::cursorFlashTime(), cadence);
+    Attends(120);
+    EXPECT_EQ(QApplication::cursorFlashTime(), 0);
+  }
+  EXPECT_EQ(QApplication::cursorFlashTime(), cadence) << "as the desktop has it";
 }
 
 } // namespace

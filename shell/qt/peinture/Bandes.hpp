@@ -12,10 +12,11 @@ namespace velmaris::qt {
 
 /// Paints an image in bands that lie under one another, one on each processor; the caller waits for all of them. What
 /// is painted must not write anything but its band: it is told the same on each of them.
-/// @param peint  paints with a painter whose coordinates are those of the whole image
-template <class Peinture> void PeintEnBandes(QImage &image, const Peinture &peint) {
-  constexpr int kBandesMax = 4; // more of them share each line's points out to no use
-  const int bandes = std::clamp(std::min(QThread::idealThreadCount(), image.height()), 1, kBandesMax);
+/// @param peint    paints with a painter whose coordinates are those of the whole image
+/// @param voulues  bands; each goes through all lines, so that many of them are of little use
+template <class Peinture>
+void PeintEnBandes(QImage &image, const Peinture &peint, int voulues = std::min(QThread::idealThreadCount(), 4)) {
+  const int bandes = std::clamp(voulues, 1, std::max(1, image.height()));
   uchar *octets = image.bits();
   const auto bande = [&, octets](int rang) {
     const int haut = image.height() * rang / bandes;
