@@ -12,6 +12,8 @@ namespace {
 
 constexpr double kMinutes = 60; ///< of arc in a degree
 constexpr double kPiedsParMetre = 1 / 0.3048;
+constexpr double kAssezPres = 1E-13; ///< degrees
+constexpr int kToursRetour = 60;     ///< of the way down: each leaves a fifth of what was wrong at most, on the horizon
 
 /// The arc error at a reading, minutes.
 double ErreurDeLArc(std::span<const ErreurArc> table, double lecture) {
@@ -105,6 +107,34 @@ EtapesHauteur CorrigeLecture(const LectureSextant &lecture, const PlaceGeocentri
   etapes.refraction = Refraction(etapes.apparente, lecture.pression, lecture.temperature);
   OteLieu(lecture.contact, place, station, etapes.apparente - etapes.refraction / kMinutes, etapes);
   return etapes;
+}
+
+double ApparenteDe(double sansAir, double pression, double temperature) {
+  double apparente = sansAir;
+  for (int tour = 0; tour < kToursRetour; ++tour) {
+    const double suivante = sansAir + Refraction(apparente, pression, temperature) / kMinutes;
+    const double pas = suivante - apparente;
+    apparente = suivante;
+    if (!(std::fabs(pas) > kAssezPres)) {
+      break;
+    }
+  }
+  return apparente;
+}
+
+double LecturePour(const LectureSextant &lecture, const PlaceGeocentrique &place, const Station &station,
+                   double topocentrique) {
+  const double facteur = lecture.horizonArtificiel ? 2 : 1;
+  LectureSextant essai = lecture;
+  essai.lecture = topocentrique * facteur;
+  for (int tour = 0; tour < kToursRetour; ++tour) {
+    const double pas = topocentrique - CorrigeLecture(essai, place, station).topocentrique;
+    essai.lecture += pas * facteur;
+    if (!(std::fabs(pas) > kAssezPres)) {
+      break;
+    }
+  }
+  return essai.lecture;
 }
 
 } // namespace velmaris

@@ -1,7 +1,7 @@
 #include "complements/exercice/Exercice.hpp"
 
 #include "complements/ciel/CielDuMoment.hpp"
-#include "complements/ciel/VersLecture.hpp"
+#include "complements/ciel/EtapesHauteur.hpp"
 #include "complements/exercice/Ciels.hpp"
 #include "complements/point/Sphere.hpp"
 

@@ -1,6 +1,6 @@
 #include "complements/lunaire/Distance.hpp"
 
-#include "complements/ciel/VersLecture.hpp"
+#include "complements/ciel/EtapesHauteur.hpp"
 #include "complements/ciel/Vue.hpp"
 #include "complements/point/Sphere.hpp"
 

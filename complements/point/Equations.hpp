@@ -1,7 +1,7 @@
 #pragma once
 
-#include "complements/point/PentesRoute.hpp"
 #include "complements/point/Point.hpp"
+#include "complements/point/Route.hpp"
 
 #include <Eigen/Core>
 

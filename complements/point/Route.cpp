@@ -1,4 +1,4 @@
-#include "complements/point/PentesRoute.hpp"
+#include "complements/point/Route.hpp"
 #include "complements/point/Sphere.hpp"
 
 #include <algorithm>

@@ -2,6 +2,8 @@
 
 #include "complements/ciel/Instants.hpp"
 
+#include <array>
+#include <cstddef>
 #include <vector>
 
 namespace velmaris {
@@ -63,6 +65,28 @@ inline constexpr double kLatitudeMax = 89.99;
 /// Source: meridional parts of the sphere; along a parallel, and near it, their mean rate.
 Arrivee SuitTroncons(const std::vector<Troncon> &troncons, const Courant &courant, const LieuNavire &depart,
                      const EcartRoute &ecart = {});
+
+/// What the end of a way hangs on.
+enum ParametreRoute : std::size_t {
+  kLatitudeDepart,  ///< degrees
+  kLongitudeDepart, ///< degrees
+  kEcartCap,        ///< degrees
+  kEcartVitesse,    ///< part of the speed
+  kEcartNord,       ///< knots
+  kEcartEst,        ///< knots
+  kParametresRoute
+};
+
+/// The end of a way, and by how many degrees it moves with one unit of each parameter.
+struct ArriveePentes {
+  Arrivee arrivee;
+  std::array<double, kParametresRoute> latitude{};
+  std::array<double, kParametresRoute> longitude{};
+};
+
+/// As `SuitTroncons`, with the slopes, in closed form.
+ArriveePentes SuitAvecPentes(const std::vector<Troncon> &troncons, const Courant &courant, const LieuNavire &depart,
+                             const EcartRoute &ecart);
 
 /// Moves a ship along its track from one time to another; backward it goes the same track.
 Arrivee Deplace(const RouteNavire &route, const LieuNavire &depart, const InstantUTC &de, const InstantUTC &a);

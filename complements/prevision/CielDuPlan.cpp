@@ -1,6 +1,6 @@
 #include "complements/prevision/CielDuPlan.hpp"
 
-#include "complements/ciel/VersLecture.hpp"
+#include "complements/ciel/EtapesHauteur.hpp"
 #include "complements/ciel/Vue.hpp"
 #include "complements/point/Sphere.hpp"
 #include "complements/prevision/Magnitudes.hpp"

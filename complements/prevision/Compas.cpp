@@ -1,7 +1,6 @@
 #include "complements/prevision/Compas.hpp"
 
 #include "complements/ciel/EtapesHauteur.hpp"
-#include "complements/ciel/VersLecture.hpp"
 #include "complements/point/Sphere.hpp"
 #include "complements/prevision/Traversees.hpp"
 

@@ -1,6 +1,6 @@
 #include "complements/serie/Ajustement.hpp"
 
-#include "complements/point/PentesRoute.hpp"
+#include "complements/point/Route.hpp"
 #include "complements/point/Sphere.hpp"
 
 #include <algorithm>

@@ -1,6 +1,6 @@
 #include "complements/serie/Serie.hpp"
 
-#include "complements/ciel/VersLecture.hpp"
+#include "complements/ciel/EtapesHauteur.hpp"
 #include "complements/point/Epreuve.hpp"
 #include "complements/point/Lois.hpp"
 #include "complements/point/Sphere.hpp"

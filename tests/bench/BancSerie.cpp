@@ -1,6 +1,6 @@
 #include "Mesure.hpp"
 #include "complements/ciel/CielDuMoment.hpp"
-#include "complements/ciel/VersLecture.hpp"
+#include "complements/ciel/EtapesHauteur.hpp"
 #include "complements/exercice/Exercice.hpp"
 #include "complements/lunaire/Classement.hpp"
 #include "complements/lunaire/Lunaire.hpp"

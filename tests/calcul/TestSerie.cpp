@@ -1,7 +1,7 @@
 #include "OutilsReduit.hpp"
 
 #include "complements/ciel/CielDuMoment.hpp"
-#include "complements/ciel/VersLecture.hpp"
+#include "complements/ciel/EtapesHauteur.hpp"
 
 #include <cmath>
 #include <cstdio>

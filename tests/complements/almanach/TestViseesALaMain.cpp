@@ -3,7 +3,7 @@
 
 #include "complements/almanach/Arrondis.hpp"
 #include "complements/almanach/JourDuCiel.hpp"
-#include "complements/ciel/VersLecture.hpp"
+#include "complements/ciel/EtapesHauteur.hpp"
 #include "complements/ciel/Vue.hpp"
 #include "complements/controle/RouteActuelle.hpp"
 #include "complements/point/Sphere.hpp"

@@ -1,5 +1,5 @@
 #include "OutilsPoint.hpp"
-#include "complements/point/PentesRoute.hpp"
+#include "complements/point/Route.hpp"
 
 #include <gtest/gtest.h>
 

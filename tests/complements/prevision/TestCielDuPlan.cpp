@@ -2,7 +2,6 @@
 
 #include "complements/ciel/CielDuMoment.hpp"
 #include "complements/ciel/EtapesHauteur.hpp"
-#include "complements/ciel/VersLecture.hpp"
 #include "complements/prevision/Magnitudes.hpp"
 #include "tests/ephemerides/EtoilesVraies.hpp"
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "complements/ciel/VersLecture.hpp"
+#include "complements/ciel/EtapesHauteur.hpp"
 #include "complements/serie/LecturesPretes.hpp"
 #include "foundations/TexteNombre.hpp"
 #include "shell/complements/Mots.hpp"
