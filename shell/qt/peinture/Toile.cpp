@@ -77,7 +77,7 @@ void Toile::Recopie() {
 void Toile::PeintToutes(double facteur, Maniere maniere) {
   const QColor fond = FondA(eclairage_, CouleurQt(surface_.fond));
   const auto peint = [&](QPainter &painter) {
-    painter.fillRect(rect(), fond);
+    painter.fillRect(rect().adjusted(0, 0, 1, 1), fond); // a part of a pixel at the edge too
     PeintAires(painter, surface_, facteur, maniere);
     PeintLignes(painter, surface_, facteur, 0, maniere);
   };
