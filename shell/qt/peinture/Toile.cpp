@@ -81,7 +81,7 @@ void Toile::PeintToutes(double facteur, Maniere maniere) {
     PeintAires(painter, surface_, facteur, maniere);
     PeintLignes(painter, surface_, facteur, 0, maniere);
   };
-  if (surface_.teintee && !surface_.aires.empty()) {
+  if (!surface_.aires.empty()) {
     PeintEnBandes(lignes_, peint);
   } else {
     QPainter painter(&lignes_);
