@@ -32,6 +32,13 @@ repete() { local touches=(); for _ in $(seq "$2"); do touches+=("$1"); done; tou
 recule() { touche F3; repete shift+Tab "$1"; }
 JOUR=13 ASTRES=26 IMPRIME=36 # past the complements
 
+# Whether a key comes through to the program; the compositor's window is given the keyboard again where none does.
+cle_passe() {
+  xdotool windowfocus "$FENETRE" key shift
+  sleep 0.2
+  grep -qE 'wl_keyboard@[0-9]+\.key\(' "$DIT"
+}
+
 demarre_wayland() {
   WAYLAND_DEBUG=client WAYLAND_DISPLAY=$COMPOSITEUR QT_QPA_PLATFORM=wayland QT_SCALE_FACTOR=1.25 \
     QT_SCALE_FACTOR_ROUNDING_POLICY=PassThrough "$PROGRAMME" 2>"$DIT" &
@@ -39,6 +46,7 @@ demarre_wayland() {
   attends titree ''
   xdotool windowfocus "$FENETRE"
   attends a_fenetres 1
+  attends cle_passe
   calme
 }
 
