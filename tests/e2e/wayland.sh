@@ -17,6 +17,10 @@ trap 'kill "$GESTIONNAIRE" 2>/dev/null || true; rm -rf "$TRAVAIL" || true' EXIT
 attends test -S "$XDG_RUNTIME_DIR/$COMPOSITEUR"
 ecran() { FENETRE=$(xwininfo -root -tree | awk '/"Weston Compositor/ { print $1; exit }'); [ -n "$FENETRE" ]; }
 attends ecran
+# Whether its shell has drawn the ground: a window that comes before is given the keyboard and loses it for good.
+prete() { [ "$(import -window root -crop 1x1+900+1000 -depth 8 -format '%[fx:mean>0.3]' info: 2>/dev/null)" = 1 ]; }
+attends prete
+xdotool windowfocus --sync "$FENETRE"
 
 DIT="$TRAVAIL/dit.txt"
 # How often the program has given a window this title; how many windows it has made and put away.
@@ -32,11 +36,9 @@ repete() { local touches=(); for _ in $(seq "$2"); do touches+=("$1"); done; tou
 recule() { touche F3; repete shift+Tab "$1"; }
 JOUR=13 ASTRES=26 IMPRIME=36 # past the complements
 
-# Whether a key comes through to the program; the compositor's window is given the keyboard again where none does.
+# Whether a key comes through to the program.
 cle_passe() {
-  xdotool windowfocus "$FENETRE" key shift
-  sleep 0.2
-  grep -qE 'wl_keyboard@[0-9]+\.key\(' "$DIT"
+  a_clavier && touche shift && grep -qE 'wl_keyboard@[0-9]+\.key\(' "$DIT"
 }
 
 demarre_wayland() {
@@ -44,9 +46,8 @@ demarre_wayland() {
     QT_SCALE_FACTOR_ROUNDING_POLICY=PassThrough "$PROGRAMME" 2>"$DIT" &
   PID=$!
   attends titree ''
-  xdotool windowfocus "$FENETRE"
-  attends a_fenetres 1
   attends cle_passe
+  attends a_fenetres 1
   calme
 }
 
