@@ -54,7 +54,7 @@ lint: deps build
 	mkdir -p build/cppcheck
 	cppcheck --enable=warning,performance,portability --inline-suppr --std=c++20 --library=qt --error-exitcode=1 --quiet \
 	  -j$(TACHES) --cppcheck-build-dir=build/cppcheck -I. $(DOSSIERS)
-	run-clang-tidy -quiet -p build -j$(TACHES) -extra-arg=-Wno-unknown-warning-option '^$(CURDIR)/$(SOURCES)'
+	run-clang-tidy-22 -quiet -p build -j$(TACHES) -extra-arg=-Wno-unknown-warning-option '^$(CURDIR)/$(SOURCES)'
 
 test-sanitize: deps
 	cmake --preset sanitize

@@ -207,7 +207,12 @@ bool EcritPoint(const DemandePointDit &demande, std::string &sortie) {
   ReglagesPoint reglages;
   std::vector<ViseePoint> visees;
   std::string debut;
-  if (!EcritObjet(debut, [&] { ExigeDut1(demande.dut1); }) || !PrepareRoute(demande, reglages.route, debut = {})) {
+  if (!EcritObjet(debut, [&] { ExigeDut1(demande.dut1); })) {
+    sortie += debut;
+    return false;
+  }
+  debut.clear();
+  if (!PrepareRoute(demande, reglages.route, debut)) {
     sortie += debut;
     return false;
   }

@@ -88,9 +88,12 @@ bool LitNombreSimple(const char *&p, const char *fin, float &valeur) {
 /// @return whether the line holds two plain numbers and nothing else
 bool LitPointSimple(const char *&p, const char *fin, float &x, float &y) {
   const char *suite = p;
-  if (LitFraction(suite, fin, x) && *suite == ' ' && LitFraction(++suite, fin, y) && FinDeLigne(*suite)) {
-    p = suite;
-    return true;
+  if (LitFraction(suite, fin, x) && *suite == ' ') {
+    ++suite;
+    if (LitFraction(suite, fin, y) && FinDeLigne(*suite)) {
+      p = suite;
+      return true;
+    }
   }
   if (!LitNombreSimple(p, fin, x) || p == fin || *p != ' ') {
     return false;

@@ -12,6 +12,7 @@
 #include <sys/stat.h>
 #include <system_error>
 #include <unistd.h>
+#include <utility>
 
 namespace velmaris {
 namespace {
@@ -296,7 +297,7 @@ std::string LitFichier(const std::filesystem::path &chemin) {
   if (::fstat(fichier.numero(), &etat) != 0 || !S_ISREG(etat.st_mode)) {
     throw Erreur(75);
   }
-  if (etat.st_size > static_cast<off_t>(kTailleLue)) {
+  if (std::cmp_greater(etat.st_size, kTailleLue)) {
     throw FichierTropGrand();
   }
   std::string octets(static_cast<std::size_t>(etat.st_size), '\0');

@@ -9,6 +9,7 @@
 #include <limits>
 #include <optional>
 #include <system_error>
+#include <utility>
 
 namespace velmaris {
 namespace {
@@ -132,7 +133,7 @@ Decimales EnDecimales(double valeur) {
 /// Rounds half away from zero to a number of places after the point.
 void Arrondit(Decimales &d, int places) {
   const int garde = d.point + places;
-  if (garde >= static_cast<int>(d.chiffres.size())) {
+  if (std::cmp_greater_equal(garde, d.chiffres.size())) {
     return;
   }
   if (garde < 0) {
@@ -189,21 +190,21 @@ Masque LitMasque(std::string_view texte) {
 
 std::string Assemble(const Decimales &d, const Masque &m) {
   const auto chiffre = [&](int i) {
-    return i >= 0 && i < static_cast<int>(d.chiffres.size()) ? d.chiffres[static_cast<std::size_t>(i)] : '0';
+    return i >= 0 && std::cmp_less(i, d.chiffres.size()) ? d.chiffres[static_cast<std::size_t>(i)] : '0';
   };
   std::string entiers;
   for (int i = 0; i < d.point; ++i) {
     entiers += chiffre(i);
   }
   entiers.erase(0, std::min(entiers.find_first_not_of('0'), entiers.size()));
-  if (static_cast<int>(entiers.size()) < m.entiersMin) {
+  if (std::cmp_less(entiers.size(), m.entiersMin)) {
     entiers.insert(0, static_cast<std::size_t>(m.entiersMin) - entiers.size(), '0');
   }
   std::string decimales;
   for (int i = 0; i < m.decimalesMax; ++i) {
     decimales += chiffre(d.point + i);
   }
-  while (static_cast<int>(decimales.size()) > m.decimalesMin && decimales.back() == '0') {
+  while (std::cmp_greater(decimales.size(), m.decimalesMin) && decimales.back() == '0') {
     decimales.pop_back();
   }
   return m.point ? entiers + '.' + decimales : entiers;

@@ -26,13 +26,15 @@ void TraceBande(const Feuille &feuille, Surface &surface, const Bande &bande, do
   const double H = surface.hauteur;
   const bool fin = bande.zoomMax == kBandes[0].zoomMax;
   for (int mille = 0; mille <= longueurMilles; mille += bande.pasTraits) {
-    TraceTrait(surface, debut.x + feuille.EchelleY * double(mille), debut.y, fin && mille % 5 != 0 ? H / 90 : H / 60);
+    TraceTrait(surface, debut.x + feuille.EchelleY * static_cast<double>(mille), debut.y,
+               fin && mille % 5 != 0 ? H / 90 : H / 60);
   }
   const int pas = 10 * (longueurMilles > bande.seuil ? bande.pasFiguresMax : bande.pasFigures);
   for (int mille = 0; mille <= longueurMilles; mille += pas) {
-    const double x = debut.x + feuille.EchelleY * double(mille);
+    const double x = debut.x + feuille.EchelleY * static_cast<double>(mille);
     TraceTrait(surface, x, debut.y, H / 40);
-    EcritEn(surface, {x - W / 100 - 50, H / 1.08 + W / 60}, TexteGeneral(double(mille)), {GenreTexte::Echelle});
+    EcritEn(surface, {x - W / 100 - 50, H / 1.08 + W / 60}, TexteGeneral(static_cast<double>(mille)),
+            {GenreTexte::Echelle});
   }
 }
 

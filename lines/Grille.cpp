@@ -90,7 +90,7 @@ void TraceParalleles(const Cadre &c, Pas pas) {
 /// @param minutes  a multiple of ten
 std::string FigureMinutes(int minutes, int tour) {
   const int pliees = minutes > tour * 60 ? 2 * tour * 60 - minutes : std::abs(minutes);
-  return TexteGeneral(double(pliees % 60));
+  return TexteGeneral(static_cast<double>(pliees % 60));
 }
 
 /// Prints the figures of a run of tens of minutes, leaving out whole degrees.

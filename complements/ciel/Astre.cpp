@@ -1,5 +1,7 @@
 #include "complements/ciel/Astre.hpp"
 
+#include <utility>
+
 #include "complements/ciel/Refus.hpp"
 #include "complements/ciel/TablesCiel.hpp"
 
@@ -9,7 +11,7 @@ void ExigePlace(const Astre &astre) {
   if (astre.genre != GenreAstre::Etoile) {
     return;
   }
-  if (astre.rang < 1 || astre.rang > static_cast<int>(kNombreEtoilesIcrs)) {
+  if (astre.rang < 1 || std::cmp_greater(astre.rang, kNombreEtoilesIcrs)) {
     throw Refus(RaisonRefus::RangInconnu);
   }
   if (!kEtoilesIcrs[static_cast<std::size_t>(astre.rang) - 1]) {

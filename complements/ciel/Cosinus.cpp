@@ -7,9 +7,7 @@ namespace velmaris {
 
 Voie VoieDuProcesseur() {
 #if defined(__x86_64__) && defined(__GLIBC__)
-  return static_cast<bool>(__builtin_cpu_supports("avx2")) && static_cast<bool>(__builtin_cpu_supports("fma"))
-             ? Voie::Quatre
-             : Voie::Deux;
+  return __builtin_cpu_supports("avx2") && __builtin_cpu_supports("fma") ? Voie::Quatre : Voie::Deux;
 #else
   return Voie::Une;
 #endif

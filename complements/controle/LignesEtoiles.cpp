@@ -1,6 +1,7 @@
 #include "complements/controle/LignesEtoiles.hpp"
 
 #include <cmath>
+#include <utility>
 
 namespace velmaris {
 namespace {
@@ -10,7 +11,7 @@ constexpr double kDegre = 0.017453292519943295; ///< radians
 } // namespace
 
 std::optional<EtoileIcrs> EtoileDeLigne(const Etoiles &etoiles, int rang) {
-  if (rang < 1 || rang > static_cast<int>(kNombreEtoilesIcrs) || !kEtoilesIcrs[static_cast<std::size_t>(rang) - 1]) {
+  if (rang < 1 || std::cmp_greater(rang, kNombreEtoilesIcrs) || !kEtoilesIcrs[static_cast<std::size_t>(rang) - 1]) {
     return std::nullopt;
   }
   EtoileIcrs etoile = *kEtoilesIcrs[static_cast<std::size_t>(rang) - 1];

@@ -56,6 +56,7 @@ Point SurDroite(const PlanVrai &plan, const DroiteDuJour &droite, double loin) {
 Point PlaceDeLaRose(const DonneesJour &jour, const PlanVrai &plan, const CadrePage &cadre, double rayon) {
   constexpr double kDuBord = 120;
   std::vector<Point> places;
+  places.reserve(jour.route.size());
   for (const LieuNavire &lieu : jour.route) {
     places.push_back(plan.PointDe(lieu));
   }
@@ -88,6 +89,7 @@ void DessinJour::Trace(const DonneesJour &jour) {
     }
   }
   std::vector<std::vector<std::vector<Point>>> droites;
+  droites.reserve(jour.droites.size());
   for (const DroiteDuJour &droite : jour.droites) {
     droites.push_back(Droite(droite));
   }

@@ -300,6 +300,7 @@ Feuillet PageLuneSeconde(const CadreAlmanach &c) {
 
 std::vector<long> DemiDiametresSoleil(const Almanach &almanach) {
   std::vector<long> demis;
+  demis.reserve(almanach.jours.size());
   for (const JourAlmanach &jour : almanach.jours) {
     demis.push_back(ArrondiDixieme(jour.astres[kSoleilAlmanach].demiDiametre));
   }
@@ -309,6 +310,7 @@ std::vector<long> DemiDiametresSoleil(const Almanach &almanach) {
 std::vector<long> DistancesPolaire(const Almanach &almanach) {
   constexpr long kPole = 54000;
   std::vector<long> distances;
+  distances.reserve(almanach.periodes.size());
   for (const PeriodeAlmanach &periode : almanach.periodes) {
     distances.push_back(kPole - DixiemesDe(periode.etoiles.back().declinaison));
   }

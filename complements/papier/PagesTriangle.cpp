@@ -42,6 +42,7 @@ void PoseEntrees(Feuillet &page, const Entrees &e, const std::string &note) {
   page.Mot({boite.gauche, boite.haut + 150}, note, {.taille = 7, .italique = true});
   for (int k = 0; k < e.colonnes; ++k) {
     std::vector<Tabulation> places;
+    places.reserve(e.places.size());
     for (const double place : e.places) {
       places.push_back({boite.gauche + k * pas + LargeurChiffres(taille, place)});
     }

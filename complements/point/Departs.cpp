@@ -79,7 +79,9 @@ std::vector<LieuNavire> DepartsDe(const SystemePoint &systeme, const PaireVisees
     return {};
   }
   std::vector<LieuNavire> departs;
-  for (std::size_t lequel = 0; lequel < (croisement->coupe ? 2U : 1U); ++lequel) {
+  const std::size_t combien = croisement->coupe ? 2 : 1;
+  departs.reserve(combien);
+  for (std::size_t lequel = 0; lequel < combien; ++lequel) {
     departs.push_back(Affine(systeme, a, b, lequel, croisement->lieux.at(lequel)));
   }
   return departs;

@@ -82,6 +82,7 @@ std::vector<Troncon> TronconsEntre(const RouteNavire &route, const InstantUTC &d
     const Jambe *jambe;
   };
   std::vector<Debut> debuts;
+  debuts.reserve(route.jambes.size());
   for (const Jambe &jambe : route.jambes) {
     debuts.push_back({SecondesEntre(de, jambe.depuis) / kSecondesParHeure, &jambe});
   }

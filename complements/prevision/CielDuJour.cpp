@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace velmaris {
 namespace {
@@ -84,7 +85,7 @@ bool LuneConnue(const CielDuJour &ciel) {
 /// The stars at the beginning, in the middle and at the end.
 bool PrepareEtoiles(CielDuJour &ciel, const Etoiles &etoiles, const std::stop_token &arret) {
   const std::array<CielDuMoment, 3> moments{CielA(ciel, 0), CielA(ciel, ciel.heures / 2), CielA(ciel, ciel.heures)};
-  for (int rang = 1; rang <= static_cast<int>(kNombreEtoilesIcrs); ++rang) {
+  for (int rang = 1; std::cmp_less_equal(rang, kNombreEtoilesIcrs); ++rang) {
     const auto &etoile = kEtoilesIcrs[static_cast<std::size_t>(rang) - 1];
     if (!etoile) {
       continue;

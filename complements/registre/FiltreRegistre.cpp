@@ -7,6 +7,7 @@
 #include <charconv>
 #include <system_error>
 #include <unordered_set>
+#include <utility>
 
 namespace velmaris {
 namespace {
@@ -54,8 +55,8 @@ bool EstDuJour(std::int64_t instant, const JourCherche &cherche) {
   const std::chrono::sys_days minuit{std::chrono::days((instant >= 0 ? instant : instant - kParJour + 1) / kParJour)};
   const std::chrono::year_month_day date{minuit};
   return (!cherche.annee || static_cast<int>(date.year()) == *cherche.annee) &&
-         (!cherche.mois || static_cast<int>(static_cast<unsigned>(date.month())) == *cherche.mois) &&
-         (!cherche.jour || static_cast<int>(static_cast<unsigned>(date.day())) == *cherche.jour);
+         (!cherche.mois || std::cmp_equal(static_cast<unsigned>(date.month()), *cherche.mois)) &&
+         (!cherche.jour || std::cmp_equal(static_cast<unsigned>(date.day()), *cherche.jour));
 }
 
 /// A filter ready for many rows.

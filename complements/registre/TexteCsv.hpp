@@ -30,9 +30,8 @@ std::string_view PrendLigne(std::string_view &reste);
 /// @return nothing for another text, or a number that the type has no room for
 template <class Nombre> std::optional<Nombre> NombreEcrit(std::string_view texte) {
   Nombre nombre{};
-  const char *const bout = texte.data() + texte.size();
-  const auto [fin, code] = std::from_chars(texte.data(), bout, nombre);
-  return code == std::errc() && fin == bout ? std::optional(nombre) : std::nullopt;
+  const auto [fin, code] = std::from_chars(texte.data(), texte.data() + texte.size(), nombre);
+  return code == std::errc() && fin == texte.data() + texte.size() ? std::optional(nombre) : std::nullopt;
 }
 
 /// The same, within limits; what is no number is beyond them.

@@ -122,6 +122,7 @@ EpreuveMesures Eprouve(const Course &c, FicheSerie &fiche) {
     return {};
   }
   std::vector<double> ecarts;
+  ecarts.reserve(c.comptees.size());
   for (const std::size_t i : c.comptees) {
     ecarts.push_back(fiche.residus[i].residu / c.base.ecartType);
   }

@@ -10,9 +10,7 @@ namespace {
 
 bool Utilisable(const Controle &controle) { return controle.actif && controle.visible; }
 
-bool ALaLigne(const Controle &table, int ligne) {
-  return ligne >= 0 && static_cast<std::size_t>(ligne) < table.tableau.lignes;
-}
+bool ALaLigne(const Controle &table, int ligne) { return ligne >= 0 && std::cmp_less(ligne, table.tableau.lignes); }
 
 /// Something that happens at one row of a table.
 void JoueALaLigne(Bureau &bureau, Controle &table, int ligne, Evenement evenement) {

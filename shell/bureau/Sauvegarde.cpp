@@ -110,12 +110,12 @@ bool Sauvegarde::PrendTour() {
 }
 
 bool Sauvegarde::tenue() {
-  const std::lock_guard verrou(mutex_);
+  const std::scoped_lock verrou(mutex_);
   return numeroVerrou_ >= 0;
 }
 
 void Sauvegarde::Donne(std::string texte) {
-  const std::lock_guard verrou(mutex_);
+  const std::scoped_lock verrou(mutex_);
   if (fini_ || (donnees_ > 0 && texte == donnee_)) {
     return;
   }
@@ -146,7 +146,7 @@ void Sauvegarde::Retire() {
 
 void Sauvegarde::Abandonne() {
   {
-    const std::lock_guard verrou(mutex_);
+    const std::scoped_lock verrou(mutex_);
     traitees_ = donnees_;
     delete aFinir_.exchange(nullptr);
   }
@@ -162,7 +162,7 @@ std::string Sauvegarde::NomVerrou() const { return fichier_.string() + ".verrou"
 
 void Sauvegarde::Arrete() {
   {
-    const std::lock_guard verrou(mutex_);
+    const std::scoped_lock verrou(mutex_);
     fini_ = true;
   }
   signal_.notify_all();

@@ -15,6 +15,7 @@
 #include <numeric>
 #include <optional>
 #include <string>
+#include <utility>
 
 namespace velmaris::ciel {
 namespace {
@@ -98,16 +99,16 @@ void ChoisitTexte(Bureau &bureau, Controle &liste, const std::string &texte) {
   }
 }
 
-bool EstEtoile(int indice) { return indice >= 1 && static_cast<std::size_t>(indice) <= kEtoilesCiel; }
+bool EstEtoile(int indice) { return indice >= 1 && std::cmp_less_equal(indice, kEtoilesCiel); }
 
 /// The mark of a body whose label or picture the keyboard stands on: a picture is its own.
-const Controle &MarqueDe(const Ciel &c, const Controle &astre) {
-  const auto rang = static_cast<std::size_t>(astre.indice);
-  if (astre.nom == "Laet") {
-    return c.Shet[rang];
+const Controle *MarqueDe(const Ciel &c, const Controle *astre) {
+  const auto rang = static_cast<std::size_t>(astre->indice);
+  if (astre->nom == "Laet") {
+    return &c.Shet[rang];
   }
-  if (astre.nom == "LaP") {
-    return c.Shapla[rang];
+  if (astre->nom == "LaP") {
+    return &c.Shapla[rang];
   }
   return astre;
 }
@@ -120,7 +121,7 @@ ListeControles AstresMontres(Bureau &bureau) {
     if (astre->parent != "Picture1" || astre->genre == Genre::Marque || !astre->visible) {
       continue;
     }
-    const Point p = CentreDe(MarqueDe(c, *astre));
+    const Point p = CentreDe(*MarqueDe(c, astre));
     if (p.x >= 0 && p.x <= c.picture1.largeur && p.y >= 0 && p.y <= c.picture1.hauteur) {
       montres.push_back(astre);
     }
@@ -284,11 +285,11 @@ void Laet_Click(Bureau &bureau, int indice) {
 void DeplaceAstre(Bureau &bureau, Direction direction) {
   Ciel &c = bureau.ciel;
   const Point milieu{c.picture1.largeur / 2, c.picture1.hauteur / 2};
-  const Point de = c.astreCourant == nullptr ? milieu : CentreDe(MarqueDe(c, *c.astreCourant));
+  const Point de = c.astreCourant == nullptr ? milieu : CentreDe(*MarqueDe(c, c.astreCourant));
   const Controle *proche = nullptr;
   double moindre = 0;
   for (const Controle *astre : AstresMontres(bureau)) {
-    const Point p = CentreDe(MarqueDe(c, *astre));
+    const Point p = CentreDe(*MarqueDe(c, astre));
     const std::optional<double> loin = c.astreCourant == nullptr
                                            ? (p.x - de.x) * (p.x - de.x) + (p.y - de.y) * (p.y - de.y)
                                            : Eloignement(de, p, direction);
@@ -299,7 +300,7 @@ void DeplaceAstre(Bureau &bureau, Direction direction) {
   }
   if (proche != nullptr) {
     c.astreCourant = proche;
-    Survole(bureau, *proche, MarqueDe(c, *proche));
+    Survole(bureau, *proche, *MarqueDe(c, proche));
   }
 }
 

@@ -17,7 +17,7 @@ std::string Dixiemes(double valeur) { return Format(valeur, "0.0"); }
 
 /// Degrees and tenths of a minute, a negative angle with one sign: "-12° 34.5'".
 std::string Angle(double degres) {
-  const auto dixiemes = static_cast<long>(std::lround(std::fabs(degres) * kDixiemesParDegre));
+  const auto dixiemes = std::lround(std::fabs(degres) * kDixiemesParDegre);
   const auto parDegre = static_cast<long>(kDixiemesParDegre);
   return std::string(degres < 0 && dixiemes != 0 ? "-" : "") + std::to_string(dixiemes / parDegre) + "° " +
          Format(static_cast<double>(dixiemes % parDegre) / 10, "00.0") + "'";

@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <system_error>
+#include <utility>
 
 namespace velmaris {
 namespace {
@@ -70,14 +71,14 @@ bool LitContenu(const fs::path &dossier, const std::string &motif, Contenu &cont
 /// The file chosen in the list, empty for none.
 std::string FichierChoisi(const FSelect &f) {
   const int rang = f.File1.rang;
-  return rang >= 0 && rang < static_cast<int>(f.File1.liste.size()) ? f.File1.liste[static_cast<std::size_t>(rang)]
-                                                                    : std::string();
+  return rang >= 0 && std::cmp_less(rang, f.File1.liste.size()) ? f.File1.liste[static_cast<std::size_t>(rang)]
+                                                                : std::string();
 }
 
 /// The folder chosen in the list, which needs not be entered yet.
 fs::path DossierChoisi(const FSelect &f) {
   const int rang = f.Dir1.rang;
-  return rang >= 0 && rang < static_cast<int>(f.chemins.size()) ? f.chemins[static_cast<std::size_t>(rang)] : f.dossier;
+  return rang >= 0 && std::cmp_less(rang, f.chemins.size()) ? f.chemins[static_cast<std::size_t>(rang)] : f.dossier;
 }
 
 /// The folders above the present one, itself and those in it, each a step further in.

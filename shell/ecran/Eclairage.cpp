@@ -39,15 +39,9 @@ void SuitBureauSombre(Bureau &bureau, bool sombre) {
 }
 
 void TourneEclairage(Bureau &bureau) {
-  switch (bureau.eclairage) {
-  case Eclairage::Jour:
-    return Choisit(bureau, Eclairage::Crepuscule);
-  case Eclairage::Crepuscule:
-    return Choisit(bureau, Eclairage::Nuit);
-  case Eclairage::Nuit:
-  default:
-    return Choisit(bureau, Eclairage::Jour);
-  }
+  Choisit(bureau, bureau.eclairage == Eclairage::Jour         ? Eclairage::Crepuscule
+                  : bureau.eclairage == Eclairage::Crepuscule ? Eclairage::Nuit
+                                                              : Eclairage::Jour);
 }
 
 void PU_Nuit_Click(Bureau &bureau, int /*indice*/) {

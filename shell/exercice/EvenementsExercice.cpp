@@ -37,6 +37,7 @@ void PoseListes(FenetreExercice &f) {
     liste.texte = liste.rang < 0 ? "" : liste.liste.at(static_cast<std::size_t>(liste.rang));
   };
   std::vector<std::string> sujets;
+  sujets.reserve(f.MotSujet.size());
   for (const Controle &mot : f.MotSujet) {
     sujets.push_back(mot.legende);
   }

@@ -47,6 +47,7 @@ std::string MotsConditions(const FenetreExercice &f, const ConditionsExercice &c
 
 std::vector<std::string> MotsNiveaux(const FenetreExercice &f) {
   std::vector<std::string> mots;
+  mots.reserve(kNiveaux);
   for (std::size_t rang = 0; rang < kNiveaux; ++rang) {
     mots.push_back(std::to_string(rang + 1) + ". " + MotsConditions(f, NiveauDe(rang).conditions));
   }

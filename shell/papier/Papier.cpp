@@ -207,7 +207,7 @@ void Montre(Bureau &bureau) {
   PoseListe(f.Combo2, f.MotOrdre);
   const std::array<Controle *, kOngletsPapier> pages = {&f.PageAlmanach, &f.PageFiche, &f.PageJour, &f.PageVierge};
   for (std::size_t i = 0; i < pages.size(); ++i) {
-    pages.at(i)->visible = static_cast<int>(i) == f.Onglets1.rang;
+    pages.at(i)->visible = std::cmp_equal(i, f.Onglets1.rang);
   }
   f.cadre.titre = f.Onglets1.texte;
   MontreAlmanach(bureau);

@@ -60,11 +60,13 @@ void PoseTableauVisees(Bureau &bureau) {
   constexpr std::array<double, 7> kLargeurs = {2550, 1800, 960, 1080, 1080, 1080, 3000};
   FenetrePoint &f = bureau.fenetrePoint;
   std::vector<Colonne> colonnes;
+  colonnes.reserve(kLargeurs.size());
   for (std::size_t i = 0; i < kLargeurs.size(); ++i) {
     const bool nombre = i >= 2 && i <= 5;
     colonnes.push_back({f.MotColonne.at(i).legende, kLargeurs.at(i), nombre ? Cote::Droite : Cote::Gauche});
   }
   std::vector<RangeeTexte> rangees;
+  rangees.reserve(bureau.point.visees.size());
   for (std::size_t i = 0; i < bureau.point.visees.size(); ++i) {
     rangees.push_back(RangeeDe(bureau, i));
   }
@@ -76,10 +78,12 @@ void PoseTableauJambes(Bureau &bureau) {
   constexpr std::array<double, 3> kLargeurs = {1980, 780, 900};
   FenetrePoint &f = bureau.fenetrePoint;
   std::vector<Colonne> colonnes;
+  colonnes.reserve(kLargeurs.size());
   for (std::size_t i = 0; i < kLargeurs.size(); ++i) {
     colonnes.push_back({f.MotColonneRoute.at(i).legende, kLargeurs.at(i), i == 0 ? Cote::Gauche : Cote::Droite});
   }
   std::vector<RangeeTexte> rangees;
+  rangees.reserve(bureau.point.jambes.size());
   for (const Jambe &jambe : bureau.point.jambes) {
     rangees.push_back({{TexteDate(jambe.depuis) + "  " + TexteHeureUtc(jambe.depuis).substr(0, 5),
                         Format(jambe.cap, "000") + "°", Dixiemes(jambe.vitesse)}});

@@ -102,6 +102,7 @@ void EcritAstres(Surface &page, const Bureau &bureau) {
   c.Saute();
   const std::array<double, 7> gauches = {kMarge, 2700, 4000, 5000, 5900, 7400, 8300};
   std::vector<std::pair<double, std::string>> titres;
+  titres.reserve(gauches.size());
   for (std::size_t i = 0; i < gauches.size(); ++i) {
     titres.emplace_back(gauches.at(i), f.MotColonne.at(i).legende);
   }

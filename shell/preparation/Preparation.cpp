@@ -138,7 +138,7 @@ void Montre(Bureau &bureau) {
   }
   f.Onglets1.rang = std::max(0, f.Onglets1.rang);
   for (std::size_t i = 0; i < kPagesPlan; ++i) {
-    Pages(f).at(i)->visible = static_cast<int>(i) == f.Onglets1.rang;
+    Pages(f).at(i)->visible = std::cmp_equal(i, f.Onglets1.rang);
   }
   if (p.refus) {
     f.LabAvis[0].legende =

@@ -30,6 +30,7 @@ RangeeTexte RangeeAstre(const Bureau &bureau, const AstreDuPlan &astre) {
 void PoseAstres(Bureau &bureau) {
   Preparation &f = bureau.preparation;
   std::vector<RangeeTexte> rangees;
+  rangees.reserve(bureau.plan.montres.size());
   for (const std::size_t rang : bureau.plan.montres) {
     rangees.push_back(RangeeAstre(bureau, bureau.plan.vue.astres.at(rang)));
   }
@@ -73,6 +74,7 @@ void PoseJeux(Bureau &bureau) {
 void PoseAmplitudes(Bureau &bureau) {
   Preparation &f = bureau.preparation;
   std::vector<RangeeTexte> rangees;
+  rangees.reserve(bureau.plan.amplitudes.amplitudes.size());
   for (const AmplitudeSoleil &a : bureau.plan.amplitudes.amplitudes) {
     rangees.push_back(
         {{(a.lever ? f.TexteLever : f.TexteCoucher).legende, TexteHeureUtc(a.moment.utc),

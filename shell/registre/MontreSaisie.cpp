@@ -65,6 +65,7 @@ ReleveSaisi LitReleve(const std::array<std::string, 3> &textes, std::int64_t pre
 void AccordeMontre(Bureau &bureau) {
   Registre &f = bureau.registre;
   std::vector<std::string> lignes;
+  lignes.reserve(bureau.registreOuvert.montre.size());
   for (const ReleveMontre &releve : bureau.registreOuvert.montre) {
     lignes.push_back(MotsDeReleve(f, releve));
   }

@@ -130,6 +130,7 @@ void AccordeBoutons(Bureau &bureau) {
 std::vector<std::size_t> RangsVises(const Bureau &bureau) {
   const RegistreOuvert &r = bureau.registreOuvert;
   std::vector<std::size_t> rangs;
+  rangs.reserve(bureau.registre.Table1.tableau.choisies.size());
   for (const std::size_t ligne : bureau.registre.Table1.tableau.choisies) {
     rangs.push_back(RangMontre(r, ligne));
   }

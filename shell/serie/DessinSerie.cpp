@@ -96,7 +96,7 @@ void GraduesTemps(Surface &s, const TraceLectures &t, const Axe &temps) {
   const DateCivile origine = CivileDe(t.origine);
   // Lines stand at whole steps of the clock.
   const double decalage = origine.minute + origine.seconde / kSoixante;
-  for (double k = std::ceil((temps.moins + decalage) / pas); k * pas - decalage <= temps.plus; ++k) {
+  for (int k = static_cast<int>(std::ceil((temps.moins + decalage) / pas)); k * pas - decalage <= temps.plus; ++k) {
     const double minutes = k * pas - decalage;
     const double x = temps.place(minutes);
     const InstantUTC utc = PlusTard(t.origine, minutes * kSoixante);
@@ -112,7 +112,7 @@ void GradueHauteurs(Surface &s, const Axe &hauteurs) {
   EcritEnCouleur(s, {kGauche + 60, kHaut + 40}, kEncre, "Ho", {GenreTexte::Libre, 0});
   constexpr std::array<double, 10> kPas = {0.5, 1, 2, 5, 10, 20, 30, 60, 120, 300};
   const double pas = Pas((hauteurs.plus - hauteurs.moins) * kSoixante, kPas) / kSoixante;
-  for (double k = std::ceil(hauteurs.moins / pas); k * pas <= hauteurs.plus; ++k) {
+  for (int k = static_cast<int>(std::ceil(hauteurs.moins / pas)); k * pas <= hauteurs.plus; ++k) {
     const double y = hauteurs.place(k * pas);
     Segment(s, {kGauche, y}, {s.largeur - kDroite, y}, {kGrille, 1, Style::Plein});
     EcritEnCouleur(s, {60, y - kDemiTexte}, kEncre, TexteAngleSigne(k * pas), {GenreTexte::Libre, 0});

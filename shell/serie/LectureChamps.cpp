@@ -186,7 +186,7 @@ std::optional<LectureListee> LitLectureTapee(Bureau &bureau, const InstantUTC &p
   const auto heure = LitHeureProche(f.Text4[0].texte, proche);
   MarqueChamp(f.Text4[0], heure.has_value(), f.TexteHors.legende);
   const auto angle = LitLectureDuChamp(f, f.Text4[1], true);
-  return heure && angle ? std::optional(LectureListee{*heure, *angle, false}) : std::nullopt;
+  return heure && angle ? std::optional(LectureListee{*heure, angle, false}) : std::nullopt;
 }
 
 std::optional<DistanceListee> LitDistanceTapee(Bureau &bureau, const InstantUTC &proche) {

@@ -148,6 +148,7 @@ void GardeALaMontre(Bureau &bureau) {
     return;
   }
   std::vector<LectureSerie> heures;
+  heures.reserve(p.distances.size());
   for (const DistanceListee &d : p.distances) {
     heures.push_back({d.mesure.montre, 0, d.mesure.ecartee});
   }

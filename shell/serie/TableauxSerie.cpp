@@ -102,6 +102,7 @@ RangeeTexte RangeeDeDistance(const Bureau &bureau, std::size_t rang) {
 void PoseLectures(Bureau &bureau) {
   FenetreSerie &f = bureau.fenetreSerie;
   std::vector<RangeeTexte> rangees;
+  rangees.reserve(bureau.serie.lectures.size());
   for (std::size_t i = 0; i < bureau.serie.lectures.size(); ++i) {
     rangees.push_back(RangeeDeLecture(bureau, i));
   }
@@ -113,6 +114,7 @@ void PoseLectures(Bureau &bureau) {
 void PoseDistances(Bureau &bureau) {
   FenetreSerie &f = bureau.fenetreSerie;
   std::vector<RangeeTexte> rangees;
+  rangees.reserve(bureau.serie.distances.size());
   for (std::size_t i = 0; i < bureau.serie.distances.size(); ++i) {
     rangees.push_back(RangeeDeDistance(bureau, i));
   }

@@ -10,6 +10,7 @@
 #include "sights/Reduction.hpp"
 
 #include <algorithm>
+#include <utility>
 
 namespace velmaris {
 namespace {
@@ -63,7 +64,7 @@ void SelAstre(Bureau &bureau, int indice) {
   d.Bayer1.legende.clear();
   d.Bayer2.legende.clear();
   for (std::size_t i = 0; i < d.ImAstre.size(); ++i) {
-    d.ImAstre[i].visible = static_cast<int>(i) == indice;
+    d.ImAstre[i].visible = std::cmp_equal(i, indice);
   }
   switch (static_cast<Corps>(indice)) {
   case Corps::Soleil:

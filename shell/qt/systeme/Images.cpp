@@ -35,7 +35,8 @@ bool Peint(QPaintDevice &support, const Surface &surface, int parPouce) {
   painter.setRenderHint(QPainter::Antialiasing);
   painter.fillRect(zone, CouleurQt(surface.fond));
   painter.setClipRect(zone);
-  PeintTraces(painter, surface, facteur, {.eclairage = Eclairage::Jour, .pixel = double(parPouce) / kTraitsParPouce});
+  PeintTraces(painter, surface, facteur,
+              {.eclairage = Eclairage::Jour, .pixel = static_cast<double>(parPouce) / kTraitsParPouce});
   return painter.end();
 }
 

@@ -17,10 +17,8 @@ class Portail : public QObject {
 public:
   explicit Portail(Scene &scene);
 
-private Q_SLOTS:
-  void Change(const QString &espace, const QString &cle, const QDBusVariant &valeur);
-
 private:
+  Q_SLOT void Change(const QString &espace, const QString &cle, const QDBusVariant &valeur);
   void Demande(const QString &cle);
   void Suit(const QString &cle, const QVariant &valeur);
 

@@ -15,6 +15,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace velmaris::qt {
 namespace {
@@ -88,7 +89,7 @@ public:
 
 protected:
   void PoseContenu(const Controle &c, const Controle & /*vu*/, bool /*tout*/) override {
-    for (int i = 0; i < static_cast<int>(c.liste.size()); ++i) {
+    for (int i = 0; std::cmp_less(i, c.liste.size()); ++i) {
       const QString mots = Texte(c.liste[static_cast<std::size_t>(i)]);
       i < w.count() ? w.setTabText(i, mots) : static_cast<void>(w.addTab(mots));
     }
