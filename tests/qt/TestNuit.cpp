@@ -4,6 +4,7 @@
 #include "shell/qt/cadre/Dialogue.hpp"
 #include "shell/qt/cadre/PortsQt.hpp"
 #include "shell/qt/peinture/Apparat.hpp"
+#include "shell/qt/peinture/Apparence.hpp"
 #include "shell/qt/peinture/Palette.hpp"
 
 #include <QComboBox>
@@ -314,6 +315,19 @@ TEST_F(VueDeNuit, ByDuskNothingIsWhiteAndTheSheetIsDark) {
     }
   }
   EXPECT_LT(clairs, image.width() * image.height() / 12);
+}
+
+TEST_F(VueDeNuit, TheWindowsPictureComesBackToDayWithThem) {
+  OuvreTout(kPetitEcran);
+  qt::PoseIcone();
+  const auto vue = [this] { return fenetre->windowIcon().pixmap(32, 32).toImage(); };
+  const QImage jour = vue();
+  PasseA(fenetre.get(), Eclairage::Nuit);
+  const QImage nuit = vue();
+  EXPECT_NE(nuit, jour);
+  PasseA(fenetre.get(), Eclairage::Jour);
+  EXPECT_EQ(vue(), jour);
+  QApplication::setWindowIcon({});
 }
 
 TEST(Teinte, WhatStandsOutByDayStandsOutByNight) {

@@ -34,6 +34,12 @@ void PoseApparence() {
 
 void PoseIcone() { QApplication::setWindowIcon(QIcon::fromTheme(Texte(Identifiant()), Icone("velmaris-jour"))); }
 
+void AccordeIcone() {
+  if (!QApplication::windowIcon().isNull()) {
+    PoseIcone();
+  }
+}
+
 void AccordeLangue(bool francais) {
   auto *pose = QApplication::instance()->findChild<QTranslator *>(kTraducteur);
   if (francais == (pose != nullptr)) {

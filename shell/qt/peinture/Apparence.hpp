@@ -10,6 +10,9 @@ void PoseApparence();
 /// of the look: it is for after the first window.
 void PoseIcone();
 
+/// Takes that picture anew by the light of now; before it has been set there is nothing to do.
+void AccordeIcone();
+
 /// Has the toolkit's own words, those of its dialogs and menus, in the program's language.
 /// @param francais  else English
 void AccordeLangue(bool francais);

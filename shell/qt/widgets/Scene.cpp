@@ -106,7 +106,10 @@ void Scene::Accorde() {
     AccordeExercice(bureau_);
     AccordePapier(bureau_);
     AccordeStatut(bureau_);
-    AccordeEclairage(bureau_.eclairage);
+    if (EclairageVu() != bureau_.eclairage) {
+      AccordeEclairage(bureau_.eclairage);
+      AccordeIcone();
+    }
     AccordeGrandeur(EchelleFenetre(bureau_));
     AccordeLangue(bureau_.FichierLangue == "\\FR.txt");
     PourChaqueRendu([](Rendu &rendu) { rendu.Accorde(); });
