@@ -10,12 +10,11 @@
 #include "shell/droites/Droites.hpp"
 
 #include <array>
-#include <filesystem>
 #include <memory>
 #include <optional>
 #include <string>
-#include <system_error>
 #include <utility>
+#include <vector>
 
 namespace velmaris {
 namespace {
@@ -53,13 +52,6 @@ double HeureDuJour(const Bureau &bureau) {
 
 std::string LitDonnees(const Bureau &bureau, std::string_view nom) {
   return LitFichier(TrouveFichier(bureau.dossiers, std::string(nom)));
-}
-
-/// A file by size and time, as it stands before it is read: one that changes meanwhile is another.
-TerresLues EtatFichier(const Bureau &bureau, std::string_view nom) {
-  std::error_code refus;
-  const std::filesystem::path fichier = TrouveFichier(bureau.dossiers, std::string(nom));
-  return {std::filesystem::file_size(fichier, refus), std::filesystem::last_write_time(fichier, refus), {}};
 }
 
 /// What the outlines just read enclose. It is kept while its file is the same.
@@ -135,10 +127,18 @@ void OuvreCartes(Bureau &bureau) {
   const double notee = HeureDuJour(bureau);
   d.Label51.legende.clear();
   d.Label51.infobulle = "Polygones chargés";
+  std::vector<const Couche *> couches;
+  std::vector<std::string_view> fichiers;
   for (const Couche &couche : kCouches) {
     if (couche.demandee(d)) {
-      ChargePolygone(bureau, couche.fichier, couche.couleur, couche.teinte);
+      couches.push_back(&couche);
+      fichiers.push_back(couche.fichier);
     }
+  }
+  LecturesCarte lectures = LancePolygones(bureau.dossiers, fichiers);
+  for (std::size_t i = 0; i < couches.size(); ++i) {
+    const Couche &couche = *couches[i];
+    ChargePolygone(bureau, lectures[i].get(), couche.fichier, couche.couleur, couche.teinte);
   }
   if (d.Check1[kVilles].valeur == 1) {
     ChargeLieux(bureau, "Villes.txt", 1, TraceVilles);
@@ -155,22 +155,22 @@ void OuvreCartes(Bureau &bureau) {
   surface.plumeLevee = true;
 }
 
-void ChargePolygone(Bureau &bureau, std::string_view nom, Couleur couleur, std::optional<Teinte> teinte) {
+void ChargePolygone(Bureau &bureau, PolygoneLu lu, std::string_view nom, Couleur couleur,
+                    std::optional<Teinte> teinte) {
   CarteOuverte &carte = bureau.carte;
   try {
-    Vide(carte.polygone);
+    carte.polygone = std::move(lu.polygone);
     if (carte.fichierReste) {
       throw Erreur(kFichierOuvert);
     }
-    TerresLues lues = EtatFichier(bureau, nom);
-    const std::string octets = LitDonnees(bureau, nom);
-    carte.fichierReste = true; // until it is read to its end
-    const std::size_t n = LitPolygone(carte.polygone, octets);
-    bureau.donnees.Label51.infobulle += " + " + std::to_string(n);
-    carte.fichierReste = false;
+    if (lu.refus) {
+      carte.fichierReste = lu.ouvert;
+      throw Erreur(*lu.refus);
+    }
+    bureau.donnees.Label51.infobulle += " + " + std::to_string(lu.points);
     bureau.ports.respire();
     if (teinte) {
-      Teint(bureau, nom, *teinte, std::move(lues));
+      Teint(bureau, nom, *teinte, std::move(lu.fichier));
     }
     bureau.image1.genre = GenreLigne::Cote;
     Affiche(carte.polygone, bureau.feuille, bureau.image1, couleur, bureau.ports.respire);
