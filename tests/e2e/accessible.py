@@ -22,6 +22,8 @@ CHAMPS = (pyatspi.ROLE_TEXT, pyatspi.ROLE_COMBO_BOX, pyatspi.ROLE_LIST, pyatspi.
 SANS_ROLE = (pyatspi.ROLE_UNKNOWN, pyatspi.ROLE_INVALID)
 MODULES = ("Affiche ou efface le module Soleil.", "Affiche ou efface le module Droites Multiples", "Affiche ou efface le module Caps et distances",
            "Affiche ou efface le module Estime.", "Affiche ou efface le module Carte.")
+COMPLEMENTS = {"le registre": "ctrl+l", "le point": "ctrl+g", "la préparation": "ctrl+k", "la série": "ctrl+r",
+               "l'exercice": "ctrl+e", "les pages": "ctrl+shift+a"}
 INTERCEPT = r"Intercept.* -?[0-9]"
 FAUTES = []
 
@@ -90,7 +92,8 @@ def touche(*touches):
 def controles(fenetre):
     return [n for n in dans(fenetre) if etat(n, pyatspi.STATE_FOCUSABLE, pyatspi.STATE_ENABLED) and montre(n)
             and n.getRole() not in (pyatspi.ROLE_FRAME, pyatspi.ROLE_DIALOG, pyatspi.ROLE_LIST_ITEM,
-                                    pyatspi.ROLE_MENU_ITEM, pyatspi.ROLE_SCROLL_PANE, pyatspi.ROLE_VIEWPORT)]
+                                    pyatspi.ROLE_MENU_ITEM, pyatspi.ROLE_TABLE_CELL, pyatspi.ROLE_PAGE_TAB,
+                                    pyatspi.ROLE_SCROLL_PANE, pyatspi.ROLE_VIEWPORT)]
 
 
 def fautes(fenetre):
@@ -190,6 +193,22 @@ def ouvre_fenetre(application, titre, ouvre):
     attend(f"{titre} se ferme", lambda: ouverte(application, avant) is None)
 
 
+def ouvre_complement(application, titre, raccourci, va=parcourt):
+    """Opens a window of the complements by its key, examines each of its pages, goes over it, and closes it."""
+    avant = fenetres(application)
+    touche(raccourci)
+    fenetre = attend(f"la fenêtre {titre}", lambda: ouverte(application, avant))
+    for onglet in [n for n in dans(fenetre) if n.getRole() == pyatspi.ROLE_PAGE_TAB] or [None]:
+        page = titre
+        if onglet is not None:
+            page += f", {onglet.name}"
+            presse(onglet)
+            time.sleep(0.5)
+        va(fenetre, page, examine(fenetre, page))
+    touche("Escape")
+    attend(f"{titre} se ferme", lambda: ouverte(application, avant) is None)
+
+
 def bouton(fenetre, nom):
     return attend(f"le bouton {nom}", lambda: trouve(fenetre, nom, pyatspi.ROLE_PUSH_BUTTON))
 
@@ -220,9 +239,14 @@ def examine_tout(application, fenetre):
     ouvre_fenetre(application, "les fichiers", lambda: presse(bouton(fenetre, "Ouvre le Fichier")))
     ouvre_fenetre(application, "la page", lambda: presse(bouton(fenetre, "Imprime l'écran")))
 
+    for titre, raccourci in COMPLEMENTS.items():
+        ouvre_complement(application, titre, raccourci)
+
     presse(bouton(fenetre, "English"))
     attend("les noms anglais", lambda: trouve(fenetre, "Plotting sheet and chart", pyatspi.ROLE_CANVAS))
     examine(fenetre, "en anglais")
+    for titre, raccourci in COMPLEMENTS.items():
+        ouvre_complement(application, titre + " en anglais", raccourci, lambda *_: None)
     presse(bouton(fenetre, "Shows or hides the Chart module"))
     presse(bouton(fenetre, "Shows or hides the Sight module"))
     attend("la lecture en anglais", lambda: trouve(fenetre, "Sextant reading, minutes", pyatspi.ROLE_TEXT))

@@ -6,6 +6,9 @@
 #include <QDialog>
 #include <QTimer>
 
+#include <set>
+#include <utility>
+
 /// The windows of plan and runs on the screen.
 namespace velmaris::essais {
 namespace {
@@ -54,6 +57,27 @@ TEST_F(FenetresDesVisees, TheRunsWindowHasRoomForItsWordsInBothLanguages) {
     QDialog *dialogue = OuvreFenetre(anglais, d.PU_Serie, "Serie");
     ASSERT_NE(dialogue, nullptr);
     ChaquePage(*dialogue, bureau.fenetreSerie.Onglets1, static_cast<int>(kPagesSerie));
+    Referme(bureau.fenetreSerie.cadre);
+  }
+}
+
+TEST_F(FenetresDesVisees, NoTwoFieldsSideBySideHaveOneNameAndEveryPictureHasOne) {
+  for (const bool anglais : {false, true}) {
+    QDialog *dialogue = OuvreFenetre(anglais, d.PU_Serie, "Serie");
+    ASSERT_NE(dialogue, nullptr);
+    std::set<std::pair<QObject *, QString>> noms;
+    for (const Controle *c : ControlesDe(bureau, kFenetreSerie)) {
+      const auto *widget = dialogue->findChild<QWidget *>(QString::fromStdString(c->nom) +
+                                                          (c->indice < 0 ? "" : QString::number(c->indice)));
+      if (widget != nullptr && (c->genre == Genre::Champ || c->genre == Genre::Liste || c->genre == Genre::Surface)) {
+        EXPECT_FALSE(widget->accessibleName().isEmpty()) << c->nom;
+        EXPECT_TRUE(noms.emplace(widget->parent(), widget->accessibleName()).second)
+            << widget->accessibleName().toStdString();
+      }
+    }
+    EXPECT_GT(noms.size(), 25U);
+    const auto nom = [&](const char *champ) { return dialogue->findChild<QWidget *>(champ)->accessibleName(); };
+    EXPECT_TRUE(nom("Text60").startsWith(anglais ? "Equal" : "Égales (UTC), ")) << nom("Text60").toStdString();
     Referme(bureau.fenetreSerie.cadre);
   }
 }

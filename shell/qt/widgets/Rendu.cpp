@@ -22,6 +22,7 @@ Rendu::Rendu(Scene &scene, QWidget &fenetre, const ListeControles &controles, bo
     : scene_(scene), bureau_(scene.bureau()), fenetre_(fenetre), presse_(presse) {
   CreeWidgets(controles);
   BrancheLibelles();
+  TrouveHomonymes();
   scene_.Ajoute(*this);
   qApp->installEventFilter(this);
 }
@@ -43,7 +44,7 @@ void Rendu::CreeWidgets(const ListeControles &controles) {
     std::unique_ptr<Adaptateur> adaptateur =
         CreeAdaptateur(bureau_, *c, parent == nullptr ? &fenetre_ : parent->widget);
     QWidget *widget = adaptateur == nullptr ? nullptr : &adaptateur->widget();
-    liens_.push_back({c, widget, std::move(adaptateur), {}, c, parent});
+    liens_.push_back({c, widget, std::move(adaptateur), {}, c, false, parent});
     if (widget == nullptr) {
       continue;
     }
@@ -90,6 +91,20 @@ void Rendu::BrancheLibelles() {
   }
 }
 
+/// Finds the fields that a caption doesn't tell apart: a date and a time after the same words.
+void Rendu::TrouveHomonymes() {
+  const auto estChamp = [](const Lien &lien) {
+    return lien.widget != nullptr && (lien.controle->genre == Genre::Champ || lien.controle->genre == Genre::Liste) &&
+           !lien.nomme->legende.empty();
+  };
+  for (Lien &lien : liens_) {
+    lien.homonyme = estChamp(lien) && std::any_of(liens_.begin(), liens_.end(), [&](const Lien &autre) {
+                      return &autre != &lien && estChamp(autre) && autre.dans == lien.dans &&
+                             autre.nomme->legende == lien.nomme->legende;
+                    });
+  }
+}
+
 const Lien *Rendu::Trouve(std::string_view nom, int indice) const {
   for (const Lien &lien : liens_) {
     if (lien.controle->nom == nom && lien.controle->indice == indice) {
@@ -117,14 +132,18 @@ QWidget *Rendu::WidgetDe(const Controle &controle) const {
   return nullptr;
 }
 
-/// The words that name a control to a screen reader: those that its table gives it, its own caption, or its tool tip.
+/// The words that name a control to a screen reader: those that its table gives it, its own caption, or its tool tip;
+/// the tool tip too where those words are another field's as well.
 QString Rendu::NomLisible(const Lien &lien) {
   const Controle &c = *lien.controle;
   const Controle &nomme = *lien.nomme;
-  if (lien.widget->focusPolicy() == Qt::NoFocus && &nomme == &c) {
+  if (lien.widget->focusPolicy() == Qt::NoFocus && &nomme == &c && c.genre != Genre::Surface) {
     return {}; // plain words speak for themselves
   }
   QString nom = QString::fromStdString(nomme.legende.empty() ? c.infobulle : nomme.legende).simplified();
+  if (lien.homonyme) {
+    nom += ", " + QString::fromStdString(c.infobulle);
+  }
   if (c.genre == Genre::Etiquette && &nomme != &c) { // a result says what it is, and how much
     nom += ' ' + QString::fromStdString(c.legende);
   }

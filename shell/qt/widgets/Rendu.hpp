@@ -21,6 +21,7 @@ struct Lien {
   std::unique_ptr<Adaptateur> adaptateur; ///< what brings the two together; null where there is no widget
   Controle vu;                            ///< the control as the widget was last brought in line with
   const Controle *nomme = nullptr;        ///< whose words name it to a screen reader
+  bool homonyme = false;                  ///< another field beside it has the same words
   const Lien *dans = nullptr;             ///< what it lies in, null for the window itself
   bool neuf = true;                       ///< the widget was never laid out
 };
@@ -69,6 +70,7 @@ private:
   void CreeWidgets(const ListeControles &controles);
   void Branche(const Lien &lien);
   void BrancheLibelles();
+  void TrouveHomonymes();
   void Champ(QObject *objet, QEvent *event);
   static bool EstMontre(const Lien &lien);
   void AccordeLien(Lien &lien) const;
