@@ -146,6 +146,7 @@ constexpr Abonnement kPoint[] = {
     {"Check2", Evenement::Clic, point::Case_Click},       {"Check3", Evenement::Clic, point::Check3_Click},
     {"Check4", Evenement::Clic, point::Check4_Click},     {"Command1", Evenement::Clic, point::Command1_Click},
     {"Command2", Evenement::Clic, point::Command2_Click}, {"Command3", Evenement::Clic, point::Command3_Click},
+    {"Text3", Evenement::Valide, point::Text3_Valide},
 };
 
 // NOLINTNEXTLINE(cppcoreguidelines-avoid-c-arrays,modernize-avoid-c-arrays)

@@ -28,6 +28,11 @@ bool EstImprobable(const FichePoint &fiche, std::size_t rang) {
   return solution != nullptr && solution->improbable == rang;
 }
 
+/// Whether a fix tells which sight is improbable; what the other one can't tell is then no news.
+bool EstNommee(const FichePoint &fiche) {
+  return std::find(fiche.avis.begin(), fiche.avis.end(), AvisPoint::ViseeImprobable) != fiche.avis.end();
+}
+
 void AjouteUneFois(std::vector<std::string> &mots, std::string texte) {
   if (std::find(mots.begin(), mots.end(), texte) == mots.end()) {
     mots.push_back(std::move(texte));
@@ -103,6 +108,9 @@ std::vector<std::string> MotsDesAvis(const Bureau &bureau) {
   std::vector<std::string> mots;
   AjouteAvis(bureau, bureau.point.actuelle, mots);
   AjouteAvis(bureau, bureau.point.dite, mots);
+  if (EstNommee(bureau.point.actuelle) || EstNommee(bureau.point.dite)) {
+    std::erase(mots, bureau.fenetrePoint.MotAvis.at(Rang(AvisPoint::ErreurSansNom)).legende);
+  }
   return mots;
 }
 

@@ -370,6 +370,8 @@ void Command2_Click(Bureau &bureau, int indice) {
   RefaitPoint(bureau);
 }
 
+void Text3_Valide(Bureau &bureau, int /*indice*/) { Command2_Click(bureau, 0); }
+
 void Check3_Click(Bureau &bureau, int /*indice*/) { PoseSurFeuille(bureau, bureau.fenetrePoint.Check3.valeur == 1); }
 
 void Check4_Click(Bureau &bureau, int /*indice*/) { bureau.point.seconde = bureau.fenetrePoint.Check4.valeur == 1; }

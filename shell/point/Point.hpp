@@ -54,6 +54,8 @@ void Command1_Click(Bureau &bureau, int indice);
 void Jambes_Click(Bureau &bureau, int indice);
 /// "Ajouter", "Ôter" a leg.
 void Command2_Click(Bureau &bureau, int indice);
+/// Return in a field of a leg: "Ajouter".
+void Text3_Valide(Bureau &bureau, int indice);
 /// The layer, by its box.
 void Check3_Click(Bureau &bureau, int indice);
 /// The second of two solutions.

@@ -22,6 +22,7 @@ namespace velmaris {
 namespace {
 
 constexpr std::int64_t kEntreQuarts = 5400; ///< seconds
+constexpr double kUnJour = 86400;           ///< seconds
 constexpr double kVitesseMax = 100;         ///< knots
 constexpr double kTour = 360;
 constexpr std::string_view kDroite = "droite "; ///< what the identity of a stored line begins with
@@ -47,6 +48,24 @@ bool EstLaMeme(const Observation &a, const Observation &b) {
 
 bool EstDroite(const std::string &identite) { return identite.starts_with(kDroite); }
 
+/// Whether a stored line is of the day of the sights beside it, within 24 hours of the last of them, rows of the log
+/// before lines: one that was kept on another voyage is listed, and counts when it is ticked.
+bool EstDuJour(const PointOuvert &point, const ViseeDuPoint &droite) {
+  const auto derniere = [&](bool droites) {
+    const InstantUTC *trouvee = nullptr;
+    for (const ViseeDuPoint &v : point.visees) {
+      if (v.hauteur && EstDroite(v.identite) == droites &&
+          (trouvee == nullptr || SecondesEntre(*trouvee, v.hauteur->utc) > 0)) {
+        trouvee = &v.hauteur->utc;
+      }
+    }
+    return trouvee;
+  };
+  const InstantUTC *jour = derniere(false);
+  jour = jour == nullptr ? derniere(true) : jour;
+  return jour == nullptr || !droite.hauteur || std::fabs(SecondesEntre(*jour, droite.hauteur->utc)) <= kUnJour;
+}
+
 void AjouteRangee(Bureau &bureau, const RegistreLu &registre, std::size_t rang) {
   if (std::optional<Rangee> r = RangeeDe(registre, rang); r && ChoisitAstre(*r, bureau.etoiles)) {
     AjouteVisee(bureau, r->identite, r->observation, ResultatDit{r->Ho, r->Hc, r->azimut, r->intercept});
@@ -56,6 +75,7 @@ void AjouteRangee(Bureau &bureau, const RegistreLu &registre, std::size_t rang) 
 } // namespace
 
 void ReprendDroites(Bureau &bureau, bool cochees) {
+  std::set<std::string> neuves;
   for (int ligne = 0; ligne < kNombreDroites; ++ligne) {
     std::optional<Observation> gardee = ObservationGardee(bureau, ligne);
     if (!gardee) {
@@ -67,9 +87,12 @@ void ReprendDroites(Bureau &bureau, bool cochees) {
     if (!connue && dit) {
       const std::string identite = std::string(kDroite) + std::to_string(ligne + 1);
       AjouteVisee(bureau, identite, *gardee, dit);
-      const auto ici = std::find_if(bureau.point.visees.begin(), bureau.point.visees.end(),
-                                    [&](const ViseeDuPoint &v) { return v.identite == identite; });
-      ici->cochee = cochees;
+      neuves.insert(identite);
+    }
+  }
+  for (ViseeDuPoint &v : bureau.point.visees) {
+    if (neuves.contains(v.identite)) {
+      v.cochee = cochees && EstDuJour(bureau.point, v);
     }
   }
 }
@@ -98,7 +121,10 @@ std::vector<std::size_t> DernierQuart(const RegistreLu &registre, const Annotati
 
 bool ListeFaiteMain(Bureau &bureau) {
   const std::vector<ViseeDuPoint> &visees = bureau.point.visees;
-  const auto touchee = [](const ViseeDuPoint &v) { return !v.cochee || v.ecartType; };
+  const auto touchee = [&](const ViseeDuPoint &v) {
+    const bool deLui = !EstDroite(v.identite) || EstDuJour(bureau.point, v);
+    return v.cochee != deLui || v.ecartType;
+  };
   if (std::any_of(visees.begin(), visees.end(), touchee)) {
     return true;
   }

@@ -5,10 +5,12 @@
 #include "shell/qt/cadre/PortsQt.hpp"
 
 #include <QEventLoop>
+#include <QKeyEvent>
 #include <QMenu>
 #include <QMessageBox>
 #include <QMetaObject>
 #include <QPointer>
+#include <QPushButton>
 #include <QTimer>
 
 /// How events go into the core, and what happens to windows meanwhile.
@@ -53,6 +55,31 @@ TEST_F(SceneOuverte, AWindowThatAsksForItsOwnEndLivesUntilItsEventIsOver) {
   EXPECT_FALSE(vie.isNull());
   QApplication::processEvents();
   EXPECT_TRUE(vie.isNull());
+}
+
+TEST_F(SceneOuverte, AKeyThatIsStillHeldDownAnswersNoBox) {
+  Ouvre(kGrandEcran);
+  qt::Boites ports(bureau);
+  ports.Ouvre(scene, *fenetre);
+  for (const int touche : {Qt::Key_Return, Qt::Key_Space, Qt::Key_Escape}) {
+    bool resiste = false;
+    QTimer::singleShot(0, fenetre.get(), [&] {
+      auto *boite = qobject_cast<QMessageBox *>(QApplication::activeModalWidget());
+      ASSERT_NE(boite, nullptr);
+      for (const bool repetee : {true, false}) {
+        QWidget *cible = boite->defaultButton();
+        QKeyEvent appui(QEvent::KeyPress, touche, Qt::NoModifier, QString(), repetee);
+        QKeyEvent relache(QEvent::KeyRelease, touche, Qt::NoModifier, QString(), repetee);
+        QApplication::sendEvent(cible, &appui);
+        QApplication::sendEvent(cible, &relache);
+        resiste = resiste || (repetee && boite->isVisible());
+      }
+      EXPECT_FALSE(boite->isVisible()) << touche;
+      boite->reject();
+    });
+    bureau.ports.boite({.texte = "Un mot", .icone = Icone::Erreur});
+    EXPECT_TRUE(resiste) << touche;
+  }
 }
 
 TEST_F(SceneOuverte, APageThatComesToTheFrontLetsNoEventIn) {

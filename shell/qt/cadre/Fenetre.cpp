@@ -299,7 +299,7 @@ bool Fenetre::Touche(QObject *objet, const QKeyEvent &appui) {
     return false;
   }
   if (EstRetour(touche)) {
-    return Retour(*widget);
+    return appui.isAutoRepeat() || Retour(*widget); // a key held down computes once
   }
   if (ToucheHabitude(*widget, appui)) {
     return true;

@@ -15,6 +15,7 @@
 #include <QFile>
 #include <QFont>
 #include <QFontMetricsF>
+#include <QKeyEvent>
 #include <QLocale>
 #include <QMessageBox>
 #include <QPointer>
@@ -70,6 +71,21 @@ bool Jette(const std::filesystem::path &fichier) {
   return std::filesystem::remove(fichier, refus);
 }
 
+/// A key held down answers no question: the one that brought the box up is often still down.
+class SansRepetition : public QObject {
+public:
+  /// @param boite  with all its buttons
+  explicit SansRepetition(QMessageBox &boite) {
+    boite.installEventFilter(this);
+    for (QAbstractButton *bouton : boite.buttons()) {
+      bouton->installEventFilter(this);
+    }
+  }
+  bool eventFilter(QObject * /*objet*/, QEvent *event) override {
+    return event->type() == QEvent::KeyPress && static_cast<QKeyEvent *>(event)->isAutoRepeat();
+  }
+};
+
 bool MontreBoite(const Bureau &bureau, const Boite &boite, QWidget *parent) {
   const Donnees &d = bureau.donnees;
   AccordeEclairage(bureau.eclairage);
@@ -86,6 +102,7 @@ bool MontreBoite(const Bureau &bureau, const Boite &boite, QWidget *parent) {
         boite.autre.empty() ? nullptr : qt.addButton(QString::fromStdString(boite.autre), QMessageBox::ActionRole);
     qt.setDefaultButton(ok);
     qt.setEscapeButton(ok);
+    const SansRepetition reponse(qt);
     qt.exec();
     if (autre != nullptr) {
       return qt.clickedButton() == autre;
@@ -101,6 +118,7 @@ bool MontreBoite(const Bureau &bureau, const Boite &boite, QWidget *parent) {
   if (boite.nonParDefaut) {
     qt.setDefaultButton(non);
   }
+  const SansRepetition reponse(qt);
   qt.exec();
   return qt.clickedButton() == oui;
 }

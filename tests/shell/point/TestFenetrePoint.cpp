@@ -72,6 +72,50 @@ TEST_F(PointEnChiffres, AStoredLineIsASightOfTheFixUnlessTheLogHasIt) {
   EXPECT_EQ(Mot(0, 1), "Soleil");
 }
 
+TEST_F(PointEnChiffres, AStoredLineOfAnotherVoyageIsListedAndDoesNotCount) {
+  TapeVisee();
+  d.TDate[0].texte = "15"; // six days before the stars
+  Calcule();
+  PoseMode(bureau, ModeDroite::Enregistre);
+  ClicControle(bureau, d.Droite[1]);
+  Accorde();
+  ViseQuatre();
+  OuvrePoint();
+  ASSERT_EQ(p.visees.size(), 5U);
+  EXPECT_EQ(p.visees[0].identite, "droite 2");
+  EXPECT_FALSE(p.visees[0].cochee);
+  EXPECT_LT(Loin(p.actuelle), 0.1);
+  Coche(0);
+  EXPECT_TRUE(p.visees[0].cochee) << "it counts once it is ticked";
+}
+
+TEST_F(PointEnChiffres, ASightThatIsNamedImprobableIsNotAlsoToldToHaveNoName) {
+  ViseQuatre(30);
+  OuvrePoint();
+  const std::string sansNom = f.MotAvis[static_cast<std::size_t>(AvisPoint::ErreurSansNom)].legende;
+  const std::string nommee = f.MotAvis[static_cast<std::size_t>(AvisPoint::ViseeImprobable)].legende;
+  p.actuelle.avis = {AvisPoint::ViseeImprobable};
+  p.dite.avis = {AvisPoint::Desaccord, AvisPoint::ErreurSansNom};
+  for (const std::string &mots : MotsDesAvis(bureau)) {
+    EXPECT_NE(mots, sansNom);
+  }
+  p.actuelle.avis = {AvisPoint::Desaccord};
+  EXPECT_THAT(MotsDesAvis(bureau), testing::Contains(sansNom));
+  EXPECT_THAT(MotsDesAvis(bureau), testing::Not(testing::Contains(HasSubstr(nommee + " :"))));
+}
+
+TEST_F(PointEnChiffres, ReturnInAFieldOfALegAddsIt) {
+  OuvrePoint();
+  p.jambes.clear();
+  f.Text3[0].texte = "21/06/2026";
+  f.Text3[1].texte = "03:30";
+  f.Text3[2].texte = "225";
+  f.Text3[3].texte = "6";
+  EXPECT_TRUE(ValideControle(bureau, f.Text3[3]));
+  ASSERT_EQ(p.jambes.size(), 1U);
+  EXPECT_EQ(p.jambes[0].cap, 225);
+}
+
 TEST_F(PointEnChiffres, ASightThatIsUntickedLeavesTheFixAndKeepsItsResidual) {
   ViseQuatre(30);
   OuvrePoint();
