@@ -7,6 +7,7 @@
 #include "shell/carte/Objets.hpp"
 #include "shell/droites/Bouts.hpp"
 #include "shell/droites/Droites.hpp"
+#include "shell/droites/ModesDroite.hpp"
 #include "shell/ecran/Modules.hpp"
 #include "shell/visee/EtatPanneau.hpp"
 #include "shell/visee/ReduitVisee.hpp"
@@ -78,6 +79,7 @@ void ReprendSession(Bureau &bureau, const Session &session) {
     Declenche(bureau, bureau.donnees.Command17, Evenement::Clic);
   }
   RemetControles(bureau, session.controles); // a redraw leaves the last line in the panel
+  DesarmeMode(bureau);
   AccordeModules(bureau);
   RemetResultat(bureau, session.resultat);
   if (session.objets) {

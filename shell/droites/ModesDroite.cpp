@@ -195,6 +195,13 @@ void PoseMode(Bureau &bureau, ModeDroite mode) {
   PoseOption(bureau, bureau.donnees.Option1[static_cast<std::size_t>(mode)]);
 }
 
+void DesarmeMode(Bureau &bureau) {
+  const auto arme = [&](ModeDroite mode) { return bureau.donnees.Option1[static_cast<std::size_t>(mode)].choisi; };
+  if (arme(ModeDroite::Enregistre) || arme(ModeDroite::Efface)) {
+    PoseMode(bureau, ModeDroite::Affiche);
+  }
+}
+
 void Option1_Click(Bureau &bureau, int indice) {
   bureau.donnees.Combo5.actif = indice == static_cast<int>(ModeDroite::TransporteDroite);
 }

@@ -20,6 +20,10 @@ enum class ModeDroite : std::uint8_t {
 /// Selects a mode, as a click on its option does.
 void PoseMode(Bureau &bureau, ModeDroite mode);
 
+/// Leaves a mode that writes, "Enregistrer" or "Effacer", for "Afficher": what undo or a recovery brings back is not
+/// armed.
+void DesarmeMode(Bureau &bureau);
+
 /// A click on a mode: the list of target lines is there for a transport to one.
 void Option1_Click(Bureau &bureau, int indice);
 

@@ -6,6 +6,7 @@
 #include "shell/bureau/Valeurs.hpp"
 #include "shell/droites/Droites.hpp"
 #include "shell/droites/MemoireDroites.hpp"
+#include "shell/droites/ModesDroite.hpp"
 #include "shell/visee/Annulation.hpp"
 #include "shell/visee/EtatPanneau.hpp"
 #include "shell/visee/ReduitVisee.hpp"
@@ -114,6 +115,12 @@ std::vector<EtatControle> ControlesVoulus(Donnees &d, const Chemin &c) {
   return voulus;
 }
 
+/// Whether the modes of the four lines differ between two states of the controls.
+bool AutreMode(const std::vector<EtatControle> &a, const std::vector<EtatControle> &b) {
+  return !std::equal(a.begin(), a.end(), b.begin(), b.end(),
+                     [](const EtatControle &x, const EtatControle &y) { return x.nom != "Option1" || x == y; });
+}
+
 template <class Etat> const Etat &Voulu(const Chemin &c, Etat EtatRevocable::*partie) {
   return c.de.*partie == c.vers.*partie ? c.present.*partie : c.vers.*partie;
 }
@@ -125,7 +132,12 @@ void Remonte(Bureau &bureau, const Chemin &c) {
   if (c.de.trace != c.vers.trace) {
     RemetTrace(bureau, c.vers.trace);
   }
-  RemetControles(bureau, ControlesVoulus(d, c));
+  const std::vector<EtatControle> voulus = ControlesVoulus(d, c);
+  const bool modeRevenu = AutreMode(voulus, c.present.controles);
+  RemetControles(bureau, voulus);
+  if (modeRevenu) {
+    DesarmeMode(bureau);
+  }
   RemetResultat(bureau, Voulu(c, &EtatRevocable::resultat));
   const auto &estimee = Voulu(c, &EtatRevocable::estimee);
   d.LabLatEst.legende = estimee[0];

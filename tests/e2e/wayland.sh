@@ -80,6 +80,7 @@ attends a_fenetres 2; calme
 image wayland-5-quitter
 touche Return
 attends finie
-wait "$PID" || echoue "le programme finit par une erreur"
+STATUT=0; wait "$PID" || STATUT=$?
 grep -vE '^\[ *[0-9.]+\]|^QStandardPaths' "$DIT" >&2 || true
+[ $STATUT -eq 0 ] || echoue "le programme finit par une erreur"
 echo "sous Wayland : bien"

@@ -130,6 +130,23 @@ TEST_F(Retour, ALineStoredOverAnotherGivesTheOtherBack) {
   EXPECT_EQ(Reglage("T3(0)"), "12");
 }
 
+TEST_F(Retour, NoModeThatWritesComesBackWithWhatItWrote) {
+  TroisDroites();
+  Stocke(0, kMidi);
+  ASSERT_TRUE(d.Option1[2].choisi);
+  Annule();
+  EXPECT_TRUE(d.Option1[2].choisi);
+  EXPECT_FALSE(d.Option1[0].choisi);
+  reponse = true;
+  Presse(ModeDroite::Efface, 1);
+  Annule();
+  EXPECT_TRUE(d.Option1[2].choisi);
+  EXPECT_FALSE(d.Option1[3].choisi);
+  ClicOption(bureau, d.Option1[0]); // chosen since, by hand
+  Annule();
+  EXPECT_TRUE(d.Option1[0].choisi);
+}
+
 TEST_F(Retour, ALineThatHadNeverBeenStoredIsEmptyAgain) {
   DemarreSansCarte();
   Stocke(3, kMidi);
