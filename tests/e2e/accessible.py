@@ -105,10 +105,9 @@ def fautes(fenetre):
         if not noeud.name.strip() or "&" in noeud.name or noeud.getRole() in SANS_ROLE:
             dites.append(f"nom ou rôle : {dit(noeud)} dans {dit(noeud.parent)}")
         if noeud.getRole() in CHAMPS:
-            cle = (noeud.parent.name, noeud.name)
-            if cle in vus:
+            if cle(noeud) in vus:
                 dites.append(f"deux fois {dit(noeud)} dans {dit(noeud.parent)}")
-            vus.add(cle)
+            vus.add(cle(noeud))
     for noeud in dans(fenetre):
         if montre(noeud) and noeud.getRole() in (pyatspi.ROLE_CANVAS, pyatspi.ROLE_IMAGE) and not noeud.name.strip():
             dites.append(f"sans nom : {dit(noeud)} dans {dit(noeud.parent)}")
@@ -128,18 +127,23 @@ def examine(fenetre, titre):
     return controles(fenetre)
 
 
+def cle(noeud):
+    return noeud.parent.name, noeud.name
+
+
 def parcourt(fenetre, titre, tous):
     """Every control of a window is reached by Tab; of a group of options the one that is chosen."""
+    voulus = [n for n in tous if n.getRole() != pyatspi.ROLE_CANVAS and
+              (n.getRole() != pyatspi.ROLE_RADIO_BUTTON or etat(n, pyatspi.STATE_CHECKED))]
+    attend(f"le clavier dans {titre}", lambda: etat(fenetre, pyatspi.STATE_ACTIVE))
     atteints = set()
-    for _ in range(2 * len(tous) + 10):
-        for noeud in tous:
-            if etat(noeud, pyatspi.STATE_FOCUSED):
-                atteints.add((noeud.parent.name, noeud.name))
+    for _ in range(4 * len(tous) + 10):  # a busy machine tells of the keyboard late
+        atteints.update(cle(n) for n in tous if etat(n, pyatspi.STATE_FOCUSED))
+        if all(cle(n) in atteints for n in voulus):
+            return
         touche("Tab")
-    for noeud in tous:
-        if noeud.getRole() == pyatspi.ROLE_CANVAS or noeud.getRole() == pyatspi.ROLE_RADIO_BUTTON and not etat(noeud, pyatspi.STATE_CHECKED):
-            continue
-        verifie((noeud.parent.name, noeud.name) in atteints, f"{titre} : Tab ne vient pas à {dit(noeud)}")
+    for noeud in voulus:
+        verifie(cle(noeud) in atteints, f"{titre} : Tab ne vient pas à {dit(noeud)}")
 
 
 def programme(pid):
