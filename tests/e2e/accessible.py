@@ -155,6 +155,12 @@ def programme(pid):
     return None
 
 
+def gere():
+    """Whether the window manager manages."""
+    dit_il = subprocess.run(["xprop", "-root", "_NET_SUPPORTING_WM_CHECK"], capture_output=True, text=True, check=False)
+    return "window id" in dit_il.stdout
+
+
 def fenetres(application):
     return [application.getChildAtIndex(i) for i in range(application.childCount)]
 
@@ -173,6 +179,7 @@ def main(chemin, exemple):
                       QT_LINUX_ACCESSIBILITY_ALWAYS_ON="1")
         milieu.setdefault("XDG_RUNTIME_DIR", travail)
         gestionnaire = subprocess.Popen(["openbox"], stderr=subprocess.DEVNULL)
+        attend("le gestionnaire", gere)  # a window that comes before it isn't given the keyboard
         velmaris = subprocess.Popen([chemin, exemple], env=milieu)
         try:
             application = attend("le programme sur le bus", lambda: programme(velmaris.pid))
