@@ -1,11 +1,15 @@
 #!/usr/bin/python3
 """Random hands: mouse, keyboard and the window manager's own doings over all windows of the real program.
 
-Usage: hasard.py PROGRAMME EXEMPLES SECONDES GRAINE
+Usage: hasard.py PROGRAMME EXEMPLES SECONDES GRAINE [SUIVI]
 
 The same seed draws the same gestures; what they meet depends on the machine's pace. The program may end by itself
 (a question answered with Yes, a sight that can't be reduced): it is then started again, on the same folders. Fails when
 it dies of a signal, ends with a status that it doesn't know, or answers nothing for half a minute.
+
+With SUIVI, a file, the program is not left (no close of its main window, no answer but Escape to the question), and
+every half minute a line is written there: seconds, gestures, how often the program was started, KiB of memory of its
+own, threads, open files.
 """
 import os
 import random
@@ -26,6 +30,7 @@ CHORDS = [("Shift_L", "Tab"), ("Control_L", "n"), ("Control_L", "a"), ("Control_
           ("Alt_L", "o"), ("Alt_L", "a"), ("Shift_L", "F10"), ("Control_L", "plus"), ("Control_L", "minus")]
 SILENCE = 30.0  # seconds without an answer
 CLOCK_STOPPED = re.compile("(?i)objets|objects")  # the editor of the user's objects stops the main window's clock
+LEAVES = re.compile("- Qui(t|tter)$")  # the question before the program ends
 KNOWN_ENDS = (0, 1)
 
 
@@ -118,11 +123,12 @@ class Hands:
             self.d.sync()
         self.button(1, False)
 
-    def manage(self, window, main):
+    def manage(self, window, main, stays):
         """What the window manager does, by itself or at its user's wish."""
         doing = self.rng.randrange(8)
         if doing == 0:
-            self.close(window)
+            if not stays or window.id != main.id:
+                self.close(window)
         elif doing == 1:
             self.tell(window, "WM_CHANGE_STATE", [3])  # iconic
         elif doing == 2:
@@ -138,7 +144,7 @@ class Hands:
         else:
             self.tell(main if doing == 6 else window, "_NET_ACTIVE_WINDOW", [2, X.CurrentTime])
 
-    def gesture(self, windows):
+    def gesture(self, windows, stays):
         window, main = self.rng.choice(windows), windows[0]
         kind = self.rng.randrange(20)
         x, y, left, top = self.place_in(window)
@@ -167,7 +173,7 @@ class Hands:
         elif kind == 16:
             self.key("Escape")
         elif kind < 19:
-            self.manage(window, main)
+            self.manage(window, main, stays)
         else:
             self.tell(window, "_NET_ACTIVE_WINDOW", [2, X.CurrentTime])
         self.d.sync()
@@ -208,6 +214,16 @@ def idles(pid):
     return after[1] > before[1] and after[0] - before[0] < 1_500_000_000
 
 
+def held(pid):
+    """What the program holds: KiB of memory of its own, threads, open files."""
+    try:
+        with open(f"/proc/{pid}/smaps_rollup") as told:
+            own = sum(int(line.split()[1]) for line in told if line.startswith(("Private_", "Swap:")))
+        return own, len(os.listdir(f"/proc/{pid}/task")), len(os.listdir(f"/proc/{pid}/fd"))
+    except OSError:
+        return None  # it has just ended
+
+
 def shows_a_window(hands, program):
     for _ in range(int(SILENCE * 10)):
         if hands.windows(program.pid) or program.poll() is not None:
@@ -218,13 +234,14 @@ def shows_a_window(hands, program):
 
 def main():
     path, examples, seconds, seed = sys.argv[1], sys.argv[2], float(sys.argv[3]), int(sys.argv[4])
+    watched = open(sys.argv[5], "w", buffering=1) if len(sys.argv) > 5 else None
     base, env = prepare(examples)
     manager = manage()
     hands = Hands(random.Random(seed))
     report = open(base + "/stderr", "w+b")
     start = lambda: subprocess.Popen([path], env=env, cwd=base + "/home", stderr=report)
     program, gestures, ends, verdict, titles = start(), 0, 0, "", []
-    began = heard = time.monotonic()
+    began = heard = watch = time.monotonic()
     verdict = "" if shows_a_window(hands, program) else "shows no window"
     try:
         while time.monotonic() - began < seconds and not verdict:
@@ -245,7 +262,11 @@ def main():
                 time.sleep(0.05)
             else:
                 try:
-                    hands.gesture(windows)
+                    if watched and any(LEAVES.search(title) for title in hands.titles(windows)):
+                        hands.key("Escape")
+                        hands.d.sync()
+                    else:
+                        hands.gesture(windows, watched is not None)
                 except error.XError:
                     pass
                 gestures += 1
@@ -257,6 +278,10 @@ def main():
                 hands.key("Escape")
             time.sleep(hands.rng.random() * 0.012)
             hands.drain()
+            if watched and time.monotonic() - watch > 30:
+                watch, holds = time.monotonic(), held(program.pid)
+                if holds:
+                    print(round(watch - began), gestures, ends + 1, *holds, file=watched)
             if time.monotonic() - heard > SILENCE:
                 if idles(program.pid):
                     heard = time.monotonic()
