@@ -43,7 +43,11 @@ bool Remplace(const char *provisoire, const char *fichier, std::string_view octe
   }
   bien = bien && ::fsync(numero) == 0;
   ::close(numero);
-  return bien && ::rename(provisoire, fichier) == 0;
+  bien = bien && ::rename(provisoire, fichier) == 0;
+  if (!bien) {
+    ::unlink(provisoire); // on a full disk it takes room from what the user writes
+  }
+  return bien;
 }
 
 void Meurt(int signal) {
