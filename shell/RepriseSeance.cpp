@@ -9,6 +9,7 @@
 #include "shell/droites/Droites.hpp"
 #include "shell/droites/ModesDroite.hpp"
 #include "shell/ecran/Modules.hpp"
+#include "shell/point/Point.hpp"
 #include "shell/visee/EtatPanneau.hpp"
 #include "shell/visee/ReduitVisee.hpp"
 #include "shell/visee/Saisie.hpp"
@@ -87,6 +88,7 @@ void ReprendSession(Bureau &bureau, const Session &session) {
   }
   if (!session.point.empty()) {
     RemetVisees(bureau, session.point);
+    PreparePoint(bureau); // so that the fix lies on the sheet again
   }
 }
 

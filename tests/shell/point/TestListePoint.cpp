@@ -37,9 +37,14 @@ TEST_F(PointEnChiffres, ASessionThatIsTakenUpHasTheListAsItsUserLeftIt) {
   ASSERT_EQ(tenues.size(), 3U);
   const Session session = PriseSession(bureau);
   EXPECT_EQ(session.point, tenues);
-  p.visees.clear();
+  const Calque tracee = bureau.image1.calque;
+  p = {};
   bureau.registreOuvert.auPoint.clear();
+  bureau.image1.calque = {};
+  f.cadre.visible = false;
   ReprendSession(bureau, session);
+  Accorde();
+  EXPECT_EQ(bureau.image1.calque, tracee) << "the fix lies on the sheet, its window put away";
   EXPECT_EQ(ViseesTenues(p), tenues);
   EXPECT_FALSE(p.visees[1].cochee);
   EXPECT_EQ(p.visees[2].ecartType, 2.5);
