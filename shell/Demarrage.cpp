@@ -36,6 +36,7 @@
 #include <algorithm>
 #include <array>
 #include <chrono>
+#include <span>
 #include <string_view>
 #include <utility>
 
@@ -175,6 +176,21 @@ bool Touche(Bureau &bureau, int code) {
   }
 }
 
+/// A letter and the button that it presses.
+using BoutonDeLettre = std::pair<char, Controle Donnees::*>;
+
+/// Presses the button of a letter.
+/// @return whether it has one
+bool ClicDeLettre(Bureau &bureau, std::span<const BoutonDeLettre> boutons, char lettre) {
+  const auto la =
+      std::find_if(boutons.begin(), boutons.end(), [lettre](const auto &bouton) { return bouton.first == lettre; });
+  if (la == boutons.end()) {
+    return false;
+  }
+  ClicControle(bureau, bureau.donnees.*la->second);
+  return true;
+}
+
 } // namespace
 
 void Donnees_Charge(Bureau &bureau, const Ecran &ecran) {
@@ -276,11 +292,17 @@ bool RetourDansChamp(Bureau &bureau, Controle &champ) {
 void Command5_Click(Bureau &bureau, int /*indice*/) { Donnees_KeyDown(bureau, kToucheF1); }
 
 bool ToucheControle(Bureau &bureau, char lettre) {
-  constexpr std::array<std::pair<char, Controle Donnees::*>, 11> kBoutons = {{
+  constexpr std::array<BoutonDeLettre, 4> kBoutons = {{
       {'S', &Donnees::Command3},
       {'O', &Donnees::Command4},
       {'P', &Donnees::Command11},
       {'Q', &Donnees::Sortie},
+  }};
+  return ClicDeLettre(bureau, kBoutons, lettre) || ToucheComplement(bureau, lettre);
+}
+
+bool ToucheComplement(Bureau &bureau, char lettre) {
+  constexpr std::array<BoutonDeLettre, 7> kBoutons = {{
       {'I', &Donnees::PU_Fiche},
       {'L', &Donnees::PU_Registre},
       {'G', &Donnees::PU_Point},
@@ -289,13 +311,7 @@ bool ToucheControle(Bureau &bureau, char lettre) {
       {'E', &Donnees::PU_Exercice},
       {'a', &Donnees::PU_Papier},
   }};
-  const auto *const la =
-      std::find_if(kBoutons.begin(), kBoutons.end(), [lettre](const auto &bouton) { return bouton.first == lettre; });
-  if (la == kBoutons.end()) {
-    return false;
-  }
-  ClicControle(bureau, bureau.donnees.*la->second);
-  return true;
+  return ClicDeLettre(bureau, kBoutons, lettre);
 }
 
 bool RevientDans(Bureau &bureau, std::string_view fenetre, bool retablit) {

@@ -36,6 +36,9 @@ void Command5_Click(Bureau &bureau, int indice);
 /// @return whether it does something here
 bool ToucheControle(Bureau &bureau, char lettre);
 
+/// The same letter in a window of the complements: those that open one of these windows.
+bool ToucheComplement(Bureau &bureau, char lettre);
+
 /// The menu key: the menu of the results under the pointer; else that of the drawing surface, at the pointer where that
 /// is over it, or else under the control that has the keyboard.
 /// @param pointe   control under the pointer, null for none

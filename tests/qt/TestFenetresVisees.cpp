@@ -3,7 +3,10 @@
 #include "shell/bureau/Evenements.hpp"
 #include "shell/qt/cadre/PortsQt.hpp"
 
+#include <QApplication>
 #include <QDialog>
+#include <QKeyEvent>
+#include <QTabBar>
 #include <QTimer>
 
 #include <set>
@@ -169,6 +172,44 @@ TEST_F(FenetresDesVisees, TheKeyboardComesBackToThePlanAfterTheFilesWindow) {
   Joue([&] { ClicControle(bureau, bureau.preparation.Command2[0]); });
   EXPECT_TRUE(montre);
   EXPECT_EQ(QApplication::activeWindow(), plan);
+}
+
+TEST_F(FenetresDesVisees, ControlWithTabOrAPageKeyTurnsTheTabsFromAnyFieldAndTheLastIsFollowedByTheFirst) {
+  QDialog *dialogue = OuvreFenetre(false, d.PU_Serie, "Serie");
+  ASSERT_NE(dialogue, nullptr);
+  const Controle &onglets = bureau.fenetreSerie.Onglets1;
+  const auto presse = [&](int touche, Qt::KeyboardModifiers avec) {
+    QKeyEvent appui(QEvent::KeyPress, touche, avec);
+    QApplication::sendEvent(dialogue->focusWidget(), &appui);
+    QApplication::processEvents();
+  };
+  ASSERT_EQ(onglets.rang, 0);
+  presse(Qt::Key_Tab, Qt::ControlModifier);
+  EXPECT_EQ(onglets.rang, 1);
+  EXPECT_NE(qobject_cast<QTabBar *>(dialogue->focusWidget()), nullptr);
+  presse(Qt::Key_PageDown, Qt::ControlModifier);
+  presse(Qt::Key_PageDown, Qt::ControlModifier);
+  EXPECT_EQ(onglets.rang, 0);
+  presse(Qt::Key_Backtab, Qt::ControlModifier | Qt::ShiftModifier);
+  EXPECT_EQ(onglets.rang, static_cast<int>(kPagesSerie) - 1);
+  presse(Qt::Key_PageUp, Qt::ControlModifier);
+  EXPECT_EQ(onglets.rang, static_cast<int>(kPagesSerie) - 2);
+  EXPECT_EQ(scene.Ecart(), nullptr);
+}
+
+TEST_F(FenetresDesVisees, AKeyLeadsFromOneComplementToAnotherAndNoneOfThemSavesOrLeaves) {
+  QDialog *dialogue = OuvreFenetre(false, d.PU_Preparation, "Preparation");
+  ASSERT_NE(dialogue, nullptr);
+  const auto presse = [&](int touche) {
+    QKeyEvent appui(QEvent::KeyPress, touche, Qt::ControlModifier);
+    QApplication::sendEvent(dialogue->focusWidget(), &appui);
+    QApplication::processEvents();
+  };
+  presse(Qt::Key_Q);
+  EXPECT_FALSE(bureau.termine);
+  presse(Qt::Key_R);
+  EXPECT_TRUE(bureau.fenetreSerie.cadre.visible);
+  EXPECT_TRUE(bureau.preparation.cadre.visible) << "the plan stays";
 }
 
 } // namespace

@@ -12,7 +12,9 @@
 #include "shell/ecran/Echelle.hpp"
 #include "shell/ecran/Eclairage.hpp"
 #include "shell/ecran/Statut.hpp"
+#include "shell/qt/cadre/FenetreEtiree.hpp"
 #include "shell/qt/cadre/MenuCarte.hpp"
+#include "shell/qt/cadre/TouchesFenetres.hpp"
 #include "shell/qt/peinture/Apparat.hpp"
 #include "shell/qt/peinture/Palette.hpp"
 #include "shell/qt/peinture/Toile.hpp"
@@ -248,11 +250,11 @@ bool Fenetre::ToucheHabitude(QWidget &widget, const QKeyEvent &appui) {
     scene_.Joue([&] { ToucheMenu(bureau_, pointe, {place.x(), place.y()}, clavier); });
     return true;
   }
-  const bool majuscule = avec == (Qt::ControlModifier | Qt::ShiftModifier);
-  if ((avec != Qt::ControlModifier && !majuscule) || appui.key() < Qt::Key_A || appui.key() > Qt::Key_Z) {
+  const char lettre = LettreControle(appui);
+  if (lettre == 0) {
     return false;
   }
-  if (appui.key() == Qt::Key_C && !majuscule) {
+  if (lettre == 'C') {
     const auto *champ = qobject_cast<const QLineEdit *>(&widget);
     if (champ != nullptr && champ->hasSelectedText()) {
       return false; // a field copies what is selected in it
@@ -264,8 +266,7 @@ bool Fenetre::ToucheHabitude(QWidget &widget, const QKeyEvent &appui) {
     return false;
   }
   bool prise = false;
-  const char premiere = majuscule ? 'a' : 'A';
-  scene_.Joue([&] { prise = ToucheControle(bureau_, static_cast<char>(premiere + appui.key() - Qt::Key_A)); });
+  scene_.Joue([&] { prise = ToucheControle(bureau_, lettre); });
   return prise;
 }
 
@@ -358,6 +359,24 @@ bool Fenetre::ToucheAnnule(QObject *objet, const QKeyEvent &appui) {
   return prise;
 }
 
+/// A key of the windows of the complements: their tabs, and from one of them to another.
+bool Fenetre::ToucheDesComplements(const QObject *objet, const QKeyEvent &appui) {
+  const auto *widget = qobject_cast<const QWidget *>(objet);
+  const auto *fenetre = dynamic_cast<const FenetreEtiree *>(widget->window());
+  if (fenetre == nullptr || QApplication::activeModalWidget() != nullptr) {
+    return false;
+  }
+  if (TourneOnglet(*fenetre, appui)) {
+    return true;
+  }
+  const char lettre = appui.isAutoRepeat() ? '\0' : LettreControle(appui);
+  bool prise = false;
+  if (lettre != 0) {
+    scene_.Joue([&] { prise = ToucheComplement(bureau_, lettre); });
+  }
+  return prise;
+}
+
 bool Fenetre::eventFilter(QObject *objet, QEvent *event) {
   switch (event->type()) {
   case QEvent::KeyPress:
@@ -385,7 +404,8 @@ bool Fenetre::Appui(QObject *objet, const QKeyEvent &appui) {
     }
     return true;
   }
-  return ToucheAnnule(objet, appui) || ToucheTaille(appui) || Touche(objet, appui);
+  return ToucheAnnule(objet, appui) || ToucheTaille(appui) || ToucheDesComplements(objet, appui) ||
+         Touche(objet, appui);
 }
 
 void Fenetre::resizeEvent(QResizeEvent *event) {

@@ -51,6 +51,7 @@ private:
   bool Depose(QObject *objet, QDropEvent &event);
   bool ToucheTaille(const QKeyEvent &appui);
   bool ToucheAnnule(QObject *objet, const QKeyEvent &appui);
+  bool ToucheDesComplements(const QObject *objet, const QKeyEvent &appui);
 
   Scene &scene_;
   Bureau &bureau_;

@@ -41,8 +41,11 @@ template <class Dessin> void Dessine(const QStyleOption &option, QPainter &paint
   if (zone.isEmpty()) {
     return;
   }
-  const double densite = painter.device()->devicePixelRatioF();
-  QImage image(zone.size() * densite, QImage::Format_ARGB32_Premultiplied);
+  // By what it is painted at: a window that is stretched, or put into a picture, has another density than its widgets.
+  const double densite = std::sqrt(std::fabs(painter.deviceTransform().determinant()));
+  const QSizeF pixels = QSizeF(zone.size()) * densite;
+  QImage image(static_cast<int>(std::ceil(pixels.width())), static_cast<int>(std::ceil(pixels.height())),
+               QImage::Format_ARGB32_Premultiplied);
   image.setDevicePixelRatio(densite);
   image.fill(Qt::transparent);
   QPainter apart(&image);
@@ -67,6 +70,18 @@ struct Bords {
 Bords BordsDe(Eclairage eclairage) {
   return eclairage == Eclairage::Nuit ? Bords{Rouge(kBordNuit), Rouge(150), Rouge(46)}
                                       : Bords{{98, 107, 118}, {110, 168, 220}, {70, 78, 88}};
+}
+
+/// The frame around what has the keyboard, by night: the toolkit's own lays a veil over the words in it.
+void CadreDuClavier(const QStyleOption &option, QPainter &painter) {
+  if (!option.state.testFlag(QStyle::State_KeyboardFocusChange)) {
+    return;
+  }
+  painter.save();
+  painter.setBrush(Qt::NoBrush);
+  painter.setPen(BordsDe(Eclairage::Nuit).clavier);
+  painter.drawRect(option.rect.adjusted(0, 0, -1, -1));
+  painter.restore();
 }
 
 void Borde(QStyle::PrimitiveElement element, const QStyleOption &option, QPainter &p, const Bords &bords) {
@@ -160,6 +175,10 @@ int Apparat::pixelMetric(PixelMetric mesure, const QStyleOption *option, const Q
 
 void Apparat::drawPrimitive(PrimitiveElement element, const QStyleOption *option, QPainter *painter,
                             const QWidget *widget) const {
+  if (nuit() && element == PE_FrameFocusRect) {
+    CadreDuClavier(*option, *painter);
+    return;
+  }
   if (nuit()) {
     Dessine(*option, *painter, [&](QPainter &p) { QProxyStyle::drawPrimitive(element, option, &p, widget); });
   } else {

@@ -145,18 +145,18 @@ QPalette PaletteCrepuscule() {
 QPalette PaletteNuit() {
   const std::array<Role, 20> roles = {{{QPalette::Window, Rouge(14)},
                                        {QPalette::WindowText, Rouge(kRougeChiffre)},
-                                       {QPalette::Button, Rouge(34)},
+                                       {QPalette::Button, Rouge(24)},
                                        {QPalette::ButtonText, Rouge(kRougeChiffre)},
                                        {QPalette::Base, Rouge(0)},
                                        {QPalette::AlternateBase, Rouge(14)},
                                        {QPalette::Text, Rouge(kRougeChiffre)},
                                        {QPalette::BrightText, Rouge(kRougeChiffre)},
-                                       {QPalette::Highlight, Rouge(44)},
+                                       {QPalette::Highlight, Rouge(40)},
                                        {QPalette::HighlightedText, Rouge(kRougeDroite)},
                                        {QPalette::ToolTipBase, Rouge(24)},
                                        {QPalette::ToolTipText, Rouge(kRougeChiffre)},
                                        {QPalette::Link, Rouge(kRougeChiffre)},
-                                       {QPalette::LinkVisited, Rouge(150)},
+                                       {QPalette::LinkVisited, Rouge(kRougeNom)},
                                        {QPalette::Light, Rouge(60)},
                                        {QPalette::Midlight, Rouge(48)},
                                        {QPalette::Mid, Rouge(40)},
@@ -267,6 +267,15 @@ QColor EncreDeLegende(Eclairage eclairage, Couleur couleur) {
                                              : std::max(std::min(encre.red(), kRougeCote - 3), kRougeNom));
   }
   return Lisible(encre, TeintesDe(eclairage).carte, ContrasteDeTexte(eclairage));
+}
+
+QColor EncrePale(Eclairage eclairage) {
+  if (eclairage == Eclairage::Nuit) {
+    return Rouge(kRougeNom);
+  }
+  const QPalette p = PaletteDe(eclairage);
+  return Lisible(p.color(QPalette::Disabled, QPalette::Text), p.color(QPalette::AlternateBase),
+                 ContrasteDeTexte(eclairage));
 }
 
 void TeinteImage(Eclairage eclairage, QImage &image, const QColor &fond) {

@@ -61,6 +61,10 @@ QColor EncreDeTexte(Eclairage eclairage, Couleur couleur, GenreTexte genre, cons
 /// The ink of a text of a window, or of its modules.
 QColor EncreDeLegende(Eclairage eclairage, Couleur couleur);
 
+/// The ink of words that stand back and are still to be read, in a row of a list: as pale as the contrast of texts
+/// allows. By night there is no room for a paler one.
+QColor EncrePale(Eclairage eclairage);
+
 /// A picture as that light shows it.
 /// @param fond  the ground that it is seen on by day
 void TeinteImage(Eclairage eclairage, QImage &image, const QColor &fond = Qt::white);

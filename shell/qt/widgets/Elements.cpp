@@ -81,6 +81,20 @@ void Volet::mouseReleaseEvent(QMouseEvent * /*event*/) {
   }
 }
 
+void Inscription::paintEvent(QPaintEvent * /*event*/) {
+  QPainter p(this);
+  QColor bord = palette().color(QPalette::Base);
+  bord.setAlpha(255);
+  const int epaisseur = std::max(1, fontMetrics().height() / 12);
+  const int maniere = static_cast<int>(alignment());
+  p.setPen(bord);
+  for (const QPoint &ecart : {QPoint(1, 1), QPoint(-1, 1), QPoint(1, -1), QPoint(-1, -1)}) {
+    p.drawText(contentsRect().translated(ecart * epaisseur), maniere, text());
+  }
+  p.setPen(palette().color(foregroundRole()));
+  p.drawText(contentsRect(), maniere, text());
+}
+
 Renvoi::Renvoi(QWidget *parent) : QLabel(parent) {
   setFocusPolicy(Qt::TabFocus);
   setCursor(Qt::PointingHandCursor);

@@ -44,6 +44,15 @@ protected:
   void paintEvent(QPaintEvent *event) override;
 };
 
+/// A caption written upon a drawing: it covers no more of it than its letters and a thin border of the background.
+class Inscription : public QLabel {
+public:
+  using QLabel::QLabel;
+
+protected:
+  void paintEvent(QPaintEvent *event) override;
+};
+
 /// A picture that is pressed like a button; the second press of a double click is none.
 class Poussoir : public QToolButton {
 public:

@@ -92,6 +92,10 @@ protected:
   void PoseLegende(const Controle &c) override { w.setTitle(Legende(c)); }
 };
 
+/// The captions at the edges of the chart are written upon it; one that comes and goes over it has a ground of its own,
+/// to be read at a glance.
+bool EstInscription(const Controle &c) { return c.opaque && c.cote == Cote::Centre && c.parent == "Image1"; }
+
 class AEtiquette : public De<QLabel> {
 public:
   AEtiquette(QLabel *label, const Controle &c) : De(label) {
@@ -100,7 +104,7 @@ public:
     if (c.cadre) {
       w.setFrameStyle(static_cast<int>(QFrame::StyledPanel) | static_cast<int>(QFrame::Sunken));
     }
-    if (c.opaque || c.cadre) {
+    if ((c.opaque && !EstInscription(c)) || c.cadre) {
       w.setAutoFillBackground(true);
       w.setBackgroundRole(QPalette::Base);
     }
@@ -309,7 +313,7 @@ std::unique_ptr<Adaptateur> CreeEtiquette(const Controle &c, QWidget *parent) {
   if (c.renvoi) {
     return std::make_unique<ARenvoi>(new Renvoi(parent), c);
   }
-  return std::make_unique<AEtiquette>(new QLabel(parent), c);
+  return std::make_unique<AEtiquette>(EstInscription(c) ? new Inscription(parent) : new QLabel(parent), c);
 }
 
 } // namespace

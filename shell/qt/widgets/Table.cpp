@@ -7,6 +7,7 @@
 #include "shell/qt/widgets/Widgets.hpp"
 
 #include <QApplication>
+#include <QFont>
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QMouseEvent>
@@ -74,11 +75,21 @@ QVariant ModeleTable::Encre(std::size_t ligne) const {
   case TonLigne::Alerte:
     return EncreDeLegende(EclairageVu(), kAlerteLigne);
   case TonLigne::Faible:
-    return QApplication::palette().color(QPalette::Disabled, QPalette::Text);
+    return EncrePale(EclairageVu());
   case TonLigne::Ordinaire:
   default:
     return {};
   }
+}
+
+/// What stands back is slanted too: by night all texts are nearly as bright, and some eyes see no difference of tone.
+QVariant ModeleTable::Penche(std::size_t ligne) const {
+  if (tableau_.lecteur->ton(ligne) != TonLigne::Faible) {
+    return {};
+  }
+  QFont police;
+  police.setItalic(true);
+  return police;
 }
 
 QVariant ModeleTable::data(const QModelIndex &index, int role) const {
@@ -96,6 +107,8 @@ QVariant ModeleTable::data(const QModelIndex &index, int role) const {
     return colonne < 0 ? QVariant() : QVariant(Alignement(tableau_.colonnes[static_cast<std::size_t>(colonne)].cote));
   case Qt::ForegroundRole:
     return Encre(ligne);
+  case Qt::FontRole:
+    return Penche(ligne);
   case Qt::CheckStateRole:
     return colonne >= 0 ? QVariant() : QVariant(tableau_.lecteur->coche(ligne) ? Qt::Checked : Qt::Unchecked);
   default:

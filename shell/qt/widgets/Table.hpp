@@ -32,6 +32,7 @@ public:
 private:
   QVariant Mots(std::size_t ligne, int colonne, int role) const;
   QVariant Encre(std::size_t ligne) const;
+  QVariant Penche(std::size_t ligne) const;
   Tableau tableau_;
 };
 
