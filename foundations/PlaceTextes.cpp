@@ -242,12 +242,16 @@ const TexteTrace &TexteDe(const Surface &surface, const TextePlace &place) {
   return place.etiquette ? EtiquetteDe(surface, place.rang).texte : std::get<TexteTrace>(surface.traces.at(place.rang));
 }
 
-std::vector<TextePlace> PlaceTextes(const Surface &surface, const MesureTexte &mesure) {
+std::vector<TextePlace> PlaceTextes(const Surface &surface, const MesureTexte &mesure,
+                                    std::span<const ZoneTexte> reserves) {
   std::vector<Texte> textes = Ordonnes(surface, mesure);
   RetireDoubles(textes);
   EclaircitDegres(textes, GenreTexte::DegreLongitude);
   EclaircitDegres(textes, GenreTexte::DegreLatitude);
   PlanTextes plan(surface.largeur, surface.hauteur);
+  for (const ZoneTexte &zone : reserves) {
+    plan.Prend(zone);
+  }
   std::vector<TextePlace> places;
   const auto montre = [&](const Texte &texte, const ZoneTexte &zone) {
     plan.Prend(zone);

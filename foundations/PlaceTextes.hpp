@@ -81,8 +81,10 @@ private:
 /// - Names stand below and right of their points, as recorded, or at one of seven other places around them, an object's
 ///   somewhat farther off too, or are left out.
 /// - Names of lines stand at one of their line's ends or are left out.
-/// @param mesure  gives the room of a text
+/// @param mesure    gives the room of a text
+/// @param reserves  where none of them stands, since something else is written there
 /// @return in the order in which they took their places
-std::vector<TextePlace> PlaceTextes(const Surface &surface, const MesureTexte &mesure);
+std::vector<TextePlace> PlaceTextes(const Surface &surface, const MesureTexte &mesure,
+                                    std::span<const ZoneTexte> reserves = {});
 
 } // namespace velmaris

@@ -229,5 +229,18 @@ TEST_F(TextesPlaces, NamesOfLinesThatAreNotToBeSeenTakeNoRoom) {
   EXPECT_EQ(Coin(Zone("Lorient")), (Point{3000, 3000}));
 }
 
+TEST_F(TextesPlaces, NoTextStandsWhereSomethingElseIsWritten) {
+  Pose(GenreTexte::Ville, {5000, 5000}, "Rochefort", 3);
+  Pose(GenreTexte::Droite, {6000, 7000}, "4.41 '");
+  const std::array<ZoneTexte, 2> reserves = {ZoneTexte{5000, 5000, 2500, 200}, ZoneTexte{5900, 6900, 1500, 300}};
+  const std::vector<TextePlace> places = PlaceTextes(surface, Mesure, reserves);
+  ASSERT_EQ(places.size(), 2U) << "there is room beside";
+  for (const TextePlace &p : places) {
+    for (const ZoneTexte &reserve : reserves) {
+      EXPECT_FALSE(SeCoupent(p.zone, reserve)) << TexteDe(surface, p).texte;
+    }
+  }
+}
+
 } // namespace
 } // namespace velmaris::essais

@@ -144,13 +144,24 @@ void Toile::Accorde() {
   etiquettes_ = etiquettes;
   calque_ = surface_.calque;
   if (neuve || retiree || nomme || decalque || TexteDepuis(traces_)) {
-    textes_ = TextesPeints(QPainter(&lignes_), surface_, facteur, mesures_);
+    textes_ = TextesPeints(QPainter(&lignes_), surface_, facteur, mesures_, Reserves(facteur));
   }
   PeintDessus(facteur, maniere);
   effacements_ = surface_.effacements;
   traces_ = surface_.traces.size();
   points_ = NombrePoints(surface_);
   update();
+}
+
+void Toile::Reserve(const QWidget &inscription) { inscriptions_.push_back(&inscription); }
+
+std::vector<ZoneTexte> Toile::Reserves(double facteur) const {
+  std::vector<ZoneTexte> zones;
+  for (const QWidget *inscription : inscriptions_) {
+    const QRectF la = inscription->geometry();
+    zones.push_back({la.x() / facteur, la.y() / facteur, la.width() / facteur, la.height() / facteur});
+  }
+  return zones;
 }
 
 void Toile::paintEvent(QPaintEvent *event) {

@@ -25,6 +25,10 @@ public:
   /// Brings the image in line with the record.
   virtual void Accorde();
 
+  /// Texts leave room for what is written upon the surface by others, with or without words at the moment.
+  /// @param inscription  a widget on this one, which lives as long
+  void Reserve(const QWidget &inscription);
+
   /// A line that is seen over the image without being part of it, in 1/1440 inch.
   void MontreElastique(const std::optional<QLineF> &ligne);
   /// The place on the surface in the toolkit's pixels.
@@ -56,6 +60,7 @@ protected:
 private:
   void Mouvement(const QMouseEvent &event) const;
   bool TexteDepuis(std::size_t premier) const;
+  std::vector<ZoneTexte> Reserves(double facteur) const;
   void PeintToutes(double facteur, Maniere maniere);
   bool EstNue() const;
   void AccordeNue(bool change);
@@ -68,6 +73,7 @@ private:
   std::uint64_t effacements_ = 0;
   std::size_t traces_ = 0;
   std::vector<TextePlace> textes_;
+  std::vector<const QWidget *> inscriptions_; ///< that texts leave room for
   MesuresTextes mesures_;
   double facteur_ = 0.0;                  ///< pixels per 1/1440 inch in the image
   std::size_t points_ = 0;                ///< of the last trace painted, which may have grown since

@@ -266,8 +266,9 @@ TailleTexte MesuresTextes::De(const TexteTrace &texte, const QPaintDevice &suppo
 }
 
 std::vector<TextePlace> TextesPeints(const QPainter &painter, const Surface &surface, double facteur,
-                                     MesuresTextes &mesures) {
-  return PlaceTextes(surface, [&](const TexteTrace &texte) { return mesures.De(texte, *painter.device(), facteur); });
+                                     MesuresTextes &mesures, std::span<const ZoneTexte> reserves) {
+  const auto mesure = [&](const TexteTrace &texte) { return mesures.De(texte, *painter.device(), facteur); };
+  return PlaceTextes(surface, mesure, reserves);
 }
 
 void PeintTextes(QPainter &painter, const Surface &surface, double facteur, const std::vector<TextePlace> &textes,

@@ -68,8 +68,9 @@ private:
 
 /// The texts of a surface that are painted, and where, by the sizes that they have with a painter.
 /// @param painter, facteur  as for PeintLignes
+/// @param reserves          as for PlaceTextes
 std::vector<TextePlace> TextesPeints(const QPainter &painter, const Surface &surface, double facteur,
-                                     MesuresTextes &mesures);
+                                     MesuresTextes &mesures, std::span<const ZoneTexte> reserves = {});
 
 /// Paints texts of a surface in given places.
 /// @param painter, facteur, maniere  as for PeintLignes

@@ -313,7 +313,14 @@ std::unique_ptr<Adaptateur> CreeEtiquette(const Controle &c, QWidget *parent) {
   if (c.renvoi) {
     return std::make_unique<ARenvoi>(new Renvoi(parent), c);
   }
-  return std::make_unique<AEtiquette>(EstInscription(c) ? new Inscription(parent) : new QLabel(parent), c);
+  if (!EstInscription(c)) {
+    return std::make_unique<AEtiquette>(new QLabel(parent), c);
+  }
+  auto *inscription = new Inscription(parent);
+  if (auto *toile = dynamic_cast<Toile *>(parent)) {
+    toile->Reserve(*inscription);
+  }
+  return std::make_unique<AEtiquette>(inscription, c);
 }
 
 } // namespace
