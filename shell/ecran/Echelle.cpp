@@ -30,7 +30,8 @@ void Choisit(Bureau &bureau, int taille) {
 } // namespace
 
 Ecran EcranDe(double largeur, double hauteur, int pixelsHaut) {
-  const double haut = hauteur - kBarreTitre;
+  largeur = std::max(largeur, kMoindreLargeur);
+  const double haut = std::max(hauteur, kMoindreHauteur) - kBarreTitre;
   const double echelle = std::max(kEchelleMinimale, haut * kUnitesParPixel / kHauteurJuste);
   return {largeur * kUnitesParPixel / echelle, haut * kUnitesParPixel / echelle, pixelsHaut, echelle};
 }

@@ -14,6 +14,10 @@ inline constexpr double kEchelleMinimale = 0.8;
 /// Pixels of the toolkit that a window manager's title bar takes, near enough.
 inline constexpr int kBarreTitre = 32;
 
+/// The least screen that it is laid out for, pixels of the toolkit: none is so small that a size would be none.
+inline constexpr double kMoindreLargeur = 640;
+inline constexpr double kMoindreHauteur = 400;
+
 /// The screen that the program is laid out for, and by which scale it is brought to the real one.
 /// @param largeur, hauteur  the area that the desktop leaves free, in pixels of the toolkit
 /// @param pixelsHaut        height of the whole screen in real pixels, by which the compact layout is chosen

@@ -10,16 +10,15 @@
 #include "shell/qt/cadre/PortsQt.hpp"
 #include "shell/qt/peinture/Apparence.hpp"
 #include "shell/qt/systeme/Commande.hpp"
+#include "shell/qt/systeme/EcranLibre.hpp"
 #include "shell/qt/systeme/Portail.hpp"
 #include "shell/qt/systeme/Repos.hpp"
 #include "shell/qt/systeme/Signaux.hpp"
 #include "shell/qt/widgets/Accessible.hpp"
 
 #include <QApplication>
-#include <QScreen>
 #include <QTimer>
 
-#include <cmath>
 #include <cstdio>
 #include <cstdlib>
 #include <exception>
@@ -34,10 +33,9 @@ constexpr int kApres = 100;          ///< ms from the window to what it didn't w
 constexpr int kCommandeInconnue = 2; ///< status of a command line that isn't understood
 
 velmaris::Ecran EcranPrincipal() {
-  const QScreen &ecran = *QGuiApplication::primaryScreen();
-  const QSize libre = ecran.availableSize();
-  return velmaris::EcranDe(libre.width(), libre.height(),
-                           static_cast<int>(std::lround(ecran.geometry().height() * ecran.devicePixelRatio())));
+  velmaris::qt::AttendEcran();
+  const QSize libre = velmaris::qt::EcranLibre();
+  return velmaris::EcranDe(libre.width(), libre.height(), velmaris::qt::HauteurEcran());
 }
 
 /// The program from its start sequence to its end.

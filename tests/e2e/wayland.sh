@@ -3,7 +3,7 @@
 # page, the way out. The compositor shows itself as a window of the virtual screen; what windows the program has is told
 # by what it says to the compositor.
 # Usage: wayland.sh PROGRAMME IMAGES [SCALE]
-PROGRAMME=$1 IMAGES=$2 ECHELLE=${3:-1.25}
+PROGRAMME=$1 IMAGES=$2 DENSITE=${3:-1.25}
 . "$(dirname "$0")/outils.sh"
 
 chmod 700 "$XDG_RUNTIME_DIR"
@@ -42,7 +42,7 @@ cle_passe() {
 }
 
 demarre_wayland() {
-  WAYLAND_DEBUG=client WAYLAND_DISPLAY=$COMPOSITEUR QT_QPA_PLATFORM=wayland QT_SCALE_FACTOR=$ECHELLE \
+  WAYLAND_DEBUG=client WAYLAND_DISPLAY=$COMPOSITEUR QT_QPA_PLATFORM=wayland QT_SCALE_FACTOR=$DENSITE \
     QT_SCALE_FACTOR_ROUNDING_POLICY=PassThrough "$PROGRAMME" 2>"$DIT" &
   PID=$!
   attends titree ''
@@ -52,32 +52,32 @@ demarre_wayland() {
 }
 
 demarre_wayland
-image wayland-$ECHELLE-1-depart
+image wayland-$DENSITE-1-depart
 recule $JOUR
 tape_bretagne
 touche space
 attends test -s "$XDG_DATA_HOME/velmaris/journal.csv"
-image wayland-$ECHELLE-2-visee
+image wayland-$DENSITE-2-visee
 attendu "l'astre au journal" "$(tail -n 1 "$XDG_DATA_HOME/velmaris/journal.csv" | cut -d, -f2)" Soleil
 
 recule $ASTRES; touche space
 attends titree Astres
 attends a_fenetres 2; calme
-image wayland-$ECHELLE-3-ciel
+image wayland-$DENSITE-3-ciel
 touche Escape
 attends a_fenetres 1; calme
 
 recule $IMPRIME; touche space
 attends titree Impression
 attends a_fenetres 2; calme
-image wayland-$ECHELLE-4-page
+image wayland-$DENSITE-4-page
 touche Escape
 attends a_fenetres 1; calme
 
 touche F2
 attends titree 'Velmaris - '
 attends a_fenetres 2; calme
-image wayland-$ECHELLE-5-quitter
+image wayland-$DENSITE-5-quitter
 touche Return
 attends finie
 STATUT=0; wait "$PID" || STATUT=$?

@@ -146,5 +146,29 @@ TEST_F(SceneOuverte, APageThatComesToTheFrontIsPaintedAtOnce) {
   EXPECT_TRUE(guet.peinte);
 }
 
+TEST_F(SceneOuverte, APressOnAnOptionIsNotLostToWhatIsShownBeforeTheButtonIsUp) {
+  Ouvre(kGrandEcran);
+  fenetre->activateWindow();
+  QApplication::processEvents();
+  auto *option = Trouve<QAbstractButton>("Option71"); // "Lune"
+  ASSERT_NE(option, nullptr);
+  const auto souris = [&](QEvent::Type genre) {
+    const QPointF place(5, 5);
+    QMouseEvent event(genre, place, option->mapToGlobal(place), Qt::LeftButton,
+                      genre == QEvent::MouseButtonPress ? Qt::LeftButton : Qt::NoButton, Qt::NoModifier);
+    QApplication::sendEvent(option, &event);
+  };
+  Trouve<QAbstractButton>("Option70")->setFocus(); // out of the fields
+  option->setFocus(Qt::MouseFocusReason);          // as a press of a hand does first
+  souris(QEvent::MouseButtonPress);
+  ASSERT_TRUE(option->hasFocus() && option->isDown());
+  Joue([] {}); // the clock beats
+  souris(QEvent::MouseButtonRelease);
+  QApplication::processEvents();
+  EXPECT_TRUE(d.Option7[1].choisi);
+  EXPECT_TRUE(option->hasFocus());
+  EXPECT_EQ(scene.Ecart(), nullptr);
+}
+
 } // namespace
 } // namespace velmaris::essais

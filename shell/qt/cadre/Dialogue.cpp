@@ -6,6 +6,7 @@
 #include "shell/qt/peinture/Apparat.hpp"
 #include "shell/qt/peinture/Palette.hpp"
 #include "shell/qt/peinture/Toile.hpp"
+#include "shell/qt/systeme/EcranLibre.hpp"
 #include "shell/qt/widgets/Widgets.hpp"
 
 #include <QEvent>
@@ -24,7 +25,7 @@ namespace {
 
 /// The scale of a window: one that the user stretches shows what it has room for.
 double EchelleDe(const Bureau &bureau, const CadreFenetre &cadre, Etirable etirable) {
-  const QSize libre = QGuiApplication::primaryScreen()->availableSize();
+  const QSize libre = EcranLibre();
   return etirable == Etirable::MontrePlus ? EchelleFenetre(bureau)
                                           : EchelleDialogue(bureau, cadre, libre.width(), libre.height());
 }

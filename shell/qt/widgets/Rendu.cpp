@@ -192,7 +192,9 @@ void Rendu::AccordeGroupes() {
     for (QAbstractButton *option : groupe->buttons()) {
       const bool entree = option->isChecked() || groupe->checkedButton() == nullptr;
       option->setFocusPolicy(entree ? Qt::StrongFocus : Qt::ClickFocus);
-      if (option->hasFocus() && !entree) { // the core has chosen another one
+      // The core has chosen another one. Under the mouse's button it is about to be chosen itself: without the keyboard
+      // it would forget the press, and a click would be lost to each beat of the clock that comes before the release.
+      if (option->hasFocus() && !entree && !option->isDown()) {
         groupe->checkedButton()->setFocus(Qt::OtherFocusReason);
       }
     }

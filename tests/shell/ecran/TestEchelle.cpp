@@ -24,6 +24,15 @@ TEST_F(EchelleEcran, AScreenCountsTheHeightWithWhichTheWorldAgreesWithItself) {
   }
 }
 
+TEST_F(EchelleEcran, AScreenThatIsNotThereIsTakenForASmallOne) {
+  for (const auto &[largeur, hauteur] : {std::pair{0.0, 0.0}, {-5.0, 20.0}, {640.0, 400.0}}) {
+    const Ecran ecran = EcranDe(largeur, hauteur, 0);
+    EXPECT_EQ(ecran.echelle, kEchelleMinimale);
+    EXPECT_EQ(ecran.largeur, 640 * 15 / 0.8);
+    EXPECT_EQ(ecran.hauteur, (400 - 32) * 15 / 0.8);
+  }
+}
+
 TEST_F(EchelleEcran, TheSurfaceIsAsHighAsTheWorldHasMilesFromPoleToPole) {
   Demarre(EcranDe(1920, 1080, 1080));
   EXPECT_NEAR(bureau.image1.hauteur, 10800, 1e-9);
