@@ -10,7 +10,9 @@ chmod 700 "$XDG_RUNTIME_DIR"
 COMPOSITEUR=velmaris-essai
 # A release that a busy machine brings late isn't a key held down.
 printf '[keyboard]\nrepeat-delay=600000\n[shell]\npanel-position=none\n' >"$TRAVAIL/weston.ini"
-weston --backend=x11-backend.so --use-pixman --config="$TRAVAIL/weston.ini" --width=1900 --height=1040 --socket=$COMPOSITEUR --idle-time=0 \
+read -r LARGEUR HAUTEUR < <(xdpyinfo | awk '/dimensions/ { sub("x", " ", $2); print $2 }')
+weston --backend=x11-backend.so --use-pixman --config="$TRAVAIL/weston.ini" --width=$((LARGEUR - 20)) \
+  --height=$((HAUTEUR - 40)) --socket=$COMPOSITEUR --idle-time=0 \
   >"$TRAVAIL/weston.txt" 2>&1 &
 GESTIONNAIRE=$!
 trap 'kill "$GESTIONNAIRE" 2>/dev/null || true; rm -rf "$TRAVAIL" || true' EXIT
