@@ -20,22 +20,6 @@ constexpr std::size_t kCollimation = 13;
 constexpr std::size_t kHauteurOeil = 14;
 constexpr double kSansFin = std::numeric_limits<double>::infinity();
 
-constexpr std::array<std::string Observation::*, kChampsVisee> kTextes = {&Observation::jour,
-                                                                          &Observation::mois,
-                                                                          &Observation::annee,
-                                                                          &Observation::heure,
-                                                                          &Observation::minute,
-                                                                          &Observation::seconde,
-                                                                          &Observation::latitudeDegres,
-                                                                          &Observation::latitudeMinutes,
-                                                                          &Observation::longitudeDegres,
-                                                                          &Observation::longitudeMinutes,
-                                                                          &Observation::lectureDegres,
-                                                                          &Observation::lectureMinutes,
-                                                                          &Observation::lectureFraction,
-                                                                          &Observation::collimation,
-                                                                          &Observation::hauteurOeil};
-
 constexpr std::array<Bornes, kChampsVisee> kBornes = {{{0, 31},
                                                        {0, 12},
                                                        {0, 5000},
@@ -58,7 +42,7 @@ bool EstDecimal(std::size_t champ) { return champ == kCollimation || champ == kH
 
 /// The number of a field as leaving it takes it: a comma ends that of the decimal ones.
 double Nombre(const Observation &o, std::size_t champ) {
-  std::string texte = o.*kTextes.at(champ);
+  std::string texte = o.*kTextesVisee.at(champ);
   if (EstDecimal(champ)) {
     std::replace(texte.begin(), texte.end(), '.', ',');
     return Val(texte);
@@ -71,7 +55,7 @@ bool EstNecessaire(const Observation &o, std::size_t champ) {
 }
 
 Verdict JugeChamp(const Observation &o, std::size_t champ) {
-  if ((o.*kTextes.at(champ)).empty()) {
+  if ((o.*kTextesVisee.at(champ)).empty()) {
     return EstNecessaire(o, champ) ? Verdict::Vide : Verdict::Bon;
   }
   const auto [minimum, maximum] = BornesDuChamp(champ, o.horizon);
@@ -134,7 +118,7 @@ bool SansAstreChoisi(const Observation &o) {
 
 bool MemeVisee(const Observation &a, const Observation &b) {
   const auto memeTexte = [&](std::string Observation::*texte) { return MemeNombre(a.*texte, b.*texte); };
-  return std::all_of(kTextes.begin(), kTextes.end(), memeTexte) && a.sud == b.sud && a.est == b.est &&
+  return std::all_of(kTextesVisee.begin(), kTextesVisee.end(), memeTexte) && a.sud == b.sud && a.est == b.est &&
          a.fraction == b.fraction && a.bord == b.bord && a.horizon == b.horizon && a.corps == b.corps &&
          (a.corps != Corps::Planetes || a.planete == b.planete) && (a.corps != Corps::Etoiles || a.etoile == b.etoile);
 }

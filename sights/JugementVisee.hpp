@@ -5,12 +5,30 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <string>
 
 namespace velmaris {
 
 /// Fields of a sight that are typed, in the order in which the window names them: day, month, year, hour, minute,
 /// second; degrees and minutes of latitude, longitude and reading; fraction; collimation, eye height.
 inline constexpr std::size_t kChampsVisee = 15;
+
+/// Their texts, in that order.
+inline constexpr std::array<std::string Observation::*, kChampsVisee> kTextesVisee = {&Observation::jour,
+                                                                                      &Observation::mois,
+                                                                                      &Observation::annee,
+                                                                                      &Observation::heure,
+                                                                                      &Observation::minute,
+                                                                                      &Observation::seconde,
+                                                                                      &Observation::latitudeDegres,
+                                                                                      &Observation::latitudeMinutes,
+                                                                                      &Observation::longitudeDegres,
+                                                                                      &Observation::longitudeMinutes,
+                                                                                      &Observation::lectureDegres,
+                                                                                      &Observation::lectureMinutes,
+                                                                                      &Observation::lectureFraction,
+                                                                                      &Observation::collimation,
+                                                                                      &Observation::hauteurOeil};
 
 /// What a field takes, both ends included.
 struct Bornes {

@@ -23,23 +23,6 @@ constexpr std::size_t kLectureDegres = 10;
 constexpr std::size_t kCollimation = 13;
 constexpr std::size_t kDeuxChiffres = 2;
 
-/// The fields in the order of `ChampGlisse`, which is that of their limits.
-constexpr std::array<std::string Observation::*, kChampsVisee> kChamps = {&Observation::jour,
-                                                                          &Observation::mois,
-                                                                          &Observation::annee,
-                                                                          &Observation::heure,
-                                                                          &Observation::minute,
-                                                                          &Observation::seconde,
-                                                                          &Observation::latitudeDegres,
-                                                                          &Observation::latitudeMinutes,
-                                                                          &Observation::longitudeDegres,
-                                                                          &Observation::longitudeMinutes,
-                                                                          &Observation::lectureDegres,
-                                                                          &Observation::lectureMinutes,
-                                                                          &Observation::lectureFraction,
-                                                                          &Observation::collimation,
-                                                                          &Observation::hauteurOeil};
-
 /// A search under way.
 struct Recherche {
   const Observation &observation;
@@ -133,7 +116,7 @@ void EssaieTemps(Recherche &r) {
 
 /// Whether a field's text stands for a figure that it takes.
 bool EstPossible(const Observation &o, std::size_t champ) {
-  const std::string &texte = o.*kChamps.at(champ);
+  const std::string &texte = o.*kTextesVisee.at(champ);
   double valeur = Val(texte);
   if (champ >= kCollimation && !Passe([&] { valeur = LitVirgule(texte); })) {
     return false;
@@ -142,7 +125,7 @@ bool EstPossible(const Observation &o, std::size_t champ) {
 }
 
 void EssaieChiffres(Recherche &r, std::size_t champ) {
-  std::string texte = r.observation.*kChamps.at(champ);
+  std::string texte = r.observation.*kTextesVisee.at(champ);
   if (champ < kCollimation && texte.size() == 1) {
     texte.insert(0, kDeuxChiffres - 1, '0');
   }
@@ -156,7 +139,7 @@ void EssaieChiffres(Recherche &r, std::size_t champ) {
       std::string change = texte;
       std::swap(change[avant], change[i]);
       g.champ = static_cast<ChampGlisse>(champ + 1);
-      g.corrigee.*kChamps.at(champ) = change;
+      g.corrigee.*kTextesVisee.at(champ) = change;
       if (EstPossible(g.corrigee, champ)) {
         Essaie(r, std::move(g));
       }

@@ -22,6 +22,20 @@ std::string NomDeCorps(const Donnees &donnees, Corps corps) {
 
 std::string TexteLieu(const LieuNavire &lieu) { return TexteTenue(lieu.latitude, -lieu.longitude); }
 
+std::string AngleTape(double degres, int chiffres, char plus, char moins) {
+  constexpr double kDixiemes = 600;
+  constexpr double kDix = 10;
+  const double dixiemes = std::round(std::fabs(degres) * kDixiemes);
+  const double entiers = std::floor(dixiemes / kDixiemes);
+  return Format(entiers, chiffres == 2 ? "00" : "000") + " " + Format((dixiemes - entiers * kDixiemes) / kDix, "00.0") +
+         " " + (degres < 0 ? moins : plus);
+}
+
+InstantUTC PresentUTC(const Bureau &bureau) {
+  const TempsSysteme t = bureau.horloge.source();
+  return UTCDe({t.annee, t.mois, t.jour, t.heure, t.minute, static_cast<double>(t.seconde)});
+}
+
 std::string NomDAstre(const Bureau &bureau, const Astre &astre) {
   switch (astre.genre) {
   case GenreAstre::Soleil:

@@ -19,25 +19,10 @@ constexpr double kCollimationMax = 60; ///< minutes
 constexpr double kArcMax = 180;        ///< degrees
 constexpr double kJour = 86400;        ///< seconds
 
-/// An angle as its field shows it: "47 10.3 N".
-std::string AngleTape(double degres, int chiffres, char plus, char moins) {
-  constexpr double kDixiemes = 600;
-  constexpr double kDix = 10;
-  const double dixiemes = std::round(std::fabs(degres) * kDixiemes);
-  const double entiers = std::floor(dixiemes / kDixiemes);
-  return Format(entiers, chiffres == 2 ? "00" : "000") + " " + Format((dixiemes - entiers * kDixiemes) / kDix, "00.0") +
-         " " + (degres < 0 ? moins : plus);
-}
-
 void PoseMoment(Preparation &f, const InstantUTC &utc, double longitude) {
   constexpr double kHeure = 3600;
   f.Text1[0].texte = TexteDate(PlusTard(utc, FuseauDe(longitude) * kHeure));
   f.Text1[1].texte = TexteHeureMinute(utc);
-}
-
-InstantUTC Present(const Bureau &bureau) {
-  const TempsSysteme t = bureau.horloge.source();
-  return UTCDe({t.annee, t.mois, t.jour, t.heure, t.minute, static_cast<double>(t.seconde)});
 }
 
 /// A panel's field of a date or time as a whole number.
@@ -47,10 +32,10 @@ int Entier(const std::string &texte) { return static_cast<int>(Val(texte)); }
 InstantUTC MomentDuPanneau(const Bureau &bureau, const Observation &o) {
   try {
     const bool vide = o.jour.empty() || o.mois.empty() || o.annee.empty() || o.heure.empty();
-    return vide ? Present(bureau)
+    return vide ? PresentUTC(bureau)
                 : UTCDe({Entier(o.annee), Entier(o.mois), Entier(o.jour), Entier(o.heure), Entier(o.minute), 0.0});
   } catch (const Refus &) {
-    return Present(bureau);
+    return PresentUTC(bureau);
   }
 }
 
@@ -106,7 +91,7 @@ void ReprendPanneau(Bureau &bureau) {
 
 void ReprendPresent(Bureau &bureau) {
   Preparation &f = bureau.preparation;
-  PoseMoment(f, Present(bureau), LitLongitudeTapee(f.Text1[3].texte).value_or(0));
+  PoseMoment(f, PresentUTC(bureau), LitLongitudeTapee(f.Text1[3].texte).value_or(0));
 }
 
 std::optional<DemandePlan> LitDemandePlan(Bureau &bureau) {

@@ -1,5 +1,6 @@
 #include "shell/serie/GardeSerie.hpp"
 
+#include "shell/complements/Mots.hpp"
 #include "shell/complements/ReglagesLus.hpp"
 #include "shell/complements/Saisies.hpp"
 #include "shell/serie/AstresListe.hpp"

@@ -25,16 +25,6 @@ constexpr double kDouteMax = 300;      ///< miles
 constexpr double kLectureMax = 140;    ///< degrees, of a sextant's arc
 constexpr double kJour = 86400;        ///< seconds
 
-/// An angle as its field shows it: "47 10.3 N".
-std::string AngleTape(double degres, int chiffres, char plus, char moins) {
-  constexpr double kDixiemes = 600;
-  constexpr double kDix = 10;
-  const double dixiemes = std::round(std::fabs(degres) * kDixiemes);
-  const double entiers = std::floor(dixiemes / kDixiemes);
-  return Format(entiers, chiffres == 2 ? "00" : "000") + " " + Format((dixiemes - entiers * kDixiemes) / kDix, "00.0") +
-         " " + (degres < 0 ? moins : plus);
-}
-
 /// A reading as it is typed: "47 10.3".
 std::string LectureTapee(const std::optional<double> &degres) {
   const std::string angle = degres ? AngleTape(*degres, 2, ' ', ' ') : std::string();
@@ -107,11 +97,6 @@ std::optional<double> LitLectureDuChamp(FenetreSerie &f, Controle &champ, bool v
 }
 
 } // namespace
-
-InstantUTC PresentUTC(const Bureau &bureau) {
-  const TempsSysteme t = bureau.horloge.source();
-  return UTCDe({t.annee, t.mois, t.jour, t.heure, t.minute, static_cast<double>(t.seconde)});
-}
 
 void ReprendPanneauSerie(Bureau &bureau) {
   FenetreSerie &f = bureau.fenetreSerie;

@@ -35,7 +35,4 @@ void MontreLecture(Bureau &bureau, const LectureListee &lecture);
 void MontreDistance(Bureau &bureau, const DistanceListee &distance);
 /// @}
 
-/// The present moment, whole seconds.
-InstantUTC PresentUTC(const Bureau &bureau);
-
 } // namespace velmaris
