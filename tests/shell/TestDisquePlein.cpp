@@ -13,7 +13,6 @@ namespace velmaris::essais {
 namespace {
 
 using testing::EndsWith;
-using testing::HasSubstr;
 using testing::IsEmpty;
 using testing::StartsWith;
 

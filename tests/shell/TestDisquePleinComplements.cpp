@@ -22,7 +22,6 @@ namespace velmaris::essais {
 namespace {
 
 using testing::EndsWith;
-using testing::HasSubstr;
 using testing::IsEmpty;
 
 class ComplementsSansPlace : public DisquePlein {
