@@ -31,6 +31,27 @@ void Rapetisse(Controle &resultat, double haut) {
   resultat.taille = 10;
 }
 
+/// The complements' buttons, as far apart as the window has room, so that no caption touches the next.
+void DisposeComplements(Donnees &d, double largeurFenetre) {
+  constexpr double kPas = 590;
+  constexpr double kPasLarge = 650;
+  constexpr double kBords = 90; ///< of the frame around them
+  constexpr double kLargeurBouton = 560;
+  constexpr double kGauche = 45;
+  const auto nombre = static_cast<double>(d.Complement.size());
+  Place &cadre = d.FrameComplements.place;
+  d.FrameComplements.visible = cadre.gauche + nombre * kPas + kBords <= largeurFenetre;
+  const double pas = std::clamp((largeurFenetre - cadre.gauche - kBords) / nombre, kPas, kPasLarge);
+  cadre.largeur = nombre * pas + kBords;
+  d.LabComplements.place.largeur = cadre.largeur - 2 * d.LabComplements.place.gauche;
+  for (std::size_t i = 0; i < d.Complement.size(); ++i) {
+    const double gauche = kGauche + static_cast<double>(i) * pas;
+    d.LegendeComplement.at(i).place.gauche = gauche;
+    d.LegendeComplement.at(i).place.largeur = pas;
+    d.Complement.at(i).place.gauche = gauche + (pas - kLargeurBouton) / 2;
+  }
+}
+
 } // namespace
 
 void DisposeFenetre(Bureau &bureau, const Ecran &ecran) {
@@ -39,8 +60,7 @@ void DisposeFenetre(Bureau &bureau, const Ecran &ecran) {
   bureau.largeurFenetre = ecran.largeur;
   d.Image1.place = {50, bureau.hauteurFenetre / 10.88, ecran.largeur / 1.01, ecran.hauteur / 1.15 - 150};
 
-  const Place &complements = d.FrameComplements.place;
-  d.FrameComplements.visible = complements.gauche + complements.largeur <= bureau.largeurFenetre;
+  DisposeComplements(d, bureau.largeurFenetre);
 
   Dimensionne(bureau.image1, d.Image1.place);
   Dimensionne(bureau.picAZ, d.PicAZ.place);

@@ -62,6 +62,20 @@ TEST_F(Programme, TheComplementsHaveTheirButtonsWhereTheScreenHasRoom) {
   EXPECT_FALSE(d.FrameComplements.visible);
 }
 
+TEST_F(Programme, TheComplementsButtonsGoApartWhereTheScreenIsWiderAndStayInTheirFrame) {
+  double avant = 0;
+  for (const double largeur : {20148.0, 20400.0, 23000.0}) {
+    Demarre({largeur, 12592.5, 1080});
+    const Place &cadre = d.FrameComplements.place;
+    EXPECT_LE(cadre.gauche + cadre.largeur, largeur);
+    EXPECT_LE(d.LegendeComplement[6].place.gauche + d.LegendeComplement[6].place.largeur, cadre.largeur);
+    const double pas = d.Complement[1].place.gauche - d.Complement[0].place.gauche;
+    EXPECT_GT(pas, avant);
+    avant = pas;
+  }
+  EXPECT_EQ(avant, 650);
+}
+
 TEST_F(Programme, NoTwoControlsThatShowTogetherOverlap) {
   for (const int pixels : {1080, 600}) {
     Demarre({15360, pixels * 15.0, pixels});
