@@ -355,7 +355,9 @@ void BalaieProvisoires(const fs::path &registre) {
 
 bool AjouteLignes(const fs::path &chemin, std::string_view titre, const std::vector<std::string> &lignes,
                   Patience &patience, const Releve &releve) {
-  constexpr int kEssais = 8; // other programs may relieve it too, each of them once
+  // Others may relieve it meanwhile, and again before this program has its turn on a busy machine. A file system whose
+  // files never bear the same number twice ends it all the same.
+  constexpr int kEssais = 1000;
   for (int essai = 0; essai < kEssais; ++essai) {
     const Descripteur fichier(::open(chemin.c_str(), O_RDWR | O_APPEND | O_CREAT | O_CLOEXEC | O_NONBLOCK, kModeNeuf));
     // The lock, which goes with the descriptor, keeps two programs from both writing the title.
