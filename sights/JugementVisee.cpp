@@ -9,6 +9,7 @@
 #include <limits>
 #include <optional>
 #include <string>
+#include <string_view>
 
 namespace velmaris {
 namespace {
@@ -54,9 +55,25 @@ bool EstNecessaire(const Observation &o, std::size_t champ) {
   return EstCommencee(o) && champ != kFraction && (!EstDecimal(champ) || EstLointain(o));
 }
 
+/// Whether a text is a number from its first character to its last; a reduction takes what stands at its start, and
+/// 0 for none. A star's and a planet's decimal fields have a rule of their own.
+bool EstEcritEnChiffres(const Observation &o, std::size_t champ) {
+  const std::string_view texte = SansBlancs(o.*kTextesVisee.at(champ));
+  const std::string_view chiffres = texte.substr(texte.starts_with('-') || texte.starts_with('+') ? 1 : 0);
+  const auto signe = [](char c) { return c == '.' || c == ','; };
+  const auto chiffre = [](char c) { return c >= '0' && c <= '9'; };
+  return (EstDecimal(champ) && EstLointain(o)) ||
+         (std::any_of(chiffres.begin(), chiffres.end(), chiffre) &&
+          std::count_if(chiffres.begin(), chiffres.end(), signe) <= 1 &&
+          std::all_of(chiffres.begin(), chiffres.end(), [&](char c) { return chiffre(c) || signe(c); }));
+}
+
 Verdict JugeChamp(const Observation &o, std::size_t champ) {
   if ((o.*kTextesVisee.at(champ)).empty()) {
     return EstNecessaire(o, champ) ? Verdict::Vide : Verdict::Bon;
+  }
+  if (!EstEcritEnChiffres(o, champ)) {
+    return Verdict::HorsBornes;
   }
   const auto [minimum, maximum] = BornesDuChamp(champ, o.horizon);
   const double nombre = Nombre(o, champ);

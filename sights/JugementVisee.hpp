@@ -45,7 +45,7 @@ Bornes BornesDuChamp(std::size_t champ, Horizon horizon);
 enum class Verdict : std::uint8_t {
   Bon,
   Vide,           ///< empty, and the chosen body needs it
-  HorsBornes,     ///< outside its limits: it is emptied when it is left
+  HorsBornes,     ///< outside its limits: it is emptied when it is left; or no number as a whole, which is kept
   DateImpossible, ///< day, month and year are each there and make no date
   PasUnNombre,    ///< eye height or index correction, in a star's or a planet's sight
   SousLaMer,      ///< a negative eye height

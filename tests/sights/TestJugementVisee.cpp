@@ -139,6 +139,21 @@ TEST(JugementVisee, WhatEndsTheProgramForAStarIsToldBefore) {
   EXPECT_EQ(De(o, 5), Verdict::HorsDeLHeure);
 }
 
+TEST(JugementVisee, ATextThatIsNoNumberAsAWholeIsMarkedThoughItsStartIsReducedWith) {
+  for (const std::string texte : {"4x7", "abc", "1h", "3'4", "--", "1-", "1.2.3", "O5"}) {
+    for (std::size_t champ = 0; champ < kChampsVisee; ++champ) {
+      Observation o = Entiere(Corps::Soleil);
+      o.*kTextesVisee.at(champ) = texte;
+      EXPECT_EQ(De(o, champ), Verdict::HorsBornes) << texte << " " << champ;
+    }
+  }
+  for (const std::string texte : {"5", "05", " 5 ", "5.5", "5,5", "+5"}) {
+    Observation o = Entiere(Corps::Lune);
+    o.latitudeMinutes = texte;
+    EXPECT_TRUE(ToutBon(o)) << texte;
+  }
+}
+
 TEST(JugementVisee, ASightIsTheSameHoweverItsFiguresAreWritten) {
   const Observation o = Entiere(Corps::Soleil);
   Observation p = o;
